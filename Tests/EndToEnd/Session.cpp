@@ -1,0 +1,139 @@
+#include "EndToEnd/Session.h"
+
+#include "Desktop/Defaults/SqliteUserDefaults.h"
+#include "EndToEnd/Waiting.h"
+
+#include <QDBusConnectionInterface>
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// No folders of services: nothing of the machine's own starts on this bus.
+constexpr auto busConfiguration = R"(<busconfig>
+  <type>session</type><listen>unix:tmpdir=/tmp</listen><auth>EXTERNAL</auth>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/>
+  </policy>
+</busconfig>)";
+
+} // namespace
+
+Session::Session()
+    : m_environment(QProcessEnvironment::systemEnvironment())
+    , m_connection(QString())
+{
+    for (const auto &name : {u"QT_QPA_PLATFORM"_s, u"WAYLAND_DISPLAY"_s, u"XDG_CURRENT_DESKTOP"_s,
+                             u"SESSION_MANAGER"_s, u"LANGUAGE"_s, u"PULSE_SERVER"_s})
+        m_environment.remove(name);
+    m_environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    m_environment.insert(u"HOME"_s, m_home.path());
+    for (const auto &name : {u"CONFIG"_s, u"DATA"_s, u"CACHE"_s, u"STATE"_s, u"RUNTIME"_s}) {
+        const QString folder = m_home.filePath(name.toLower());
+        QDir().mkpath(folder);
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        m_environment.insert(u"XDG_%1_%2"_s.arg(name, name == "RUNTIME"_L1 ? u"DIR"_s : u"HOME"_s), folder);
+    }
+
+    QFile configuration(m_home.filePath(u"bus.conf"_s));
+    if (!configuration.open(QFile::WriteOnly) || configuration.write(busConfiguration) < 0)
+        qFatal("the bus could not be configured");
+    configuration.close();
+    m_bus = std::make_unique<ChildProcess>(m_environment);
+    m_bus->launch(u"dbus-daemon"_s,
+                  {u"--config-file"_s, configuration.fileName(), u"--print-address"_s, u"--nofork"_s});
+    if (!waitUntil([&] { return m_bus->canReadLine(); }))
+        qFatal("the bus did not start");
+    const QString address = QString::fromLatin1(m_bus->readLine().trimmed());
+    m_environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, address);
+    m_connection = QDBusConnection::connectToBus(address, m_home.path());
+    if (!m_connection.isConnected())
+        qFatal("the bus does not answer");
+}
+
+Session::~Session()
+{
+    m_program.reset();
+    QDBusConnection::disconnectFromBus(m_home.path());
+}
+
+void Session::setFlag(const QString &domain, const QString &key, bool value)
+{
+    Kestrune::SqliteUserDefaults(defaultsFile(domain)).setObject(key, value);
+}
+
+bool Session::flag(const QString &domain, const QString &key) const
+{
+    return Kestrune::SqliteUserDefaults(defaultsFile(domain)).value<bool>(key).value_or(false);
+}
+
+bool Session::start(const QStringList &arguments)
+{
+    m_program = std::make_unique<ChildProcess>(m_environment);
+    m_program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    return m_program->launch(QStringLiteral(KESTRUNE_EXECUTABLE), arguments) &&
+           waitUntil([this] { return !status().isEmpty() || !isRunning(); }, 10000) && isRunning();
+}
+
+Session::Result Session::command(const QStringList &arguments) const
+{
+    ChildProcess process(m_environment);
+    if (!process.launch(QStringLiteral(KESTRUNE_EXECUTABLE), arguments) || !process.waitForFinished(15000))
+        return {};
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+bool Session::set(const QString &setting, const QString &value) const
+{
+    const Result result = command({u"settings"_s, u"set"_s, setting, value});
+    if (result.status != 0)
+        qWarning("settings set %s: %s", qPrintable(setting), qPrintable(result.errors));
+    return result.status == 0;
+}
+
+QString Session::setting(const QString &name) const
+{
+    const Result result = command({u"settings"_s, u"get"_s, name});
+    return result.output.endsWith(u'\n') ? result.output.chopped(1) : result.output;
+}
+
+QJsonObject Session::status() const
+{
+    // A bus without the program on it is not asked: the command would only say that nothing runs.
+    if (!m_connection.interface()->isServiceRegistered(busName()))
+        return {};
+    return QJsonDocument::fromJson(command({u"status"_s, u"--json"_s}).output.toUtf8()).object();
+}
+
+QJsonArray Session::displays() const { return status().value("displays"_L1).toArray(); }
+
+QJsonObject Session::display(int index) const { return displays().at(index).toObject(); }
+
+bool Session::isOpen(int index) const { return display(index).value("expanded"_L1).toBool(); }
+
+QString Session::selected(int index) const { return display(index).value("selected"_L1).toString(); }
+
+qint64 Session::proportionalSetSize() const
+{
+    QFile file(u"/proc/%1/smaps_rollup"_s.arg(m_program->processId()));
+    if (!file.open(QFile::ReadOnly))
+        return -1;
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        if (line.startsWith("Pss:"))
+            return line.mid(4).simplified().split(' ').constFirst().toLongLong();
+    }
+    return -1;
+}
+
+QString Session::defaultsFile(const QString &domain) const
+{
+    const QString folder = m_environment.value(u"XDG_CONFIG_HOME"_s) + u'/' + domain;
+    QDir().mkpath(folder);
+    return folder + u"/defaults.sqlite"_s;
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "EndToEnd/ChildProcess.h"
+
+#include <QDBusConnection>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// A user's session: an empty home, a private session bus, and the program in it.
+class Session
+{
+public:
+    /// How a command ended and what it said.
+    struct Result
+    {
+        int status = -1;
+        QString output;
+        QString errors;
+    };
+
+    Session();
+    ~Session();
+
+    /// What every process of the session gets; the display adds itself.
+    QProcessEnvironment &environment() { return m_environment; }
+    QDBusConnection bus() const { return m_connection; }
+    static QString busName() { return QStringLiteral("example.kestrune.Kestrune"); }
+
+    /// Sets or reads a Boolean in the user defaults of a domain, as another program would.
+    void setFlag(const QString &domain, const QString &key, bool value);
+    bool flag(const QString &domain, const QString &key) const;
+
+    /// Starts the program and waits until it answers on the bus.
+    bool start(const QStringList &arguments = {});
+    bool isRunning() const { return m_program && m_program->state() == QProcess::Running; }
+    ChildProcess &program() { return *m_program; }
+
+    /// Runs the program as a command and waits for its end.
+    Result command(const QStringList &arguments) const;
+    bool set(const QString &setting, const QString &value) const;
+    QString setting(const QString &name) const;
+
+    QJsonObject status() const;
+    QJsonArray displays() const;
+    QJsonObject display(int index = 0) const;
+    bool isOpen(int index = 0) const;
+    QString selected(int index = 0) const;
+
+    /// The program's share of memory in kilobytes, pages shared with others counted in part.
+    qint64 proportionalSetSize() const;
+
+private:
+    QString defaultsFile(const QString &domain) const;
+
+    QTemporaryDir m_home;
+    QProcessEnvironment m_environment;
+    std::unique_ptr<ChildProcess> m_bus;
+    QDBusConnection m_connection;
+    std::unique_ptr<ChildProcess> m_program;
+};

@@ -1,0 +1,72 @@
+#include "EndToEnd/Stage.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QRgb desktopColour = 0xff7090b0;
+constexpr QRgb beneathColour = 0xff2f6f4f;
+
+} // namespace
+
+Stage::Stage(const Plan &plan)
+    : display(plan.server, plan.size, session.environment())
+    , x(startDesktop(display, plan))
+    , input(x)
+    ,
+    // Not quite the whole display, or a window manager takes it for a full-screen program.
+    beneath(display.name(), TestWindow::Kind::Plain, {{}, plan.size - QSize(0, 10)}, beneathColour)
+{
+    x.paintDesktop(desktopColour);
+    session.environment().insert(u"DISPLAY"_s, display.name());
+}
+
+QString Stage::startDesktop(VirtualDisplay &display, const Plan &plan)
+{
+    if (display.name().isEmpty() || !display.startWindowManager(plan.windowManager) ||
+        (plan.compositor && !display.startCompositor()))
+        qFatal("the desktop did not start");
+    return display.name();
+}
+
+bool Stage::run(Settings settings, const QStringList &arguments)
+{
+    session.setFlag(u"kestrune"_s, u"kestrune.welcomed"_s, true);
+    for (const auto &[name, value] : settings) {
+        if (!session.set(QString::fromLatin1(name), QString::fromLatin1(value)))
+            return false;
+    }
+    input.move(Place::away);
+    return session.start(arguments) && waitUntil([this] { return covered(Place::notch); });
+}
+
+bool Stage::openByHotKey()
+{
+    input.hotKey();
+    return waitUntil([this] { return looksOpen(); });
+}
+
+bool Stage::openByHover()
+{
+    input.move(Place::notch);
+    return waitUntil([this] { return looksOpen(); });
+}
+
+bool Stage::waitClosed() const
+{
+    return waitUntil([this] { return looksClosed() && !session.isOpen(); });
+}
+
+bool Stage::clickReachesBeneath(QPoint place)
+{
+    beneath.forget();
+    input.click(place);
+    // A window manager may hold a click back for a moment to decide which window becomes active.
+    return waitUntil([this] { return beneath.clicks() == 1; }, 500);
+}
+
+bool Stage::choose(const QString &tool)
+{
+    return session.command({u"open"_s, tool}).status == 0 && session.selected() == tool &&
+           session.command({u"close"_s}).status == 0 && waitClosed();
+}

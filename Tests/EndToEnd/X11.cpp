@@ -1,0 +1,149 @@
+#include "EndToEnd/X11.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <memory>
+
+namespace {
+
+struct Free
+{
+    void operator()(void *reply) const { std::free(reply); }
+};
+
+template <typename T>
+std::unique_ptr<T, Free> owned(T *reply)
+{
+    return std::unique_ptr<T, Free>(reply);
+}
+
+} // namespace
+
+X11::X11(const QString &display)
+    : m_connection(xcb_connect(display.toLatin1().constData(), nullptr))
+{
+    if (xcb_connection_has_error(m_connection) != 0)
+        qFatal("no connection to display %s", qPrintable(display));
+    m_screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+}
+
+X11::~X11() { xcb_disconnect(m_connection); }
+
+xcb_atom_t X11::atom(const char *name) const
+{
+    const auto cookie = xcb_intern_atom(m_connection, 0, static_cast<uint16_t>(qstrlen(name)), name);
+    const auto reply = owned(xcb_intern_atom_reply(m_connection, cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+void X11::sync() const
+{
+    owned(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+}
+
+QList<quint32> X11::property(xcb_window_t window, const char *name) const
+{
+    const auto cookie =
+        xcb_get_property(m_connection, 0, window, atom(name), XCB_GET_PROPERTY_TYPE_ANY, 0, 1024);
+    const auto reply = owned(xcb_get_property_reply(m_connection, cookie, nullptr));
+    if (!reply || reply->format != 32)
+        return {};
+    const auto *items = static_cast<const quint32 *>(xcb_get_property_value(reply.get()));
+    return {items, items + reply->value_len};
+}
+
+void X11::setProperty(xcb_window_t window, const char *name, xcb_atom_t type,
+                      const QList<quint32> &items) const
+{
+    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, window, atom(name), type, 32,
+                        static_cast<uint32_t>(items.size()), items.constData());
+    sync();
+}
+
+void X11::setText(xcb_window_t window, const char *name, const QByteArray &text) const
+{
+    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, window, atom(name), XCB_ATOM_STRING, 8,
+                        static_cast<uint32_t>(text.size()), text.constData());
+    sync();
+}
+
+void X11::paintDesktop(QRgb colour) const
+{
+    const quint32 pixel = colour & RGB_MASK;
+    xcb_change_window_attributes(m_connection, root(), XCB_CW_BACK_PIXEL, &pixel);
+    xcb_clear_area(m_connection, 0, root(), 0, 0, 0, 0);
+    sync();
+}
+
+void X11::ask(xcb_window_t window, const char *message, const QList<quint32> &arguments) const
+{
+    send(window, message, arguments,
+         XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
+}
+
+void X11::wakeWindowManager() const
+{
+    send(root(), "KESTRUNE_TEST_WAKE", {}, XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT);
+}
+
+void X11::send(xcb_window_t window, const char *message, const QList<quint32> &arguments, quint32 mask) const
+{
+    xcb_client_message_event_t event = {};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = atom(message);
+    std::copy_n(arguments.begin(), std::min<qsizetype>(arguments.size(), 5), event.data.data32);
+    xcb_send_event(m_connection, 0, root(), mask, reinterpret_cast<const char *>(&event));
+    sync();
+}
+
+bool X11::hasWindowManager() const
+{
+    const auto check = property(root(), "_NET_SUPPORTING_WM_CHECK");
+    return !check.isEmpty() && property(check.constFirst(), "_NET_SUPPORTING_WM_CHECK") == check;
+}
+
+bool X11::hasCompositor() const
+{
+    const auto cookie = xcb_get_selection_owner(m_connection, atom("_NET_WM_CM_S0"));
+    const auto reply = owned(xcb_get_selection_owner_reply(m_connection, cookie, nullptr));
+    return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
+xcb_window_t X11::activeWindow() const { return property(root(), "_NET_ACTIVE_WINDOW").value(0); }
+
+xcb_window_t X11::focus() const
+{
+    const auto reply =
+        owned(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+    return reply ? reply->focus : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+int X11::countWindows(QSize size) const
+{
+    const auto tree =
+        owned(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, root()), nullptr));
+    const auto *windows = xcb_query_tree_children(tree.get());
+    return static_cast<int>(std::count_if(
+        windows, windows + xcb_query_tree_children_length(tree.get()), [&](xcb_window_t window) {
+            const auto geometry =
+                owned(xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));
+            const auto attributes = owned(xcb_get_window_attributes_reply(
+                m_connection, xcb_get_window_attributes(m_connection, window), nullptr));
+            return geometry && attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE &&
+                   QSize(geometry->width, geometry->height) == size;
+        }));
+}
+
+QImage X11::grab(const QRect &area) const
+{
+    const auto cookie =
+        xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, root(), static_cast<int16_t>(area.x()),
+                      static_cast<int16_t>(area.y()), static_cast<uint16_t>(area.width()),
+                      static_cast<uint16_t>(area.height()), ~0U);
+    const auto reply = owned(xcb_get_image_reply(m_connection, cookie, nullptr));
+    if (!reply)
+        qFatal("the screen could not be read");
+    return QImage(xcb_get_image_data(reply.get()), area.width(), area.height(), QImage::Format_RGB32).copy();
+}
