@@ -11,160 +11,151 @@ class CommandLineTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void badArguments_data();
-    void badArguments();
-    void nothingRunning_data();
-    void nothingRunning();
-    void statusTellsTheState();
-    void openCloseAndToggle();
-    void settings_data();
-    void settings();
-    void settingsActAtOnce();
+    void badArguments_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("unknown command") << QStringList{u"frobnicate"_s};
+        QTest::newRow("unknown option") << QStringList{u"--frobnicate"_s};
+        QTest::newRow("open: unknown tool") << QStringList{u"open"_s, u"frobnicate"_s};
+        QTest::newRow("toggle: too many") << QStringList{u"toggle"_s, u"home"_s};
+        QTest::newRow("settings: nothing") << QStringList{u"settings"_s};
+        QTest::newRow("settings get: nothing") << QStringList{u"settings"_s, u"get"_s};
+        QTest::newRow("settings get: unknown") << QStringList{u"settings"_s, u"get"_s, u"frobnicate"_s};
+        QTest::newRow("settings set: no value") << QStringList{u"settings"_s, u"set"_s, u"hoverDelay"_s};
+        QTest::newRow("settings set: no number")
+            << QStringList{u"settings"_s, u"set"_s, u"hoverDelay"_s, u"soon"_s};
+        QTest::newRow("settings set: no choice")
+            << QStringList{u"settings"_s, u"set"_s, u"openMode"_s, u"Click"_s};
+        QTest::newRow("settings set: no list") << QStringList{u"settings"_s, u"set"_s, u"tools"_s, u"home"_s};
+    }
+
+    void badArguments()
+    {
+        QFETCH(QStringList, arguments);
+        const Session session; // no display either: the arguments are looked at first
+        const Session::Result result = session.command(arguments);
+        QCOMPARE(result.status, 2);
+        QVERIFY2(isOneLine(result.errors), qPrintable(result.errors));
+        QCOMPARE(result.output, QString());
+    }
+
+    void nothingRunning_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("toggle") << QStringList{u"toggle"_s};
+        QTest::newRow("open") << QStringList{u"open"_s};
+        QTest::newRow("open tool") << QStringList{u"open"_s, u"timer"_s};
+        QTest::newRow("close") << QStringList{u"close"_s};
+        QTest::newRow("quit") << QStringList{u"quit"_s};
+    }
+
+    void nothingRunning()
+    {
+        QFETCH(QStringList, arguments);
+        const Session session;
+        const Session::Result result = session.command(arguments);
+        QCOMPARE(result.status, 1);
+        QVERIFY2(isOneLine(result.errors), qPrintable(result.errors));
+        QCOMPARE(result.output, QString());
+    }
+
+    void statusTellsTheState()
+    {
+        setStage({});
+        QVERIFY(stage().run({{"tools", R"(["home", "note"])"}}));
+        QJsonObject status = stage().session.status();
+        QCOMPARE(status.value("running"_L1), true);
+        QCOMPARE(status.value("yielding"_L1), false);
+        QCOMPARE(status.value("anyExpanded"_L1), false);
+        QCOMPARE(status.value("hasActivity"_L1), false);
+        QVERIFY(status.value("visibleTool"_L1).isNull());
+        QCOMPARE(status.value("tools"_L1).toArray(), QJsonArray({u"home"_s, u"note"_s}));
+        const QJsonObject display = stage().session.display();
+        QVERIFY(!display.value("name"_L1).toString().isEmpty());
+        QCOMPARE(display.value("frame"_L1).toObject(),
+                 QJsonObject({{u"x"_s, 0}, {u"y"_s, 0}, {u"width"_s, 1280}, {u"height"_s, 800}}));
+        QCOMPARE(display.value("notchSize"_L1).toObject(),
+                 QJsonObject({{u"width"_s, 190}, {u"height"_s, 32}}));
+        for (const auto &field : {u"hardware"_s, u"expanded"_s, u"pinned"_s, u"pointerEntered"_s})
+            QCOMPARE(display.value(field), false);
+
+        QCOMPARE(stage().session.command({u"open"_s, u"note"_s}).status, 0);
+        status = stage().session.status();
+        QCOMPARE(status.value("anyExpanded"_L1), true);
+        QCOMPARE(status.value("visibleTool"_L1), u"note"_s);
+    }
+
+    void openCloseAndToggle()
+    {
+        setStage({});
+        QVERIFY(stage().run());
+        const auto command = [&](const QStringList &arguments) {
+            const Session::Result result = stage().session.command(arguments);
+            return result.status == 0 && result.output.isEmpty() && result.errors.isEmpty();
+        };
+        QVERIFY(command({u"open"_s, u"timer"_s}));
+        QTRY_VERIFY(stage().looksOpen());
+        QCOMPARE(stage().session.selected(), u"timer"_s);
+        QVERIFY(command({u"open"_s, u"note"_s})); // an open notch changes its pane
+        QCOMPARE(stage().session.selected(), u"note"_s);
+        QVERIFY(command({u"close"_s}));
+        QVERIFY(stage().waitClosed());
+        QVERIFY(command({u"toggle"_s}));
+        QTRY_VERIFY(stage().looksOpen());
+        QCOMPARE(stage().session.selected(), u"note"_s);
+        QVERIFY(command({u"toggle"_s}));
+        QVERIFY(stage().waitClosed());
+    }
+
+    void settings_data()
+    {
+        QTest::addColumn<bool>("live");
+        QTest::newRow("nothing running") << false;
+        QTest::newRow("live") << true;
+    }
+
+    void settings()
+    {
+        QFETCH(bool, live);
+        setStage({});
+        QVERIFY(!live || stage().run());
+        const Session &session = stage().session;
+        QCOMPARE(session.setting(u"hoverDelay"_s), u"0.12"_s);
+        QVERIFY(session.set(u"hoverDelay"_s, u"0.5"_s));
+        QCOMPARE(session.setting(u"hoverDelay"_s), u"0.5"_s);
+        QVERIFY(session.set(u"openMode"_s, u"click"_s));
+        QCOMPARE(session.setting(u"openMode"_s), u"click"_s);
+        QVERIFY(session.set(u"allDisplays"_s, u"true"_s));
+        QCOMPARE(session.setting(u"allDisplays"_s), u"true"_s);
+        QVERIFY(session.set(u"note"_s, u"Zwölf\nEier"_s));
+        QCOMPARE(session.setting(u"note"_s), u"Zwölf\nEier"_s);
+
+        QString list = session.command({u"settings"_s, u"list"_s}).output;
+        for (const auto &name : {u"openMode"_s, u"hoverDelay"_s, u"tools"_s, u"allDisplays"_s, u"note"_s,
+                                 u"tickers"_s, u"weatherLatitude"_s, u"homeColumns"_s})
+            QVERIFY2(list.contains(name), qPrintable(name));
+        QCOMPARE(session.command({u"settings"_s, u"reset"_s, u"hoverDelay"_s}).status, 0);
+        QCOMPARE(session.setting(u"hoverDelay"_s), u"0.12"_s);
+    }
+
+    void settingsActAtOnce()
+    {
+        setStage({});
+        QVERIFY(stage().run());
+        QVERIFY(stage().session.set(u"openMode"_s, u"click"_s));
+        stage().input.move(Place::notch);
+        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
+        QVERIFY(stage().session.set(u"openMode"_s, u"hover"_s));
+        QTRY_VERIFY(stage().looksOpen());
+        QVERIFY(stage().session.set(u"showWithoutNotch"_s, u"false"_s));
+        QTRY_VERIFY(!stage().covered(Place::notch));
+        QVERIFY(stage().session.set(u"showWithoutNotch"_s, u"true"_s));
+        QTRY_VERIFY(stage().covered(Place::notch));
+    }
 
 private:
     static bool isOneLine(const QString &text) { return text.count(u'\n') == 1 && text.endsWith(u'\n'); }
 };
-
-void CommandLineTest::badArguments_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("unknown command") << QStringList{u"frobnicate"_s};
-    QTest::newRow("unknown option") << QStringList{u"--frobnicate"_s};
-    QTest::newRow("open: unknown tool") << QStringList{u"open"_s, u"frobnicate"_s};
-    QTest::newRow("toggle: too many") << QStringList{u"toggle"_s, u"home"_s};
-    QTest::newRow("settings: nothing") << QStringList{u"settings"_s};
-    QTest::newRow("settings get: nothing") << QStringList{u"settings"_s, u"get"_s};
-    QTest::newRow("settings get: unknown") << QStringList{u"settings"_s, u"get"_s, u"frobnicate"_s};
-    QTest::newRow("settings set: no value") << QStringList{u"settings"_s, u"set"_s, u"hoverDelay"_s};
-    QTest::newRow("settings set: no number")
-        << QStringList{u"settings"_s, u"set"_s, u"hoverDelay"_s, u"soon"_s};
-    QTest::newRow("settings set: no choice")
-        << QStringList{u"settings"_s, u"set"_s, u"openMode"_s, u"Click"_s};
-    QTest::newRow("settings set: no list") << QStringList{u"settings"_s, u"set"_s, u"tools"_s, u"home"_s};
-}
-
-void CommandLineTest::badArguments()
-{
-    QFETCH(QStringList, arguments);
-    const Session session; // no display either: the arguments are looked at first
-    const Session::Result result = session.command(arguments);
-    QCOMPARE(result.status, 2);
-    QVERIFY2(isOneLine(result.errors), qPrintable(result.errors));
-    QCOMPARE(result.output, QString());
-}
-
-void CommandLineTest::nothingRunning_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("toggle") << QStringList{u"toggle"_s};
-    QTest::newRow("open") << QStringList{u"open"_s};
-    QTest::newRow("open tool") << QStringList{u"open"_s, u"timer"_s};
-    QTest::newRow("close") << QStringList{u"close"_s};
-    QTest::newRow("quit") << QStringList{u"quit"_s};
-}
-
-void CommandLineTest::nothingRunning()
-{
-    QFETCH(QStringList, arguments);
-    const Session session;
-    const Session::Result result = session.command(arguments);
-    QCOMPARE(result.status, 1);
-    QVERIFY2(isOneLine(result.errors), qPrintable(result.errors));
-    QCOMPARE(result.output, QString());
-}
-
-void CommandLineTest::statusTellsTheState()
-{
-    setStage({});
-    QVERIFY(stage().run({{"tools", R"(["home", "note"])"}}));
-    QJsonObject status = stage().session.status();
-    QCOMPARE(status.value("running"_L1), true);
-    QCOMPARE(status.value("yielding"_L1), false);
-    QCOMPARE(status.value("anyExpanded"_L1), false);
-    QCOMPARE(status.value("hasActivity"_L1), false);
-    QVERIFY(status.value("visibleTool"_L1).isNull());
-    QCOMPARE(status.value("tools"_L1).toArray(), QJsonArray({u"home"_s, u"note"_s}));
-    const QJsonObject display = stage().session.display();
-    QVERIFY(!display.value("name"_L1).toString().isEmpty());
-    QCOMPARE(display.value("frame"_L1).toObject(),
-             QJsonObject({{u"x"_s, 0}, {u"y"_s, 0}, {u"width"_s, 1280}, {u"height"_s, 800}}));
-    QCOMPARE(display.value("notchSize"_L1).toObject(), QJsonObject({{u"width"_s, 190}, {u"height"_s, 32}}));
-    for (const auto &field : {u"hardware"_s, u"expanded"_s, u"pinned"_s, u"pointerEntered"_s})
-        QCOMPARE(display.value(field), false);
-
-    QCOMPARE(stage().session.command({u"open"_s, u"note"_s}).status, 0);
-    status = stage().session.status();
-    QCOMPARE(status.value("anyExpanded"_L1), true);
-    QCOMPARE(status.value("visibleTool"_L1), u"note"_s);
-}
-
-void CommandLineTest::openCloseAndToggle()
-{
-    setStage({});
-    QVERIFY(stage().run());
-    const auto command = [&](const QStringList &arguments) {
-        const Session::Result result = stage().session.command(arguments);
-        return result.status == 0 && result.output.isEmpty() && result.errors.isEmpty();
-    };
-    QVERIFY(command({u"open"_s, u"timer"_s}));
-    QTRY_VERIFY(stage().looksOpen());
-    QCOMPARE(stage().session.selected(), u"timer"_s);
-    QVERIFY(command({u"open"_s, u"note"_s})); // an open notch changes its pane
-    QCOMPARE(stage().session.selected(), u"note"_s);
-    QVERIFY(command({u"close"_s}));
-    QVERIFY(stage().waitClosed());
-    QVERIFY(command({u"toggle"_s}));
-    QTRY_VERIFY(stage().looksOpen());
-    QCOMPARE(stage().session.selected(), u"note"_s);
-    QVERIFY(command({u"toggle"_s}));
-    QVERIFY(stage().waitClosed());
-}
-
-void CommandLineTest::settings_data()
-{
-    QTest::addColumn<bool>("live");
-    QTest::newRow("nothing running") << false;
-    QTest::newRow("live") << true;
-}
-
-void CommandLineTest::settings()
-{
-    QFETCH(bool, live);
-    setStage({});
-    QVERIFY(!live || stage().run());
-    const Session &session = stage().session;
-    QCOMPARE(session.setting(u"hoverDelay"_s), u"0.12"_s);
-    QVERIFY(session.set(u"hoverDelay"_s, u"0.5"_s));
-    QCOMPARE(session.setting(u"hoverDelay"_s), u"0.5"_s);
-    QVERIFY(session.set(u"openMode"_s, u"click"_s));
-    QCOMPARE(session.setting(u"openMode"_s), u"click"_s);
-    QVERIFY(session.set(u"allDisplays"_s, u"true"_s));
-    QCOMPARE(session.setting(u"allDisplays"_s), u"true"_s);
-    QVERIFY(session.set(u"note"_s, u"Zwölf\nEier"_s));
-    QCOMPARE(session.setting(u"note"_s), u"Zwölf\nEier"_s);
-
-    QString list = session.command({u"settings"_s, u"list"_s}).output;
-    for (const auto &name : {u"openMode"_s, u"hoverDelay"_s, u"tools"_s, u"allDisplays"_s, u"note"_s,
-                             u"tickers"_s, u"weatherLatitude"_s, u"homeColumns"_s})
-        QVERIFY2(list.contains(name), qPrintable(name));
-    QCOMPARE(session.command({u"settings"_s, u"reset"_s, u"hoverDelay"_s}).status, 0);
-    QCOMPARE(session.setting(u"hoverDelay"_s), u"0.12"_s);
-}
-
-void CommandLineTest::settingsActAtOnce()
-{
-    setStage({});
-    QVERIFY(stage().run());
-    QVERIFY(stage().session.set(u"openMode"_s, u"click"_s));
-    stage().input.move(Place::notch);
-    QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
-    QVERIFY(stage().session.set(u"openMode"_s, u"hover"_s));
-    QTRY_VERIFY(stage().looksOpen());
-    QVERIFY(stage().session.set(u"showWithoutNotch"_s, u"false"_s));
-    QTRY_VERIFY(!stage().covered(Place::notch));
-    QVERIFY(stage().session.set(u"showWithoutNotch"_s, u"true"_s));
-    QTRY_VERIFY(stage().covered(Place::notch));
-}
 
 REGISTER_TEST(CommandLineTest);
 #include "CommandLineTest.moc"

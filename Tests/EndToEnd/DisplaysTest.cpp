@@ -11,11 +11,73 @@ class DisplaysTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { setStage({.server = VirtualDisplay::Server::Outputs}); }
 
-    void oneNotchPerDisplayOnRequest();
-    void theHotKeyOpensWhereThePointerIs();
-    void pluggingAHundredTimesLeavesNothingBehind();
+    /// As many notches as that are on screen, and no window of a former one.
+    bool DisplaysTest::showsNotches(int count)
+    {
+        return stage().session.displays().size() == count && stage().x.countWindows({880, 390}) == count;
+    }
+
+    void oneNotchPerDisplayOnRequest()
+    {
+        QVERIFY(stage().display.plugSecond(true));
+        QVERIFY(stage().run());
+        const QColor desktop = stage().x.pixel({1920, 100});
+        QVERIFY(showsNotches(1));
+        QCOMPARE(stage().x.pixel(secondNotch), desktop);
+
+        QVERIFY(stage().session.set(u"allDisplays"_s, u"true"_s));
+        QTRY_VERIFY(showsNotches(2));
+        QTRY_VERIFY(stage().x.pixel(secondNotch) != desktop);
+        QVERIFY(stage().covered(Place::notch));
+        const QJsonObject frame = stage().session.display(1).value("frame"_L1).toObject();
+        QCOMPARE(frame.value("x"_L1).toDouble(), 1280.0);
+        QCOMPARE(frame.value("width"_L1).toDouble(), 1280.0);
+
+        stage().input.move(secondNotch);
+        QTRY_VERIFY(stage().session.isOpen(1));
+        QTRY_VERIFY(stage().x.pixel(secondOpened) != desktop);
+        QVERIFY(!stage().session.isOpen(0));
+
+        QVERIFY(stage().session.set(u"allDisplays"_s, u"false"_s));
+        QTRY_VERIFY(showsNotches(1));
+        QTRY_COMPARE(stage().x.pixel(secondNotch), desktop);
+    }
+
+    void theHotKeyOpensWhereThePointerIs()
+    {
+        QVERIFY(stage().display.plugSecond(true));
+        QVERIFY(stage().run({{"allDisplays", "true"}}));
+        QTRY_VERIFY(showsNotches(2));
+        stage().input.move({1920, 600});
+        stage().input.hotKey();
+        QTRY_VERIFY(stage().session.isOpen(1));
+        QVERIFY(!stage().session.isOpen(0));
+
+        // An open notch goes with its display.
+        QVERIFY(stage().display.plugSecond(false));
+        QTRY_VERIFY(showsNotches(1));
+        QVERIFY(!stage().session.status().value("anyExpanded"_L1).toBool());
+    }
+
+    void pluggingAHundredTimesLeavesNothingBehind()
+    {
+        QVERIFY(stage().run({{"allDisplays", "true"}}));
+        qint64 memory = 0;
+        for (int round = 1; round <= 100; ++round) {
+            QVERIFY(stage().display.plugSecond(true));
+            QTRY_VERIFY2(showsNotches(2), qPrintable(QString::number(round)));
+            QVERIFY(stage().display.plugSecond(false));
+            QTRY_VERIFY2(showsNotches(1), qPrintable(QString::number(round)));
+            if (round == 10)
+                memory = stage().session.proportionalSetSize();
+        }
+        // One lost picture of a notch is more than a megabyte; ninety of them would not go unseen.
+        const qint64 growth = stage().session.proportionalSetSize() - memory;
+        QVERIFY2(memory > 0 && growth < 2048, qPrintable(u"%1 kB more"_s.arg(growth)));
+        QVERIFY(stage().openByHotKey());
+    }
 
 private:
     bool showsNotches(int count);
@@ -23,74 +85,6 @@ private:
     static constexpr QPoint secondNotch = {1920, 16};
     static constexpr QPoint secondOpened = {1920, 60};
 };
-
-void DisplaysTest::init() { setStage({.server = VirtualDisplay::Server::Outputs}); }
-
-/// As many notches as that are on screen, and no window of a former one.
-bool DisplaysTest::showsNotches(int count)
-{
-    return stage().session.displays().size() == count && stage().x.countWindows({880, 390}) == count;
-}
-
-void DisplaysTest::oneNotchPerDisplayOnRequest()
-{
-    QVERIFY(stage().display.plugSecond(true));
-    QVERIFY(stage().run());
-    const QColor desktop = stage().x.pixel({1920, 100});
-    QVERIFY(showsNotches(1));
-    QCOMPARE(stage().x.pixel(secondNotch), desktop);
-
-    QVERIFY(stage().session.set(u"allDisplays"_s, u"true"_s));
-    QTRY_VERIFY(showsNotches(2));
-    QTRY_VERIFY(stage().x.pixel(secondNotch) != desktop);
-    QVERIFY(stage().covered(Place::notch));
-    const QJsonObject frame = stage().session.display(1).value("frame"_L1).toObject();
-    QCOMPARE(frame.value("x"_L1).toDouble(), 1280.0);
-    QCOMPARE(frame.value("width"_L1).toDouble(), 1280.0);
-
-    stage().input.move(secondNotch);
-    QTRY_VERIFY(stage().session.isOpen(1));
-    QTRY_VERIFY(stage().x.pixel(secondOpened) != desktop);
-    QVERIFY(!stage().session.isOpen(0));
-
-    QVERIFY(stage().session.set(u"allDisplays"_s, u"false"_s));
-    QTRY_VERIFY(showsNotches(1));
-    QTRY_COMPARE(stage().x.pixel(secondNotch), desktop);
-}
-
-void DisplaysTest::theHotKeyOpensWhereThePointerIs()
-{
-    QVERIFY(stage().display.plugSecond(true));
-    QVERIFY(stage().run({{"allDisplays", "true"}}));
-    QTRY_VERIFY(showsNotches(2));
-    stage().input.move({1920, 600});
-    stage().input.hotKey();
-    QTRY_VERIFY(stage().session.isOpen(1));
-    QVERIFY(!stage().session.isOpen(0));
-
-    // An open notch goes with its display.
-    QVERIFY(stage().display.plugSecond(false));
-    QTRY_VERIFY(showsNotches(1));
-    QVERIFY(!stage().session.status().value("anyExpanded"_L1).toBool());
-}
-
-void DisplaysTest::pluggingAHundredTimesLeavesNothingBehind()
-{
-    QVERIFY(stage().run({{"allDisplays", "true"}}));
-    qint64 memory = 0;
-    for (int round = 1; round <= 100; ++round) {
-        QVERIFY(stage().display.plugSecond(true));
-        QTRY_VERIFY2(showsNotches(2), qPrintable(QString::number(round)));
-        QVERIFY(stage().display.plugSecond(false));
-        QTRY_VERIFY2(showsNotches(1), qPrintable(QString::number(round)));
-        if (round == 10)
-            memory = stage().session.proportionalSetSize();
-    }
-    // One lost picture of a notch is more than a megabyte; ninety of them would not go unseen.
-    const qint64 growth = stage().session.proportionalSetSize() - memory;
-    QVERIFY2(memory > 0 && growth < 2048, qPrintable(u"%1 kB more"_s.arg(growth)));
-    QVERIFY(stage().openByHotKey());
-}
 
 REGISTER_TEST(DisplaysTest);
 #include "DisplaysTest.moc"

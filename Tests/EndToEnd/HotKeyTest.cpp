@@ -11,93 +11,85 @@ class HotKeyTest : public StageTest
 private Q_SLOTS:
     void init() { setStage({}); }
 
-    void worksWhateverIsLocked_data();
-    void worksWhateverIsLocked();
-    void heldDownItTogglesOnce();
-    void followsItsSetting();
-    void aTakenCombinationLeavesTheRestWorking();
+    void worksWhateverIsLocked_data()
+    {
+        QTest::addColumn<QList<uint>>("locks");
+        QTest::addColumn<uint>("state");
+        QTest::newRow("nothing") << QList<uint>{} << 0U;
+        QTest::newRow("Num Lock") << QList<uint>{XK_Num_Lock} << uint{XCB_MOD_MASK_2};
+        QTest::newRow("Caps Lock") << QList<uint>{XK_Caps_Lock} << uint{XCB_MOD_MASK_LOCK};
+        QTest::newRow("both") << QList<uint>{XK_Num_Lock, XK_Caps_Lock}
+                              << uint{XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK};
+    }
+
+    void worksWhateverIsLocked()
+    {
+        QFETCH(QList<uint>, locks);
+        QFETCH(uint, state);
+        QVERIFY(stage().run());
+        for (const uint lock : locks)
+            stage().input.tap(lock);
+        QCOMPARE(stage().input.state() & (XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK), state);
+        QVERIFY(stage().beneath.hasFocus());
+        stage().beneath.forget();
+
+        QVERIFY(stage().openByHotKey());
+        stage().input.hotKey();
+        QVERIFY(stage().waitClosed());
+        // The modifiers are everybody's; the N must have gone to nobody else.
+        QVERIFY(stage().beneath.keys() <= 3);
+    }
+
+    void heldDownItTogglesOnce()
+    {
+        QVERIFY(stage().run());
+        stage().input.hotKey(1500); // longer than the keyboard waits before it repeats
+        QVERIFY(stage().looksOpen());
+        QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 500));
+        stage().input.hotKey(1500);
+        QVERIFY(stage().looksClosed());
+        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
+    }
+
+    void followsItsSetting()
+    {
+        QVERIFY(stage().run({{"shortcutEnabled", "false"}}));
+        stage().input.hotKey();
+        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
+        QVERIFY(stage().session.set(u"shortcutEnabled"_s, u"true"_s));
+        QVERIFY(stage().openByHotKey());
+    }
+
+    void aTakenCombinationLeavesTheRestWorking()
+    {
+        takeCombination();
+        QVERIFY(stage().run());
+        stage().input.hotKey();
+        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
+
+        QVERIFY(stage().openByHover());
+        stage().input.move(Place::away);
+        QVERIFY(stage().waitClosed());
+        QCOMPARE(stage().session.command({u"toggle"_s}).status, 0);
+        QTRY_VERIFY(stage().looksOpen());
+    }
 
 private:
-    void takeCombination();
+    void takeCombination()
+    {
+        const X11 &x = stage().x;
+        auto *symbols = xcb_key_symbols_alloc(x.connection());
+        auto *codes = xcb_key_symbols_get_keycode(symbols, XK_n);
+        const int modifiers = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
+        for (const int locks :
+             {0, int{XCB_MOD_MASK_2}, int{XCB_MOD_MASK_LOCK}, XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK})
+            xcb_grab_key(x.connection(), 1, x.root(), static_cast<uint16_t>(modifiers | locks), codes[0],
+                         XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+        x.sync();
+        std::free(codes);
+        xcb_key_symbols_free(symbols);
+    }
 };
-
-void HotKeyTest::worksWhateverIsLocked_data()
-{
-    QTest::addColumn<QList<uint>>("locks");
-    QTest::addColumn<uint>("state");
-    QTest::newRow("nothing") << QList<uint>{} << 0U;
-    QTest::newRow("Num Lock") << QList<uint>{XK_Num_Lock} << uint{XCB_MOD_MASK_2};
-    QTest::newRow("Caps Lock") << QList<uint>{XK_Caps_Lock} << uint{XCB_MOD_MASK_LOCK};
-    QTest::newRow("both") << QList<uint>{XK_Num_Lock, XK_Caps_Lock}
-                          << uint{XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK};
-}
-
-void HotKeyTest::worksWhateverIsLocked()
-{
-    QFETCH(QList<uint>, locks);
-    QFETCH(uint, state);
-    QVERIFY(stage().run());
-    for (const uint lock : locks)
-        stage().input.tap(lock);
-    QCOMPARE(stage().input.state() & (XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK), state);
-    QVERIFY(stage().beneath.hasFocus());
-    stage().beneath.forget();
-
-    QVERIFY(stage().openByHotKey());
-    stage().input.hotKey();
-    QVERIFY(stage().waitClosed());
-    // The modifiers are everybody's; the N must have gone to nobody else.
-    QVERIFY(stage().beneath.keys() <= 3);
-}
-
-void HotKeyTest::heldDownItTogglesOnce()
-{
-    QVERIFY(stage().run());
-    stage().input.hotKey(1500); // longer than the keyboard waits before it repeats
-    QVERIFY(stage().looksOpen());
-    QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 500));
-    stage().input.hotKey(1500);
-    QVERIFY(stage().looksClosed());
-    QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
-}
-
-void HotKeyTest::followsItsSetting()
-{
-    QVERIFY(stage().run({{"shortcutEnabled", "false"}}));
-    stage().input.hotKey();
-    QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
-    QVERIFY(stage().session.set(u"shortcutEnabled"_s, u"true"_s));
-    QVERIFY(stage().openByHotKey());
-}
-
-void HotKeyTest::aTakenCombinationLeavesTheRestWorking()
-{
-    takeCombination();
-    QVERIFY(stage().run());
-    stage().input.hotKey();
-    QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
-
-    QVERIFY(stage().openByHover());
-    stage().input.move(Place::away);
-    QVERIFY(stage().waitClosed());
-    QCOMPARE(stage().session.command({u"toggle"_s}).status, 0);
-    QTRY_VERIFY(stage().looksOpen());
-}
-
-void HotKeyTest::takeCombination()
-{
-    const X11 &x = stage().x;
-    auto *symbols = xcb_key_symbols_alloc(x.connection());
-    auto *codes = xcb_key_symbols_get_keycode(symbols, XK_n);
-    const int modifiers = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
-    for (const int locks :
-         {0, int{XCB_MOD_MASK_2}, int{XCB_MOD_MASK_LOCK}, XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK})
-        xcb_grab_key(x.connection(), 1, x.root(), static_cast<uint16_t>(modifiers | locks), codes[0],
-                     XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    x.sync();
-    std::free(codes);
-    xcb_key_symbols_free(symbols);
-}
 
 REGISTER_TEST(HotKeyTest);
 #include "HotKeyTest.moc"

@@ -13,16 +13,156 @@ class LifecycleTest : public StageTest
 private Q_SLOTS:
     void init() { setStage({}); }
 
-    void theFirstRunOpensHome();
-    void openArgument_data();
-    void openArgument();
-    void aSecondStartIsHandedOver_data();
-    void aSecondStartIsHandedOver();
-    void pausesWhileTheSuiteShowsItsNotch_data();
-    void pausesWhileTheSuiteShowsItsNotch();
-    void aSecondStartWhilePausedTellsWhy();
-    void theNoteSurvivesAKill();
-    void quitEndsTheProgram();
+    void theFirstRunOpensHome()
+    {
+        QElapsedTimer sinceStart;
+        sinceStart.start();
+        stage().input.move(Place::away);
+        QVERIFY(stage().session.start());
+        QVERIFY(waitUntil([&] { return !stage().looksClosed(); }));
+        QVERIFY2(sinceStart.elapsed() >= 1000, qPrintable(QString::number(sinceStart.elapsed())));
+        QVERIFY(stage().session.isOpen());
+        QCOMPARE(stage().session.selected(), u"home"_s);
+        QVERIFY(stage().session.flag(u"kestrune"_s, u"kestrune.welcomed"_s));
+
+        QCOMPARE(stage().session.command({u"quit"_s}).status, 0);
+        QTRY_VERIFY(!stage().session.isRunning());
+        QVERIFY(stage().session.start());
+        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 2500));
+    }
+
+    void openArgument_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("tool");
+        QTest::newRow("a tool") << QStringList{u"--open"_s, u"timer"_s} << u"timer"_s;
+        QTest::newRow("no tool") << QStringList{u"--open"_s} << u"home"_s;
+        QTest::newRow("an unknown tool") << QStringList{u"--open"_s, u"Timer"_s} << u"home"_s;
+    }
+
+    void openArgument()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, tool);
+        QElapsedTimer sinceStart;
+        sinceStart.start();
+        QVERIFY(stage().run({}, arguments));
+        QVERIFY(waitUntil([&] { return !stage().looksClosed(); }));
+        QVERIFY2(sinceStart.elapsed() >= 1000, qPrintable(QString::number(sinceStart.elapsed())));
+        QTRY_VERIFY(stage().session.isOpen());
+        QCOMPARE(stage().session.selected(), tool);
+    }
+
+    void aSecondStartIsHandedOver_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("tool");
+        QTest::newRow("plain") << QStringList{} << u"home"_s;
+        QTest::newRow("with a tool") << QStringList{u"--open"_s, u"timer"_s} << u"timer"_s;
+    }
+
+    void aSecondStartIsHandedOver()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, tool);
+        QVERIFY(stage().run() && stage().choose(u"note"_s));
+        const Session::Result second = stage().session.command(arguments);
+        QCOMPARE(second.status, 0);
+        QCOMPARE(second.errors, QString());
+        QTRY_VERIFY(stage().looksOpen() && stage().session.isOpen());
+        QCOMPARE(stage().session.selected(), tool);
+        QVERIFY(stage().session.isRunning());
+        QCOMPARE(stage().x.countWindows({880, 390}), 1);
+    }
+
+    void pausesWhileTheSuiteShowsItsNotch_data()
+    {
+        QTest::addColumn<bool>("endsByQuitting");
+        QTest::newRow("its notch is turned off") << false;
+        QTest::newRow("it quits") << true;
+    }
+
+    void pausesWhileTheSuiteShowsItsNotch()
+    {
+        QFETCH(bool, endsByQuitting);
+        constexpr int promised = 3000;
+        QVERIFY(stage().run() && stage().openByHotKey());
+        // Running with its notch off, the suite is no reason to pause.
+        QVERIFY(stage().session.bus().registerService(m_suite));
+        QVERIFY(holdsFor([&] { return !notchIsGone(); }, promised + 500));
+
+        stage().session.setFlag(m_suite, m_suiteFlag, true);
+        const qint64 paused = timeUntil([&] { return notchIsGone(); }, 2 * promised);
+        QVERIFY2(paused >= 0 && paused < promised + 500, qPrintable(QString::number(paused)));
+        QVERIFY(stage().session.status().value("yielding"_L1).toBool());
+        stage().input.hotKey();
+        stage().input.move(Place::notch);
+        QVERIFY(holdsFor([&] { return notchIsGone(); }, 500));
+        stage().input.move(Place::away);
+
+        if (endsByQuitting)
+            QVERIFY(stage().session.bus().unregisterService(m_suite));
+        else
+            stage().session.setFlag(m_suite, m_suiteFlag, false);
+        const qint64 back = timeUntil([&] { return !notchIsGone(); }, 2 * promised);
+        QVERIFY2(back >= 0 && back < promised + 500, qPrintable(QString::number(back)));
+        QVERIFY(!stage().session.status().value("yielding"_L1).toBool());
+        QVERIFY(stage().openByHotKey());
+    }
+
+    void aSecondStartWhilePausedTellsWhy()
+    {
+        QVERIFY(stage().session.bus().registerService(m_suite));
+        stage().session.setFlag(m_suite, m_suiteFlag, true);
+        stage().session.setFlag(u"kestrune"_s, u"kestrune.welcomed"_s, true);
+        stage().input.move(Place::away);
+        QVERIFY(stage().session.start());
+        QVERIFY(holdsFor([&] { return notchIsGone(); }, 500));
+        const QList<quint32> before = stage().x.clientWindows();
+
+        QCOMPARE(stage().session.command({}).status, 0);
+        QTRY_COMPARE(stage().x.clientWindows().size(), before.size() + 1);
+        QTRY_VERIFY(!stage().beneath.hasFocus());
+        QVERIFY(notchIsGone());
+        QTest::qWait(300); // the alert takes the keyboard as soon as it is drawn
+        stage().input.tap(XK_Return);
+        QTRY_COMPARE(stage().x.clientWindows(), before);
+        QVERIFY(stage().session.status().value("yielding"_L1).toBool());
+    }
+
+    void theNoteSurvivesAKill()
+    {
+        QVERIFY(stage().run() && stage().choose(u"note"_s));
+        QString expected;
+        for (const char *word : {"One ", "two ", "three."}) {
+            QVERIFY(stage().openByHover());
+            stage().input.click(Place::panel);
+            QTRY_VERIFY(!stage().beneath.hasFocus());
+            stage().input.tap(XK_End);
+            stage().input.type(word);
+            expected += QString::fromLatin1(word);
+            QTRY_COMPARE(stage().session.setting(u"note"_s), expected);
+            stage().session.program().killNow();
+
+            QCOMPARE(stage().session.setting(u"note"_s), expected);
+            stage().input.move(Place::away);
+            QVERIFY(stage().run() && stage().choose(u"note"_s));
+            QCOMPARE(stage().session.setting(u"note"_s), expected);
+        }
+    }
+
+    void quitEndsTheProgram()
+    {
+        QVERIFY(stage().run());
+        const int windows = stage().x.countWindows({880, 390});
+        QCOMPARE(windows, 1);
+        QCOMPARE(stage().session.command({u"quit"_s}).status, 0);
+        QTRY_VERIFY(!stage().session.isRunning());
+        QCOMPARE(stage().session.program().exitStatus(), QProcess::NormalExit);
+        QCOMPARE(stage().session.program().exitCode(), 0);
+        QVERIFY(notchIsGone());
+        QVERIFY(!stage().session.bus().interface()->isServiceRegistered(Session::busName()));
+    }
 
 private:
     bool notchIsGone() { return !stage().covered(Place::notch); }
@@ -30,157 +170,6 @@ private:
     const QString m_suite = u"example.fennivar.Fennivar"_s;
     const QString m_suiteFlag = u"notch.enabled"_s;
 };
-
-void LifecycleTest::theFirstRunOpensHome()
-{
-    QElapsedTimer sinceStart;
-    sinceStart.start();
-    stage().input.move(Place::away);
-    QVERIFY(stage().session.start());
-    QVERIFY(waitUntil([&] { return !stage().looksClosed(); }));
-    QVERIFY2(sinceStart.elapsed() >= 1000, qPrintable(QString::number(sinceStart.elapsed())));
-    QVERIFY(stage().session.isOpen());
-    QCOMPARE(stage().session.selected(), u"home"_s);
-    QVERIFY(stage().session.flag(u"kestrune"_s, u"kestrune.welcomed"_s));
-
-    QCOMPARE(stage().session.command({u"quit"_s}).status, 0);
-    QTRY_VERIFY(!stage().session.isRunning());
-    QVERIFY(stage().session.start());
-    QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 2500));
-}
-
-void LifecycleTest::openArgument_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("tool");
-    QTest::newRow("a tool") << QStringList{u"--open"_s, u"timer"_s} << u"timer"_s;
-    QTest::newRow("no tool") << QStringList{u"--open"_s} << u"home"_s;
-    QTest::newRow("an unknown tool") << QStringList{u"--open"_s, u"Timer"_s} << u"home"_s;
-}
-
-void LifecycleTest::openArgument()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, tool);
-    QElapsedTimer sinceStart;
-    sinceStart.start();
-    QVERIFY(stage().run({}, arguments));
-    QVERIFY(waitUntil([&] { return !stage().looksClosed(); }));
-    QVERIFY2(sinceStart.elapsed() >= 1000, qPrintable(QString::number(sinceStart.elapsed())));
-    QTRY_VERIFY(stage().session.isOpen());
-    QCOMPARE(stage().session.selected(), tool);
-}
-
-void LifecycleTest::aSecondStartIsHandedOver_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("tool");
-    QTest::newRow("plain") << QStringList{} << u"home"_s;
-    QTest::newRow("with a tool") << QStringList{u"--open"_s, u"timer"_s} << u"timer"_s;
-}
-
-void LifecycleTest::aSecondStartIsHandedOver()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, tool);
-    QVERIFY(stage().run() && stage().choose(u"note"_s));
-    const Session::Result second = stage().session.command(arguments);
-    QCOMPARE(second.status, 0);
-    QCOMPARE(second.errors, QString());
-    QTRY_VERIFY(stage().looksOpen() && stage().session.isOpen());
-    QCOMPARE(stage().session.selected(), tool);
-    QVERIFY(stage().session.isRunning());
-    QCOMPARE(stage().x.countWindows({880, 390}), 1);
-}
-
-void LifecycleTest::pausesWhileTheSuiteShowsItsNotch_data()
-{
-    QTest::addColumn<bool>("endsByQuitting");
-    QTest::newRow("its notch is turned off") << false;
-    QTest::newRow("it quits") << true;
-}
-
-void LifecycleTest::pausesWhileTheSuiteShowsItsNotch()
-{
-    QFETCH(bool, endsByQuitting);
-    constexpr int promised = 3000;
-    QVERIFY(stage().run() && stage().openByHotKey());
-    // Running with its notch off, the suite is no reason to pause.
-    QVERIFY(stage().session.bus().registerService(m_suite));
-    QVERIFY(holdsFor([&] { return !notchIsGone(); }, promised + 500));
-
-    stage().session.setFlag(m_suite, m_suiteFlag, true);
-    const qint64 paused = timeUntil([&] { return notchIsGone(); }, 2 * promised);
-    QVERIFY2(paused >= 0 && paused < promised + 500, qPrintable(QString::number(paused)));
-    QVERIFY(stage().session.status().value("yielding"_L1).toBool());
-    stage().input.hotKey();
-    stage().input.move(Place::notch);
-    QVERIFY(holdsFor([&] { return notchIsGone(); }, 500));
-    stage().input.move(Place::away);
-
-    if (endsByQuitting)
-        QVERIFY(stage().session.bus().unregisterService(m_suite));
-    else
-        stage().session.setFlag(m_suite, m_suiteFlag, false);
-    const qint64 back = timeUntil([&] { return !notchIsGone(); }, 2 * promised);
-    QVERIFY2(back >= 0 && back < promised + 500, qPrintable(QString::number(back)));
-    QVERIFY(!stage().session.status().value("yielding"_L1).toBool());
-    QVERIFY(stage().openByHotKey());
-}
-
-void LifecycleTest::aSecondStartWhilePausedTellsWhy()
-{
-    QVERIFY(stage().session.bus().registerService(m_suite));
-    stage().session.setFlag(m_suite, m_suiteFlag, true);
-    stage().session.setFlag(u"kestrune"_s, u"kestrune.welcomed"_s, true);
-    stage().input.move(Place::away);
-    QVERIFY(stage().session.start());
-    QVERIFY(holdsFor([&] { return notchIsGone(); }, 500));
-    const QList<quint32> before = stage().x.clientWindows();
-
-    QCOMPARE(stage().session.command({}).status, 0);
-    QTRY_COMPARE(stage().x.clientWindows().size(), before.size() + 1);
-    QTRY_VERIFY(!stage().beneath.hasFocus());
-    QVERIFY(notchIsGone());
-    QTest::qWait(300); // the alert takes the keyboard as soon as it is drawn
-    stage().input.tap(XK_Return);
-    QTRY_COMPARE(stage().x.clientWindows(), before);
-    QVERIFY(stage().session.status().value("yielding"_L1).toBool());
-}
-
-void LifecycleTest::theNoteSurvivesAKill()
-{
-    QVERIFY(stage().run() && stage().choose(u"note"_s));
-    QString expected;
-    for (const char *word : {"One ", "two ", "three."}) {
-        QVERIFY(stage().openByHover());
-        stage().input.click(Place::panel);
-        QTRY_VERIFY(!stage().beneath.hasFocus());
-        stage().input.tap(XK_End);
-        stage().input.type(word);
-        expected += QString::fromLatin1(word);
-        QTRY_COMPARE(stage().session.setting(u"note"_s), expected);
-        stage().session.program().killNow();
-
-        QCOMPARE(stage().session.setting(u"note"_s), expected);
-        stage().input.move(Place::away);
-        QVERIFY(stage().run() && stage().choose(u"note"_s));
-        QCOMPARE(stage().session.setting(u"note"_s), expected);
-    }
-}
-
-void LifecycleTest::quitEndsTheProgram()
-{
-    QVERIFY(stage().run());
-    const int windows = stage().x.countWindows({880, 390});
-    QCOMPARE(windows, 1);
-    QCOMPARE(stage().session.command({u"quit"_s}).status, 0);
-    QTRY_VERIFY(!stage().session.isRunning());
-    QCOMPARE(stage().session.program().exitStatus(), QProcess::NormalExit);
-    QCOMPARE(stage().session.program().exitCode(), 0);
-    QVERIFY(notchIsGone());
-    QVERIFY(!stage().session.bus().interface()->isServiceRegistered(Session::busName()));
-}
 
 REGISTER_TEST(LifecycleTest);
 #include "LifecycleTest.moc"

@@ -15,178 +15,162 @@ class OpeningTest : public StageTest
 private Q_SLOTS:
     void init() { setStage({}); }
 
-    void hoverOpensAfterTheDelay_data();
-    void hoverOpensAfterTheDelay();
-    void pressingWhileRestingStartsTheDelayAnew();
-    void clickModeOpensOnThePress();
-    void clickModeSeesTheShortestClick();
-    void aPressDraggedInDoesNotOpen_data();
-    void aPressDraggedInDoesNotOpen();
-    void leavingClosesAfterADelay();
-    void openedByHotKeyItStaysUntilVisited();
-    void openedByHotKeyAClickOutsideClosesIt();
-    void pinnedItStays();
-    void escapeCloses();
-    void theToolRowSwitchesBetweenTheBuiltTools();
-};
+    void hoverOpensAfterTheDelay_data()
+    {
+        QTest::addColumn<QByteArray>("delay");
+        QTest::newRow("none") << "0"_qba;
+        QTest::newRow("default") << "0.12"_qba;
+        QTest::newRow("long") << "0.8"_qba;
+    }
 
-void OpeningTest::hoverOpensAfterTheDelay_data()
-{
-    QTest::addColumn<QByteArray>("delay");
-    QTest::newRow("none") << "0"_qba;
-    QTest::newRow("default") << "0.12"_qba;
-    QTest::newRow("long") << "0.8"_qba;
-}
-
-void OpeningTest::hoverOpensAfterTheDelay()
-{
-    QFETCH(QByteArray, delay);
-    QVERIFY(stage().run({{"hoverDelay", delay.constData()}}));
-    stage().input.move(Place::notch);
-    const qint64 opened = timeUntil([&] { return !stage().looksClosed(); });
-    const auto promised = static_cast<qint64>(delay.toDouble() * 1000);
-    QVERIFY2(opened >= promised && opened < promised + patience, qPrintable(QString::number(opened)));
-    QTRY_VERIFY(stage().looksOpen());
-    QVERIFY(stage().session.isOpen());
-    QVERIFY(stage().session.display().value("pointerEntered"_L1).toBool());
-}
-
-void OpeningTest::pressingWhileRestingStartsTheDelayAnew()
-{
-    QVERIFY(stage().run({{"hoverDelay", "0.6"}}));
-    stage().input.move(Place::notch);
-    QTest::qWait(300);
-    stage().input.pressButton();
-    QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 900));
-    stage().input.releaseButton();
-    const qint64 opened = timeUntil([&] { return !stage().looksClosed(); });
-    QVERIFY2(opened >= 600 && opened < 600 + patience, qPrintable(QString::number(opened)));
-}
-
-void OpeningTest::clickModeOpensOnThePress()
-{
-    QVERIFY(stage().run({{"openMode", "click"}}));
-    stage().input.move(Place::notch);
-    QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
-    stage().input.pressButton();
-    QTRY_VERIFY(stage().looksOpen());
-    stage().input.releaseButton();
-    QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 500));
-}
-
-void OpeningTest::clickModeSeesTheShortestClick()
-{
-    QVERIFY(stage().run({{"openMode", "click"}}));
-    // Shorter than the time between two looks at the pointer, which has left again by the next one.
-    for (int round = 0; round < 5; ++round) {
-        stage().input.click(Place::notch);
-        stage().input.move(Place::away);
+    void hoverOpensAfterTheDelay()
+    {
+        QFETCH(QByteArray, delay);
+        QVERIFY(stage().run({{"hoverDelay", delay.constData()}}));
+        stage().input.move(Place::notch);
+        const qint64 opened = timeUntil([&] { return !stage().looksClosed(); });
+        const auto promised = static_cast<qint64>(delay.toDouble() * 1000);
+        QVERIFY2(opened >= promised && opened < promised + patience, qPrintable(QString::number(opened)));
         QTRY_VERIFY(stage().looksOpen());
-        QVERIFY(stage().session.command({u"close"_s}).status == 0);
+        QVERIFY(stage().session.isOpen());
+        QVERIFY(stage().session.display().value("pointerEntered"_L1).toBool());
+    }
+
+    void pressingWhileRestingStartsTheDelayAnew()
+    {
+        QVERIFY(stage().run({{"hoverDelay", "0.6"}}));
+        stage().input.move(Place::notch);
+        QTest::qWait(300);
+        stage().input.pressButton();
+        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 900));
+        stage().input.releaseButton();
+        const qint64 opened = timeUntil([&] { return !stage().looksClosed(); });
+        QVERIFY2(opened >= 600 && opened < 600 + patience, qPrintable(QString::number(opened)));
+    }
+
+    void clickModeOpensOnThePress()
+    {
+        QVERIFY(stage().run({{"openMode", "click"}}));
+        stage().input.move(Place::notch);
+        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
+        stage().input.pressButton();
+        QTRY_VERIFY(stage().looksOpen());
+        stage().input.releaseButton();
+        QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 500));
+    }
+
+    void clickModeSeesTheShortestClick()
+    {
+        QVERIFY(stage().run({{"openMode", "click"}}));
+        // Shorter than the time between two looks at the pointer, which has left again by the next one.
+        for (int round = 0; round < 5; ++round) {
+            stage().input.click(Place::notch);
+            stage().input.move(Place::away);
+            QTRY_VERIFY(stage().looksOpen());
+            QVERIFY(stage().session.command({u"close"_s}).status == 0);
+            QVERIFY(stage().waitClosed());
+        }
+        QCOMPARE(stage().beneath.clicks(), 0);
+    }
+
+    void aPressDraggedInDoesNotOpen_data()
+    {
+        QTest::addColumn<QByteArray>("mode");
+        QTest::newRow("click") << "click"_qba;
+        QTest::newRow("hover") << "hover"_qba;
+    }
+
+    void aPressDraggedInDoesNotOpen()
+    {
+        QFETCH(QByteArray, mode);
+        QVERIFY(stage().run({{"openMode", mode.constData()}}));
+        stage().input.move(Place::panel);
+        stage().input.pressButton();
+        QTest::qWait(100);
+        stage().input.move(Place::notch);
+        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 600));
+        stage().input.move(Place::away);
+        stage().input.releaseButton();
+        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 300));
+    }
+
+    void leavingClosesAfterADelay()
+    {
+        QVERIFY(stage().run() && stage().openByHover());
+        stage().input.move(Place::away);
+        QTest::qWait(100);
+        stage().input.move(Place::panel);
+        QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 700));
+
+        stage().input.move(Place::away);
+        const qint64 closed = timeUntil([&] { return !stage().looksOpen(); });
+        QVERIFY2(closed >= leaveDelay && closed < leaveDelay + patience, qPrintable(QString::number(closed)));
         QVERIFY(stage().waitClosed());
     }
-    QCOMPARE(stage().beneath.clicks(), 0);
-}
 
-void OpeningTest::aPressDraggedInDoesNotOpen_data()
-{
-    QTest::addColumn<QByteArray>("mode");
-    QTest::newRow("click") << "click"_qba;
-    QTest::newRow("hover") << "hover"_qba;
-}
+    void openedByHotKeyItStaysUntilVisited()
+    {
+        QVERIFY(stage().run() && stage().openByHotKey());
+        QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 800));
+        QVERIFY(!stage().session.display().value("pointerEntered"_L1).toBool());
 
-void OpeningTest::aPressDraggedInDoesNotOpen()
-{
-    QFETCH(QByteArray, mode);
-    QVERIFY(stage().run({{"openMode", mode.constData()}}));
-    stage().input.move(Place::panel);
-    stage().input.pressButton();
-    QTest::qWait(100);
-    stage().input.move(Place::notch);
-    QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 600));
-    stage().input.move(Place::away);
-    stage().input.releaseButton();
-    QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 300));
-}
-
-void OpeningTest::leavingClosesAfterADelay()
-{
-    QVERIFY(stage().run() && stage().openByHover());
-    stage().input.move(Place::away);
-    QTest::qWait(100);
-    stage().input.move(Place::panel);
-    QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 700));
-
-    stage().input.move(Place::away);
-    const qint64 closed = timeUntil([&] { return !stage().looksOpen(); });
-    QVERIFY2(closed >= leaveDelay && closed < leaveDelay + patience, qPrintable(QString::number(closed)));
-    QVERIFY(stage().waitClosed());
-}
-
-void OpeningTest::openedByHotKeyItStaysUntilVisited()
-{
-    QVERIFY(stage().run() && stage().openByHotKey());
-    QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 800));
-    QVERIFY(!stage().session.display().value("pointerEntered"_L1).toBool());
-
-    stage().input.move(Place::panel);
-    QTRY_VERIFY(stage().session.display().value("pointerEntered"_L1).toBool());
-    stage().input.move(Place::away);
-    const qint64 closed = timeUntil([&] { return !stage().looksOpen(); });
-    QVERIFY2(closed >= leaveDelay && closed < leaveDelay + patience, qPrintable(QString::number(closed)));
-}
-
-void OpeningTest::openedByHotKeyAClickOutsideClosesIt()
-{
-    stage().input.move(Place::away);
-    QVERIFY(stage().run());
-    // A press that is older than the opening is no fresh click.
-    stage().input.pressButton();
-    QTest::qWait(100);
-    QVERIFY(stage().openByHotKey());
-    QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 500));
-    stage().input.releaseButton();
-    stage().beneath.forget();
-    QVERIFY(stage().clickReachesBeneath(Place::away));
-    QVERIFY(stage().waitClosed());
-}
-
-void OpeningTest::pinnedItStays()
-{
-    QVERIFY(stage().run() && stage().openByHover());
-    stage().input.click(Place::pin);
-    QTRY_VERIFY(stage().session.display().value("pinned"_L1).toBool());
-    stage().input.move(Place::away);
-    QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 800));
-
-    stage().input.click(Place::pin);
-    QTRY_VERIFY(!stage().session.display().value("pinned"_L1).toBool());
-    stage().input.move(Place::away);
-    QVERIFY(stage().waitClosed());
-}
-
-void OpeningTest::escapeCloses()
-{
-    QVERIFY(stage().run() && stage().openByHotKey());
-    QTRY_VERIFY(!stage().beneath.hasFocus());
-    stage().input.tap(XK_Escape);
-    QVERIFY(stage().waitClosed());
-    QTRY_VERIFY(stage().beneath.hasFocus());
-    QCOMPARE(stage().beneath.keys(), 0);
-}
-
-void OpeningTest::theToolRowSwitchesBetweenTheBuiltTools()
-{
-    QVERIFY(stage().run() && stage().openByHover());
-    QStringList seen;
-    for (int x = Place::panelLeft + 16; x < Place::panelRight; x += 16) {
-        stage().input.click({x, Place::toolRow});
-        const QString selected = stage().session.selected();
-        if (!seen.contains(selected))
-            seen.append(selected);
+        stage().input.move(Place::panel);
+        QTRY_VERIFY(stage().session.display().value("pointerEntered"_L1).toBool());
+        stage().input.move(Place::away);
+        const qint64 closed = timeUntil([&] { return !stage().looksOpen(); });
+        QVERIFY2(closed >= leaveDelay && closed < leaveDelay + patience, qPrintable(QString::number(closed)));
     }
-    QCOMPARE(seen, QStringList({u"home"_s, u"timer"_s, u"note"_s}));
-}
+
+    void openedByHotKeyAClickOutsideClosesIt()
+    {
+        QVERIFY(stage().run());
+        // A press that is older than the opening is no fresh click.
+        stage().input.pressButton();
+        QTest::qWait(100);
+        QVERIFY(stage().openByHotKey());
+        QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 500));
+        stage().input.releaseButton();
+        QVERIFY(stage().clickReachesBeneath(Place::away));
+        QVERIFY(stage().waitClosed());
+    }
+
+    void pinnedItStays()
+    {
+        QVERIFY(stage().run() && stage().openByHover());
+        stage().input.click(Place::pin);
+        QTRY_VERIFY(stage().session.display().value("pinned"_L1).toBool());
+        stage().input.move(Place::away);
+        QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 800));
+
+        stage().input.click(Place::pin);
+        QTRY_VERIFY(!stage().session.display().value("pinned"_L1).toBool());
+        stage().input.move(Place::away);
+        QVERIFY(stage().waitClosed());
+    }
+
+    void escapeCloses()
+    {
+        QVERIFY(stage().run() && stage().openByHotKey());
+        QTRY_VERIFY(!stage().beneath.hasFocus());
+        stage().input.tap(XK_Escape);
+        QVERIFY(stage().waitClosed());
+        QTRY_VERIFY(stage().beneath.hasFocus());
+        QCOMPARE(stage().beneath.keys(), 0);
+    }
+
+    void theToolRowSwitchesBetweenTheBuiltTools()
+    {
+        QVERIFY(stage().run() && stage().openByHover());
+        QStringList seen;
+        for (int x = Place::toolRow.left(); x < Place::toolRow.right(); x += 16) {
+            stage().input.click({x, Place::toolRow.y()});
+            const QString selected = stage().session.selected();
+            if (!seen.contains(selected))
+                seen.append(selected);
+        }
+        QCOMPARE(seen, QStringList({u"home"_s, u"timer"_s, u"note"_s}));
+    }
+};
 
 REGISTER_TEST(OpeningTest);
 #include "OpeningTest.moc"

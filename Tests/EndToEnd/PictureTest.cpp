@@ -9,93 +9,89 @@ class PictureTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void onlyTheNotchIsDrawn_data();
-    void onlyTheNotchIsDrawn();
-    void fitsADenseDisplay_data();
-    void fitsADenseDisplay();
+    void onlyTheNotchIsDrawn_data()
+    {
+        QTest::addColumn<bool>("compositor");
+        QTest::newRow("no compositor") << false;
+        QTest::newRow("compositor") << true;
+    }
+
+    void onlyTheNotchIsDrawn()
+    {
+        QFETCH(bool, compositor);
+        setStage({.compositor = compositor});
+        const QRect closed(640 - 95, 0, 190, 32);
+        const QRect open(640 - 380, 0, 760, 330);
+        const QImage before = stage().x.grab({0, 0, 1280, 450});
+        QVERIFY(stage().run());
+        QTRY_COMPARE(changedArea(before), closed);
+        QVERIFY(stage().x.pixel(Place::notch) == QColor(Qt::black));
+        // The outline is rounded: its corners show the desktop, its body is inset below the flared top.
+        for (const QPoint corner :
+             {closed.bottomLeft(), closed.bottomRight(), QPoint(546, 20), QPoint(733, 20)})
+            QVERIFY2(!stage().covered(corner), qPrintable(u"%1,%2"_s.arg(corner.x()).arg(corner.y())));
+
+        QVERIFY(stage().openByHotKey());
+        QTest::qWait(700); // the spring comes to rest
+        if (!compositor)
+            QTRY_COMPARE(changedArea(before), open);
+        for (const QPoint corner :
+             {open.bottomLeft(), open.bottomRight(), QPoint(262, 200), QPoint(1017, 200)})
+            QVERIFY2(compositor || !stage().covered(corner),
+                     qPrintable(u"%1,%2"_s.arg(corner.x()).arg(corner.y())));
+        QVERIFY(!stage().covered({205, 200}) && !stage().covered({1074, 200}) &&
+                !stage().covered({640, 388}));
+
+        stage().input.hotKey();
+        QVERIFY(stage().waitClosed());
+        QTRY_COMPARE(changedArea(before), closed);
+    }
+
+    void fitsADenseDisplay_data()
+    {
+        QTest::addColumn<bool>("byResource");
+        QTest::newRow("scale factor") << false;
+        QTest::newRow("dots per inch") << true;
+    }
+
+    void fitsADenseDisplay()
+    {
+        QFETCH(bool, byResource);
+        setStage({.size = {2560, 1600}});
+        if (byResource)
+            stage().x.setText(stage().x.root(), "RESOURCE_MANAGER", "Xft.dpi:\t192\n");
+        else
+            stage().session.environment().insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
+        const QImage before = stage().x.grab({0, 0, 2560, 900});
+        QVERIFY(stage().run({}, {}));
+        QTRY_COMPARE(changedArea(before), QRect(1280 - 190, 0, 380, 64));
+        const QJsonObject frame = stage().session.display().value("frame"_L1).toObject();
+        QCOMPARE(frame.value("width"_L1).toDouble(), 1280.0);
+        QCOMPARE(frame.value("height"_L1).toDouble(), 800.0);
+
+        stage().input.move({1280, 40});
+        QTRY_COMPARE(changedArea(before), QRect(1280 - 760, 0, 1520, 660));
+        QVERIFY(!stage().clickReachesBeneath({1280, 670}));
+        QVERIFY(stage().clickReachesBeneath({1280, 684}));
+        stage().input.move({1280, 1500});
+        QTRY_COMPARE(changedArea(before), QRect(1280 - 190, 0, 380, 64));
+    }
 
 private:
-    QRect changedArea(const QImage &before);
-};
-
-/// The smallest rectangle that holds every pixel of the top of the screen that differs from `before`.
-QRect PictureTest::changedArea(const QImage &before)
-{
-    const QImage now = stage().x.grab(before.rect());
-    QRect changed;
-    for (int y = 0; y < now.height(); ++y) {
-        for (int x = 0; x < now.width(); ++x) {
-            if (now.pixel(x, y) != before.pixel(x, y))
-                changed |= QRect(x, y, 1, 1);
+    /// The smallest rectangle that holds every pixel of the top of the screen that differs from `before`.
+    QRect changedArea(const QImage &before)
+    {
+        const QImage now = stage().x.grab(before.rect());
+        QRect changed;
+        for (int y = 0; y < now.height(); ++y) {
+            for (int x = 0; x < now.width(); ++x) {
+                if (now.pixel(x, y) != before.pixel(x, y))
+                    changed |= QRect(x, y, 1, 1);
+            }
         }
+        return changed;
     }
-    return changed;
-}
-
-void PictureTest::onlyTheNotchIsDrawn_data()
-{
-    QTest::addColumn<bool>("compositor");
-    QTest::newRow("no compositor") << false;
-    QTest::newRow("compositor") << true;
-}
-
-void PictureTest::onlyTheNotchIsDrawn()
-{
-    QFETCH(bool, compositor);
-    setStage({.compositor = compositor});
-    const QRect closed(640 - 95, 0, 190, 32);
-    const QRect open(640 - 380, 0, 760, 330);
-    const QImage before = stage().x.grab({0, 0, 1280, 450});
-    QVERIFY(stage().run());
-    QTRY_COMPARE(changedArea(before), closed);
-    QVERIFY(stage().x.pixel(Place::notch) == QColor(Qt::black));
-    // The outline is rounded: its corners show the desktop, its body is inset below the flared top.
-    for (const QPoint corner : {closed.bottomLeft(), closed.bottomRight(), QPoint(546, 20), QPoint(733, 20)})
-        QVERIFY2(!stage().covered(corner), qPrintable(u"%1,%2"_s.arg(corner.x()).arg(corner.y())));
-
-    QVERIFY(stage().openByHotKey());
-    QTest::qWait(700); // the spring comes to rest
-    if (!compositor)
-        QTRY_COMPARE(changedArea(before), open);
-    for (const QPoint corner : {open.bottomLeft(), open.bottomRight(), QPoint(262, 200), QPoint(1017, 200)})
-        QVERIFY2(compositor || !stage().covered(corner),
-                 qPrintable(u"%1,%2"_s.arg(corner.x()).arg(corner.y())));
-    QVERIFY(!stage().covered({205, 200}) && !stage().covered({1074, 200}) && !stage().covered({640, 388}));
-
-    stage().input.hotKey();
-    QVERIFY(stage().waitClosed());
-    QTRY_COMPARE(changedArea(before), closed);
-}
-
-void PictureTest::fitsADenseDisplay_data()
-{
-    QTest::addColumn<bool>("byResource");
-    QTest::newRow("scale factor") << false;
-    QTest::newRow("dots per inch") << true;
-}
-
-void PictureTest::fitsADenseDisplay()
-{
-    QFETCH(bool, byResource);
-    setStage({.size = {2560, 1600}});
-    if (byResource)
-        stage().x.setText(stage().x.root(), "RESOURCE_MANAGER", "Xft.dpi:\t192\n");
-    else
-        stage().session.environment().insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
-    const QImage before = stage().x.grab({0, 0, 2560, 900});
-    QVERIFY(stage().run({}, {}));
-    QTRY_COMPARE(changedArea(before), QRect(1280 - 190, 0, 380, 64));
-    const QJsonObject frame = stage().session.display().value("frame"_L1).toObject();
-    QCOMPARE(frame.value("width"_L1).toDouble(), 1280.0);
-    QCOMPARE(frame.value("height"_L1).toDouble(), 800.0);
-
-    stage().input.move({1280, 40});
-    QTRY_COMPARE(changedArea(before), QRect(1280 - 760, 0, 1520, 660));
-    QVERIFY(!stage().clickReachesBeneath({1280, 670}));
-    QVERIFY(stage().clickReachesBeneath({1280, 684}));
-    stage().input.move({1280, 1500});
-    QTRY_COMPARE(changedArea(before), QRect(1280 - 190, 0, 380, 64));
-}
+};
 
 REGISTER_TEST(PictureTest);
 #include "PictureTest.moc"

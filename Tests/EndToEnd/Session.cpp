@@ -27,8 +27,9 @@ Session::Session()
     : m_environment(QProcessEnvironment::systemEnvironment())
     , m_connection(QString())
 {
-    for (const auto &name : {u"QT_QPA_PLATFORM"_s, u"WAYLAND_DISPLAY"_s, u"XDG_CURRENT_DESKTOP"_s,
-                             u"SESSION_MANAGER"_s, u"LANGUAGE"_s, u"PULSE_SERVER"_s})
+    for (const auto &name :
+         {u"QT_QPA_PLATFORM"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"XDG_CURRENT_DESKTOP"_s,
+          u"SESSION_MANAGER"_s, u"LANGUAGE"_s, u"PULSE_SERVER"_s})
         m_environment.remove(name);
     m_environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     m_environment.insert(u"HOME"_s, m_home.path());
@@ -68,7 +69,10 @@ void Session::setFlag(const QString &domain, const QString &key, bool value)
 
 bool Session::flag(const QString &domain, const QString &key) const
 {
-    return Kestrune::SqliteUserDefaults(defaultsFile(domain)).value<bool>(key).value_or(false);
+    using Kestrune::SqliteUserDefaults;
+    return SqliteUserDefaults(defaultsFile(domain), SqliteUserDefaults::Access::ReadOnly)
+        .value<bool>(key)
+        .value_or(false);
 }
 
 bool Session::start(const QStringList &arguments)

@@ -18,11 +18,9 @@ constexpr QPoint firstOpened(640, 60);  ///< Black as soon as the notch begins t
 constexpr QPoint panel(640, 200);       ///< Inside the open notch only, in the middle of the pane.
 constexpr QPoint panelEdge(640, 324);   ///< Inside the fully open notch only.
 constexpr QPoint away(640, 600);        ///< Outside the open notch and its window.
-constexpr QPoint pin(990, 22);          ///< The pin button in the header.
-constexpr QPoint firstPreset(440, 190); ///< The shortest countdown in the timer's pane.
-constexpr int panelLeft = 260;
-constexpr int panelRight = 1020;
-constexpr int toolRow = 308;
+constexpr QPoint pin(974, 20);          ///< The pin button in the header.
+constexpr QPoint firstPreset(520, 169); ///< The shortest countdown in the timer's pane.
+constexpr QRect toolRow(290, 304, 350, 1);
 
 } // namespace Place
 

@@ -11,73 +11,69 @@ class TimerTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void runsDownInTheWingsAndSoundsOnce();
+    void runsDownInTheWingsAndSoundsOnce()
+    {
+        setStage({});
+        ChildProcess server(stage().session.environment());
+        ChildProcess watcher(stage().session.environment());
+        QVERIFY(startSound(server, watcher));
+        QByteArray events;
+        const auto sounds = [&] {
+            events += watcher.readAllStandardOutput();
+            return events.count("'new' on sink-input");
+        };
+        // A minute of the wall clock passes every second: five minutes are the shortest countdown offered.
+        stage().session.environment().insert(u"LD_PRELOAD"_s, u"/usr/$LIB/faketime/libfaketimeMT.so.1"_s);
+        stage().session.environment().insert(u"FAKETIME"_s, u"+0 x60"_s);
+        stage().session.environment().insert(u"FAKETIME_DONT_FAKE_MONOTONIC"_s, u"1"_s);
+
+        QVERIFY(stage().run() && stage().choose(u"timer"_s));
+        QVERIFY(!stage().covered(wings.topLeft() + QPoint(12, 12)));
+        QVERIFY(stage().openByHover());
+        stage().input.click(Place::firstPreset);
+        QTRY_VERIFY(stage().session.status().value("hasActivity"_L1).toBool());
+        stage().input.move(Place::away);
+        QTRY_VERIFY(stage().looksClosed());
+
+        QTRY_VERIFY(stage().covered(wings.topLeft() + QPoint(12, 12)));
+        QVERIFY(stage().covered(wings.topRight() + QPoint(-12, 12)));
+        QVERIFY(!stage().clickReachesBeneath(wings.topLeft() + QPoint(2, 12)));
+        QVERIFY(stage().clickReachesBeneath(wings.topLeft() + QPoint(-8, 12)));
+        stage().input.move(Place::away);
+        QSet<QByteArray> faces;
+        const auto look = [&] {
+            const QImage now = stage().x.grab(wings);
+            faces.insert(QByteArray(reinterpret_cast<const char *>(now.constBits()), now.sizeInBytes()));
+            return faces.size() >= 3;
+        };
+        QVERIFY(waitUntil(look));
+        QCOMPARE(sounds(), 0);
+
+        QTRY_COMPARE_WITH_TIMEOUT(sounds(), 1, 10000);
+        QTRY_VERIFY(!stage().covered(wings.topLeft() + QPoint(12, 12)));
+        QVERIFY(!stage().session.status().value("hasActivity"_L1).toBool());
+        QTest::qWait(3000);
+        QCOMPARE(sounds(), 1);
+    }
 
 private:
-    bool startSound(ChildProcess &server, ChildProcess &watcher);
+    /// A sound server whose only output is silence, and a watcher of what is played on it.
+    bool startSound(ChildProcess &server, ChildProcess &watcher)
+    {
+        const QString socket = stage().session.environment().value(u"XDG_RUNTIME_DIR"_s) + u"/sound"_s;
+        if (!server.launch(u"pulseaudio"_s,
+                           {u"-n"_s, u"--daemonize=no"_s, u"--exit-idle-time=-1"_s, u"--log-target=stderr"_s,
+                            u"-L"_s, u"module-native-protocol-unix socket=%1 auth-anonymous=1"_s.arg(socket),
+                            u"-L"_s, u"module-null-sink"_s}) ||
+            !waitUntil([&] { return QFile::exists(socket); }))
+            return false;
+        stage().session.environment().insert(u"PULSE_SERVER"_s, u"unix:"_s + socket);
+        watcher.setProcessEnvironment(stage().session.environment());
+        return watcher.launch(u"pactl"_s, {u"subscribe"_s});
+    }
 
     static constexpr QRect wings{640 - 171, 0, 342, 32};
 };
-
-/// A sound server whose only output is silence, and a watcher of what is played on it.
-bool TimerTest::startSound(ChildProcess &server, ChildProcess &watcher)
-{
-    const QString socket = stage().session.environment().value(u"XDG_RUNTIME_DIR"_s) + u"/sound"_s;
-    if (!server.launch(u"pulseaudio"_s,
-                       {u"-n"_s, u"--daemonize=no"_s, u"--exit-idle-time=-1"_s, u"--log-target=stderr"_s,
-                        u"-L"_s, u"module-native-protocol-unix socket=%1 auth-anonymous=1"_s.arg(socket),
-                        u"-L"_s, u"module-null-sink"_s}) ||
-        !waitUntil([&] { return QFile::exists(socket); }))
-        return false;
-    stage().session.environment().insert(u"PULSE_SERVER"_s, u"unix:"_s + socket);
-    watcher.setProcessEnvironment(stage().session.environment());
-    return watcher.launch(u"pactl"_s, {u"subscribe"_s});
-}
-
-void TimerTest::runsDownInTheWingsAndSoundsOnce()
-{
-    setStage({});
-    ChildProcess server(stage().session.environment());
-    ChildProcess watcher(stage().session.environment());
-    QVERIFY(startSound(server, watcher));
-    QByteArray events;
-    const auto sounds = [&] {
-        events += watcher.readAllStandardOutput();
-        return events.count("'new' on sink-input");
-    };
-    // A minute of the wall clock passes every second: five minutes are the shortest countdown offered.
-    stage().session.environment().insert(u"LD_PRELOAD"_s, u"/usr/$LIB/faketime/libfaketimeMT.so.1"_s);
-    stage().session.environment().insert(u"FAKETIME"_s, u"+0 x60"_s);
-    stage().session.environment().insert(u"FAKETIME_DONT_FAKE_MONOTONIC"_s, u"1"_s);
-
-    QVERIFY(stage().run() && stage().choose(u"timer"_s));
-    QVERIFY(!stage().covered(wings.topLeft() + QPoint(12, 12)));
-    QVERIFY(stage().openByHover());
-    stage().input.click(Place::firstPreset);
-    QTRY_VERIFY(stage().session.status().value("hasActivity"_L1).toBool());
-    stage().input.move(Place::away);
-    QTRY_VERIFY(stage().looksClosed());
-
-    QTRY_VERIFY(stage().covered(wings.topLeft() + QPoint(12, 12)));
-    QVERIFY(stage().covered(wings.topRight() + QPoint(-12, 12)));
-    QVERIFY(!stage().clickReachesBeneath(wings.topLeft() + QPoint(2, 12)));
-    QVERIFY(stage().clickReachesBeneath(wings.topLeft() + QPoint(-8, 12)));
-    stage().input.move(Place::away);
-    QSet<QByteArray> faces;
-    const auto look = [&] {
-        const QImage now = stage().x.grab(wings);
-        faces.insert(QByteArray(reinterpret_cast<const char *>(now.constBits()), now.sizeInBytes()));
-        return faces.size() >= 3;
-    };
-    QVERIFY(waitUntil(look));
-    QCOMPARE(sounds(), 0);
-
-    QTRY_COMPARE_WITH_TIMEOUT(sounds(), 1, 10000);
-    QTRY_VERIFY(!stage().covered(wings.topLeft() + QPoint(12, 12)));
-    QVERIFY(!stage().session.status().value("hasActivity"_L1).toBool());
-    QTest::qWait(3000);
-    QCOMPARE(sounds(), 1);
-}
 
 REGISTER_TEST(TimerTest);
 #include "TimerTest.moc"

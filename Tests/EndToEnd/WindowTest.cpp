@@ -9,179 +9,173 @@ class WindowTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void clicksOutsideReachTheWindowBeneath();
-    void clicksFollowAPointerThatJumps();
-    void openingByHoverLeavesTheActiveWindowActive();
+    void clicksOutsideReachTheWindowBeneath()
+    {
+        setStage({});
+        // Hover must not open while the closed notch is being clicked.
+        QVERIFY(stage().run({{"hoverDelay", "60"}}));
+        const QList<QPoint> aroundClosed = {{537, 5}, {537, 30}, {743, 5}, {640, 40}, Place::panel};
+        for (const QPoint place : aroundClosed)
+            QVERIFY2(stage().clickReachesBeneath(place),
+                     qPrintable(u"%1,%2"_s.arg(place.x()).arg(place.y())));
+        const QList<QPoint> insideClosed = {{640, 0}, Place::notch, {541, 10}, {738, 28}, {640, 36}};
+        for (const QPoint place : insideClosed)
+            QVERIFY2(!stage().clickReachesBeneath(place),
+                     qPrintable(u"%1,%2"_s.arg(place.x()).arg(place.y())));
+
+        QVERIFY(stage().openByHotKey());
+        stage().input.move(Place::panel);
+        QTRY_VERIFY(stage().session.display().value("pointerEntered"_L1).toBool());
+        QCOMPARE(stage().session.command({u"open"_s, u"note"_s}).status, 0);
+        const QList<QPoint> insideOpen = {{640, 0}, Place::panel, {255, 100}, {1024, 200}, {640, 335}};
+        for (const QPoint place : insideOpen)
+            QVERIFY2(!stage().clickReachesBeneath(place),
+                     qPrintable(u"%1,%2"_s.arg(place.x()).arg(place.y())));
+        // Right below and beside the panel, where its transparent window still is. Each click comes right
+        // after the pointer left, so the notch is still open.
+        const QList<QPoint> aroundOpen = {{640, 340}, {640, 380}, {249, 100}, {210, 10}, {1031, 100}};
+        for (const QPoint place : aroundOpen) {
+            stage().input.move(Place::panel);
+            QTest::qWait(100);
+            QVERIFY(stage().looksOpen());
+            QVERIFY2(stage().clickReachesBeneath(place),
+                     qPrintable(u"%1,%2"_s.arg(place.x()).arg(place.y())));
+        }
+
+        stage().input.move(Place::away);
+        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().clickReachesBeneath(Place::panel));
+    }
+
+    void clicksFollowAPointerThatJumps()
+    {
+        setStage({});
+        QVERIFY(stage().run({{"hoverDelay", "60"}}));
+        // There is no time between the jump and the press in which the program could look at the pointer.
+        for (int round = 0; round < 10; ++round) {
+            QVERIFY(!stage().clickReachesBeneath(Place::notch));
+            QVERIFY(stage().clickReachesBeneath({640, 42}));
+        }
+    }
+
+    void openingByHoverLeavesTheActiveWindowActive()
+    {
+        setStage({});
+        QVERIFY(stage().run());
+        QVERIFY(stage().openByHover());
+        QVERIFY(stage().beneath.hasFocus());
+        stage().beneath.forget();
+        stage().input.type("abc");
+        QTRY_COMPARE(stage().beneath.keys(), 3);
+        stage().input.move(Place::away);
+        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().beneath.hasFocus());
+    }
+
     void typingIntoTheNote_data() { windowManagers(); }
-    void typingIntoTheNote();
-    void staysAboveOtherWindows_data();
-    void staysAboveOtherWindows();
+    void typingIntoTheNote()
+    {
+        QFETCH(QString, windowManager);
+        setStage({.windowManager = windowManager});
+        QVERIFY(stage().run() && stage().choose(u"note"_s));
+        QVERIFY(stage().openByHover());
+        QVERIFY(stage().beneath.hasFocus());
+        stage().beneath.forget();
+
+        stage().input.click(Place::panel);
+        QTRY_VERIFY(stage().x.focus() != stage().beneath.id());
+        stage().input.type("Milk & 12 eggs");
+        QTRY_COMPARE(stage().session.setting(u"note"_s), u"Milk & 12 eggs"_s);
+        QCOMPARE(stage().beneath.keys(), 0);
+
+        stage().input.move(Place::away);
+        QVERIFY(stage().waitClosed());
+        QTRY_VERIFY(stage().beneath.hasFocus());
+        stage().input.type("x");
+        QTRY_COMPARE(stage().beneath.keys(), 1);
+        QCOMPARE(stage().session.setting(u"note"_s), u"Milk & 12 eggs"_s);
+    }
+
+    void staysAboveOtherWindows_data()
+    {
+        QTest::addColumn<QString>("windowManager");
+        QTest::addColumn<TestWindow::Kind>("kind");
+        QTest::addColumn<QRect>("geometry");
+        for (const auto *windowManager : {"openbox", "xfwm4"}) {
+            const QString name = QString::fromLatin1(windowManager);
+            QTest::addRow("%s, full screen", windowManager)
+                << name << TestWindow::Kind::FullScreen << QRect(0, 0, 1280, 800);
+            QTest::addRow("%s, panel", windowManager)
+                << name << TestWindow::Kind::Dock << QRect(0, 0, 1280, 30);
+        }
+    }
+
+    void staysAboveOtherWindows()
+    {
+        QFETCH(QString, windowManager);
+        QFETCH(TestWindow::Kind, kind);
+        QFETCH(QRect, geometry);
+        setStage({.windowManager = windowManager});
+        QVERIFY(stage().run());
+        TestWindow other(stage().display.name(), kind, geometry, 0xff8040c0);
+        const auto shown = [&](QPoint place) { return stage().x.pixel(place) != other.colour(); };
+        QTRY_VERIFY(shown(Place::notch));
+        QVERIFY(shown({640, 0}));
+        QVERIFY(!shown({530, 0}));
+        QVERIFY(!stage().clickReachesBeneath(Place::notch));
+        QCOMPARE(other.clicks(), 0);
+
+        stage().input.move(Place::away);
+        stage().input.move(Place::notch);
+        QTRY_VERIFY(shown(Place::panelEdge) && stage().session.isOpen());
+        QVERIFY(shown({640, 0}));
+
+        // The same for a notch that comes while the other window is there already.
+        stage().session.program().killNow();
+        QTRY_VERIFY(!shown(Place::notch));
+        stage().input.move(Place::away);
+        QVERIFY(stage().session.start());
+        QTRY_VERIFY(shown(Place::notch));
+        QVERIFY(shown({640, 0}));
+    }
+
     void isInNoListOfWindows_data() { windowManagers(); }
-    void isInNoListOfWindows();
+    void isInNoListOfWindows()
+    {
+        QFETCH(QString, windowManager);
+        setStage({.windowManager = windowManager});
+        const QList<quint32> before = stage().x.clientWindows();
+        QVERIFY(before.contains(stage().beneath.id()));
+        QVERIFY(stage().run());
+        QCOMPARE(stage().x.clientWindows(), before);
+        QVERIFY(stage().openByHotKey());
+        QCOMPARE(stage().x.clientWindows(), before);
+        QCOMPARE(stage().x.property(stage().x.root(), "_NET_CLIENT_LIST_STACKING"), before);
+    }
+
     void showsOnEveryDesktop_data() { windowManagers(); }
-    void showsOnEveryDesktop();
+    void showsOnEveryDesktop()
+    {
+        QFETCH(QString, windowManager);
+        setStage({.windowManager = windowManager});
+        QVERIFY(stage().run());
+        stage().x.ask(stage().x.root(), "_NET_CURRENT_DESKTOP", {1, XCB_CURRENT_TIME});
+        QTRY_COMPARE(stage().x.property(stage().x.root(), "_NET_CURRENT_DESKTOP"), QList<quint32>{1});
+        const QColor desktop = stage().x.pixel(Place::away);
+        QVERIFY(desktop != stage().beneath.colour());
+        QCOMPARE_NE(stage().x.pixel(Place::notch), desktop);
+        stage().input.move(Place::notch);
+        QTRY_VERIFY(stage().x.pixel(Place::panelEdge) != desktop);
+    }
 
 private:
-    static void windowManagers();
+    static void windowManagers()
+    {
+        QTest::addColumn<QString>("windowManager");
+        QTest::newRow("openbox") << u"openbox"_s;
+        QTest::newRow("xfwm4") << u"xfwm4"_s;
+    }
 };
-
-void WindowTest::windowManagers()
-{
-    QTest::addColumn<QString>("windowManager");
-    QTest::newRow("openbox") << u"openbox"_s;
-    QTest::newRow("xfwm4") << u"xfwm4"_s;
-}
-
-void WindowTest::clicksOutsideReachTheWindowBeneath()
-{
-    setStage({});
-    // Hover must not open while the closed notch is being clicked.
-    QVERIFY(stage().run({{"hoverDelay", "60"}}));
-    const QList<QPoint> aroundClosed = {{530, 5}, {530, 30}, {750, 5}, {640, 42}, Place::panel};
-    for (const QPoint place : aroundClosed)
-        QVERIFY2(stage().clickReachesBeneath(place), qPrintable(u"%1,%2"_s.arg(place.x()).arg(place.y())));
-    const QList<QPoint> insideClosed = {{640, 0}, Place::notch, {552, 10}, {728, 28}};
-    for (const QPoint place : insideClosed)
-        QVERIFY2(!stage().clickReachesBeneath(place), qPrintable(u"%1,%2"_s.arg(place.x()).arg(place.y())));
-
-    QVERIFY(stage().openByHotKey());
-    stage().input.move(Place::panel);
-    QTRY_VERIFY(stage().session.display().value("pointerEntered"_L1).toBool());
-    QCOMPARE(stage().session.command({u"open"_s, u"note"_s}).status, 0);
-    const QList<QPoint> insideOpen = {{640, 0}, Place::panel, {300, 100}, {980, 300}};
-    for (const QPoint place : insideOpen)
-        QVERIFY2(!stage().clickReachesBeneath(place), qPrintable(u"%1,%2"_s.arg(place.x()).arg(place.y())));
-    // Right below and beside the panel, where its transparent window still is. Each click comes right
-    // after the pointer left, so the notch is still open.
-    const QList<QPoint> aroundOpen = {{640, 342}, {640, 380}, {246, 100}, {210, 10}, {1034, 100}};
-    for (const QPoint place : aroundOpen) {
-        stage().input.move(Place::panel);
-        QTest::qWait(100);
-        QVERIFY(stage().looksOpen());
-        QVERIFY2(stage().clickReachesBeneath(place), qPrintable(u"%1,%2"_s.arg(place.x()).arg(place.y())));
-    }
-
-    stage().input.move(Place::away);
-    QVERIFY(stage().waitClosed());
-    QVERIFY(stage().clickReachesBeneath(Place::panel));
-}
-
-void WindowTest::clicksFollowAPointerThatJumps()
-{
-    setStage({});
-    QVERIFY(stage().run({{"hoverDelay", "60"}}));
-    // There is no time between the jump and the press in which the program could look at the pointer.
-    for (int round = 0; round < 10; ++round) {
-        QVERIFY(!stage().clickReachesBeneath(Place::notch));
-        QVERIFY(stage().clickReachesBeneath({640, 42}));
-    }
-}
-
-void WindowTest::openingByHoverLeavesTheActiveWindowActive()
-{
-    setStage({});
-    QVERIFY(stage().run());
-    QVERIFY(stage().openByHover());
-    QVERIFY(stage().beneath.hasFocus());
-    stage().beneath.forget();
-    stage().input.type("abc");
-    QTRY_COMPARE(stage().beneath.keys(), 3);
-    stage().input.move(Place::away);
-    QVERIFY(stage().waitClosed());
-    QVERIFY(stage().beneath.hasFocus());
-}
-
-void WindowTest::typingIntoTheNote()
-{
-    QFETCH(QString, windowManager);
-    setStage({.windowManager = windowManager});
-    QVERIFY(stage().run() && stage().choose(u"note"_s));
-    QVERIFY(stage().openByHover());
-    QVERIFY(stage().beneath.hasFocus());
-    stage().beneath.forget();
-
-    stage().input.click(Place::panel);
-    QTRY_VERIFY(stage().x.focus() != stage().beneath.id());
-    stage().input.type("Milk & 12 eggs");
-    QTRY_COMPARE(stage().session.setting(u"note"_s), u"Milk & 12 eggs"_s);
-    QCOMPARE(stage().beneath.keys(), 0);
-
-    stage().input.move(Place::away);
-    QVERIFY(stage().waitClosed());
-    QTRY_VERIFY(stage().beneath.hasFocus());
-    stage().input.type("x");
-    QTRY_COMPARE(stage().beneath.keys(), 1);
-    QCOMPARE(stage().session.setting(u"note"_s), u"Milk & 12 eggs"_s);
-}
-
-void WindowTest::staysAboveOtherWindows_data()
-{
-    QTest::addColumn<QString>("windowManager");
-    QTest::addColumn<TestWindow::Kind>("kind");
-    QTest::addColumn<QRect>("geometry");
-    for (const auto *windowManager : {"openbox", "xfwm4"}) {
-        const QString name = QString::fromLatin1(windowManager);
-        QTest::addRow("%s, full screen", windowManager)
-            << name << TestWindow::Kind::FullScreen << QRect(0, 0, 1280, 800);
-        QTest::addRow("%s, panel", windowManager) << name << TestWindow::Kind::Dock << QRect(0, 0, 1280, 30);
-    }
-}
-
-void WindowTest::staysAboveOtherWindows()
-{
-    QFETCH(QString, windowManager);
-    QFETCH(TestWindow::Kind, kind);
-    QFETCH(QRect, geometry);
-    setStage({.windowManager = windowManager});
-    QVERIFY(stage().run());
-    TestWindow other(stage().display.name(), kind, geometry, 0xff8040c0);
-    const auto shown = [&](QPoint place) { return stage().x.pixel(place) != other.colour(); };
-    QTRY_VERIFY(shown(Place::notch));
-    QVERIFY(shown({640, 0}));
-    QVERIFY(!shown({530, 0}));
-    QVERIFY(!stage().clickReachesBeneath(Place::notch));
-    QCOMPARE(other.clicks(), 0);
-
-    stage().input.move(Place::away);
-    stage().input.move(Place::notch);
-    QTRY_VERIFY(shown(Place::panelEdge) && stage().session.isOpen());
-    QVERIFY(shown({640, 0}));
-
-    // The same for a notch that comes while the other window is there already.
-    stage().session.program().killNow();
-    QTRY_VERIFY(!shown(Place::notch));
-    stage().input.move(Place::away);
-    QVERIFY(stage().session.start());
-    QTRY_VERIFY(shown(Place::notch));
-    QVERIFY(shown({640, 0}));
-}
-
-void WindowTest::isInNoListOfWindows()
-{
-    QFETCH(QString, windowManager);
-    setStage({.windowManager = windowManager});
-    const QList<quint32> before = stage().x.clientWindows();
-    QVERIFY(before.contains(stage().beneath.id()));
-    QVERIFY(stage().run());
-    QCOMPARE(stage().x.clientWindows(), before);
-    QVERIFY(stage().openByHotKey());
-    QCOMPARE(stage().x.clientWindows(), before);
-    QCOMPARE(stage().x.property(stage().x.root(), "_NET_CLIENT_LIST_STACKING"), before);
-}
-
-void WindowTest::showsOnEveryDesktop()
-{
-    QFETCH(QString, windowManager);
-    setStage({.windowManager = windowManager});
-    QVERIFY(stage().run());
-    stage().x.ask(stage().x.root(), "_NET_CURRENT_DESKTOP", {1, XCB_CURRENT_TIME});
-    QTRY_COMPARE(stage().x.property(stage().x.root(), "_NET_CURRENT_DESKTOP"), QList<quint32>{1});
-    const QColor desktop = stage().x.pixel(Place::away);
-    QVERIFY(desktop != stage().beneath.colour());
-    QCOMPARE_NE(stage().x.pixel(Place::notch), desktop);
-    stage().input.move(Place::notch);
-    QTRY_VERIFY(stage().x.pixel(Place::panelEdge) != desktop);
-}
 
 REGISTER_TEST(WindowTest);
 #include "WindowTest.moc"
