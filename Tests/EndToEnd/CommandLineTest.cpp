@@ -47,6 +47,7 @@ private Q_SLOTS:
         QTest::newRow("open tool") << QStringList{u"open"_s, u"timer"_s};
         QTest::newRow("close") << QStringList{u"close"_s};
         QTest::newRow("quit") << QStringList{u"quit"_s};
+        QTest::newRow("status") << QStringList{u"status"_s, u"--json"_s};
     }
 
     void nothingRunning()

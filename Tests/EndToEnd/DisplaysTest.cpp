@@ -13,12 +13,6 @@ class DisplaysTest : public StageTest
 private Q_SLOTS:
     void init() { setStage({.server = VirtualDisplay::Server::Outputs}); }
 
-    /// As many notches as that are on screen, and no window of a former one.
-    bool DisplaysTest::showsNotches(int count)
-    {
-        return stage().session.displays().size() == count && stage().x.countWindows({880, 390}) == count;
-    }
-
     void oneNotchPerDisplayOnRequest()
     {
         QVERIFY(stage().display.plugSecond(true));
@@ -80,7 +74,11 @@ private Q_SLOTS:
     }
 
 private:
-    bool showsNotches(int count);
+    /// As many notches as that are on screen, and no window of a former one.
+    bool showsNotches(int count)
+    {
+        return stage().session.displays().size() == count && stage().x.countWindows({880, 390}) == count;
+    }
 
     static constexpr QPoint secondNotch = {1920, 16};
     static constexpr QPoint secondOpened = {1920, 60};
