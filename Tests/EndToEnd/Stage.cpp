@@ -70,3 +70,14 @@ bool Stage::choose(const QString &tool)
     return session.command({u"open"_s, tool}).status == 0 && session.selected() == tool &&
            session.command({u"close"_s}).status == 0 && waitClosed();
 }
+
+void StageTest::cleanup()
+{
+    if (m_stage && QTest::currentTestFailed()) {
+        const QString name = QString::fromLatin1(QTest::currentTestFunction()) + u'-' +
+                             QString::fromLatin1(QTest::currentDataTag());
+        const auto *screen = m_stage->x.screen();
+        m_stage->x.grab({0, 0, screen->width_in_pixels, screen->height_in_pixels}).save(name + u".png"_s);
+    }
+    m_stage.reset();
+}

@@ -79,7 +79,8 @@ protected:
     Stage &setStage(const Stage::Plan &plan) { return m_stage.emplace(plan); }
 
 private Q_SLOTS:
-    void cleanup() { m_stage.reset(); }
+    /// Ends everything; a failed test leaves a picture of the display in the working directory.
+    void cleanup();
 
 private:
     std::optional<Stage> m_stage;
