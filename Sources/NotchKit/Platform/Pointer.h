@@ -18,6 +18,9 @@ class Pointer
 public:
     virtual ~Pointer() = default;
 
+    /// Where the pointer is now.
+    virtual QPointF location() = 0;
+
     /// Where the pointer is now. A click so short that it began and ended since the previous sample is
     /// reported once as a pressed sample at the place of the press, so that no press is ever missed.
     virtual PointerSample sample() = 0;

@@ -1,0 +1,100 @@
+#include "AppState.h"
+
+#include "NotchKit/NotchStrings.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+namespace Kestrune {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto kSuiteCheck = 3s;
+constexpr auto kLaunchDelay = 1s; // The panels are on screen by then.
+
+QString welcomedKey() { return QStringLiteral("kestrune.welcomed"); }
+
+} // namespace
+
+AppState::AppState(const AppPlatform &app, const NotchPlatform &tools,
+                   const NotchControllerPlatform &controller, const LaunchRequest &request, QObject *parent)
+    : QObject(parent)
+    , m_platform(app)
+    , m_clock(tools.clock)
+    , m_settings(app.defaults)
+    , m_services(m_settings, NotchBranding::fennivar(), tools)
+    , m_controller(m_services, controller)
+    , m_launchAtLogin(app.loginItem.isEnabled())
+{
+    followSettings();
+    checkFennivar();
+    m_watcher = m_clock.every(kSuiteCheck, [this] { checkFennivar(); });
+    schedule(request);
+}
+
+AppState::~AppState() = default;
+
+void AppState::followSettings()
+{
+    for (const auto changed : {&NotchSettings::allDisplaysChanged, &NotchSettings::showWithoutNotchChanged,
+                               &NotchSettings::shortcutEnabledChanged})
+        connect(&m_settings, changed, &m_controller, &NotchController::settingsChanged);
+}
+
+void AppState::schedule(LaunchRequest request)
+{
+    if (!m_platform.defaults.value<bool>(welcomedKey()).value_or(false)) {
+        m_platform.defaults.setObject(welcomedKey(), true);
+        request = {true, NotchTool::home};
+    }
+    if (request.open)
+        m_launch = m_clock.after(kLaunchDelay, [this, tool = request.tool] { showNotch(tool); });
+}
+
+void AppState::checkFennivar()
+{
+    const bool yield = m_platform.applications.isRunning(NotchBranding::suiteIdentifier())
+        && m_platform.suiteDefaults.value<bool>(QStringLiteral("notch.enabled")).value_or(false);
+    m_yieldingToFennivar = yield;
+    if (yield)
+        m_controller.stop();
+    else
+        m_controller.start();
+}
+
+void AppState::showNotch(std::optional<NotchTool> tool, bool takeKeyboard)
+{
+    if (yieldingToFennivar())
+        showPausedAlert();
+    else
+        m_controller.open(tool, takeKeyboard);
+}
+
+void AppState::toggle()
+{
+    if (yieldingToFennivar())
+        showPausedAlert();
+    else
+        m_controller.toggle();
+}
+
+void AppState::showPausedAlert()
+{
+    m_platform.showAlert(
+        notchStrings(QT_TRANSLATE_NOOP("notch", "Fennivar’s notch is on, so Kestrune is paused.")),
+        notchStrings(QT_TRANSLATE_NOOP("notch", "Turn off Notch in Fennivar to use Kestrune.")));
+}
+
+void AppState::setLaunchAtLogin(bool on)
+{
+    if (const auto failure = m_platform.loginItem.setEnabled(on)) {
+        std::printf("Kestrune: launch at login failed: %s\n", qPrintable(*failure));
+        std::fflush(stdout);
+    }
+    m_launchAtLogin = m_platform.loginItem.isEnabled();
+}
+
+} // namespace Kestrune

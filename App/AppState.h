@@ -1,0 +1,84 @@
+#pragma once
+
+#include "LaunchRequest.h"
+#include "NotchKit/NotchController.h"
+#include "NotchKit/NotchSettings.h"
+#include "NotchKit/Platform/LoginItem.h"
+#include "NotchKit/Platform/RunningApplications.h"
+
+#include <QObject>
+#include <QProperty>
+
+#include <functional>
+
+namespace Kestrune {
+
+/// The ports that the application itself calls.
+struct AppPlatform
+{
+    UserDefaults &defaults;      ///< The standard store.
+    UserDefaults &suiteDefaults; ///< The companion suite's own domain, read only.
+    RunningApplications &applications;
+    LoginItem &loginItem;
+    std::function<void(const QString &message, const QString &details)> showAlert;
+};
+
+/// Owns the settings, the hub and the controller for the life of the process, and pauses the notch while
+/// the companion suite runs with its own notch on. Main thread only.
+class AppState : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged BINDABLE bindableLaunchAtLogin)
+    /// The suite's notch is on, so this program keeps its own stopped.
+    Q_PROPERTY(bool yieldingToFennivar READ yieldingToFennivar NOTIFY yieldingToFennivarChanged BINDABLE
+                   bindableYieldingToFennivar)
+
+public:
+    /// Starts the notch unless the suite's is on, and opens it a second later if `request` asks for it or
+    /// this is the very first start.
+    AppState(const AppPlatform &app, const NotchPlatform &tools, const NotchControllerPlatform &controller,
+             const LaunchRequest &request, QObject *parent = nullptr);
+    ~AppState() override;
+
+    NotchSettings &settings() { return m_settings; }
+    NotchServices &services() { return m_services; }
+    NotchController &controller() { return m_controller; }
+
+    bool launchAtLogin() const { return m_launchAtLogin; }
+    QBindable<bool> bindableLaunchAtLogin() { return &m_launchAtLogin; }
+    bool yieldingToFennivar() const { return m_yieldingToFennivar; }
+    QBindable<bool> bindableYieldingToFennivar() { return &m_yieldingToFennivar; }
+
+    /// Opens the notch, or tells the user why it is paused.
+    void showNotch(std::optional<NotchTool> tool, bool takeKeyboard = false);
+
+    /// Opens or closes the notch under the pointer, or tells the user why it is paused.
+    void toggle();
+
+    /// Registers or unregisters the login item; on failure the flag stays as the system reports it.
+    void setLaunchAtLogin(bool on);
+
+Q_SIGNALS:
+    void launchAtLoginChanged();
+    void yieldingToFennivarChanged();
+
+private:
+    void checkFennivar();
+    void schedule(LaunchRequest request);
+    void showPausedAlert();
+    void followSettings();
+
+    AppPlatform m_platform;
+    Clock &m_clock;
+    NotchSettings m_settings;
+    NotchServices m_services;
+    NotchController m_controller;
+    std::unique_ptr<RunningTimer> m_watcher;
+    std::unique_ptr<RunningTimer> m_launch;
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppState, bool, m_launchAtLogin, false,
+                                         &AppState::launchAtLoginChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppState, bool, m_yieldingToFennivar, false,
+                                         &AppState::yieldingToFennivarChanged)
+};
+
+} // namespace Kestrune

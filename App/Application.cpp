@@ -1,0 +1,51 @@
+#include "Application.h"
+
+#include "NotchKit/Views/NotchWindow.h"
+#include "StandardSettings.h"
+
+#include <QCoreApplication>
+
+namespace Kestrune {
+
+Application::Application(const QDBusConnection &bus)
+    : m_bus(bus)
+    , m_defaults(SqliteUserDefaults::path(standardDomain()))
+    , m_suiteDefaults(SqliteUserDefaults::path(NotchBranding::suiteIdentifier()),
+                      SqliteUserDefaults::Access::ReadOnly)
+    , m_loginItem(QCoreApplication::applicationFilePath())
+    , m_applications(bus, {NotchBranding::suiteIdentifier()})
+    , m_displays(m_defaults)
+    , m_panels(m_engine, m_desktop)
+    , m_alert(m_engine)
+{
+    registerViews();
+}
+
+void Application::start(const LaunchRequest &request)
+{
+    m_applications.whenReady([this, request] { run(request); });
+}
+
+void Application::run(const LaunchRequest &request)
+{
+    const AppPlatform app{m_defaults, m_suiteDefaults, m_applications, m_loginItem,
+                          [this](const QString &message, const QString &details) {
+                              m_alert.show(message, details);
+                          }};
+    const NotchPlatform tools{m_clock, m_sounds, m_workspace};
+    const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys};
+    m_state = std::make_unique<AppState>(app, tools, controller, request);
+    m_keys = std::make_unique<SettingsKeys>(makeKeys());
+    m_control = std::make_unique<ControlService>(*m_state, *m_keys);
+    m_bus.registerObject(ControlService::objectPath(), m_control.get(), QDBusConnection::ExportScriptableSlots);
+}
+
+SettingsKeys Application::makeKeys()
+{
+    return {m_state->settings(),
+            standardExtras(
+                m_defaults, m_loginItem, [this] { m_displays.reloadHousings(); },
+                [this](bool on) { m_state->setLaunchAtLogin(on); })};
+}
+
+} // namespace Kestrune

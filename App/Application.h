@@ -1,0 +1,57 @@
+#pragma once
+
+#include "AppState.h"
+#include "ControlService.h"
+#include "Desktop/Defaults/SqliteUserDefaults.h"
+#include "Desktop/Session/AutostartLoginItem.h"
+#include "Desktop/Session/BusApplications.h"
+#include "Desktop/Session/DesktopWorkspace.h"
+#include "Desktop/Sound/CanberraSounds.h"
+#include "Desktop/Time/SystemClock.h"
+#include "Desktop/X11/X11Desktop.h"
+#include "Desktop/X11/X11Displays.h"
+#include "Desktop/X11/X11HotKeys.h"
+#include "Desktop/X11/X11Pointer.h"
+#include "NotchKit/Views/AlertWindow.h"
+#include "PanelFactory.h"
+
+#include <QDBusConnection>
+#include <QQmlEngine>
+
+namespace Kestrune {
+
+/// The whole running program: every adapter, put together. The only place that knows them all.
+class Application
+{
+public:
+    /// Builds the adapters; nothing is on screen yet.
+    explicit Application(const QDBusConnection &bus);
+
+    /// Starts the program proper once it is known which other applications run.
+    void start(const LaunchRequest &request);
+
+private:
+    void run(const LaunchRequest &request);
+    SettingsKeys makeKeys();
+
+    QDBusConnection m_bus;
+    SqliteUserDefaults m_defaults;
+    SqliteUserDefaults m_suiteDefaults;
+    SystemClock m_clock;
+    CanberraSounds m_sounds;
+    DesktopWorkspace m_workspace;
+    AutostartLoginItem m_loginItem;
+    BusApplications m_applications;
+    X11Desktop m_desktop;
+    X11Displays m_displays;
+    X11Pointer m_pointer;
+    X11HotKeys m_hotKeys;
+    QQmlEngine m_engine;
+    PanelFactory m_panels;
+    AlertWindow m_alert;
+    std::unique_ptr<AppState> m_state;
+    std::unique_ptr<SettingsKeys> m_keys;
+    std::unique_ptr<ControlService> m_control;
+};
+
+} // namespace Kestrune

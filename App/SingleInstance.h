@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+
+#include <functional>
+
+namespace Kestrune {
+
+/// Holds the program's name on the session bus, so that a second start finds the first.
+class SingleInstance : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum class Outcome {
+        first,  ///< The name is this process's.
+        second, ///< Another process has it.
+        noBus,  ///< There is no bus, or it does not answer.
+    };
+
+    explicit SingleInstance(const QDBusConnection &bus, QObject *parent = nullptr);
+
+    /// Asks for the name without waiting; `done` is called once.
+    void claim(std::function<void(Outcome)> done);
+
+    /// Hands a start's request to the first process; `done` is called when it has taken it.
+    void handOver(const QString &tool, std::function<void(bool)> done);
+
+private:
+    QDBusConnection m_bus;
+};
+
+} // namespace Kestrune

@@ -1,0 +1,79 @@
+#include "Application.h"
+#include "CommandLine.h"
+#include "SingleInstance.h"
+
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+using namespace Kestrune;
+
+void setUpGraphics()
+{
+    // The notch is small and still: drawing it in memory starts faster and takes a fraction of the memory
+    // of a graphics driver.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+void setUpFont()
+{
+    const QString inter = QStringLiteral("Inter");
+    if (!QFontDatabase::hasFamily(inter))
+        return;
+    QFont font = QGuiApplication::font();
+    font.setFamily(inter);
+    QGuiApplication::setFont(font);
+}
+
+int runProgram(int argc, char *argv[], const QStringList &arguments)
+{
+    setUpGraphics();
+    QGuiApplication application(argc, argv);
+    if (QGuiApplication::platformName() != QLatin1String("xcb")) {
+        std::fputs("Kestrune: it needs an X11 display\n", stderr);
+        return 1;
+    }
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    setUpFont();
+
+    const LaunchRequest request = LaunchRequest::parse(arguments);
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    SingleInstance instance(bus);
+    std::unique_ptr<Application> program;
+    instance.claim([&](SingleInstance::Outcome outcome) {
+        if (outcome == SingleInstance::Outcome::second) {
+            const QString tool = request.tool ? rawValue(*request.tool) : QString();
+            instance.handOver(tool, [](bool taken) { QCoreApplication::exit(taken ? 0 : 1); });
+            return;
+        }
+        if (outcome == SingleInstance::Outcome::noBus)
+            std::fputs("Kestrune: there is no session bus; commands and a second start cannot reach it\n", stderr);
+        program = std::make_unique<Application>(bus);
+        program->start(request);
+    });
+    return QGuiApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Kestrune"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KESTRUNE_VERSION));
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const CommandLine command = CommandLine::parse(arguments);
+    if (command.verb == CommandLine::Verb::start)
+        return runProgram(argc, argv, arguments);
+    const QCoreApplication application(argc, argv);
+    return runCommand(command);
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "NotchKit/Platform/LoginItem.h"
+
+namespace Kestrune {
+
+/// The login item as an autostart entry in the user's configuration folder.
+class AutostartLoginItem : public LoginItem
+{
+public:
+    /// `executable`: absolute path of the program that the entry starts.
+    explicit AutostartLoginItem(const QString &executable);
+
+    bool isEnabled() const override;
+    std::optional<QString> setEnabled(bool enabled) override;
+
+private:
+    QString m_executable;
+    QString m_path;
+};
+
+} // namespace Kestrune

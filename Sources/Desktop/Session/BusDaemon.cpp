@@ -1,0 +1,32 @@
+#include "BusDaemon.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+namespace Kestrune::BusDaemon {
+
+namespace {
+
+constexpr int kTimeout = 2000; // ms
+
+}
+
+void call(const QDBusConnection &bus, const QString &method, const QVariantList &arguments, QObject *context,
+          std::function<void(const QVariant &)> done)
+{
+    const QString daemon = QStringLiteral("org.freedesktop.DBus");
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        daemon, QStringLiteral("/org/freedesktop/DBus"), daemon, method);
+    message.setArguments(arguments);
+    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(message, kTimeout), context);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context,
+                     [watcher, done = std::move(done)] {
+                         const QDBusMessage reply = watcher->reply();
+                         const bool answered = reply.type() == QDBusMessage::ReplyMessage;
+                         done(answered ? reply.arguments().value(0) : QVariant());
+                         watcher->deleteLater();
+                     });
+}
+
+} // namespace Kestrune::BusDaemon

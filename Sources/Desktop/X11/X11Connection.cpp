@@ -1,0 +1,33 @@
+#include "X11Connection.h"
+
+#include <QGuiApplication>
+#include <QHash>
+
+namespace Kestrune::X11 {
+
+xcb_connection_t *connection()
+{
+    const auto *x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+    return x11 ? x11->connection() : nullptr;
+}
+
+xcb_window_t root()
+{
+    static const xcb_window_t window = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+    return window;
+}
+
+xcb_atom_t atom(const QByteArray &name)
+{
+    static QHash<QByteArray, xcb_atom_t> known;
+    const auto found = known.constFind(name);
+    if (found != known.cend())
+        return *found;
+    const auto cookie = xcb_intern_atom(connection(), false, static_cast<uint16_t>(name.size()), name.data());
+    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection(), cookie, nullptr));
+    const xcb_atom_t value = reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+    known.insert(name, value);
+    return value;
+}
+
+} // namespace Kestrune::X11

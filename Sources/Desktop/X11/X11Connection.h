@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <cstdlib>
+#include <memory>
+
+#include <xcb/xcb.h>
+
+namespace Kestrune::X11 {
+
+/// The connection that Qt's own windows use; null when Qt does not run on X11.
+xcb_connection_t *connection();
+
+/// The root window of the default screen.
+xcb_window_t root();
+
+/// The atom of that name; asked of the server once and remembered.
+xcb_atom_t atom(const QByteArray &name);
+
+struct FreeReply
+{
+    void operator()(void *reply) const { std::free(reply); } // NOLINT(bugprone-*): xcb allocates with malloc.
+};
+
+/// A reply or an error, freed with the object.
+template <typename Type>
+using Reply = std::unique_ptr<Type, FreeReply>;
+
+} // namespace Kestrune::X11

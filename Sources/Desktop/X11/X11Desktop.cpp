@@ -1,0 +1,92 @@
+#include "X11Desktop.h"
+
+#include "X11Connection.h"
+
+#include <QCoreApplication>
+
+#include <xcb/xfixes.h>
+
+namespace Kestrune {
+
+namespace {
+
+bool isStackingProperty(xcb_atom_t atom)
+{
+    return atom == X11::atom("_NET_CLIENT_LIST_STACKING") || atom == X11::atom("_NET_ACTIVE_WINDOW")
+        || atom == X11::atom("_NET_CURRENT_DESKTOP");
+}
+
+/// The ancestor of `window` (or itself) that is a child of the root window.
+std::optional<xcb_window_t> frameOf(xcb_window_t window)
+{
+    for (;;) {
+        const X11::Reply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
+            X11::connection(), xcb_query_tree(X11::connection(), window), nullptr));
+        if (!tree)
+            return std::nullopt;
+        if (tree->parent == tree->root)
+            return window;
+        window = tree->parent;
+    }
+}
+
+} // namespace
+
+X11Desktop::X11Desktop(QObject *parent)
+    : QObject(parent)
+    , m_compositorSelection(X11::atom("_NET_WM_CM_S0"))
+{
+    const auto *fixes = xcb_get_extension_data(X11::connection(), &xcb_xfixes_id);
+    if (fixes && fixes->present) {
+        m_selectionEvent = fixes->first_event + XCB_XFIXES_SELECTION_NOTIFY;
+        xcb_xfixes_select_selection_input(X11::connection(), X11::root(), m_compositorSelection,
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER
+                                              | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY
+                                              | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+    }
+    QCoreApplication::instance()->installNativeEventFilter(this);
+    checkCompositor();
+}
+
+X11Desktop::~X11Desktop() = default;
+
+void X11Desktop::checkCompositor()
+{
+    const X11::Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
+        X11::connection(), xcb_get_selection_owner(X11::connection(), m_compositorSelection), nullptr));
+    const bool now = reply && reply->owner != XCB_WINDOW_NONE;
+    if (std::exchange(m_hasCompositor, now) != now)
+        Q_EMIT compositorChanged();
+}
+
+bool X11Desktop::nativeEventFilter(const QByteArray &, void *message, qintptr *)
+{
+    const auto *event = static_cast<const xcb_generic_event_t *>(message);
+    const auto type = event->response_type & 0x7f;
+    if (type == XCB_PROPERTY_NOTIFY) {
+        const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(event);
+        if (change->window == X11::root() && isStackingProperty(change->atom))
+            Q_EMIT stackingChanged();
+    } else if (m_selectionEvent != 0 && type == m_selectionEvent) {
+        const auto *change = reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event);
+        if (change->selection == m_compositorSelection)
+            checkCompositor();
+    }
+    return false;
+}
+
+std::optional<xcb_window_t> X11Desktop::topmostManagedFrame()
+{
+    constexpr uint32_t most = 4096;
+    const auto cookie = xcb_get_property(X11::connection(), false, X11::root(),
+                                         X11::atom("_NET_CLIENT_LIST_STACKING"), XCB_ATOM_WINDOW, 0, most);
+    const X11::Reply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(X11::connection(), cookie, nullptr));
+    const int count = reply ? xcb_get_property_value_length(reply.get()) / int(sizeof(xcb_window_t)) : 0;
+    if (count == 0)
+        return std::nullopt;
+    const auto *windows = static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
+    return frameOf(windows[count - 1]);
+}
+
+} // namespace Kestrune

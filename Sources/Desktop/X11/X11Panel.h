@@ -1,0 +1,60 @@
+#pragma once
+
+#include "NotchKit/Platform/NotchPanels.h"
+
+#include <QObject>
+#include <QPainterPath>
+#include <QWindow>
+
+#include <memory>
+
+#include <xcb/xcb.h>
+
+namespace Kestrune {
+
+class X11Desktop;
+
+/// A notch's host panel: an override-redirect window, which no window manager moves, lists, decorates or
+/// focuses. With a compositor its surroundings are transparent; without one its bounding shape follows the
+/// notch's outline.
+class X11Panel : public QObject, public NotchPanel
+{
+    Q_OBJECT
+
+public:
+    /// Takes `window`, which has not been shown yet, and places it at `frame`.
+    X11Panel(std::unique_ptr<QWindow> window, const X11Desktop &desktop, const QRectF &frame);
+    ~X11Panel() override;
+
+    void setFrame(const QRectF &frame) override;
+    void orderFront() override;
+    void orderOut() override;
+    void setHitArea(const QRectF &area) override;
+    void makeKey() override;
+    void resignKey() override;
+
+    /// The notch as it is drawn now, in points from the panel's top left, y growing downwards.
+    void setOutline(const QPainterPath &outline);
+
+private:
+    xcb_window_t id() const { return static_cast<xcb_window_t>(m_window->winId()); }
+    QRect pixelsInPanel(const QRectF &points) const;
+    void announceType() const;
+    void applyHitArea();
+    void applyOutline();
+    void placeHitWindow();
+    void restack();
+
+    const X11Desktop &m_desktop;
+    std::unique_ptr<QWindow> m_window;
+    QRectF m_frame;
+    QRectF m_hitArea;
+    QPainterPath m_outline;
+    /// An invisible window beneath the panel. Without a compositor the panel is no larger than what it
+    /// draws, and this one takes the clicks in the margin around it.
+    xcb_window_t m_hitWindow = XCB_WINDOW_NONE;
+    xcb_window_t m_focusBefore = XCB_WINDOW_NONE; ///< Who had the keyboard when the panel took it.
+    bool m_shaped = false;
+};
+
+} // namespace Kestrune

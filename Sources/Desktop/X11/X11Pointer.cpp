@@ -1,0 +1,84 @@
+#include "X11Pointer.h"
+
+#include "X11Connection.h"
+#include "X11Coordinates.h"
+
+#include <QCoreApplication>
+
+#include <array>
+
+#include <xcb/xinput.h>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr uint32_t kPrimaryButton = 1;
+
+/// Asks the server for raw button presses from every device.
+void selectRawPresses()
+{
+    struct
+    {
+        xcb_input_event_mask_t head;
+        uint32_t mask;
+    } selection{};
+    selection.head.deviceid = XCB_INPUT_DEVICE_ALL_MASTER;
+    selection.head.mask_len = 1;
+    selection.mask = XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS;
+    xcb_input_xi_select_events(X11::connection(), X11::root(), 1, &selection.head);
+    xcb_flush(X11::connection());
+}
+
+} // namespace
+
+X11Pointer::X11Pointer()
+{
+    const auto *extension = xcb_get_extension_data(X11::connection(), &xcb_input_id);
+    if (!extension || !extension->present)
+        return;
+    m_inputOpcode = extension->major_opcode;
+    selectRawPresses();
+    QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+X11Pointer::~X11Pointer() = default;
+
+bool X11Pointer::nativeEventFilter(const QByteArray &, void *message, qintptr *)
+{
+    if (isRawPress(static_cast<const xcb_generic_event_t *>(message)) && !m_press)
+        m_press = query().location;
+    return false;
+}
+
+bool X11Pointer::isRawPress(const xcb_generic_event_t *event) const
+{
+    if ((event->response_type & 0x7f) != XCB_GE_GENERIC)
+        return false;
+    const auto *raw = reinterpret_cast<const xcb_input_raw_button_press_event_t *>(event);
+    return raw->extension == m_inputOpcode && raw->event_type == XCB_INPUT_RAW_BUTTON_PRESS
+        && raw->detail == kPrimaryButton;
+}
+
+PointerSample X11Pointer::query() const
+{
+    const auto cookie = xcb_query_pointer(X11::connection(), X11::root());
+    const X11::Reply<xcb_query_pointer_reply_t> reply(
+        xcb_query_pointer_reply(X11::connection(), cookie, nullptr));
+    if (!reply)
+        return {};
+    return {X11::toPoints(reply->root_x, reply->root_y), (reply->mask & XCB_BUTTON_MASK_1) != 0};
+}
+
+QPointF X11Pointer::location() { return query().location; }
+
+PointerSample X11Pointer::sample()
+{
+    PointerSample sample = query();
+    const auto press = std::exchange(m_press, std::nullopt);
+    if (press && !sample.primaryDown)
+        sample = {*press, true};
+    return sample;
+}
+
+} // namespace Kestrune

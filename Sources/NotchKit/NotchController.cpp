@@ -1,0 +1,325 @@
+#include "NotchController.h"
+
+#include "GlobalHotkey.h"
+
+#include <algorithm>
+
+namespace Kestrune {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto kPollInterval = 33ms; // 1/30 s
+constexpr auto kLeaveDelay = 250ms;
+constexpr quint32 kShortcutKey = 45;                       // N
+constexpr quint32 kShortcutModifiers = 256 + 2048 + 4096; // command, option, control
+
+/// Unlike QRectF::contains, the upper edges do not count, so that neighbouring displays never both match.
+bool holds(const QRectF &rect, const QPointF &point)
+{
+    return point.x() >= rect.left() && point.x() < rect.right() && point.y() >= rect.top()
+        && point.y() < rect.bottom();
+}
+
+} // namespace
+
+NotchController::NotchController(NotchServices &services, const NotchControllerPlatform &platform,
+                                 QObject *parent)
+    : QObject(parent)
+    , m_services(services)
+    , m_platform(platform)
+{
+    m_services.collapseAll = [this] { collapseAll(); };
+}
+
+NotchController::~NotchController()
+{
+    stop();
+    m_services.collapseAll = nullptr;
+}
+
+void NotchController::start()
+{
+    if (isRunning())
+        return;
+    m_poller = m_platform.clock.every(kPollInterval, [this] { poll(); });
+    rebuildPanels();
+    m_services.start();
+    m_screenObserver = connect(&m_platform.displays, &Displays::changed, this, &NotchController::rebuildPanels);
+    applyShortcut();
+}
+
+void NotchController::stop()
+{
+    if (!isRunning())
+        return;
+    m_poller.reset();
+    disconnect(m_screenObserver);
+    m_hotkey.reset();
+    collapseAll();
+    m_services.stop();
+    for (Notch &notch : m_notches)
+        notch.panel->orderOut();
+    m_notches.clear();
+    m_hoverStart.clear();
+    m_leaveStart.clear();
+}
+
+void NotchController::settingsChanged()
+{
+    if (!isRunning())
+        return;
+    rebuildPanels();
+    applyShortcut();
+}
+
+void NotchController::applyShortcut()
+{
+    m_hotkey.reset();
+    if (m_services.settings()->shortcutEnabled()) {
+        m_hotkey = GlobalHotkey::make(m_platform.hotKeys, kShortcutKey, kShortcutModifiers,
+                                      [this] { toggle(); });
+    }
+}
+
+QList<Display> NotchController::wantedScreens() const
+{
+    const QList<Display> all = m_platform.displays.all();
+    const auto hasHousing = [](const Display &display) { return display.safeAreaTop > 0; };
+    QList<Display> candidates;
+    if (m_services.settings()->allDisplays()) {
+        candidates = all;
+    } else if (const auto builtIn = std::ranges::find_if(all, hasHousing); builtIn != all.end()) {
+        candidates = {*builtIn};
+    } else if (const auto main = m_platform.displays.main()) {
+        candidates = {*main};
+    }
+    if (!m_services.settings()->showWithoutNotch())
+        candidates.removeIf([&](const Display &display) { return !hasHousing(display); });
+    return candidates;
+}
+
+void NotchController::rebuildPanels()
+{
+    const QList<Display> wanted = wantedScreens();
+    const auto gone = [&](const Notch &notch) {
+        return std::ranges::none_of(
+            wanted, [&](const Display &screen) { return screen.name == notch.screen.name; });
+    };
+    for (Notch &notch : m_notches) {
+        if (!gone(notch))
+            continue;
+        set(notch, false);
+        notch.panel->orderOut();
+    }
+    std::erase_if(m_notches, gone);
+    for (const Display &screen : wanted) {
+        if (Notch *notch = find(screen.name))
+            updateNotch(*notch, screen);
+        else
+            addNotch(screen);
+    }
+}
+
+void NotchController::updateNotch(Notch &notch, const Display &screen)
+{
+    notch.screen = screen;
+    notch.model->setGeometry(NotchGeometry(screen));
+    notch.panel->setFrame(notch.model->geometry().panelFrame());
+    notch.hitArea = {};
+    updateHitArea(notch);
+}
+
+void NotchController::addNotch(const Display &screen)
+{
+    auto model = std::make_unique<NotchScreenModel>(NotchGeometry(screen));
+    model->setSelected(firstTool());
+    auto panel = m_platform.panels.create(model->geometry().panelFrame(), *model, m_services);
+    connect(model.get(), &NotchScreenModel::keyboardWanted, this, [panel = panel.get()] { panel->makeKey(); });
+    connect(model.get(), &NotchScreenModel::closeWanted, this, [this, name = screen.name] {
+        if (Notch *notch = find(name))
+            set(*notch, false);
+    });
+    m_notches.push_back({screen, std::move(model), std::move(panel), {}});
+    updateHitArea(m_notches.back());
+    m_notches.back().panel->orderFront();
+}
+
+NotchTool NotchController::firstTool() const
+{
+    const NotchTools tools = m_services.offeredTools();
+    return tools.isEmpty() ? NotchTool::note : tools.constFirst();
+}
+
+NotchController::Notch *NotchController::find(const QString &name)
+{
+    const auto found =
+        std::ranges::find_if(m_notches, [&](const Notch &notch) { return notch.screen.name == name; });
+    return found == m_notches.end() ? nullptr : &*found;
+}
+
+NotchController::Notch *NotchController::mainNotch()
+{
+    const auto main = m_platform.displays.main();
+    Notch *notch = main ? find(main->name) : nullptr;
+    if (notch || m_notches.empty())
+        return notch;
+    return &m_notches.front();
+}
+
+NotchController::Notch *NotchController::notchUnderPointer()
+{
+    const QPointF location = m_platform.pointer.location();
+    for (const Display &screen : m_platform.displays.all()) {
+        if (!holds(screen.frame, location))
+            continue;
+        if (Notch *notch = find(screen.name))
+            return notch;
+    }
+    return mainNotch();
+}
+
+void NotchController::toggle()
+{
+    Notch *notch = notchUnderPointer();
+    if (!notch)
+        return;
+    set(*notch, !notch->model->expanded());
+    if (notch->model->expanded())
+        notch->panel->makeKey();
+}
+
+void NotchController::open(std::optional<NotchTool> tool, bool takeKeyboard)
+{
+    Notch *notch = mainNotch();
+    if (!notch)
+        return;
+    select(*notch->model, tool);
+    set(*notch, true);
+    if (takeKeyboard)
+        notch->panel->makeKey();
+}
+
+void NotchController::select(NotchScreenModel &model, std::optional<NotchTool> tool)
+{
+    if (!tool || !m_services.offeredTools().contains(*tool) || model.selected() == *tool)
+        return;
+    model.setSelected(*tool);
+    if (model.expanded())
+        m_services.show(*tool);
+}
+
+void NotchController::collapseAll()
+{
+    for (Notch &notch : m_notches)
+        set(notch, false);
+}
+
+void NotchController::set(Notch &notch, bool expanded)
+{
+    NotchScreenModel &model = *notch.model;
+    if (model.expanded() == expanded)
+        return;
+    if (expanded && !m_services.offeredTools().contains(model.selected()))
+        model.setSelected(firstTool());
+    model.setExpanded(expanded);
+    model.setPointerEntered(false);
+    updateHitArea(notch);
+    if (expanded)
+        opened(notch);
+    else
+        closed(notch);
+}
+
+void NotchController::opened(const Notch &notch)
+{
+    m_services.setAnyExpanded(true);
+    m_services.show(notch.model->selected());
+}
+
+void NotchController::closed(Notch &notch)
+{
+    notch.panel->resignKey();
+    const auto other =
+        std::ranges::find_if(m_notches, [](const Notch &candidate) { return candidate.model->expanded(); });
+    m_services.setAnyExpanded(other != m_notches.end());
+    m_services.show(other == m_notches.end() ? std::nullopt : std::optional(other->model->selected()));
+}
+
+void NotchController::updateHitArea(Notch &notch)
+{
+    const QRectF area = notch.model->geometry().hitRect(notch.model->expanded(), m_services.hasActivity());
+    if (area == notch.hitArea)
+        return;
+    notch.hitArea = area;
+    notch.panel->setHitArea(area);
+}
+
+void NotchController::poll()
+{
+    const PointerSample pointer = m_platform.pointer.sample();
+    const bool pressed = pointer.primaryDown;
+    const bool freshPress = pressed && !m_wasPressed;
+    m_wasPressed = pressed;
+    for (Notch &notch : m_notches) {
+        updateHitArea(notch);
+        const bool inside = holds(notch.hitArea, pointer.location);
+        if (notch.model->expanded())
+            pollOpen(notch, inside, pressed, freshPress);
+        else
+            pollClosed(notch, inside, pressed, freshPress);
+    }
+}
+
+void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress)
+{
+    NotchScreenModel &model = *notch.model;
+    const QString &key = notch.screen.name;
+    if (inside)
+        model.setPointerEntered(true);
+    if (model.pinned())
+        return;
+    if (!model.pointerEntered()) {
+        if (freshPress)
+            set(notch, false);
+        return;
+    }
+    if (pressed || inside || model.dropTargeted()) {
+        m_leaveStart.remove(key);
+        return;
+    }
+    const Moment now = m_platform.clock.uptime();
+    const auto left = m_leaveStart.constFind(key);
+    if (left == m_leaveStart.cend()) {
+        m_leaveStart.insert(key, now);
+    } else if (now - *left > kLeaveDelay) {
+        m_leaveStart.remove(key);
+        set(notch, false);
+    }
+}
+
+void NotchController::pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress)
+{
+    const QString &key = notch.screen.name;
+    if (m_services.settings()->openMode() == NotchOpenMode::click) {
+        if (inside && freshPress)
+            set(notch, true);
+        return;
+    }
+    if (pressed || !inside) {
+        m_hoverStart.remove(key);
+        return;
+    }
+    const Moment now = m_platform.clock.uptime();
+    const auto rested = m_hoverStart.constFind(key);
+    const Moment since = rested == m_hoverStart.cend() ? now : *rested;
+    if (rested == m_hoverStart.cend())
+        m_hoverStart.insert(key, now);
+    if (now - since >= std::chrono::duration<double>(m_services.settings()->hoverDelay())) {
+        m_hoverStart.remove(key);
+        set(notch, true);
+    }
+}
+
+} // namespace Kestrune

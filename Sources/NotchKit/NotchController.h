@@ -1,0 +1,107 @@
+#pragma once
+
+#include "NotchKit/Platform/Clock.h"
+#include "NotchKit/Platform/Displays.h"
+#include "NotchKit/Platform/NotchPanels.h"
+#include "NotchKit/Platform/Pointer.h"
+#include "NotchScreenModel.h"
+#include "NotchServices.h"
+
+#include <QHash>
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace Kestrune {
+
+class GlobalHotkey;
+class HotKeys;
+
+/// The ports that the controller itself calls.
+struct NotchControllerPlatform
+{
+    Clock &clock;
+    Displays &displays;
+    Pointer &pointer;
+    NotchPanels &panels;
+    HotKeys &hotKeys;
+};
+
+/// Keeps one panel and one screen model per wanted display, and opens and closes them: it polls the
+/// pointer thirty times a second and owns the hot key. Main thread only.
+class NotchController : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// One display's notch.
+    struct Notch
+    {
+        Display screen;
+        std::unique_ptr<NotchScreenModel> model;
+        std::unique_ptr<NotchPanel> panel;
+        QRectF hitArea; ///< What the panel was told last.
+    };
+    using Notches = std::vector<Notch>;
+
+    /// Nothing starts yet. The services and the ports outlive the controller.
+    NotchController(NotchServices &services, const NotchControllerPlatform &platform,
+                    QObject *parent = nullptr);
+    ~NotchController() override;
+
+    bool isRunning() const { return m_poller != nullptr; }
+    const Notches &notches() const { return m_notches; }
+    bool hasHotkey() const { return m_hotkey != nullptr; }
+
+    void start();
+    void stop();
+
+    /// The choice of displays or the hot key may have changed.
+    void settingsChanged();
+
+    /// Opens or closes the notch of the display under the pointer, else the main display's, else the first.
+    /// A notch opened this way takes the keyboard.
+    void toggle();
+
+    /// Opens the main display's notch, else the first, on `tool` if it is offered, else on what it showed
+    /// last. `takeKeyboard` is for a user who asks for the notch with a key.
+    void open(std::optional<NotchTool> tool, bool takeKeyboard = false);
+
+    /// Closes every open notch, pinned ones included.
+    void collapseAll();
+
+private:
+    using Moment = std::chrono::nanoseconds;
+
+    QList<Display> wantedScreens() const;
+    void rebuildPanels();
+    void addNotch(const Display &screen);
+    void updateNotch(Notch &notch, const Display &screen);
+    NotchTool firstTool() const;
+    Notch *find(const QString &name);
+    Notch *mainNotch();
+    Notch *notchUnderPointer();
+    void applyShortcut();
+    void select(NotchScreenModel &model, std::optional<NotchTool> tool);
+    void set(Notch &notch, bool expanded);
+    void opened(const Notch &notch);
+    void closed(Notch &notch);
+    void updateHitArea(Notch &notch);
+    void poll();
+    void pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress);
+    void pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress);
+
+    NotchServices &m_services;
+    NotchControllerPlatform m_platform;
+    Notches m_notches;
+    std::unique_ptr<RunningTimer> m_poller;
+    QHash<QString, Moment> m_hoverStart; ///< When the pointer began to rest over a closed notch.
+    QHash<QString, Moment> m_leaveStart; ///< When the pointer left an open notch.
+    bool m_wasPressed = false;
+    std::unique_ptr<GlobalHotkey> m_hotkey;
+    QMetaObject::Connection m_screenObserver;
+};
+
+} // namespace Kestrune

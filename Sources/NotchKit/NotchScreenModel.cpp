@@ -1,0 +1,10 @@
+#include "NotchScreenModel.h"
+
+namespace Kestrune {
+
+NotchScreenModel::NotchScreenModel(const NotchGeometry &geometry, QObject *parent)
+    : QObject(parent)
+    , m_geometry(geometry)
+{}
+
+} // namespace Kestrune

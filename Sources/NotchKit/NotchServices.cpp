@@ -1,0 +1,124 @@
+#include "NotchServices.h"
+
+#include "NotchKit/Platform/Workspace.h"
+#include "Tools/TimerModel.h"
+
+#include <algorithm>
+
+namespace Kestrune {
+
+using namespace std::chrono_literals;
+
+template <typename Model>
+Model *NotchServices::add(std::unique_ptr<Model> model)
+{
+    Model *added = model.get();
+    m_models.push_back(std::move(model));
+    return added;
+}
+
+NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &branding,
+                             const NotchPlatform &platform, QObject *parent)
+    : QObject(parent)
+    , m_settings(settings)
+    , m_branding(branding)
+    , m_clock(platform.clock)
+    , m_workspace(platform.workspace)
+    , m_timer(add(std::make_unique<TimerModel>(platform.clock, platform.sounds)))
+    , m_now(platform.clock.now())
+{
+    m_activityTool.setBinding([this] { return computeActivityTool(); });
+    m_hasActivity.setBinding([this] { return m_activityTool.value().has_value(); });
+    // A countdown that starts between two ticks would otherwise show one second too many.
+    connect(m_timer, &TimerModel::endDateChanged, this, &NotchServices::refreshNow);
+}
+
+NotchServices::~NotchServices() { stop(); }
+
+void NotchServices::start()
+{
+    if (m_clockTimer)
+        return;
+    refreshNow();
+    m_clockTimer = m_clock.every(1s, [this] { tick(); });
+    m_fastTimer = m_clock.every(50ms, [this] { fastTick(); });
+    for (const auto &model : m_models)
+        model->hubStarted();
+}
+
+void NotchServices::stop()
+{
+    if (!m_clockTimer)
+        return;
+    m_clockTimer.reset();
+    m_fastTimer.reset();
+    for (const auto &model : m_models)
+        model->hubStopped();
+}
+
+void NotchServices::show(std::optional<NotchTool> tool)
+{
+    m_visibleTool = tool;
+    for (const auto &model : m_models)
+        model->visibleToolChanged(tool);
+}
+
+NotchTools NotchServices::offeredTools() const
+{
+    NotchTools offered;
+    std::ranges::copy_if(m_settings.tools(), std::back_inserter(offered), isBuilt<NotchTool>);
+    return offered;
+}
+
+bool NotchServices::opensWings(const ToolModel &model) const
+{
+    if (!m_settings.isEnabled(model.tool()))
+        return false;
+    switch (model.activity()) {
+    case ToolModel::Activity::announcement:
+        return m_settings.announceScreenshots();
+    case ToolModel::Activity::live:
+        return m_settings.liveActivities();
+    case ToolModel::Activity::held:
+    case ToolModel::Activity::none:
+        break;
+    }
+    return false;
+}
+
+bool NotchServices::joinsWings(const ToolModel &model) const
+{
+    const bool held = model.activity() == ToolModel::Activity::held;
+    return opensWings(model) || (held && m_settings.liveActivities() && m_settings.isEnabled(model.tool()));
+}
+
+std::optional<NotchTool> NotchServices::computeActivityTool() const
+{
+    const auto opens = [this](const auto &model) { return opensWings(*model); };
+    if (std::ranges::none_of(m_models, opens))
+        return std::nullopt;
+    const auto shown =
+        std::ranges::find_if(m_models, [this](const auto &model) { return joinsWings(*model); });
+    return (*shown)->tool();
+}
+
+void NotchServices::openUrl(const QUrl &url) { m_workspace.open(url); }
+
+void NotchServices::refreshNow() { m_now = m_clock.now(); }
+
+void NotchServices::tick()
+{
+    refreshNow();
+    const ClockTick tick{now(), now().toSecsSinceEpoch(), anyExpanded(), visibleTool()};
+    for (const auto &model : m_models)
+        model->tick(tick);
+}
+
+void NotchServices::fastTick()
+{
+    ++m_ticks;
+    for (const auto &model : m_models)
+        model->fastTick(m_ticks);
+}
+
+} // namespace Kestrune

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "NotchBranding.h"
+#include "NotchKit/Platform/Clock.h"
+#include "NotchSettings.h"
+#include "ToolModel.h"
+
+#include <QProperty>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace Kestrune {
+
+class SoundPlayer;
+class TimerModel;
+class Workspace;
+
+/// The ports that the tools are built on.
+struct NotchPlatform
+{
+    Clock &clock;
+    SoundPlayer &sounds;
+    Workspace &workspace;
+};
+
+/// The hub: owns every tool model and the two clocks that drive them, and knows which pane is on screen.
+/// The views reach the tools through it. A new tool adds one member below and one line in the constructor.
+/// Main thread only.
+class NotchServices : public QObject
+{
+    Q_OBJECT
+    Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
+    Q_PROPERTY(Kestrune::NotchSettings *settings READ settings CONSTANT)
+    Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
+    /// The current time, updated every second while the hub runs.
+    Q_PROPERTY(QDateTime now READ now NOTIFY nowChanged BINDABLE bindableNow)
+    /// At least one notch is open.
+    Q_PROPERTY(bool anyExpanded READ anyExpanded NOTIFY anyExpandedChanged BINDABLE bindableAnyExpanded)
+    /// The closed notch shows an activity in its wings.
+    Q_PROPERTY(bool hasActivity READ hasActivity NOTIFY hasActivityChanged BINDABLE bindableHasActivity)
+
+public:
+    using Action = std::function<void()>;
+
+    NotchServices(NotchSettings &settings, const NotchBranding &branding, const NotchPlatform &platform,
+                  QObject *parent = nullptr);
+    ~NotchServices() override;
+
+    NotchSettings *settings() const { return &m_settings; }
+    const NotchBranding &branding() const { return m_branding; }
+    TimerModel *timer() const { return m_timer; }
+
+    QDateTime now() const { return m_now; }
+    QBindable<QDateTime> bindableNow() const { return QBindable<QDateTime>(&m_now); }
+    bool anyExpanded() const { return m_anyExpanded; }
+    void setAnyExpanded(bool any) { m_anyExpanded = any; }
+    QBindable<bool> bindableAnyExpanded() const { return QBindable<bool>(&m_anyExpanded); }
+    bool hasActivity() const { return m_hasActivity; }
+    QBindable<bool> bindableHasActivity() const { return QBindable<bool>(&m_hasActivity); }
+
+    /// The tool whose activity the closed notch shows; nothing without an activity.
+    std::optional<NotchTool> activityTool() const { return m_activityTool; }
+
+    std::optional<NotchTool> visibleTool() const { return m_visibleTool; }
+    qint64 ticks() const { return m_ticks; }
+
+    /// Starts both clocks and the tools; nothing happens while they run.
+    void start();
+    void stop();
+
+    /// The pane that is on screen from now on; nothing when every notch is closed.
+    void show(std::optional<NotchTool> tool);
+
+    /// The enabled tools that this build has a pane for, in catalogue order.
+    NotchTools offeredTools() const;
+
+    /// Opens a web page or, for a privacy address, the desktop's settings.
+    void openUrl(const QUrl &url);
+
+    Action openSettings; ///< Opens the settings window; empty while the application offers none.
+    Action collapseAll;  ///< Closes every notch; set by the controller.
+
+Q_SIGNALS:
+    void nowChanged();
+    void anyExpandedChanged();
+    void hasActivityChanged();
+    void activityToolChanged();
+
+private:
+    template <typename Model>
+    Model *add(std::unique_ptr<Model> model);
+    bool opensWings(const ToolModel &model) const;
+    bool joinsWings(const ToolModel &model) const;
+    std::optional<NotchTool> computeActivityTool() const;
+    void refreshNow();
+    void tick();
+    void fastTick();
+
+    NotchSettings &m_settings;
+    NotchBranding m_branding;
+    Clock &m_clock;
+    Workspace &m_workspace;
+    std::vector<std::unique_ptr<ToolModel>> m_models; ///< The first with an activity shows it.
+    TimerModel *m_timer;
+    std::optional<NotchTool> m_visibleTool;
+    std::unique_ptr<RunningTimer> m_clockTimer;
+    std::unique_ptr<RunningTimer> m_fastTimer;
+    qint64 m_ticks = 0;
+    Q_OBJECT_BINDABLE_PROPERTY(NotchServices, QDateTime, m_now, &NotchServices::nowChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(NotchServices, bool, m_anyExpanded, false,
+                                         &NotchServices::anyExpandedChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(NotchServices, bool, m_hasActivity, false,
+                                         &NotchServices::hasActivityChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(NotchServices, std::optional<NotchTool>, m_activityTool,
+                               &NotchServices::activityToolChanged)
+};
+
+} // namespace Kestrune

@@ -1,0 +1,84 @@
+#include "NotchStrings.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLocale>
+#include <QTranslator>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr auto kTranslations = ":/translations";
+constexpr auto kContext = "notch";
+
+QString primarySubtag(const QString &tag) { return tag.section(QLatin1Char('-'), 0, 0); }
+
+QString serving(const QString &preference, const QStringList &available)
+{
+    if (available.contains(preference))
+        return preference;
+    const QString language = primarySubtag(preference);
+    if (available.contains(language))
+        return language;
+    for (const QString &candidate : available) {
+        if (primarySubtag(candidate) == language)
+            return candidate;
+    }
+    return {};
+}
+
+QStringList availableLocalizations()
+{
+    QStringList languages{QStringLiteral("en")};
+    const auto files = QDir(QString::fromLatin1(kTranslations)).entryList({QStringLiteral("*.qm")});
+    for (const QString &file : files)
+        languages.append(file.chopped(3));
+    return languages;
+}
+
+/// Chooses the language and installs it, so that the views' own look-ups follow it too.
+class Translation
+{
+public:
+    Translation()
+    {
+        const QString language =
+            chooseLocalization(availableLocalizations(), QLocale::system().uiLanguages());
+        if (m_translator.load(language, QString::fromLatin1(kTranslations)))
+            QCoreApplication::installTranslator(&m_translator);
+    }
+
+private:
+    QTranslator m_translator;
+};
+
+} // namespace
+
+QString chooseLocalization(const QStringList &available, const QStringList &preferences)
+{
+    for (const QString &preference : preferences) {
+        const QString found = serving(preference, available);
+        if (!found.isEmpty())
+            return found;
+    }
+    return QStringLiteral("en");
+}
+
+QString notchStrings(const char *english)
+{
+    static const Translation chosen;
+    return QCoreApplication::translate(kContext, english);
+}
+
+QString hostName()
+{
+    static const QString name = [] {
+        const QString display = QCoreApplication::instance()->property("applicationDisplayName").toString();
+        const QString base = display.isEmpty() ? QCoreApplication::applicationName() : display;
+        return base.isEmpty() ? notchStrings("this app") : base;
+    }();
+    return name;
+}
+
+} // namespace Kestrune

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Kestrune {
+
+/// The text for `english` in the user's language, or `english` itself where it has no translation.
+/// The language is chosen once, on first use, from the user's preference order, and kept.
+QString notchStrings(const char *english);
+
+/// The first of the user's `preferences` (BCP 47 tags, best first) that one of the `available`
+/// translations serves; "en" when none does. "de-AT" is served by "de"; "pt" by "pt-BR".
+QString chooseLocalization(const QStringList &available, const QStringList &preferences);
+
+/// The program's own name for use in messages; the last fallback is "this app".
+QString hostName();
+
+} // namespace Kestrune

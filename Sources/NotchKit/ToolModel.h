@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Catalogue.h"
+
+#include <QDateTime>
+#include <QObject>
+
+#include <optional>
+
+namespace Kestrune {
+
+/// What one tick of the 1 s clock tells the tools.
+struct ClockTick
+{
+    QDateTime now;                        ///< UTC.
+    qint64 seconds = 0;                   ///< Whole seconds since the epoch; cadences test it.
+    bool anyExpanded = false;             ///< At least one notch is open.
+    std::optional<NotchTool> visibleTool; ///< The pane on screen.
+};
+
+/// What the services hub drives: one tool's state holder. A tool overrides what it needs; the hub knows no
+/// more of it. Main thread only.
+class ToolModel : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What a tool has to show beside the closed notch.
+    enum class Activity {
+        none,
+        held,         ///< Shown when another activity has opened the wings.
+        live,         ///< Opens the wings while live activities are on.
+        announcement, ///< Opens the wings while announcements are on.
+    };
+
+    explicit ToolModel(NotchTool tool, QObject *parent = nullptr);
+
+    NotchTool tool() const { return m_tool; }
+
+    /// Read inside a binding: what it depends on must be bindable.
+    virtual Activity activity() const { return Activity::none; }
+
+    virtual void hubStarted() {}
+    virtual void hubStopped() {}
+
+    /// Another pane came on screen, or none.
+    virtual void visibleToolChanged(std::optional<NotchTool> /*visible*/) {}
+
+    /// Every second.
+    virtual void tick(const ClockTick & /*tick*/) {}
+
+    /// Twenty times a second, `count` ticks after the hub was made.
+    virtual void fastTick(qint64 /*count*/) {}
+
+private:
+    NotchTool m_tool;
+};
+
+} // namespace Kestrune

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "NotchKit/NotchScreenModel.h"
+#include "NotchKit/NotchServices.h"
+#include "NotchKit/NotchSettings.h"
+#include "NotchKit/Tools/TimerModel.h"
+
+#include <QtQml/qqml.h>
+
+/// The core's types as the views know them; the core itself does not depend on the view engine.
+namespace Kestrune {
+
+#define KESTRUNE_VIEW_TYPE(Type)                                                                             \
+    struct Type##ForViews                                                                                    \
+    {                                                                                                        \
+        Q_GADGET                                                                                             \
+        QML_FOREIGN(Kestrune::Type)                                                                          \
+        QML_NAMED_ELEMENT(Type)                                                                              \
+        QML_UNCREATABLE("belongs to the core")                                                               \
+    }
+
+KESTRUNE_VIEW_TYPE(NotchScreenModel);
+KESTRUNE_VIEW_TYPE(NotchServices);
+KESTRUNE_VIEW_TYPE(NotchSettings);
+KESTRUNE_VIEW_TYPE(TimerModel);
+
+#undef KESTRUNE_VIEW_TYPE
+
+} // namespace Kestrune

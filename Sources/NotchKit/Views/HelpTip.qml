@@ -1,0 +1,50 @@
+import QtQuick
+import Kestrune.Views
+
+/// A help text beside a control, after a moment, kept inside the notch.
+Rectangle {
+    id: tip
+
+    required property Item anchor
+    required property string text
+    property bool below: false
+
+    /// How far the tip must move to stay inside the open notch.
+    function shift() {
+        const scene = anchor.Window.window
+        if (!scene)
+            return 0
+        const margin = (scene.width - 760) / 2 + 20
+        const left = anchor.mapToItem(null, anchor.width / 2 - width / 2, 0).x
+        return Math.max(margin - left, 0) - Math.max(left + width - (scene.width - margin), 0)
+    }
+
+    x: Math.round(anchor.width / 2 - width / 2 + shift())
+    y: below ? anchor.height + 6 : -height - 6
+    z: 100
+    width: label.implicitWidth + 16
+    height: label.implicitHeight + 8
+    radius: 6
+    color: "#3a3a3c"
+    visible: delay.done
+
+    Text {
+        id: label
+
+        anchors.centerIn: parent
+        text: tip.text
+        color: Theme.text
+        font.pixelSize: 11
+        Accessible.ignored: true
+    }
+
+    Timer {
+        id: delay
+
+        property bool done: false
+
+        interval: 600
+        running: true
+        onTriggered: done = true
+    }
+}

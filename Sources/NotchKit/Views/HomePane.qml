@@ -1,0 +1,44 @@
+import QtQuick
+import Kestrune.Views
+
+/// The enabled widgets in three columns.
+///
+///   | left | center | right |   columns without a block take no room
+FocusScope {
+    id: pane
+
+    required property NotchServices services
+    required property NotchScreenModel screenModel
+    property NotchPresentation presentation
+
+    readonly property var columns: presentation ? presentation.homeColumns.filter(files => files.length > 0) : []
+
+    PaneMessage {
+        anchors.fill: parent
+        visible: pane.columns.length === 0
+        symbol: "square.grid.2x2"
+        text: qsTranslate("notch", "Choose what Home shows in Settings › Home screen.")
+    }
+
+    Row {
+        id: row
+
+        anchors.fill: parent
+        spacing: Theme.gap
+
+        Repeater {
+            model: pane.columns
+
+            HomeColumn {
+                required property var modelData
+
+                width: (row.width - row.spacing * (pane.columns.length - 1)) / pane.columns.length
+                height: row.height
+                files: modelData
+                services: pane.services
+                screenModel: pane.screenModel
+                presentation: pane.presentation
+            }
+        }
+    }
+}

@@ -1,0 +1,107 @@
+#include "NotchPresentation.h"
+
+#include <array>
+
+namespace Kestrune {
+
+namespace {
+
+QString fileOf(const char *view) { return QLatin1String(view) + QLatin1String(".qml"); }
+
+} // namespace
+
+NotchPresentation::NotchPresentation(NotchScreenModel &model, NotchServices &services, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_services(services)
+{
+    const NotchSettings *settings = services.settings();
+    connect(settings, &NotchSettings::toolsChanged, this, &NotchPresentation::toolRowChanged);
+    connect(settings, &NotchSettings::toolsChanged, this, &NotchPresentation::selectionChanged);
+    connect(settings, &NotchSettings::homeOrderChanged, this, &NotchPresentation::homeColumnsChanged);
+    connect(settings, &NotchSettings::homeColumnsChanged, this, &NotchPresentation::homeColumnsChanged);
+    connect(&model, &NotchScreenModel::selectedChanged, this, &NotchPresentation::selectionChanged);
+    connect(&services, &NotchServices::activityToolChanged, this, &NotchPresentation::activityFileChanged);
+}
+
+QVariantList NotchPresentation::toolRow() const
+{
+    QVariantList row;
+    for (const NotchTool tool : m_services.offeredTools()) {
+        row.append(QVariantMap{{QStringLiteral("title"), title(tool)},
+                               {QStringLiteral("symbol"), symbol(tool)}});
+    }
+    return row;
+}
+
+int NotchPresentation::selectedIndex() const
+{
+    return static_cast<int>(m_services.offeredTools().indexOf(m_model.selected()));
+}
+
+QString NotchPresentation::paneTitle() const { return title(m_model.selected()); }
+
+QString NotchPresentation::paneFile() const
+{
+    const CatalogueEntry &tool = entry(m_model.selected());
+    return tool.view ? fileOf(tool.view) : QString();
+}
+
+QString NotchPresentation::activityFile() const
+{
+    const auto tool = m_services.activityTool();
+    if (!tool)
+        return {};
+    QString file = fileOf(entry(*tool).view);
+    return file.replace(QLatin1String("Pane"), QLatin1String("Activity"));
+}
+
+QList<QStringList> NotchPresentation::homeColumns() const
+{
+    QList<QStringList> columns;
+    for (const HomeColumn column : {HomeColumn::left, HomeColumn::center, HomeColumn::right}) {
+        QStringList files;
+        for (const HomeWidget widget : m_services.settings()->widgets(column)) {
+            if (isBuilt(widget))
+                files.append(fileOf(entry(widget).view));
+        }
+        columns.append(files);
+    }
+    return columns;
+}
+
+QString NotchPresentation::creditTitle() const { return m_services.branding().creditTitle.value_or(QString()); }
+
+void NotchPresentation::select(int index)
+{
+    const NotchTools tools = m_services.offeredTools();
+    if (index >= 0 && index < tools.size())
+        select(tools.at(index));
+}
+
+void NotchPresentation::selectTool(const QString &rawValue)
+{
+    const auto tool = fromRawValue<NotchTool>(rawValue);
+    if (tool && m_services.offeredTools().contains(*tool))
+        select(*tool);
+}
+
+void NotchPresentation::select(NotchTool tool)
+{
+    m_model.setSelected(tool);
+    m_services.show(tool);
+}
+
+void NotchPresentation::openSettings()
+{
+    if (m_services.openSettings)
+        m_services.openSettings();
+}
+
+void NotchPresentation::openCredit()
+{
+    if (const auto &url = m_services.branding().creditURL)
+        m_services.openUrl(*url);
+}
+
+} // namespace Kestrune

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "NotchKit/NotchScreenModel.h"
+#include "NotchKit/NotchServices.h"
+
+#include <QUrl>
+#include <QVariantList>
+#include <QtQml/qqmlregistration.h>
+
+namespace Kestrune {
+
+/// What the notch view shows, worked out from the screen model, the hub and the catalogue. It keeps no
+/// state of its own.
+class NotchPresentation : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made for each notch window")
+    /// The offered tools in order: maps with "title" and "symbol".
+    Q_PROPERTY(QVariantList toolRow READ toolRow NOTIFY toolRowChanged)
+    /// The selected tool's place in the row, -1 when it is not in it.
+    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
+    Q_PROPERTY(QString paneTitle READ paneTitle NOTIFY selectionChanged)
+    /// The selected tool's pane, a file beside the view's.
+    Q_PROPERTY(QString paneFile READ paneFile NOTIFY selectionChanged)
+    /// The view in the closed notch's wings; empty without an activity.
+    Q_PROPERTY(QString activityFile READ activityFile NOTIFY activityFileChanged)
+    /// The files of the Home blocks in the three visible columns, left to right.
+    Q_PROPERTY(QList<QStringList> homeColumns READ homeColumns NOTIFY homeColumnsChanged)
+    Q_PROPERTY(bool offersSettings READ offersSettings CONSTANT)
+    Q_PROPERTY(QString creditTitle READ creditTitle CONSTANT)
+
+public:
+    NotchPresentation(NotchScreenModel &model, NotchServices &services, QObject *parent = nullptr);
+
+    QVariantList toolRow() const;
+    int selectedIndex() const;
+    QString paneTitle() const;
+    QString paneFile() const;
+    QString activityFile() const;
+    QList<QStringList> homeColumns() const;
+    bool offersSettings() const { return bool(m_services.openSettings); }
+    QString creditTitle() const;
+
+    /// Shows the tool at `index` of the row.
+    Q_INVOKABLE void select(int index);
+
+    /// Shows the tool of that raw value, if it is offered.
+    Q_INVOKABLE void selectTool(const QString &rawValue);
+
+    Q_INVOKABLE void openSettings();
+    Q_INVOKABLE void openCredit();
+
+Q_SIGNALS:
+    void toolRowChanged();
+    void selectionChanged();
+    void activityFileChanged();
+    void homeColumnsChanged();
+
+private:
+    void select(NotchTool tool);
+
+    NotchScreenModel &m_model;
+    NotchServices &m_services;
+};
+
+} // namespace Kestrune

@@ -1,0 +1,44 @@
+#include "NotchWindow.h"
+
+#include "NotchShapeItem.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+
+void qml_register_types_Kestrune_Views();
+
+namespace Kestrune {
+
+namespace {
+
+constexpr auto kNotchView = "qrc:/Kestrune/Views/NotchView.qml";
+
+}
+
+void registerViews() { qml_register_types_Kestrune_Views(); }
+
+NotchWindow::NotchWindow(QQmlEngine &engine, NotchScreenModel &model, NotchServices &services)
+    : m_presentation(model, services)
+{
+    setColor(Qt::transparent);
+    QSurfaceFormat format;
+    format.setAlphaBufferSize(8);
+    setFormat(format);
+    setTitle(services.branding().name);
+
+    QQmlComponent component(&engine, QUrl(QString::fromLatin1(kNotchView)));
+    m_root.reset(qobject_cast<QQuickItem *>(component.createWithInitialProperties(
+        {{QStringLiteral("screenModel"), QVariant::fromValue(&model)},
+         {QStringLiteral("services"), QVariant::fromValue(&services)},
+         {QStringLiteral("presentation"), QVariant::fromValue(&m_presentation)}})));
+    if (!m_root)
+        qFatal("the notch view cannot be made: %s", qPrintable(component.errorString()));
+    m_root->setParentItem(contentItem());
+    m_root->setSize(NotchGeometry::panelSize);
+    if (auto *shape = m_root->findChild<NotchShapeItem *>())
+        connect(shape, &NotchShapeItem::outlineChanged, this, &NotchWindow::outlineChanged);
+}
+
+NotchWindow::~NotchWindow() = default;
+
+} // namespace Kestrune

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "NotchPresentation.h"
+
+#include <QPainterPath>
+#include <QQuickWindow>
+
+class QQmlComponent;
+class QQmlEngine;
+
+namespace Kestrune {
+
+/// A transparent window that shows the notch view of one display.
+class NotchWindow : public QQuickWindow
+{
+    Q_OBJECT
+
+public:
+    /// `engine`, `model` and `services` outlive the window.
+    NotchWindow(QQmlEngine &engine, NotchScreenModel &model, NotchServices &services);
+    ~NotchWindow() override;
+
+Q_SIGNALS:
+    /// The notch as it is drawn from now on, in points from the window's top left, y growing downwards.
+    void outlineChanged(const QPainterPath &outline);
+
+private:
+    NotchPresentation m_presentation;
+    std::unique_ptr<QQuickItem> m_root;
+};
+
+/// Registers the views' types; once, before the first window is made.
+void registerViews();
+
+} // namespace Kestrune

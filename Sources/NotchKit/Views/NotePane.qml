@@ -1,0 +1,16 @@
+import QtQuick
+import Kestrune.Views
+
+/// The quick note.
+FocusScope {
+    id: pane
+
+    required property NotchServices services
+    required property NotchScreenModel screenModel
+
+    NoteEditor {
+        anchors.fill: parent
+        settings: pane.services.settings
+        screenModel: pane.screenModel
+    }
+}

@@ -1,0 +1,21 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrune.Views
+
+/// A thin bar at the trailing edge, there only while something can be scrolled.
+T.ScrollBar {
+    id: bar
+
+    anchors.top: parent.top
+    anchors.bottom: parent.bottom
+    anchors.right: parent.right
+    anchors.margins: 3
+    implicitWidth: 6
+    minimumSize: 0.12
+    policy: size < 1 ? T.ScrollBar.AlwaysOn : T.ScrollBar.AlwaysOff
+    contentItem: Rectangle {
+        implicitWidth: 6
+        radius: 3
+        color: bar.pressed ? Theme.dim : bar.hovered ? Qt.rgba(1, 1, 1, 0.35) : Theme.highlighted
+    }
+}

@@ -1,0 +1,29 @@
+import QtQuick
+import Kestrune.Views
+
+/// A section's heading: symbol and title.
+Row {
+    id: label
+
+    required property string title
+    required property string symbol
+
+    spacing: 6
+    Accessible.role: Accessible.Heading
+    Accessible.name: title
+
+    Symbol {
+        anchors.verticalCenter: parent.verticalCenter
+        name: label.symbol
+        size: 13
+        color: Qt.rgba(1, 1, 1, 0.85)
+    }
+    Text {
+        anchors.verticalCenter: parent.verticalCenter
+        text: label.title
+        font.pixelSize: 12
+        font.weight: Font.DemiBold
+        color: Qt.rgba(1, 1, 1, 0.85)
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,49 @@
+import QtQuick
+import Kestrune.Views
+
+/// A button with a text and, if `symbol` is given, a symbol before it.
+ButtonBase {
+    id: control
+
+    property string symbol: ""
+    property bool prominent: false
+
+    help: text
+    implicitHeight: 28
+    implicitWidth: label.implicitWidth + 24
+
+    Binding {
+        target: control.background
+        property: "color"
+        when: control.prominent && !control.down
+        value: control.hovered ? Qt.lighter(Theme.accent, 1.12) : Theme.accent
+    }
+
+    contentItem: Item {
+        implicitWidth: label.implicitWidth
+        implicitHeight: label.implicitHeight
+
+        Row {
+            id: label
+
+            anchors.centerIn: parent
+            spacing: 6
+
+            Symbol {
+                visible: control.symbol !== ""
+                name: control.symbol
+                size: 14
+                anchors.verticalCenter: parent.verticalCenter
+                color: control.prominent ? "black" : Theme.text
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: control.text
+                font.pixelSize: 12
+                font.weight: Font.Medium
+                color: control.prominent ? "black" : Theme.text
+                Accessible.ignored: true
+            }
+        }
+    }
+}

@@ -1,0 +1,19 @@
+pragma Singleton
+
+import QtQuick
+
+/// The look: one accent on black, quiet white for the rest, spacing in steps of four.
+QtObject {
+    readonly property color accent: "#4da3ff"
+    readonly property color text: Qt.rgba(1, 1, 1, 0.92)
+    readonly property color dim: Qt.rgba(1, 1, 1, 0.55)
+    readonly property color faint: Qt.rgba(1, 1, 1, 0.08)
+    readonly property color hovered: Qt.rgba(1, 1, 1, 0.14)
+    readonly property color pressed: Qt.rgba(1, 1, 1, 0.20)
+    readonly property color highlighted: Qt.rgba(1, 1, 1, 0.22)
+
+    readonly property int inset: 16
+    readonly property int gap: 8
+    readonly property int tileRadius: 12
+    readonly property int buttonRadius: 8
+}

@@ -1,0 +1,28 @@
+import QtQuick
+import Kestrune.Views
+
+/// The countdown in the wings of the closed notch.
+ActivityWings {
+    id: activity
+
+    required property NotchServices services
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: qsTranslate("notch", "Timer") + " " + time.text
+
+    leading: Symbol {
+        anchors.centerIn: parent
+        name: "timer"
+        size: 14
+    }
+    trailing: TimerFace {
+        id: time
+
+        readonly property string text: timer.format(remaining)
+
+        anchors.centerIn: parent
+        services: activity.services
+        size: 13
+        shown: activity.visible
+    }
+}

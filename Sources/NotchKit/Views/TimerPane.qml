@@ -1,0 +1,53 @@
+import QtQuick
+import Kestrune.Views
+
+/// The countdown: time, presets, controls.
+FocusScope {
+    id: pane
+
+    required property NotchServices services
+    required property NotchScreenModel screenModel
+
+    readonly property TimerModel timer: services.timer
+
+    Column {
+        anchors.centerIn: parent
+        spacing: 16
+
+        TimerFace {
+            anchors.horizontalCenter: parent.horizontalCenter
+            services: pane.services
+            size: 64
+            shown: pane.visible
+        }
+
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: Theme.gap
+
+            Repeater {
+                model: pane.timer.presets
+
+                TextButton {
+                    required property real modelData
+
+                    width: Math.max(implicitWidth, 72)
+                    text: qsTranslate("notch", "%d min").replace("%d", modelData / 60)
+                    onClicked: pane.timer.start(modelData)
+                }
+            }
+        }
+
+        TimerControls {
+            anchors.horizontalCenter: parent.horizontalCenter
+            timer: pane.timer
+        }
+
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTranslate("notch", "The time stays visible beside the closed notch.")
+            font.pixelSize: 11
+            color: Theme.dim
+        }
+    }
+}

@@ -1,0 +1,85 @@
+import QtQuick
+import Kestrune.Views
+
+/// One button per offered tool, and the credit beside them.
+Item {
+    id: row
+
+    required property NotchPresentation presentation
+
+    implicitHeight: 36
+
+    Row {
+        id: tools
+
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
+        spacing: 4
+        Accessible.role: Accessible.PageTabList
+
+        Repeater {
+            id: buttons
+
+            model: row.presentation.toolRow
+
+            ToolButton {
+                required property var modelData
+                required property int index
+
+                symbol: modelData.symbol
+                help: modelData.title
+                selected: index === row.presentation.selectedIndex
+                onClicked: row.presentation.select(index)
+            }
+        }
+    }
+
+    Rectangle {
+        readonly property real pitch: 34 + tools.spacing
+
+        x: tools.x + slide.value * pitch
+        y: tools.y
+        width: 34
+        height: 28
+        radius: Theme.buttonRadius
+        color: Theme.highlighted
+        visible: row.presentation.selectedIndex >= 0
+        z: -1
+
+        SpringValue {
+            id: slide
+
+            target: Math.max(row.presentation.selectedIndex, 0)
+            response: 0.2
+            dampingFraction: 0.85
+            precision: 0.002
+        }
+    }
+
+    ButtonBase {
+        id: credit
+
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        visible: text !== ""
+        width: Math.min(implicitWidth, row.width - tools.width - 16)
+        implicitWidth: line.implicitWidth + 16
+        implicitHeight: 28
+        plain: true
+        text: row.presentation.creditTitle
+        help: text
+        Accessible.role: Accessible.Link
+        onClicked: row.presentation.openCredit()
+        contentItem: Text {
+            id: line
+
+            leftPadding: 8
+            rightPadding: 8
+            text: credit.text
+            font.pixelSize: 11
+            font.underline: credit.hovered
+            color: credit.hovered ? Theme.text : Theme.dim
+            elide: Text.ElideRight
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
+    }
+}
