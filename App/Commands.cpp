@@ -41,7 +41,8 @@ QDBusMessage call(const QString &method, const QVariantList &arguments = {})
 bool nothingRuns(const QDBusMessage &reply)
 {
     return !QDBusConnection::sessionBus().isConnected()
-        || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown");
+        || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown")
+        || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner");
 }
 
 /// What went wrong with a call, or nothing and 0.

@@ -15,7 +15,7 @@ Flickable {
     contentHeight: blocks.height
     boundsBehavior: Flickable.StopAtBounds
     interactive: contentHeight > height
-    T.ScrollBar.vertical: ScrollBar { parent: column }
+    T.ScrollBar.vertical: ScrollBar {}
 
     Column {
         id: blocks

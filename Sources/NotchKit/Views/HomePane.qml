@@ -9,6 +9,8 @@ FocusScope {
 
     required property NotchServices services
     required property NotchScreenModel screenModel
+
+    focus: true
     property NotchPresentation presentation
 
     readonly property var columns: presentation ? presentation.homeColumns.filter(files => files.length > 0) : []

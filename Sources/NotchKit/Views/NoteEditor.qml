@@ -31,7 +31,10 @@ Tile {
         contentHeight: Math.max(height, input.implicitHeight)
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
-        T.ScrollBar.vertical: ScrollBar { parent: editor }
+        T.ScrollBar.vertical: ScrollBar {
+            parent: editor
+            anchors { top: parent.top; bottom: parent.bottom; right: parent.right; margins: 4 }
+        }
 
         function reveal(rectangle) {
             if (contentY > rectangle.y)

@@ -8,6 +8,8 @@ FocusScope {
     required property NotchServices services
     required property NotchScreenModel screenModel
 
+    focus: true
+
     NoteEditor {
         anchors.fill: parent
         settings: pane.services.settings

@@ -6,13 +6,9 @@ import Kestrune.Views
 T.ScrollBar {
     id: bar
 
-    anchors.top: parent.top
-    anchors.bottom: parent.bottom
-    anchors.right: parent.right
-    anchors.margins: 3
     implicitWidth: 6
     minimumSize: 0.12
-    policy: size < 1 ? T.ScrollBar.AlwaysOn : T.ScrollBar.AlwaysOff
+    visible: size < 1
     contentItem: Rectangle {
         implicitWidth: 6
         radius: 3

@@ -8,6 +8,8 @@ FocusScope {
     required property NotchServices services
     required property NotchScreenModel screenModel
 
+    focus: true
+
     readonly property TimerModel timer: services.timer
 
     Column {

@@ -58,10 +58,10 @@ Item {
     ButtonBase {
         id: credit
 
-        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        anchors { right: parent.right; rightMargin: -8; verticalCenter: parent.verticalCenter }
         visible: text !== ""
         width: Math.min(implicitWidth, row.width - tools.width - 16)
-        implicitWidth: line.implicitWidth + 16
+        implicitWidth: line.implicitWidth
         implicitHeight: 28
         plain: true
         text: row.presentation.creditTitle
