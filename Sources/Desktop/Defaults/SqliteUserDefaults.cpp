@@ -1,0 +1,102 @@
+#include "Desktop/Defaults/SqliteUserDefaults.h"
+
+#include "Desktop/Defaults/DefaultsStore.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QStandardPaths>
+
+#include <cstdio>
+#include <utility>
+
+namespace Kestrune {
+
+using std::chrono::milliseconds;
+
+namespace {
+
+constexpr milliseconds patience{250};
+constexpr std::chrono::seconds retryInterval{2};
+
+} // namespace
+
+QString SqliteUserDefaults::path(const QString &domain)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QLatin1Char('/') +
+           domain + QStringLiteral("/defaults.sqlite");
+}
+
+SqliteUserDefaults::SqliteUserDefaults(const QString &path, Access access)
+    : m_path(path)
+    , m_store(access == Access::ReadWrite ? std::make_unique<DefaultsStore>(path) : nullptr)
+{
+    m_retry.setSingleShot(true);
+    m_retry.callOnTimeout([this] { save(); });
+}
+
+SqliteUserDefaults::~SqliteUserDefaults()
+{
+    if (!m_unsaved.empty())
+        save();
+}
+
+std::optional<DefaultsValue> SqliteUserDefaults::object(const QString &key) const
+{
+    const auto stored = find(key);
+    return stored ? decode(*stored) : std::nullopt;
+}
+
+void SqliteUserDefaults::setObject(const QString &key, const DefaultsValue &value)
+{
+    change(key, encode(value));
+}
+
+void SqliteUserDefaults::removeObject(const QString &key) { change(key, std::nullopt); }
+
+std::optional<StoredValue> SqliteUserDefaults::find(const QString &key) const
+{
+    if (const auto unsaved = m_unsaved.find(key); unsaved != m_unsaved.end())
+        return unsaved->second;
+    if (!m_store)
+        return readExisting(m_path, key);
+    try {
+        return m_store->read(key);
+    } catch (const std::exception &) {
+        return readExisting(m_path, key); // a file that cannot be written may well be readable
+    }
+}
+
+void SqliteUserDefaults::change(const QString &key, std::optional<StoredValue> value)
+{
+    if (!m_store)
+        return;
+    m_unsaved.insert_or_assign(key, std::move(value));
+    save();
+}
+
+void SqliteUserDefaults::save()
+{
+    try {
+        m_store->apply(m_unsaved);
+        m_unsaved.clear();
+        if (std::exchange(m_isFailing, false)) {
+            m_retry.stop();
+            m_store->setPatience(patience);
+        }
+    } catch (const std::exception &error) {
+        keepInMemory(error.what());
+    }
+}
+
+void SqliteUserDefaults::keepInMemory(const char *reason)
+{
+    if (!m_isFailing)
+        std::fprintf(stderr, "kestrune: settings are kept in memory until %s can be written: %s\n",
+                     QFile::encodeName(m_path).constData(), reason);
+    m_isFailing = true;
+    m_store->setPatience(milliseconds(0)); // one wait is enough: whoever holds the file may be stuck
+    if (QCoreApplication::instance())
+        m_retry.start(retryInterval);
+}
+
+} // namespace Kestrune
