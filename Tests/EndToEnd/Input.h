@@ -24,8 +24,8 @@ public:
     void tap(xcb_keysym_t key);
     void type(const QByteArray &text); ///< Latin-1
 
-    /// The combination that opens and closes the notch, held for `milliseconds`.
-    void hotKey(int milliseconds = 0);
+    /// The combination that opens and closes the notch, held for `milliseconds`; a person holds it a while.
+    void hotKey(int milliseconds = 60);
 
     /// The modifier and button bits in force: XCB_MOD_MASK_LOCK and the like.
     quint16 state() const;

@@ -24,7 +24,7 @@ private Q_SLOTS:
         const QRect open(640 - 380, 0, 760, 330);
         const QImage before = stage().x.grab({0, 0, 1280, 450});
         QVERIFY(stage().run());
-        QTRY_COMPARE(changedArea(before), closed);
+        QTRY_VERIFY(fills(changedArea(before), closed));
         QVERIFY(stage().x.pixel(Place::notch) == QColor(Qt::black));
         // The outline is rounded: its corners show the desktop, its body is inset below the flared top.
         for (const QPoint corner :
@@ -33,8 +33,7 @@ private Q_SLOTS:
 
         QVERIFY(stage().openByHotKey());
         QTest::qWait(700); // the spring comes to rest
-        if (!compositor)
-            QTRY_COMPARE(changedArea(before), open);
+        QTRY_VERIFY(compositor || fills(changedArea(before), open));
         for (const QPoint corner :
              {open.bottomLeft(), open.bottomRight(), QPoint(262, 200), QPoint(1017, 200)})
             QVERIFY2(compositor || !stage().covered(corner),
@@ -44,7 +43,7 @@ private Q_SLOTS:
 
         stage().input.hotKey();
         QVERIFY(stage().waitClosed());
-        QTRY_COMPARE(changedArea(before), closed);
+        QTRY_VERIFY(fills(changedArea(before), closed));
     }
 
     void fitsADenseDisplay_data()
@@ -63,21 +62,28 @@ private Q_SLOTS:
         else
             stage().session.environment().insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
         const QImage before = stage().x.grab({0, 0, 2560, 900});
-        QVERIFY(stage().run({}, {}));
-        QTRY_COMPARE(changedArea(before), QRect(1280 - 190, 0, 380, 64));
+        QVERIFY(stage().run());
+        QTRY_VERIFY(fills(changedArea(before), QRect(1280 - 190, 0, 380, 64)));
         const QJsonObject frame = stage().session.display().value("frame"_L1).toObject();
         QCOMPARE(frame.value("width"_L1).toDouble(), 1280.0);
         QCOMPARE(frame.value("height"_L1).toDouble(), 800.0);
 
         stage().input.move({1280, 40});
-        QTRY_COMPARE(changedArea(before), QRect(1280 - 760, 0, 1520, 660));
+        QTRY_VERIFY(fills(changedArea(before), QRect(1280 - 760, 0, 1520, 660)));
         QVERIFY(!stage().clickReachesBeneath({1280, 670}));
         QVERIFY(stage().clickReachesBeneath({1280, 684}));
         stage().input.move({1280, 1500});
-        QTRY_COMPARE(changedArea(before), QRect(1280 - 190, 0, 380, 64));
+        QTRY_VERIFY(fills(changedArea(before), QRect(1280 - 190, 0, 380, 64)));
     }
 
 private:
+    /// Whether an outline with that area fills `frame`; the tips of its flared top may be too thin to show.
+    static bool fills(const QRect &area, const QRect &frame)
+    {
+        return frame.contains(area) &&
+               area.contains(frame.adjusted(frame.height() / 5, 0, -frame.height() / 5, 0));
+    }
+
     /// The smallest rectangle that holds every pixel of the top of the screen that differs from `before`.
     QRect changedArea(const QImage &before)
     {

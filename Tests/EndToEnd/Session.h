@@ -36,6 +36,7 @@ public:
     bool start(const QStringList &arguments = {});
     bool isRunning() const { return m_program && m_program->state() == QProcess::Running; }
     ChildProcess &program() { return *m_program; }
+    void endProgram() { m_program.reset(); }
 
     /// Runs the program as a command and waits for its end.
     Result command(const QStringList &arguments) const;

@@ -37,7 +37,8 @@ bool Stage::run(Settings settings, const QStringList &arguments)
             return false;
     }
     input.move(Place::away);
-    return session.start(arguments) && waitUntil([this] { return covered(Place::notch); });
+    const QPoint notch(x.screen()->width_in_pixels / 2, Place::notch.y());
+    return session.start(arguments) && waitUntil([&] { return covered(notch); });
 }
 
 bool Stage::openByHotKey()

@@ -39,6 +39,8 @@ public:
     using Settings = std::initializer_list<std::pair<const char *, const char *>>;
 
     explicit Stage(const Plan &plan);
+    ~Stage() { session.endProgram(); } // before its display
+    Q_DISABLE_COPY_MOVE(Stage)
 
     /// Starts the program, which has been started before, with these settings; the pointer is elsewhere.
     bool run(Settings settings = {}, const QStringList &arguments = {});

@@ -27,9 +27,10 @@ private Q_SLOTS:
         stage().session.environment().insert(u"FAKETIME"_s, u"+0 x60"_s);
         stage().session.environment().insert(u"FAKETIME_DONT_FAKE_MONOTONIC"_s, u"1"_s);
 
-        QVERIFY(stage().run() && stage().choose(u"timer"_s));
+        // Hover must not open the notch while its wings are being clicked.
+        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"timer"_s));
         QVERIFY(!stage().covered(wings.topLeft() + QPoint(12, 12)));
-        QVERIFY(stage().openByHover());
+        QVERIFY(stage().openByHotKey());
         stage().input.click(Place::firstPreset);
         QTRY_VERIFY(stage().session.status().value("hasActivity"_L1).toBool());
         stage().input.move(Place::away);

@@ -43,7 +43,8 @@ private Q_SLOTS:
     {
         setStage({});
         QVERIFY(stage().run({{"hoverDelay", "60"}}));
-        // There is no time between the jump and the press in which the program could look at the pointer.
+        // There is no time between the jump and the press in which the program could look at the pointer, and
+        // the click before it has made the window manager raise the window beneath.
         for (int round = 0; round < 10; ++round) {
             QVERIFY(!stage().clickReachesBeneath(Place::notch));
             QVERIFY(stage().clickReachesBeneath({640, 42}));
@@ -142,7 +143,6 @@ private Q_SLOTS:
         QCOMPARE(stage().x.clientWindows(), before);
         QVERIFY(stage().openByHotKey());
         QCOMPARE(stage().x.clientWindows(), before);
-        QCOMPARE(stage().x.property(stage().x.root(), "_NET_CLIENT_LIST_STACKING"), before);
     }
 
     void showsOnEveryDesktop_data() { windowManagers(); }
