@@ -8,19 +8,46 @@
 
 #include <cstdio>
 #include <memory>
+#include <utility>
+#include <vector>
 
 namespace {
 
 using namespace Kestrune;
 
-void setUpGraphics()
+/// Environment variables that are set for a while only: programs that this one starts do not inherit them.
+class TemporaryEnvironment
+{
+public:
+    void set(const char *name, const char *value)
+    {
+        if (!qEnvironmentVariableIsEmpty(name))
+            return;
+        qputenv(name, value);
+        m_names.push_back(name);
+    }
+
+    void clear()
+    {
+        for (const char *name : std::exchange(m_names, {}))
+            qunsetenv(name);
+    }
+
+private:
+    std::vector<const char *> m_names;
+};
+
+/// What must be decided before the application object is made.
+TemporaryEnvironment setUpPlatform()
 {
     // The notch is small and still: drawing it in memory starts faster and takes a fraction of the memory
     // of a graphics driver.
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    qputenv("QT_XCB_GL_INTEGRATION", "none");
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+    TemporaryEnvironment environment;
+    environment.set("QT_XCB_GL_INTEGRATION", "none");
+    environment.set("QT_NO_GLIB", "1");
+    environment.set("QT_QPA_PLATFORM", "xcb");
+    return environment;
 }
 
 void setUpFont()
@@ -35,8 +62,9 @@ void setUpFont()
 
 int runProgram(int argc, char *argv[], const QStringList &arguments)
 {
-    setUpGraphics();
+    TemporaryEnvironment environment = setUpPlatform();
     QGuiApplication application(argc, argv);
+    environment.clear();
     if (QGuiApplication::platformName() != QLatin1String("xcb")) {
         std::fputs("Kestrune: it needs an X11 display\n", stderr);
         return 1;

@@ -104,6 +104,15 @@ std::optional<NotchTool> NotchServices::computeActivityTool() const
 
 void NotchServices::openUrl(const QUrl &url) { m_workspace.open(url); }
 
+void NotchServices::openPrivacy(const QString &anchor)
+{
+    const QUrl url(QStringLiteral("x-apple.systempreferences:com.apple.preference.security?") + anchor,
+                   QUrl::StrictMode);
+    if (!url.isValid())
+        qFatal("%s is no privacy page", qPrintable(anchor));
+    m_workspace.open(url);
+}
+
 void NotchServices::refreshNow() { m_now = m_clock.now(); }
 
 void NotchServices::tick()

@@ -76,8 +76,12 @@ public:
     /// The enabled tools that this build has a pane for, in catalogue order.
     NotchTools offeredTools() const;
 
-    /// Opens a web page or, for a privacy address, the desktop's settings.
+    /// Opens a web page.
     void openUrl(const QUrl &url);
+
+    /// Opens the privacy page of the desktop's settings at `anchor` ("Privacy_Calendars"). An anchor that
+    /// makes no valid address stops the program.
+    Q_INVOKABLE void openPrivacy(const QString &anchor);
 
     Action openSettings; ///< Opens the settings window; empty while the application offers none.
     Action collapseAll;  ///< Closes every notch; set by the controller.

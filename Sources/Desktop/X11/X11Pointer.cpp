@@ -33,6 +33,7 @@ void selectRawPresses()
 } // namespace
 
 X11Pointer::X11Pointer()
+    : m_connection(xcb_connect(nullptr, nullptr))
 {
     const auto *extension = xcb_get_extension_data(X11::connection(), &xcb_input_id);
     if (!extension || !extension->present)
@@ -62,9 +63,9 @@ bool X11Pointer::isRawPress(const xcb_generic_event_t *event) const
 
 PointerSample X11Pointer::query() const
 {
-    const auto cookie = xcb_query_pointer(X11::connection(), X11::root());
+    const auto cookie = xcb_query_pointer(m_connection.get(), X11::root());
     const X11::Reply<xcb_query_pointer_reply_t> reply(
-        xcb_query_pointer_reply(X11::connection(), cookie, nullptr));
+        xcb_query_pointer_reply(m_connection.get(), cookie, nullptr));
     if (!reply)
         return {};
     return {X11::toPoints(reply->root_x, reply->root_y), (reply->mask & XCB_BUTTON_MASK_1) != 0};

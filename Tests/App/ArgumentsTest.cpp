@@ -1,0 +1,85 @@
+#include "App/CommandLine.h"
+#include "App/SettingsText.h"
+#include "Support/TestRegistry.h"
+
+#include <QTest>
+
+using namespace Kestrune;
+using Verb = CommandLine::Verb;
+
+Q_DECLARE_METATYPE(Kestrune::CommandLine::Verb)
+Q_DECLARE_METATYPE(Kestrune::DefaultsValue)
+
+class ArgumentsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void verbs_data();
+    void verbs();
+    void settingsTexts_data();
+    void settingsTexts();
+};
+
+void ArgumentsTest::verbs_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<Verb>("verb");
+    QTest::newRow("plain start") << "" << Verb::start;
+    QTest::newRow("open argument") << "--open weather" << Verb::start;
+    QTest::newRow("open argument alone") << "--open" << Verb::start;
+    QTest::newRow("unknown option") << "--opne" << Verb::bad;
+    QTest::newRow("word after a tool") << "--open weather please" << Verb::bad;
+    QTest::newRow("open") << "open note" << Verb::open;
+    QTest::newRow("open anything") << "open" << Verb::open;
+    QTest::newRow("open the unknown") << "open sundial" << Verb::bad;
+    QTest::newRow("toggle with more") << "toggle note" << Verb::bad;
+    QTest::newRow("status") << "status --json" << Verb::status;
+    QTest::newRow("status in words") << "status" << Verb::status;
+    QTest::newRow("status as XML") << "status --xml" << Verb::bad;
+    QTest::newRow("set") << "settings set hoverDelay 0.3" << Verb::settings;
+    QTest::newRow("set without a value") << "settings set hoverDelay" << Verb::bad;
+    QTest::newRow("settings") << "settings" << Verb::bad;
+    QTest::newRow("help") << "--help" << Verb::help;
+}
+
+void ArgumentsTest::verbs()
+{
+    QFETCH(const QString, line);
+    QFETCH(const Verb, verb);
+    const CommandLine parsed = CommandLine::parse(line.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    QCOMPARE(parsed.verb, verb);
+    QCOMPARE(parsed.fault.isEmpty(), verb != Verb::bad);
+}
+
+void ArgumentsTest::settingsTexts_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<DefaultsValue>("example");
+    QTest::addColumn<bool>("valid");
+    QTest::newRow("true") << "true" << DefaultsValue(false) << true;
+    QTest::newRow("yes") << "yes" << DefaultsValue(false) << false;
+    QTest::newRow("double") << "0.35" << DefaultsValue(0.0) << true;
+    QTest::newRow("infinite") << "inf" << DefaultsValue(0.0) << false;
+    QTest::newRow("integer") << "-12" << DefaultsValue(qint64(0)) << true;
+    QTest::newRow("fraction") << "1.5" << DefaultsValue(qint64(0)) << false;
+    QTest::newRow("text") << "Grüße \"you\"" << DefaultsValue(QString()) << true;
+    QTest::newRow("list") << R"(["a","b c"])" << DefaultsValue(QStringList()) << true;
+    QTest::newRow("list of numbers") << "[1]" << DefaultsValue(QStringList()) << false;
+    QTest::newRow("map") << R"({"note":"left"})" << DefaultsValue(StringMap()) << true;
+    QTest::newRow("no map") << R"(["note"])" << DefaultsValue(StringMap()) << false;
+}
+
+void ArgumentsTest::settingsTexts()
+{
+    QFETCH(const QString, text);
+    QFETCH(const DefaultsValue, example);
+    QFETCH(const bool, valid);
+    const auto value = SettingsText::parse(text, example);
+    QCOMPARE(value.has_value(), valid);
+    if (valid)
+        QCOMPARE(SettingsText::format(value), text);
+}
+
+REGISTER_TEST(ArgumentsTest);
+#include "ArgumentsTest.moc"

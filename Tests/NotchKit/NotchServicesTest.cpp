@@ -1,0 +1,59 @@
+#include "Support/Core.h"
+#include "Support/TestRegistry.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Kestrune;
+
+class NotchServicesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void clocksRunBetweenStartAndStop();
+    void offeredToolsAreEnabledAndBuilt();
+    void addressesGoToTheWorkspace();
+};
+
+void NotchServicesTest::clocksRunBetweenStartAndStop()
+{
+    Fakes::Core core;
+    core.services.start();
+    core.services.start();
+    QCOMPARE(core.clock.running(), 2U);
+    const QSignalSpy changes(&core.services, &NotchServices::nowChanged);
+    core.wait(10'000);
+    QCOMPARE(core.services.ticks(), 200);
+    QCOMPARE(changes.count(), 10);
+    QCOMPARE(core.services.now(), core.clock.now());
+    core.services.stop();
+    core.wait(10'000);
+    QCOMPARE(core.services.ticks(), 200);
+    QCOMPARE(changes.count(), 10);
+    core.services.start();
+    QCOMPARE(core.services.now(), core.clock.now());
+}
+
+void NotchServicesTest::offeredToolsAreEnabledAndBuilt()
+{
+    Fakes::Core core;
+    for (const NotchTool tool : core.services.offeredTools())
+        QVERIFY(isBuilt(tool) && core.settings.isEnabled(tool));
+    QVERIFY(core.services.offeredTools().contains(NotchTool::note));
+    core.settings.setEnabled(NotchTool::note, false);
+    QVERIFY(!core.services.offeredTools().contains(NotchTool::note));
+}
+
+void NotchServicesTest::addressesGoToTheWorkspace()
+{
+    Fakes::Core core;
+    core.services.openPrivacy(QStringLiteral("Privacy_Calendars"));
+    QCOMPARE(core.workspace.opened.value(0).toString(),
+             QStringLiteral("x-apple.systempreferences:com.apple.preference.security?Privacy_Calendars"));
+    QVERIFY(core.services.branding().creditURL->query() == QLatin1String("ref=kestrune"));
+    QVERIFY(!NotchBranding::none().creditURL && !NotchBranding::none().creditTitle);
+}
+
+REGISTER_TEST(NotchServicesTest);
+#include "NotchServicesTest.moc"

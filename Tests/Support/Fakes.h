@@ -1,0 +1,241 @@
+#pragma once
+
+#include "NotchKit/Platform/Clock.h"
+#include "NotchKit/Platform/Displays.h"
+#include "NotchKit/Platform/HotKeys.h"
+#include "NotchKit/Platform/LoginItem.h"
+#include "NotchKit/Platform/NotchPanels.h"
+#include "NotchKit/Platform/Pointer.h"
+#include "NotchKit/Platform/RunningApplications.h"
+#include "NotchKit/Platform/SoundPlayer.h"
+#include "NotchKit/Platform/UserDefaults.h"
+#include "NotchKit/Platform/Workspace.h"
+
+#include <QMap>
+#include <QSet>
+#include <QUrl>
+
+#include <algorithm>
+#include <list>
+#include <vector>
+
+/// Stand-ins for the platform's ports, steered by the tests.
+namespace Kestrune::Fakes {
+
+/// Time stands still until `advance`, which runs what falls due in order.
+class FakeClock : public Clock
+{
+public:
+    QDateTime now() const override { return m_start.addMSecs(m_elapsed.count()); }
+    std::chrono::nanoseconds uptime() const override { return m_elapsed; }
+
+    std::unique_ptr<RunningTimer> every(std::chrono::milliseconds interval, Handler handler) override
+    {
+        return add(interval, interval, std::move(handler));
+    }
+    std::unique_ptr<RunningTimer> after(std::chrono::milliseconds delay, Handler handler) override
+    {
+        return add(delay, std::chrono::milliseconds(0), std::move(handler));
+    }
+
+    void advance(std::chrono::milliseconds time)
+    {
+        const auto end = m_elapsed + time;
+        while (Entry *next = nextDue(end)) {
+            m_elapsed = next->due;
+            const Handler handler = next->handler;
+            if (next->interval.count() > 0)
+                next->due += next->interval;
+            else
+                next->done = true;
+            handler();
+        }
+        m_elapsed = end;
+    }
+
+    std::size_t running() const
+    {
+        return static_cast<std::size_t>(std::ranges::count(m_entries, false, &Entry::done));
+    }
+
+private:
+    struct Entry
+    {
+        std::chrono::milliseconds due;
+        std::chrono::milliseconds interval;
+        Handler handler;
+        bool done = false;
+    };
+
+    struct Timer : RunningTimer
+    {
+        Timer(FakeClock &owner, Entry &timed)
+            : clock(owner)
+            , entry(timed)
+        {}
+        ~Timer() override
+        {
+            clock.m_entries.remove_if([this](const Entry &other) { return &other == &entry; });
+        }
+        Timer(const Timer &) = delete;
+        Timer &operator=(const Timer &) = delete;
+        FakeClock &clock;
+        Entry &entry;
+    };
+
+    std::unique_ptr<RunningTimer> add(std::chrono::milliseconds delay, std::chrono::milliseconds interval,
+                                      Handler handler)
+    {
+        m_entries.push_back({m_elapsed + delay, interval, std::move(handler)});
+        return std::make_unique<Timer>(*this, m_entries.back());
+    }
+
+    Entry *nextDue(std::chrono::milliseconds end)
+    {
+        Entry *next = nullptr;
+        for (Entry &entry : m_entries) {
+            if (!entry.done && entry.due <= end && (!next || entry.due < next->due))
+                next = &entry;
+        }
+        return next;
+    }
+
+    QDateTime m_start = QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC);
+    std::chrono::milliseconds m_elapsed{0};
+    std::list<Entry> m_entries;
+};
+
+class MemoryDefaults : public UserDefaults
+{
+public:
+    std::optional<DefaultsValue> object(const QString &key) const override
+    {
+        const auto found = values.constFind(key);
+        return found == values.cend() ? std::nullopt : std::optional(*found);
+    }
+    void setObject(const QString &key, const DefaultsValue &value) override { values.insert(key, value); }
+    void removeObject(const QString &key) override { values.remove(key); }
+
+    QMap<QString, DefaultsValue> values;
+};
+
+class FakeDisplays : public Displays
+{
+public:
+    QList<Display> all() const override { return displays; }
+    std::optional<Display> main() const override
+    {
+        return displays.isEmpty() ? std::nullopt : std::optional(displays.value(mainIndex));
+    }
+
+    QList<Display> displays;
+    int mainIndex = 0;
+};
+
+class FakePointer : public Pointer
+{
+public:
+    QPointF location() override { return now.location; }
+    PointerSample sample() override { return now; }
+
+    PointerSample now;
+};
+
+class FakePanels : public NotchPanels
+{
+public:
+    struct Panel : NotchPanel
+    {
+        explicit Panel(FakePanels &owner)
+            : panels(owner)
+        {
+            panels.alive.push_back(this);
+        }
+        ~Panel() override { std::erase(panels.alive, this); }
+        Panel(const Panel &) = delete;
+        Panel &operator=(const Panel &) = delete;
+
+        void setFrame(const QRectF &place) override { frame = place; }
+        void orderFront() override { shown = true; }
+        void orderOut() override { shown = false; }
+        void setHitArea(const QRectF &area) override { hitArea = area; }
+        void makeKey() override { key = true; }
+        void resignKey() override { key = false; }
+
+        FakePanels &panels;
+        QRectF frame;
+        QRectF hitArea;
+        bool shown = false;
+        bool key = false;
+    };
+
+    std::unique_ptr<NotchPanel> create(const QRectF &frame, NotchScreenModel &, NotchServices &) override
+    {
+        auto panel = std::make_unique<Panel>(*this);
+        panel->frame = frame;
+        return panel;
+    }
+
+    std::vector<Panel *> alive;
+};
+
+class FakeHotKeys : public HotKeys
+{
+public:
+    void installHandler(Handler installed) override { handler = std::move(installed); }
+    bool registerHotKey(quint32 keyCode, quint32 modifiers, HotKeyIdentity identity) override
+    {
+        if (taken)
+            return false;
+        registered.push_back(identity);
+        codes = {keyCode, modifiers};
+        return true;
+    }
+    void unregisterHotKey(HotKeyIdentity identity) override { std::erase(registered, identity); }
+
+    Handler handler;
+    std::vector<HotKeyIdentity> registered;
+    std::pair<quint32, quint32> codes;
+    bool taken = false;
+};
+
+class FakeSounds : public SoundPlayer
+{
+public:
+    void play(const QString &name) override { played.append(name); }
+
+    QStringList played;
+};
+
+class FakeWorkspace : public Workspace
+{
+public:
+    void open(const QUrl &url) override { opened.append(url); }
+
+    QList<QUrl> opened;
+};
+
+class FakeApplications : public RunningApplications
+{
+public:
+    bool isRunning(const QString &bundleIdentifier) const override { return running.contains(bundleIdentifier); }
+
+    QSet<QString> running;
+};
+
+class FakeLoginItem : public LoginItem
+{
+public:
+    bool isEnabled() const override { return enabled; }
+    std::optional<QString> setEnabled(bool wanted) override
+    {
+        if (!failure)
+            enabled = wanted;
+        return failure;
+    }
+
+    bool enabled = false;
+    std::optional<QString> failure;
+};
+
+} // namespace Kestrune::Fakes
