@@ -56,8 +56,8 @@ void AppState::schedule(LaunchRequest request)
 
 void AppState::checkFennivar()
 {
-    const bool yield = m_platform.applications.isRunning(NotchBranding::suiteIdentifier())
-        && m_platform.suiteDefaults.value<bool>(QStringLiteral("notch.enabled")).value_or(false);
+    const bool yield = m_platform.applications.isRunning(NotchBranding::suiteIdentifier()) &&
+                       m_platform.suiteDefaults.value<bool>(QStringLiteral("notch.enabled")).value_or(false);
     m_yieldingToFennivar = yield;
     if (yield)
         m_controller.stop();

@@ -28,7 +28,8 @@ struct AppPlatform
 class AppState : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged BINDABLE bindableLaunchAtLogin)
+    Q_PROPERTY(
+        bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged BINDABLE bindableLaunchAtLogin)
     /// The suite's notch is on, so this program keeps its own stopped.
     Q_PROPERTY(bool yieldingToFennivar READ yieldingToFennivar NOTIFY yieldingToFennivarChanged BINDABLE
                    bindableYieldingToFennivar)

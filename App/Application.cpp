@@ -28,24 +28,23 @@ void Application::start(const LaunchRequest &request)
 
 void Application::run(const LaunchRequest &request)
 {
-    const AppPlatform app{m_defaults, m_suiteDefaults, m_applications, m_loginItem,
-                          [this](const QString &message, const QString &details) {
-                              m_alert.show(message, details);
-                          }};
+    const AppPlatform app{
+        m_defaults, m_suiteDefaults, m_applications, m_loginItem,
+        [this](const QString &message, const QString &details) { m_alert.show(message, details); }};
     const NotchPlatform tools{m_clock, m_sounds, m_workspace};
     const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys};
     m_state = std::make_unique<AppState>(app, tools, controller, request);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());
     m_control = std::make_unique<ControlService>(*m_state, *m_keys);
-    m_bus.registerObject(ControlService::objectPath(), m_control.get(), QDBusConnection::ExportScriptableSlots);
+    m_bus.registerObject(ControlService::objectPath(), m_control.get(),
+                         QDBusConnection::ExportScriptableSlots);
 }
 
 SettingsKeys Application::makeKeys()
 {
-    return {m_state->settings(),
-            standardExtras(
-                m_defaults, m_loginItem, [this] { m_displays.reloadHousings(); },
-                [this](bool on) { m_state->setLaunchAtLogin(on); })};
+    return {m_state->settings(), standardExtras(
+                                     m_defaults, m_loginItem, [this] { m_displays.reloadHousings(); },
+                                     [this](bool on) { m_state->setLaunchAtLogin(on); })};
 }
 
 } // namespace Kestrune

@@ -56,7 +56,8 @@ CommandLine parseSettings(const QStringList &arguments)
 
 CommandLine parsePlain(Verb verb, const QString &name, const QStringList &arguments)
 {
-    return arguments.isEmpty() ? CommandLine{verb, {}, {}} : bad(QStringLiteral("%1 takes no argument").arg(name));
+    return arguments.isEmpty() ? CommandLine{verb, {}, {}}
+                               : bad(QStringLiteral("%1 takes no argument").arg(name));
 }
 
 } // namespace
@@ -68,9 +69,9 @@ CommandLine CommandLine::parse(const QStringList &arguments)
     const QString &first = arguments.constFirst();
     const QStringList rest = arguments.mid(1);
     static const QMap<QString, Verb> plain{
-        {QStringLiteral("--help"), Verb::help},     {QStringLiteral("-h"), Verb::help},
+        {QStringLiteral("--help"), Verb::help},       {QStringLiteral("-h"), Verb::help},
         {QStringLiteral("--version"), Verb::version}, {QStringLiteral("toggle"), Verb::toggle},
-        {QStringLiteral("close"), Verb::close},     {QStringLiteral("quit"), Verb::quit},
+        {QStringLiteral("close"), Verb::close},       {QStringLiteral("quit"), Verb::quit},
     };
     if (const auto verb = plain.constFind(first); verb != plain.cend())
         return parsePlain(*verb, first, rest);
@@ -102,7 +103,8 @@ QString CommandLine::helpText()
   kestrune --help
 
 Tools: %1
-)").arg(rawValues(allCases<NotchTool>()).join(QLatin1Char(' ')));
+)")
+        .arg(rawValues(allCases<NotchTool>()).join(QLatin1Char(' ')));
 }
 
 } // namespace Kestrune

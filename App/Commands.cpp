@@ -31,8 +31,8 @@ int fail(int status, const QString &fault)
 
 QDBusMessage call(const QString &method, const QVariantList &arguments = {})
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(ControlService::busName(), ControlService::objectPath(),
-                                                          ControlService::interfaceName(), method);
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        ControlService::busName(), ControlService::objectPath(), ControlService::interfaceName(), method);
     message.setArguments(arguments);
     message.setAutoStartService(false);
     return QDBusConnection::sessionBus().call(message, QDBus::Block, kTimeout);
@@ -40,9 +40,9 @@ QDBusMessage call(const QString &method, const QVariantList &arguments = {})
 
 bool nothingRuns(const QDBusMessage &reply)
 {
-    return !QDBusConnection::sessionBus().isConnected()
-        || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown")
-        || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner");
+    return !QDBusConnection::sessionBus().isConnected() ||
+           reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown") ||
+           reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner");
 }
 
 /// What went wrong with a call, or nothing and 0.

@@ -37,7 +37,10 @@ QString ControlService::GetSetting(const QString &key)
     return text.value_or(QString());
 }
 
-void ControlService::SetSetting(const QString &key, const QString &text) { report(m_settings.set(key, text)); }
+void ControlService::SetSetting(const QString &key, const QString &text)
+{
+    report(m_settings.set(key, text));
+}
 
 void ControlService::ResetSetting(const QString &key) { report(m_settings.reset(key)); }
 

@@ -33,7 +33,8 @@ std::optional<QString> SettingsKeys::set(const QString &key, const QString &text
     const DefaultsValue &example = access ? access->example : extra->example;
     const auto value = SettingsText::parse(text, example);
     if (!value || (access && !access->assign(m_settings, value))) {
-        const QString wanted = value ? QStringLiteral("one of its cases") : SettingsText::expectation(example);
+        const QString wanted =
+            value ? QStringLiteral("one of its cases") : SettingsText::expectation(example);
         return QStringLiteral("%1 takes %2, not \"%3\"").arg(key, wanted, text);
     }
     if (!access)

@@ -119,8 +119,9 @@ std::optional<DefaultsValue> parse(const QString &text, const DefaultsValue &exa
 
 QString expectation(const DefaultsValue &example)
 {
-    static constexpr std::array names{"true or false",          "a whole number",        "a number", "a text",
-                                      "a JSON list of strings", "a JSON map of strings", "base64 data"};
+    static constexpr std::array names{"true or false", "a whole number",         "a number",
+                                      "a text",        "a JSON list of strings", "a JSON map of strings",
+                                      "base64 data"};
     static_assert(names.size() == std::variant_size_v<DefaultsValue>);
     return QString::fromLatin1(names[example.index()]);
 }

@@ -43,8 +43,9 @@ void SingleInstance::claim(std::function<void(Outcome)> done)
 
 void SingleInstance::handOver(const QString &tool, std::function<void(bool)> done)
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(ControlService::busName(), ControlService::objectPath(),
-                                                          ControlService::interfaceName(), QStringLiteral("Reopen"));
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(ControlService::busName(), ControlService::objectPath(),
+                                       ControlService::interfaceName(), QStringLiteral("Reopen"));
     message.setArguments({tool});
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, kTimeout), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, done = std::move(done)] {

@@ -83,7 +83,8 @@ int runProgram(int argc, char *argv[], const QStringList &arguments)
             return;
         }
         if (outcome == SingleInstance::Outcome::noBus)
-            std::fputs("Kestrune: there is no session bus; commands and a second start cannot reach it\n", stderr);
+            std::fputs("Kestrune: there is no session bus; commands and a second start cannot reach it\n",
+                       stderr);
         program = std::make_unique<Application>(bus);
         program->start(request);
     });

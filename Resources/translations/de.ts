@@ -1,4 +1,191 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>notch</name>
+    <message>
+        <source>Unpin</source>
+        <translation>Loslösen</translation>
+    </message>
+    <message>
+        <source>Keep open</source>
+        <translation>Offen halten</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Good night</source>
+        <translation>Gute Nacht</translation>
+    </message>
+    <message>
+        <source>Good morning</source>
+        <translation>Guten Morgen</translation>
+    </message>
+    <message>
+        <source>Good afternoon</source>
+        <translation>Guten Tag</translation>
+    </message>
+    <message>
+        <source>Good evening</source>
+        <translation>Guten Abend</translation>
+    </message>
+    <message>
+        <source>Choose what Home shows in Settings › Home screen.</source>
+        <translation>Wähle unter Einstellungen › Startansicht, was hier erscheint.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Notiz</translation>
+    </message>
+    <message>
+        <source>Quick note… it saves as you type.</source>
+        <translation>Kurze Notiz … sie wird beim Tippen gesichert.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <translation>Timer</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Starten</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>%d min</source>
+        <translation>%d Min.</translation>
+    </message>
+    <message>
+        <source>The time stays visible beside the closed notch.</source>
+        <translation>Die Zeit bleibt neben der geschlossenen Notch sichtbar.</translation>
+    </message>
+    <message>
+        <source>Fennivar’s notch is on, so Kestrune is paused.</source>
+        <translation>Die Notch von Fennivar ist eingeschaltet, deshalb pausiert Kestrune.</translation>
+    </message>
+    <message>
+        <source>Turn off Notch in Fennivar to use Kestrune.</source>
+        <translation>Schalte in Fennivar die Notch aus, um Kestrune zu benutzen.</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Now Playing</source>
+        <translation>Aktueller Titel</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Screenshots</source>
+        <translation>Bildschirmfotos</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Ablage</translation>
+    </message>
+    <message>
+        <source>AI Usage</source>
+        <translation>KI-Nutzung</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Wetter</translation>
+    </message>
+    <message>
+        <source>Stocks</source>
+        <translation>Aktien</translation>
+    </message>
+    <message>
+        <source>Teleprompter</source>
+        <translation>Teleprompter</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>Spiegel</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Greeting and date</source>
+        <translation>Begrüßung und Datum</translation>
+    </message>
+    <message>
+        <source>Today&apos;s events</source>
+        <translation>Heutige Termine</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <translation>Erinnerungen</translation>
+    </message>
+    <message>
+        <source>Latest copies</source>
+        <translation>Zuletzt kopiert</translation>
+    </message>
+    <message>
+        <source>Latest screenshots</source>
+        <translation>Letzte Bildschirmfotos</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Ausgeblendet</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>On hover</source>
+        <translation>Beim Verweilen</translation>
+    </message>
+    <message>
+        <source>On click</source>
+        <translation>Beim Klicken</translation>
+    </message>
+    <message>
+        <source>More tools at fennivar.example</source>
+        <translation>Mehr Werkzeuge auf fennivar.example</translation>
+    </message>
+    <message>
+        <source>this app</source>
+        <translation>dieser App</translation>
+    </message>
+</context>
 </TS>

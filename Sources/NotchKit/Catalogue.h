@@ -64,8 +64,8 @@ struct CatalogueEntry
 };
 
 template <typename Case>
-concept CatalogueCase = std::same_as<Case, NotchTool> || std::same_as<Case, HomeWidget>
-    || std::same_as<Case, HomeColumn> || std::same_as<Case, NotchOpenMode>;
+concept CatalogueCase = std::same_as<Case, NotchTool> || std::same_as<Case, HomeWidget> ||
+    std::same_as<Case, HomeColumn> || std::same_as<Case, NotchOpenMode>;
 
 /// The entries of an enumeration, one per case, in declaration order.
 template <CatalogueCase Case>

@@ -12,14 +12,14 @@ namespace {
 
 constexpr auto kPollInterval = 33ms; // 1/30 s
 constexpr auto kLeaveDelay = 250ms;
-constexpr quint32 kShortcutKey = 45;                       // N
+constexpr quint32 kShortcutKey = 45;                      // N
 constexpr quint32 kShortcutModifiers = 256 + 2048 + 4096; // command, option, control
 
 /// Unlike QRectF::contains, the upper edges do not count, so that neighbouring displays never both match.
 bool holds(const QRectF &rect, const QPointF &point)
 {
-    return point.x() >= rect.left() && point.x() < rect.right() && point.y() >= rect.top()
-        && point.y() < rect.bottom();
+    return point.x() >= rect.left() && point.x() < rect.right() && point.y() >= rect.top() &&
+           point.y() < rect.bottom();
 }
 
 } // namespace
@@ -46,7 +46,8 @@ void NotchController::start()
     m_poller = m_platform.clock.every(kPollInterval, [this] { poll(); });
     rebuildPanels();
     m_services.start();
-    m_screenObserver = connect(&m_platform.displays, &Displays::changed, this, &NotchController::rebuildPanels);
+    m_screenObserver =
+        connect(&m_platform.displays, &Displays::changed, this, &NotchController::rebuildPanels);
     applyShortcut();
 }
 
@@ -78,8 +79,8 @@ void NotchController::applyShortcut()
 {
     m_hotkey.reset();
     if (m_services.settings()->shortcutEnabled()) {
-        m_hotkey = GlobalHotkey::make(m_platform.hotKeys, kShortcutKey, kShortcutModifiers,
-                                      [this] { toggle(); });
+        m_hotkey =
+            GlobalHotkey::make(m_platform.hotKeys, kShortcutKey, kShortcutModifiers, [this] { toggle(); });
     }
 }
 
@@ -104,8 +105,8 @@ void NotchController::rebuildPanels()
 {
     const QList<Display> wanted = wantedScreens();
     const auto gone = [&](const Notch &notch) {
-        return std::ranges::none_of(
-            wanted, [&](const Display &screen) { return screen.name == notch.screen.name; });
+        return std::ranges::none_of(wanted,
+                                    [&](const Display &screen) { return screen.name == notch.screen.name; });
     };
     for (Notch &notch : m_notches) {
         if (!gone(notch))
@@ -136,7 +137,8 @@ void NotchController::addNotch(const Display &screen)
     auto model = std::make_unique<NotchScreenModel>(NotchGeometry(screen));
     model->setSelected(firstTool());
     auto panel = m_platform.panels.create(model->geometry().panelFrame(), *model, m_services);
-    connect(model.get(), &NotchScreenModel::keyboardWanted, this, [panel = panel.get()] { panel->makeKey(); });
+    connect(model.get(), &NotchScreenModel::keyboardWanted, this,
+            [panel = panel.get()] { panel->makeKey(); });
     connect(model.get(), &NotchScreenModel::closeWanted, this, [this, name = screen.name] {
         if (Notch *notch = find(name))
             set(*notch, false);

@@ -18,8 +18,8 @@ class NotchGeometry
 
 public:
     static constexpr QSizeF expandedSize{760, 330}; ///< The open notch.
-    static constexpr double activityWing = 76;      ///< Added on each side of a closed notch with an activity.
-    static constexpr QSizeF panelSize{880, 390};    ///< The host panel: room for the shadow and the animation.
+    static constexpr double activityWing = 76;   ///< Added on each side of a closed notch with an activity.
+    static constexpr QSizeF panelSize{880, 390}; ///< The host panel: room for the shadow and the animation.
     static constexpr QSizeF fallbackNotchSize{190, 32}; ///< Closed notch without a camera housing.
 
     QRectF screenFrame;            ///< The display's whole frame.

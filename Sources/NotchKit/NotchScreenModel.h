@@ -14,7 +14,8 @@ class NotchScreenModel : public QObject
 {
     Q_OBJECT
     /// Where the notch is on its display.
-    Q_PROPERTY(Kestrune::NotchGeometry geometry READ geometry NOTIFY geometryChanged BINDABLE bindableGeometry)
+    Q_PROPERTY(
+        Kestrune::NotchGeometry geometry READ geometry NOTIFY geometryChanged BINDABLE bindableGeometry)
     /// The notch is open.
     Q_PROPERTY(bool expanded READ expanded NOTIFY expandedChanged BINDABLE bindableExpanded)
     /// The pane shown when open.
@@ -24,8 +25,8 @@ class NotchScreenModel : public QObject
     Q_PROPERTY(bool dropTargeted READ dropTargeted WRITE setDropTargeted NOTIFY dropTargetedChanged BINDABLE
                    bindableDropTargeted)
     /// Since the last open or close the pointer has been inside the open notch at least once.
-    Q_PROPERTY(bool pointerEntered READ pointerEntered NOTIFY pointerEnteredChanged BINDABLE
-                   bindablePointerEntered)
+    Q_PROPERTY(
+        bool pointerEntered READ pointerEntered NOTIFY pointerEnteredChanged BINDABLE bindablePointerEntered)
     /// The user keeps the open notch open: it never closes by pointer.
     Q_PROPERTY(bool pinned READ pinned WRITE setPinned NOTIFY pinnedChanged BINDABLE bindablePinned)
 

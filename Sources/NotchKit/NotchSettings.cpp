@@ -34,7 +34,10 @@ template <CatalogueCase Case>
 struct Stored<QList<Case>>
 {
     using Value = QStringList;
-    static std::optional<DefaultsValue> encode(const QList<Case> &cases) { return DefaultsValue(rawValues(cases)); }
+    static std::optional<DefaultsValue> encode(const QList<Case> &cases)
+    {
+        return DefaultsValue(rawValues(cases));
+    }
     static std::optional<QList<Case>> decode(const QStringList &raws) { return fromRawValues<Case>(raws); }
 };
 
@@ -113,9 +116,8 @@ void NotchSettings::admitNewTools()
         known.removeAll(rawValue(NotchTool::captures));
 
     const NotchTools saved = m_tools;
-    m_tools.setValueBypassingBindings(casesWhere<NotchTool>([&](NotchTool tool) {
-        return saved.contains(tool) || !known.contains(rawValue(tool));
-    }));
+    m_tools.setValueBypassingBindings(casesWhere<NotchTool>(
+        [&](NotchTool tool) { return saved.contains(tool) || !known.contains(rawValue(tool)); }));
     m_defaults.setObject(key, catalogueNames);
 }
 
@@ -161,7 +163,7 @@ QMap<QString, NotchSettings::Access> NotchSettings::makeAccess()
                 [](NotchSettings &settings, const std::optional<DefaultsValue> &value) {                     \
                     const auto decoded = value ? decode<Type>(*value) : Type(fallback);                      \
                     if (decoded)                                                                             \
-                        settings.set##Name(normalized(*decoded));                                                        \
+                        settings.set##Name(normalized(*decoded));                                            \
                     if (!value)                                                                              \
                         settings.save(#name, std::nullopt);                                                  \
                     return decoded.has_value();                                                              \
@@ -236,9 +238,9 @@ void NotchSettings::resetHome()
 const QMap<HomeWidget, HomeColumn> &NotchSettings::defaultHomeColumns()
 {
     static const QMap<HomeWidget, HomeColumn> columns{
-        {HomeWidget::greeting, HomeColumn::left},     {HomeWidget::weather, HomeColumn::left},
-        {HomeWidget::aiUsage, HomeColumn::left},      {HomeWidget::nowPlaying, HomeColumn::center},
-        {HomeWidget::events, HomeColumn::right},      {HomeWidget::reminders, HomeColumn::right},
+        {HomeWidget::greeting, HomeColumn::left}, {HomeWidget::weather, HomeColumn::left},
+        {HomeWidget::aiUsage, HomeColumn::left},  {HomeWidget::nowPlaying, HomeColumn::center},
+        {HomeWidget::events, HomeColumn::right},  {HomeWidget::reminders, HomeColumn::right},
     };
     return columns;
 }

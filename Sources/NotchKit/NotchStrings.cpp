@@ -76,7 +76,7 @@ QString hostName()
     static const QString name = [] {
         const QString display = QCoreApplication::instance()->property("applicationDisplayName").toString();
         const QString base = display.isEmpty() ? QCoreApplication::applicationName() : display;
-        return base.isEmpty() ? notchStrings("this app") : base;
+        return base.isEmpty() ? notchStrings(QT_TRANSLATE_NOOP("notch", "this app")) : base;
     }();
     return name;
 }

@@ -26,9 +26,10 @@ void CatalogueTest::rawValuesAreFixed()
     QCOMPARE(joined(allCases<NotchTool>()),
              QStringLiteral("home nowPlaying clipboard captures calendar shelf aiUsage weather stocks timer "
                             "teleprompter mirror note system"));
-    QCOMPARE(joined(allCases<HomeWidget>()),
-             QStringLiteral("greeting weather nowPlaying events reminders aiUsage timer stocks system clipboard "
-                            "captures note"));
+    QCOMPARE(
+        joined(allCases<HomeWidget>()),
+        QStringLiteral("greeting weather nowPlaying events reminders aiUsage timer stocks system clipboard "
+                       "captures note"));
     QCOMPARE(joined(allCases<HomeColumn>()), QStringLiteral("hidden left center right"));
     QCOMPARE(joined(allCases<NotchOpenMode>()), QStringLiteral("hover click"));
     QCOMPARE(QString::fromLatin1(entry(NotchTool::captures).title), QStringLiteral("Screenshots"));
@@ -48,13 +49,20 @@ void CatalogueTest::localizationFollowsPreference_data()
 {
     QTest::addColumn<QString>("preferences");
     QTest::addColumn<QString>("chosen");
-    QTest::newRow("first served wins") << "de,en" << "de";
-    QTest::newRow("English before German") << "en,de" << "en";
-    QTest::newRow("a region is served by its language") << "de-AT" << "de";
-    QTest::newRow("a language is served by a region") << "pt" << "pt-BR";
-    QTest::newRow("unserved ones are passed over") << "cy,fr-CA,de-CH,en" << "de";
-    QTest::newRow("none served") << "cy,fr" << "en";
-    QTest::newRow("no preference") << "" << "en";
+    QTest::newRow("first served wins") << "de,en"
+                                       << "de";
+    QTest::newRow("English before German") << "en,de"
+                                           << "en";
+    QTest::newRow("a region is served by its language") << "de-AT"
+                                                        << "de";
+    QTest::newRow("a language is served by a region") << "pt"
+                                                      << "pt-BR";
+    QTest::newRow("unserved ones are passed over") << "cy,fr-CA,de-CH,en"
+                                                   << "de";
+    QTest::newRow("none served") << "cy,fr"
+                                 << "en";
+    QTest::newRow("no preference") << ""
+                                   << "en";
 }
 
 void CatalogueTest::localizationFollowsPreference()

@@ -11,8 +11,8 @@ using Fakes::externalDisplay;
 
 namespace {
 
-constexpr QPointF kNotch(960, 1070);  ///< In the closed notch of the first external display.
-constexpr QPointF kPanel(700, 800);   ///< In the open notch only.
+constexpr QPointF kNotch(960, 1070); ///< In the closed notch of the first external display.
+constexpr QPointF kPanel(700, 800);  ///< In the open notch only.
 constexpr QPointF kOutside(300, 300);
 
 } // namespace

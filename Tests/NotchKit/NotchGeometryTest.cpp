@@ -47,7 +47,8 @@ void NotchGeometryTest::notchIsMeasured()
     const auto area = [](double width) {
         return width < 0 ? std::nullopt : std::optional(QRectF(0, 0, width, 38));
     };
-    const Kestrune::Display display{QStringLiteral("eDP-1"), {0, 0, 1512, 982}, inset, area(left), area(right)};
+    const Kestrune::Display display{
+        QStringLiteral("eDP-1"), {0, 0, 1512, 982}, inset, area(left), area(right)};
     const NotchGeometry geometry(display);
     QCOMPARE(geometry.notchSize, notch);
     QCOMPARE(geometry.hasHardwareNotch, hardware);

@@ -59,11 +59,14 @@ void NotchSettingsTest::toolsAreLoaded_data()
     QTest::addColumn<QString>("saved");
     QTest::addColumn<QString>("known");
     QTest::addColumn<QString>("tools");
-    QTest::newRow("screenshots join an old list") << "home clipboard" << "" << "home clipboard captures";
+    QTest::newRow("screenshots join an old list") << "home clipboard"
+                                                  << ""
+                                                  << "home clipboard captures";
     QTest::newRow("all known") << "home clipboard" << allTools << "home clipboard";
     QTest::newRow("catalogue order, unknown dropped") << "timer home sundial" << allTools << "home timer";
-    QTest::newRow("new tools join") << "home" << "home timer captures nowPlaying clipboard calendar shelf aiUsage"
-                                                 " weather stocks teleprompter mirror"
+    QTest::newRow("new tools join") << "home"
+                                    << "home timer captures nowPlaying clipboard calendar shelf aiUsage"
+                                       " weather stocks teleprompter mirror"
                                     << "home note system";
     QTest::newRow("repeated") << "note note home" << allTools << "home note";
 }
@@ -87,14 +90,22 @@ void NotchSettingsTest::wrongTypesReadAsAbsent_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("stored");
-    QTest::newRow("hoverDelay") << "hoverDelay" << "0.5";
-    QTest::newRow("unknown mode") << "openMode" << "Click";
-    QTest::newRow("empty mode") << "openMode" << "";
-    QTest::newRow("Boolean") << "showWithoutNotch" << "false";
-    QTest::newRow("integer") << "claudeBlockBudget" << "12";
-    QTest::newRow("list") << "tools" << "home";
-    QTest::newRow("map") << "homeColumns" << "left";
-    QTest::newRow("optional") << "weatherLatitude" << "52.5";
+    QTest::newRow("hoverDelay") << "hoverDelay"
+                                << "0.5";
+    QTest::newRow("unknown mode") << "openMode"
+                                  << "Click";
+    QTest::newRow("empty mode") << "openMode"
+                                << "";
+    QTest::newRow("Boolean") << "showWithoutNotch"
+                             << "false";
+    QTest::newRow("integer") << "claudeBlockBudget"
+                             << "12";
+    QTest::newRow("list") << "tools"
+                          << "home";
+    QTest::newRow("map") << "homeColumns"
+                         << "left";
+    QTest::newRow("optional") << "weatherLatitude"
+                              << "52.5";
 }
 
 void NotchSettingsTest::wrongTypesReadAsAbsent()
@@ -105,8 +116,8 @@ void NotchSettingsTest::wrongTypesReadAsAbsent()
     Fakes::MemoryDefaults defaults;
     defaults.setObject(QStringLiteral("notch.") + name, stored);
     const NotchSettings settings(defaults);
-    QVERIFY(NotchSettings::access(name)->stored(settings)
-            == NotchSettings::access(name)->stored(NotchSettings(empty)));
+    QVERIFY(NotchSettings::access(name)->stored(settings) ==
+            NotchSettings::access(name)->stored(NotchSettings(empty)));
 }
 
 void NotchSettingsTest::everySettingSurvivesARestart()
@@ -129,7 +140,8 @@ void NotchSettingsTest::everySettingSurvivesARestart()
         const auto *access = NotchSettings::access(name);
         QVERIFY2(access->stored(settings) == access->stored(restarted), qPrintable(name));
     }
-    QVERIFY(joined(rawValues(restarted.homeOrder())).startsWith(QLatin1String("note greeting weather nowPlaying")));
+    QVERIFY(joined(rawValues(restarted.homeOrder()))
+                .startsWith(QLatin1String("note greeting weather nowPlaying")));
     QCOMPARE(restarted.homeOrder().size(), 12);
     QCOMPARE(restarted.homeColumns().value(QStringLiteral("weather")), QStringLiteral("hidden"));
 }
@@ -143,8 +155,8 @@ void NotchSettingsTest::changesAreAnnouncedStoredAndNotified()
         log.append(QStringLiteral("before %1 %2").arg(name, settings.note()));
     });
     connect(&settings, &NotchSettings::noteChanged, this, [&] {
-        log.append(QStringLiteral("after %1 %2").arg(
-            settings.note(), *defaults.value<QString>(QStringLiteral("notch.note"))));
+        log.append(QStringLiteral("after %1 %2")
+                       .arg(settings.note(), *defaults.value<QString>(QStringLiteral("notch.note"))));
     });
     const QSignalSpy others(&settings, &NotchSettings::hoverDelayChanged);
     settings.setNote(QStringLiteral("a"));

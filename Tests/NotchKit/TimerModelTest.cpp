@@ -129,7 +129,8 @@ void TimerModelTest::startShowsTheWholeLengthFirst()
     core.services.start();
     core.wait(700); // between two ticks
     core.services.timer()->start(300);
-    QCOMPARE(TimerModel::format(core.services.timer()->remaining(core.services.now())), QStringLiteral("5:00"));
+    QCOMPARE(TimerModel::format(core.services.timer()->remaining(core.services.now())),
+             QStringLiteral("5:00"));
 }
 
 REGISTER_TEST(TimerModelTest);

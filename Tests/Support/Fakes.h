@@ -218,7 +218,10 @@ public:
 class FakeApplications : public RunningApplications
 {
 public:
-    bool isRunning(const QString &bundleIdentifier) const override { return running.contains(bundleIdentifier); }
+    bool isRunning(const QString &bundleIdentifier) const override
+    {
+        return running.contains(bundleIdentifier);
+    }
 
     QSet<QString> running;
 };

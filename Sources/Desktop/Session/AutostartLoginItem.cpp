@@ -24,16 +24,16 @@ QString quotedForExec(QString path)
 bool switchesOff(const QString &line)
 {
     const QString compact = line.simplified().remove(QLatin1Char(' '));
-    return compact == QLatin1String("Hidden=true")
-        || compact == QLatin1String("X-GNOME-Autostart-enabled=false");
+    return compact == QLatin1String("Hidden=true") ||
+           compact == QLatin1String("X-GNOME-Autostart-enabled=false");
 }
 
 } // namespace
 
 AutostartLoginItem::AutostartLoginItem(const QString &executable)
     : m_executable(executable)
-    , m_path(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-             + QStringLiteral("/autostart/kestrune.desktop"))
+    , m_path(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+             QStringLiteral("/autostart/kestrune.desktop"))
 {}
 
 bool AutostartLoginItem::isEnabled() const
@@ -58,8 +58,8 @@ std::optional<QString> AutostartLoginItem::setEnabled(bool enabled)
     QSaveFile file(m_path);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();
-    file.write("[Desktop Entry]\nType=Application\nName=Kestrune\nIcon=kestrune\nExec="
-               + quotedForExec(m_executable).toUtf8() + "\n");
+    file.write("[Desktop Entry]\nType=Application\nName=Kestrune\nIcon=kestrune\nExec=" +
+               quotedForExec(m_executable).toUtf8() + "\n");
     return file.commit() ? std::nullopt : std::optional(file.errorString());
 }
 

@@ -16,17 +16,16 @@ void call(const QDBusConnection &bus, const QString &method, const QVariantList 
           std::function<void(const QVariant &)> done)
 {
     const QString daemon = QStringLiteral("org.freedesktop.DBus");
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        daemon, QStringLiteral("/org/freedesktop/DBus"), daemon, method);
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(daemon, QStringLiteral("/org/freedesktop/DBus"), daemon, method);
     message.setArguments(arguments);
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(message, kTimeout), context);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context,
-                     [watcher, done = std::move(done)] {
-                         const QDBusMessage reply = watcher->reply();
-                         const bool answered = reply.type() == QDBusMessage::ReplyMessage;
-                         done(answered ? reply.arguments().value(0) : QVariant());
-                         watcher->deleteLater();
-                     });
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context, [watcher, done = std::move(done)] {
+        const QDBusMessage reply = watcher->reply();
+        const bool answered = reply.type() == QDBusMessage::ReplyMessage;
+        done(answered ? reply.arguments().value(0) : QVariant());
+        watcher->deleteLater();
+    });
 }
 
 } // namespace Kestrune::BusDaemon

@@ -18,9 +18,12 @@ struct SettingsProgram
 
 /// The settings programs of the free desktops; the first one installed is taken.
 constexpr std::array kSettingsPrograms{
-    SettingsProgram{"gnome-control-center", "privacy"}, SettingsProgram{"systemsettings", ""},
-    SettingsProgram{"systemsettings5", ""},             SettingsProgram{"cinnamon-settings", ""},
-    SettingsProgram{"mate-control-center", ""},         SettingsProgram{"xfce4-settings-manager", ""},
+    SettingsProgram{"gnome-control-center", "privacy"},
+    SettingsProgram{"systemsettings", ""},
+    SettingsProgram{"systemsettings5", ""},
+    SettingsProgram{"cinnamon-settings", ""},
+    SettingsProgram{"mate-control-center", ""},
+    SettingsProgram{"xfce4-settings-manager", ""},
 };
 
 void openSettings()

@@ -49,7 +49,8 @@ void playFile(const QByteArray &file)
     auto *finished = new std::shared_ptr<QSemaphore>(std::make_shared<QSemaphore>());
     const std::shared_ptr<QSemaphore> wait = *finished;
     const auto done = [](ca_context *, uint32_t, int, void *data) {
-        const std::unique_ptr<std::shared_ptr<QSemaphore>> held(static_cast<std::shared_ptr<QSemaphore> *>(data));
+        const std::unique_ptr<std::shared_ptr<QSemaphore>> held(
+            static_cast<std::shared_ptr<QSemaphore> *>(data));
         (*held)->release();
     };
     if (ca_context_play_full(context.get(), 0, properties, done, finished) == CA_SUCCESS)

@@ -12,16 +12,16 @@ namespace {
 
 bool isStackingProperty(xcb_atom_t atom)
 {
-    return atom == X11::atom("_NET_CLIENT_LIST_STACKING") || atom == X11::atom("_NET_ACTIVE_WINDOW")
-        || atom == X11::atom("_NET_CURRENT_DESKTOP");
+    return atom == X11::atom("_NET_CLIENT_LIST_STACKING") || atom == X11::atom("_NET_ACTIVE_WINDOW") ||
+           atom == X11::atom("_NET_CURRENT_DESKTOP");
 }
 
 /// The ancestor of `window` (or itself) that is a child of the root window.
 std::optional<xcb_window_t> frameOf(xcb_window_t window)
 {
     for (;;) {
-        const X11::Reply<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(
-            X11::connection(), xcb_query_tree(X11::connection(), window), nullptr));
+        const X11::Reply<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(X11::connection(), xcb_query_tree(X11::connection(), window), nullptr));
         if (!tree)
             return std::nullopt;
         if (tree->parent == tree->root)
@@ -40,9 +40,9 @@ X11Desktop::X11Desktop(QObject *parent)
     if (fixes && fixes->present) {
         m_selectionEvent = fixes->first_event + XCB_XFIXES_SELECTION_NOTIFY;
         xcb_xfixes_select_selection_input(X11::connection(), X11::root(), m_compositorSelection,
-                                          XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER
-                                              | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY
-                                              | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                                              XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                                              XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
     }
     QCoreApplication::instance()->installNativeEventFilter(this);
     checkCompositor();

@@ -43,8 +43,8 @@ QList<Display> X11Displays::all() const
     QList<Display> displays;
     for (const QScreen *screen : QGuiApplication::screens()) {
         const Display display = describe(*screen);
-        const bool mirrored = std::ranges::any_of(
-            displays, [&](const Display &other) { return other.frame == display.frame; });
+        const bool mirrored =
+            std::ranges::any_of(displays, [&](const Display &other) { return other.frame == display.frame; });
         if (!mirrored && !display.frame.isEmpty() && !screen->name().isEmpty())
             displays.append(display);
     }
@@ -70,8 +70,7 @@ Display X11Displays::describe(const QScreen &screen) const
     const double bottom = frame.y() + frame.height() - housing.height();
     display.safeAreaTop = housing.height();
     display.auxiliaryTopLeft = QRectF(frame.x(), bottom, beside, housing.height());
-    display.auxiliaryTopRight =
-        QRectF(frame.x() + frame.width() - beside, bottom, beside, housing.height());
+    display.auxiliaryTopRight = QRectF(frame.x() + frame.width() - beside, bottom, beside, housing.height());
     return display;
 }
 

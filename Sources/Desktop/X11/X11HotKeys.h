@@ -25,10 +25,10 @@ private:
     struct Grab
     {
         HotKeyIdentity identity;
-        quint32 keyCode;            ///< As registered.
-        uint16_t modifiers;         ///< X modifier mask without lock keys.
-        xcb_keycode_t keycode = 0;  ///< 0 while the keyboard has no such key.
-        bool down = false;          ///< Held down: auto-repeat does not count.
+        quint32 keyCode;           ///< As registered.
+        uint16_t modifiers;        ///< X modifier mask without lock keys.
+        xcb_keycode_t keycode = 0; ///< 0 while the keyboard has no such key.
+        bool down = false;         ///< Held down: auto-repeat does not count.
     };
 
     bool nativeEventFilter(const QByteArray &type, void *message, qintptr *result) override;

@@ -45,8 +45,8 @@ void setShape(xcb_window_t window, xcb_shape_kind_t kind, const QRegion &region)
 
 xcb_window_t focusWindow()
 {
-    const X11::Reply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(
-        X11::connection(), xcb_get_input_focus(X11::connection()), nullptr));
+    const X11::Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(X11::connection(), xcb_get_input_focus(X11::connection()), nullptr));
     return reply ? reply->focus : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
 }
 
@@ -94,8 +94,8 @@ X11Panel::X11Panel(std::unique_ptr<QWindow> window, const X11Desktop &desktop, c
     , m_window(std::move(window))
     , m_hitWindow(createHitWindow())
 {
-    m_window->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint
-                       | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
+    m_window->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
+                       Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
     setFrame(frame);
     m_window->create();
     announceType();
@@ -174,13 +174,16 @@ void X11Panel::placeHitWindow()
     const QPointF origin = m_window->screen()->geometry().topLeft();
     const QPointF offset = (QPointF(m_window->position()) - origin) * m_window->devicePixelRatio();
     const QRect place = pixelsInPanel(m_hitArea).translated((origin + offset).toPoint());
-    const std::array<uint32_t, 6> values{static_cast<uint32_t>(place.x()),     static_cast<uint32_t>(place.y()),
-                                         static_cast<uint32_t>(place.width()), static_cast<uint32_t>(place.height()),
-                                         id(),                                 XCB_STACK_MODE_BELOW};
+    const std::array<uint32_t, 6> values{static_cast<uint32_t>(place.x()),
+                                         static_cast<uint32_t>(place.y()),
+                                         static_cast<uint32_t>(place.width()),
+                                         static_cast<uint32_t>(place.height()),
+                                         id(),
+                                         XCB_STACK_MODE_BELOW};
     xcb_configure_window(connection, m_hitWindow,
-                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH
-                             | XCB_CONFIG_WINDOW_HEIGHT | XCB_CONFIG_WINDOW_SIBLING
-                             | XCB_CONFIG_WINDOW_STACK_MODE,
+                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
+                             XCB_CONFIG_WINDOW_HEIGHT | XCB_CONFIG_WINDOW_SIBLING |
+                             XCB_CONFIG_WINDOW_STACK_MODE,
                          values.data());
     xcb_map_window(connection, m_hitWindow);
 }
@@ -196,7 +199,8 @@ void X11Panel::applyOutline()
 {
     if (m_desktop.hasCompositor()) {
         if (std::exchange(m_shaped, false))
-            xcb_shape_mask(X11::connection(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, id(), 0, 0, XCB_PIXMAP_NONE);
+            xcb_shape_mask(X11::connection(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, id(), 0, 0,
+                           XCB_PIXMAP_NONE);
     } else {
         const double scale = m_window->devicePixelRatio();
         const auto polygon = m_outline.toFillPolygon(QTransform::fromScale(scale, scale)).toPolygon();

@@ -17,7 +17,7 @@ class X11Desktop;
 /// A notch's host panel: an override-redirect window, which no window manager moves, lists, decorates or
 /// focuses. With a compositor its surroundings are transparent; without one its bounding shape follows the
 /// notch's outline.
-class X11Panel : public QObject, public NotchPanel
+class X11Panel final : public QObject, public NotchPanel
 {
     Q_OBJECT
 

@@ -57,8 +57,8 @@ bool X11Pointer::isRawPress(const xcb_generic_event_t *event) const
     if ((event->response_type & 0x7f) != XCB_GE_GENERIC)
         return false;
     const auto *raw = reinterpret_cast<const xcb_input_raw_button_press_event_t *>(event);
-    return raw->extension == m_inputOpcode && raw->event_type == XCB_INPUT_RAW_BUTTON_PRESS
-        && raw->detail == kPrimaryButton;
+    return raw->extension == m_inputOpcode && raw->event_type == XCB_INPUT_RAW_BUTTON_PRESS &&
+           raw->detail == kPrimaryButton;
 }
 
 PointerSample X11Pointer::query() const

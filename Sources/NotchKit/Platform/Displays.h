@@ -13,9 +13,9 @@ namespace Kestrune {
 /// of the main display, y growing upwards.
 struct Display
 {
-    QString name;                            ///< Output name ("eDP-1"): the display's identity while connected.
-    QRectF frame;                            ///< The whole display; y() is its bottom edge.
-    double safeAreaTop = 0;                  ///< Height of the camera housing, 0 without one.
+    QString name;           ///< Output name ("eDP-1"): the display's identity while connected.
+    QRectF frame;           ///< The whole display; y() is its bottom edge.
+    double safeAreaTop = 0; ///< Height of the camera housing, 0 without one.
     std::optional<QRectF> auxiliaryTopLeft;  ///< Usable area left of the housing.
     std::optional<QRectF> auxiliaryTopRight; ///< Usable area right of the housing.
 

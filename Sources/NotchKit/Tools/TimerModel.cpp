@@ -31,7 +31,9 @@ TimerModel::TimerModel(Clock &clock, SoundPlayer &sounds, QObject *parent)
 QString TimerModel::format(double seconds)
 {
     const auto whole = static_cast<qint64>(std::ceil(seconds));
-    const auto twoDigits = [](qint64 number) { return QString::number(number).rightJustified(2, QLatin1Char('0')); };
+    const auto twoDigits = [](qint64 number) {
+        return QString::number(number).rightJustified(2, QLatin1Char('0'));
+    };
     const QString tail = QLatin1Char(':') + twoDigits(whole % 60);
     if (whole < 3600)
         return QString::number(whole / 60) + tail;

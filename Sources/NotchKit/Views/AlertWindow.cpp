@@ -19,10 +19,11 @@ void AlertWindow::show(const QString &message, const QString &details)
             {{QStringLiteral("message"), message}, {QStringLiteral("details"), details}}));
         if (!m_window)
             qFatal("the alert cannot be made: %s", qPrintable(component.errorString()));
-        QObject::connect(m_window, &QWindow::visibleChanged, m_window, [window = m_window.data()](bool visible) {
-            if (!visible)
-                window->deleteLater();
-        });
+        QObject::connect(m_window, &QWindow::visibleChanged, m_window,
+                         [window = m_window.data()](bool visible) {
+                             if (!visible)
+                                 window->deleteLater();
+                         });
     }
     m_window->show();
     m_window->raise();

@@ -28,8 +28,8 @@ QVariantList NotchPresentation::toolRow() const
 {
     QVariantList row;
     for (const NotchTool tool : m_services.offeredTools()) {
-        row.append(QVariantMap{{QStringLiteral("title"), title(tool)},
-                               {QStringLiteral("symbol"), symbol(tool)}});
+        row.append(
+            QVariantMap{{QStringLiteral("title"), title(tool)}, {QStringLiteral("symbol"), symbol(tool)}});
     }
     return row;
 }
@@ -70,7 +70,10 @@ QList<QStringList> NotchPresentation::homeColumns() const
     return columns;
 }
 
-QString NotchPresentation::creditTitle() const { return m_services.branding().creditTitle.value_or(QString()); }
+QString NotchPresentation::creditTitle() const
+{
+    return m_services.branding().creditTitle.value_or(QString());
+}
 
 void NotchPresentation::select(int index)
 {

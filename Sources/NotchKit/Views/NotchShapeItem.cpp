@@ -25,7 +25,10 @@ void NotchShapeItem::setBottomRadius(double radius)
         Q_EMIT shapeChanged();
 }
 
-QPainterPath NotchShapeItem::outline() const { return NotchShape{m_topRadius, m_bottomRadius}.path(boundingRect()); }
+QPainterPath NotchShapeItem::outline() const
+{
+    return NotchShape{m_topRadius, m_bottomRadius}.path(boundingRect());
+}
 
 void NotchShapeItem::paint(QPainter *painter)
 {

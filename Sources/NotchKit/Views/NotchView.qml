@@ -31,6 +31,20 @@ FocusScope {
     NotchSpring { id: bottomRadius; target: view.expanded ? 30 : view.housing ? 10 : 14 }
     NotchSpring { id: openness; target: view.expanded ? 1 : 0; precision: 0.002 }
 
+    // Only a compositor shows it: without one the window ends at the notch's outline.
+    BorderImage {
+        readonly property int blur: 40
+
+        x: shape.x + shape.topRadius - blur
+        y: shape.height - height + blur + 4
+        width: shape.width - 2 * shape.topRadius + 2 * blur
+        height: shape.height + 2 * blur
+        border { left: 70; right: 70; top: 70; bottom: 70 }
+        source: "shadow.png"
+        visible: opacity > 0.01
+        opacity: Math.max(0, Math.min(1, openness.value))
+    }
+
     NotchShape {
         id: shape
 

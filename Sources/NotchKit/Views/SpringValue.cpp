@@ -60,8 +60,8 @@ void SpringValue::restart()
 void SpringValue::advance(int milliseconds)
 {
     m_state = Spring(m_response, m_damping).at(milliseconds / 1000.0, m_start, m_target);
-    const bool arrived = std::abs(m_state.position - m_target) < m_precision
-        && std::abs(m_state.velocity) / kFramesPerSecond < m_precision;
+    const bool arrived = std::abs(m_state.position - m_target) < m_precision &&
+                         std::abs(m_state.velocity) / kFramesPerSecond < m_precision;
     if (arrived)
         finish();
     else
