@@ -10,6 +10,7 @@ Tile {
     required property NotchScreenModel screenModel
 
     Text {
+        objectName: "placeholder"
         anchors.fill: parent
         anchors.margins: 14
         visible: input.length === 0 && input.preeditText === ""
@@ -46,6 +47,7 @@ Tile {
         TextEdit {
             id: input
 
+            objectName: "input"
             width: scroller.width
             height: scroller.contentHeight
             leftPadding: 6
@@ -66,7 +68,10 @@ Tile {
             Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
             Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
-            Component.onCompleted: text = editor.settings.note
+            Component.onCompleted: {
+                text = editor.settings.note
+                cursorPosition = length
+            }
             onTextChanged: editor.settings.note = text
             onCursorRectangleChanged: scroller.reveal(cursorRectangle)
 

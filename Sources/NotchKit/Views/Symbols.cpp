@@ -57,8 +57,8 @@ const QHash<QString, char16_t> &table()
         {QStringLiteral("play.fill"), u'\uF40A'},
         {QStringLiteral("playpause"), u'\uF40E'},
         {QStringLiteral("rectangle.topthird.inset.filled"), u'\uF5AF'},
-        {QStringLiteral("sparkle"), u'\uF068'},
-        {QStringLiteral("sparkles"), u'\uF1C9'},
+        {QStringLiteral("sparkle"), u'\uF4CE'},
+        {QStringLiteral("sparkles"), u'\uF068'},
         {QStringLiteral("square.grid.2x2"), u'\uF56E'},
         {QStringLiteral("square.grid.2x2.fill"), u'\uF570'},
         {QStringLiteral("sun.max.fill"), u'\uF599'},
@@ -85,6 +85,8 @@ QString Symbols::family()
     }();
     return name;
 }
+
+QStringList Symbols::names() { return table().keys(); }
 
 QString Symbols::glyph(const QString &name)
 {

@@ -20,6 +20,9 @@ public:
     /// The embedded font's family; loaded on first use.
     static QString family();
 
+    /// Every symbol name that has a glyph.
+    static QStringList names();
+
     /// The glyph of the symbol `name`, one character of `family`; empty for an unknown name.
     Q_INVOKABLE static QString glyph(const QString &name);
 };

@@ -18,6 +18,7 @@ Item {
     TabularText {
         id: time
 
+        objectName: "time"
         anchors.centerIn: parent
         visible: !face.timer.finished
         text: face.shown ? face.timer.format(face.remaining) : ""

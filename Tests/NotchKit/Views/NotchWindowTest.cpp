@@ -1,0 +1,233 @@
+#include "NotchKit/Views/NotchWindow.h"
+#include "NotchKit/Tools/TimerModel.h"
+#include "NotchKit/Views/SpringValue.h"
+#include "NotchKit/Views/Symbols.h"
+#include "Support/Core.h"
+#include "Support/TestRegistry.h"
+
+#include <QFontDatabase>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QRawFont>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Kestrune;
+
+namespace {
+
+QStringList warnings;
+
+void collectWarnings(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type != QtDebugMsg && type != QtInfoMsg)
+        warnings.append(text);
+}
+
+/// A notch window over fake ports, shown on the offscreen platform.
+struct Stage
+{
+    Fakes::Core core;
+    QQmlEngine engine;
+    std::unique_ptr<NotchWindow> window;
+    QRectF outline;
+
+    Stage()
+    {
+        core.displays.displays = {Fakes::externalDisplay()};
+        core.settings.setColumn(HomeColumn::center, HomeWidget::timer);
+        core.settings.setColumn(HomeColumn::right, HomeWidget::note);
+        core.controller.start();
+        window = std::make_unique<NotchWindow>(engine, core.model(), core.services);
+        QObject::connect(window.get(), &NotchWindow::outlineChanged, window.get(),
+                         [this](const QPainterPath &path) { outline = path.boundingRect(); });
+        window->resize(880, 390);
+        window->show();
+    }
+
+    /// The first visible item of the QML type, or null.
+    QQuickItem *find(const QString &type) const { return find(window->contentItem(), type); }
+
+    static QQuickItem *find(QQuickItem *item, const QString &type)
+    {
+        if (QString::fromLatin1(item->metaObject()->className()).startsWith(type + QLatin1String("_QML")))
+            return item->isVisible() ? item : nullptr;
+        for (QQuickItem *child : item->childItems()) {
+            if (QQuickItem *found = find(child, type))
+                return found;
+        }
+        return nullptr;
+    }
+
+    static QList<QQuickItem *> buttons(QQuickItem *item)
+    {
+        QList<QQuickItem *> all;
+        if (item->inherits("QQuickAbstractButton") && item->isVisible() && item->isEnabled())
+            all.append(item);
+        for (QQuickItem *child : item->childItems())
+            all += buttons(child);
+        return all;
+    }
+};
+
+} // namespace
+
+class NotchWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { registerViews(); }
+    void symbolsHaveGlyphs();
+    void springValueMovesAndRests();
+    void outlineFollowsTheState();
+    void everyPaneLoadsQuietly();
+    void tabReachesEveryControl();
+    void noteIsBoundBothWays();
+    void timerPaneFollowsItsModel();
+    void homeExplainsItsEmptiness();
+};
+
+void NotchWindowTest::symbolsHaveGlyphs()
+{
+    QRawFont font = QRawFont::fromFont(QFont(Symbols::family()));
+    QVERIFY(!Symbols::family().isEmpty());
+    QStringList names = Symbols::names();
+    for (const NotchTool tool : allCases<NotchTool>())
+        names.append(symbol(tool));
+    for (const QString &name : names) {
+        const QString glyph = Symbols::glyph(name);
+        QVERIFY2(glyph.size() == 1 && font.supportsCharacter(glyph.at(0)), qPrintable(name));
+    }
+    QVERIFY(Symbols::glyph(QStringLiteral("sundial")).isEmpty());
+}
+
+void NotchWindowTest::springValueMovesAndRests()
+{
+    SpringValue value;
+    value.classBegin();
+    value.setTarget(100);
+    value.setResponse(0.05);
+    value.setDampingFraction(1);
+    value.componentComplete();
+    QCOMPARE(value.value(), 100.0);
+    QVERIFY(!value.running());
+    QSignalSpy moved(&value, &SpringValue::valueChanged);
+    value.setTarget(200);
+    QVERIFY(value.running());
+    QTRY_VERIFY(!value.running());
+    QCOMPARE(value.value(), 200.0);
+    QVERIFY(moved.count() > 1);
+    moved.clear();
+    value.setDampingFraction(0.5);
+    QVERIFY2(!value.running(), "a spring at rest stays there");
+}
+
+void NotchWindowTest::outlineFollowsTheState()
+{
+    Stage stage;
+    QTRY_COMPARE(stage.outline, QRectF(345, 0, 190, 32));
+    stage.core.controller.open(std::nullopt);
+    QTRY_COMPARE(stage.outline, QRectF(60, 0, 760, 330));
+    stage.core.controller.collapseAll();
+    stage.core.services.timer()->start(60);
+    QTRY_COMPARE(stage.outline, QRectF(269, 0, 342, 32));
+    QVERIFY(stage.find(QStringLiteral("TimerActivity")));
+    stage.core.services.timer()->reset();
+    QTRY_COMPARE(stage.outline, QRectF(345, 0, 190, 32));
+}
+
+void NotchWindowTest::everyPaneLoadsQuietly()
+{
+    warnings.clear();
+    const auto before = qInstallMessageHandler(collectWarnings);
+    {
+        Stage stage;
+        for (const NotchTool tool : stage.core.services.offeredTools()) {
+            stage.core.controller.open(tool);
+            const QString pane = QString::fromLatin1(entry(tool).view);
+            QTRY_VERIFY2(stage.find(pane), qPrintable(pane));
+            QTest::qWait(50);
+        }
+    }
+    qInstallMessageHandler(before);
+    QCOMPARE(warnings, QStringList());
+}
+
+void NotchWindowTest::tabReachesEveryControl()
+{
+    Stage stage;
+    for (const NotchTool tool : stage.core.services.offeredTools()) {
+        stage.core.controller.open(tool);
+        QTRY_VERIFY(stage.find(QString::fromLatin1(entry(tool).view)));
+        stage.window->requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(stage.window.get()));
+        QSet<QQuickItem *> reached;
+        for (int i = 0; i < 40; ++i) {
+            QTest::keyClick(stage.window.get(), Qt::Key_Tab);
+            reached.insert(stage.window->activeFocusItem());
+        }
+        for (QQuickItem *button : Stage::buttons(stage.window->contentItem()))
+            QVERIFY2(reached.contains(button), qPrintable(button->property("help").toString()));
+    }
+    QTest::keyClick(stage.window.get(), Qt::Key_Escape);
+    QVERIFY(!stage.core.model().expanded());
+}
+
+void NotchWindowTest::noteIsBoundBothWays()
+{
+    Stage stage;
+    stage.core.controller.open(NotchTool::note);
+    QTRY_VERIFY(stage.find(QStringLiteral("NoteEditor")));
+    QQuickItem *editor = stage.find(QStringLiteral("NoteEditor"));
+    auto *input = editor->findChild<QQuickItem *>(QStringLiteral("input"));
+    auto *placeholder = editor->findChild<QQuickItem *>(QStringLiteral("placeholder"));
+    QVERIFY(placeholder->isVisible());
+    input->forceActiveFocus();
+    QTest::keyClick(stage.window.get(), Qt::Key_A);
+    QCOMPARE(*stage.core.defaults.value<QString>(QStringLiteral("notch.note")), QStringLiteral("a"));
+    QVERIFY(!placeholder->isVisible());
+    stage.core.settings.setNote(QStringLiteral("from elsewhere"));
+    QCOMPARE(input->property("text").toString(), QStringLiteral("from elsewhere"));
+    stage.core.settings.setNote(QString());
+    QVERIFY(placeholder->isVisible());
+}
+
+void NotchWindowTest::timerPaneFollowsItsModel()
+{
+    Stage stage;
+    TimerModel &timer = *stage.core.services.timer();
+    stage.core.controller.open(NotchTool::timer);
+    QTRY_VERIFY(stage.find(QStringLiteral("TimerFace")));
+    QQuickItem *time =
+        stage.find(QStringLiteral("TimerFace"))->findChild<QQuickItem *>(QStringLiteral("time"));
+    const auto shown = [&] { return time->property("text").toString(); };
+    QCOMPARE(shown(), QStringLiteral("25:00"));
+    timer.adjust(5);
+    QCOMPARE(shown(), QStringLiteral("30:00"));
+    timer.start(300);
+    stage.core.wait(3000);
+    QCOMPARE(shown(), QStringLiteral("4:57"));
+    timer.pause();
+    stage.core.wait(3000);
+    QCOMPARE(shown(), QStringLiteral("4:57"));
+    timer.start();
+    stage.core.wait(300'000);
+    QVERIFY(!time->isVisible());
+    timer.reset();
+    QCOMPARE(shown(), QStringLiteral("5:00"));
+}
+
+void NotchWindowTest::homeExplainsItsEmptiness()
+{
+    Stage stage;
+    stage.core.controller.open(NotchTool::home);
+    QTRY_VERIFY(stage.find(QStringLiteral("NoteBlock")));
+    QVERIFY(!stage.find(QStringLiteral("PaneMessage")));
+    stage.core.settings.setHomeColumns({});
+    QTRY_VERIFY(stage.find(QStringLiteral("PaneMessage")));
+}
+
+REGISTER_TEST(NotchWindowTest);
+#include "NotchWindowTest.moc"
