@@ -1,5 +1,6 @@
 #include "Application.h"
 #include "CommandLine.h"
+#include "Desktop/X11/X11Connection.h"
 #include "SingleInstance.h"
 
 #include <QFontDatabase>
@@ -63,12 +64,12 @@ void setUpFont()
 int runProgram(int argc, char *argv[], const QStringList &arguments)
 {
     TemporaryEnvironment environment = setUpPlatform();
-    QGuiApplication application(argc, argv);
-    environment.clear();
-    if (QGuiApplication::platformName() != QLatin1String("xcb")) {
+    if (qEnvironmentVariable("QT_QPA_PLATFORM") != QLatin1String("xcb") || !X11::canConnect()) {
         std::fputs("Kestrune: it needs an X11 display\n", stderr);
         return 1;
     }
+    QGuiApplication application(argc, argv);
+    environment.clear();
     QGuiApplication::setQuitOnLastWindowClosed(false);
     setUpFont();
 

@@ -5,6 +5,14 @@
 
 namespace Kestrune::X11 {
 
+bool canConnect()
+{
+    xcb_connection_t *attempt = xcb_connect(nullptr, nullptr);
+    const bool reached = xcb_connection_has_error(attempt) == 0;
+    xcb_disconnect(attempt);
+    return reached;
+}
+
 xcb_connection_t *connection()
 {
     const auto *x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;

@@ -9,6 +9,9 @@
 
 namespace Kestrune::X11 {
 
+/// Whether an X server can be reached at all; for a clear word before Qt gives up without one.
+bool canConnect();
+
 /// The connection that Qt's own windows use; null when Qt does not run on X11.
 xcb_connection_t *connection();
 

@@ -64,10 +64,11 @@ FocusScope {
                 source = ""
                 return
             }
-            const references = {services: content.services, screenModel: content.screenModel}
-            if (file === "HomePane.qml")
-                references.presentation = content.presentation
-            setSource(file, references)
+            setSource(file, {
+                services: content.services,
+                screenModel: content.screenModel,
+                presentation: content.presentation
+            })
         }
 
         Component.onCompleted: load()

@@ -4,16 +4,10 @@ import Kestrune.Views
 /// The enabled widgets in three columns.
 ///
 ///   | left | center | right |   columns without a block take no room
-FocusScope {
+Pane {
     id: pane
 
-    required property NotchServices services
-    required property NotchScreenModel screenModel
-
-    focus: true
-    property NotchPresentation presentation
-
-    readonly property var columns: presentation ? presentation.homeColumns.filter(files => files.length > 0) : []
+    readonly property var columns: presentation.homeColumns.filter(files => files.length > 0)
 
     PaneMessage {
         anchors.fill: parent

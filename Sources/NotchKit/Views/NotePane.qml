@@ -2,13 +2,8 @@ import QtQuick
 import Kestrune.Views
 
 /// The quick note.
-FocusScope {
+Pane {
     id: pane
-
-    required property NotchServices services
-    required property NotchScreenModel screenModel
-
-    focus: true
 
     NoteEditor {
         anchors.fill: parent

@@ -2,13 +2,8 @@ import QtQuick
 import Kestrune.Views
 
 /// The countdown: time, presets, controls.
-FocusScope {
+Pane {
     id: pane
-
-    required property NotchServices services
-    required property NotchScreenModel screenModel
-
-    focus: true
 
     readonly property TimerModel timer: services.timer
 
