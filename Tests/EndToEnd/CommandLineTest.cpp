@@ -60,6 +60,18 @@ private Q_SLOTS:
         QCOMPARE(result.output, QString());
     }
 
+    void helpAndVersion()
+    {
+        const Session session;
+        const Session::Result help = session.command({u"--help"_s});
+        QCOMPARE(help.status, 0);
+        for (const auto &word : {u"toggle"_s, u"status"_s, u"settings"_s, u"--open"_s})
+            QVERIFY2(help.output.contains(word), qPrintable(word));
+        const Session::Result version = session.command({u"--version"_s});
+        QCOMPARE(version.status, 0);
+        QVERIFY2(isOneLine(version.output), qPrintable(version.output));
+    }
+
     void statusTellsTheState()
     {
         setStage({});

@@ -159,6 +159,22 @@ private Q_SLOTS:
         QCOMPARE(stage().beneath.keys(), 0);
     }
 
+    void tabReachesEveryTool()
+    {
+        QVERIFY(stage().run() && stage().openByHotKey());
+        QStringList seen;
+        for (int press = 0; press < 16 && seen.size() < 3; ++press) {
+            stage().input.tap(XK_Tab);
+            stage().input.tap(XK_space);
+            const QString selected = stage().session.selected();
+            if (!seen.contains(selected))
+                seen.append(selected);
+        }
+        QCOMPARE(seen, QStringList({u"home"_s, u"timer"_s, u"note"_s}));
+        stage().input.tap(XK_Escape);
+        QVERIFY(stage().waitClosed());
+    }
+
     void theToolRowSwitchesBetweenTheBuiltTools()
     {
         QVERIFY(stage().run() && stage().openByHover());

@@ -41,7 +41,7 @@ private Q_SLOTS:
         QVERIFY(!stage().covered({205, 200}) && !stage().covered({1074, 200}) &&
                 !stage().covered({640, 388}));
 
-        stage().input.hotKey();
+        QCOMPARE(stage().session.command({u"close"_s}).status, 0);
         QVERIFY(stage().waitClosed());
         QTRY_VERIFY(fills(changedArea(before), closed));
     }

@@ -9,9 +9,17 @@ class WindowTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void clicksOutsideReachTheWindowBeneath_data()
+    {
+        QTest::addColumn<bool>("compositor");
+        QTest::newRow("no compositor") << false;
+        QTest::newRow("compositor") << true;
+    }
+
     void clicksOutsideReachTheWindowBeneath()
     {
-        setStage({});
+        QFETCH(bool, compositor);
+        setStage({.compositor = compositor});
         // Hover must not open while the closed notch is being clicked.
         QVERIFY(stage().run({{"hoverDelay", "60"}}));
         const QList<QPoint> aroundClosed = {{537, 5}, {537, 30}, {743, 5}, {640, 40}, Place::panel};
