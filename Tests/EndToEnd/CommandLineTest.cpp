@@ -13,20 +13,9 @@ class CommandLineTest : public StageTest
 private Q_SLOTS:
     void badArguments_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("unknown command") << QStringList{u"frobnicate"_s};
-        QTest::newRow("unknown option") << QStringList{u"--frobnicate"_s};
-        QTest::newRow("open: unknown tool") << QStringList{u"open"_s, u"frobnicate"_s};
-        QTest::newRow("toggle: too many") << QStringList{u"toggle"_s, u"home"_s};
-        QTest::newRow("settings: nothing") << QStringList{u"settings"_s};
-        QTest::newRow("settings get: nothing") << QStringList{u"settings"_s, u"get"_s};
-        QTest::newRow("settings get: unknown") << QStringList{u"settings"_s, u"get"_s, u"frobnicate"_s};
-        QTest::newRow("settings set: no value") << QStringList{u"settings"_s, u"set"_s, u"hoverDelay"_s};
-        QTest::newRow("settings set: no number")
-            << QStringList{u"settings"_s, u"set"_s, u"hoverDelay"_s, u"soon"_s};
-        QTest::newRow("settings set: no choice")
-            << QStringList{u"settings"_s, u"set"_s, u"openMode"_s, u"Click"_s};
-        QTest::newRow("settings set: no list") << QStringList{u"settings"_s, u"set"_s, u"tools"_s, u"home"_s};
+        rows({"frobnicate", "--frobnicate", "open frobnicate", "toggle home", "settings", "settings get",
+              "settings get frobnicate", "settings set hoverDelay", "settings set hoverDelay soon",
+              "settings set openMode Click", "settings set tools home"});
     }
 
     void badArguments()
@@ -39,16 +28,7 @@ private Q_SLOTS:
         QCOMPARE(result.output, QString());
     }
 
-    void nothingRunning_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("toggle") << QStringList{u"toggle"_s};
-        QTest::newRow("open") << QStringList{u"open"_s};
-        QTest::newRow("open tool") << QStringList{u"open"_s, u"timer"_s};
-        QTest::newRow("close") << QStringList{u"close"_s};
-        QTest::newRow("quit") << QStringList{u"quit"_s};
-        QTest::newRow("status") << QStringList{u"status"_s, u"--json"_s};
-    }
+    void nothingRunning_data() { rows({"toggle", "open", "open timer", "close", "quit", "status --json"}); }
 
     void nothingRunning()
     {
@@ -98,28 +78,6 @@ private Q_SLOTS:
         QCOMPARE(status.value("visibleTool"_L1), u"note"_s);
     }
 
-    void openCloseAndToggle()
-    {
-        setStage({});
-        QVERIFY(stage().run());
-        const auto command = [&](const QStringList &arguments) {
-            const Session::Result result = stage().session.command(arguments);
-            return result.status == 0 && result.output.isEmpty() && result.errors.isEmpty();
-        };
-        QVERIFY(command({u"open"_s, u"timer"_s}));
-        QTRY_VERIFY(stage().looksOpen());
-        QCOMPARE(stage().session.selected(), u"timer"_s);
-        QVERIFY(command({u"open"_s, u"note"_s})); // an open notch changes its pane
-        QCOMPARE(stage().session.selected(), u"note"_s);
-        QVERIFY(command({u"close"_s}));
-        QVERIFY(stage().waitClosed());
-        QVERIFY(command({u"toggle"_s}));
-        QTRY_VERIFY(stage().looksOpen());
-        QCOMPARE(stage().session.selected(), u"note"_s);
-        QVERIFY(command({u"toggle"_s}));
-        QVERIFY(stage().waitClosed());
-    }
-
     void settings_data()
     {
         QTest::addColumn<bool>("live");
@@ -167,6 +125,14 @@ private Q_SLOTS:
     }
 
 private:
+    /// One row per command line; no argument in them has a space.
+    static void rows(std::initializer_list<const char *> commandLines)
+    {
+        QTest::addColumn<QStringList>("arguments");
+        for (const char *line : commandLines)
+            QTest::newRow(line) << QString::fromLatin1(line).split(u' ');
+    }
+
     static bool isOneLine(const QString &text) { return text.count(u'\n') == 1 && text.endsWith(u'\n'); }
 };
 

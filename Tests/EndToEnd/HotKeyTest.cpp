@@ -51,15 +51,6 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
     }
 
-    void followsItsSetting()
-    {
-        QVERIFY(stage().run({{"shortcutEnabled", "false"}}));
-        stage().input.hotKey();
-        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
-        QVERIFY(stage().session.set(u"shortcutEnabled"_s, u"true"_s));
-        QVERIFY(stage().openByHotKey());
-    }
-
     void aTakenCombinationLeavesTheRestWorking()
     {
         takeCombination();
