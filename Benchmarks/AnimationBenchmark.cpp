@@ -1,0 +1,171 @@
+// Opens and closes a real notch many times, drawn in software at scale 1, and looks at each frame.
+
+#include "App/PanelFactory.h"
+#include "Desktop/Time/SystemClock.h"
+#include "Desktop/X11/X11Desktop.h"
+#include "NotchKit/Views/NotchWindow.h"
+#include "Surroundings.h"
+#include "Table.h"
+
+#include <QEventLoop>
+#include <QQmlEngine>
+#include <QTimer>
+
+#include <chrono>
+#include <ctime>
+
+using namespace Benchmarks;
+using namespace Kestrune;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr int kWarmUp = 3;
+constexpr int kOpenings = 25;
+constexpr auto kMotion = 450ms; // the springs still move
+constexpr auto kRest = 900ms;   // they have come to rest
+
+double milliseconds(std::chrono::nanoseconds time)
+{
+    return std::chrono::duration<double, std::milli>(time).count();
+}
+
+/// Processor time of this thread, which does all the work of a frame.
+std::chrono::nanoseconds threadTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+void pass(std::chrono::milliseconds time)
+{
+    QEventLoop loop;
+    QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// What every step of the motions took.
+struct Frames
+{
+    std::vector<double> perSecond; ///< One of each motion.
+    std::vector<double> work;      ///< Processor time since the step before, in milliseconds.
+    std::vector<double> intervals; ///< Since the step before, in milliseconds.
+    std::vector<double> repeated;  ///< Frames of each motion that showed no new step.
+};
+
+/// Looks at the frames in which the notch's outline has moved. Others repeat the same picture, as after the
+/// X server uncovered a part of the window; their work counts towards the next step.
+class Recorder
+{
+public:
+    explicit Recorder(NotchWindow &window)
+    {
+        QObject::connect(&window, &NotchWindow::outlineChanged, &window, [this] { m_moved = true; });
+        const auto swapped = [this] {
+            if (std::exchange(m_moved, false))
+                m_moments.push_back({std::chrono::steady_clock::now().time_since_epoch(), threadTime()});
+            else
+                ++m_repeated;
+        };
+        QObject::connect(&window, &QQuickWindow::frameSwapped, &window, swapped, Qt::DirectConnection);
+    }
+
+    /// Changes the model and collects the frames of the motion that begins.
+    void record(Frames &frames, const std::function<void()> &change)
+    {
+        m_moments.clear();
+        m_repeated = 0;
+        change();
+        pass(kMotion);
+        const auto moments = std::exchange(m_moments, {});
+        frames.repeated.push_back(m_repeated);
+        for (std::size_t i = 1; i < moments.size(); ++i) {
+            frames.work.push_back(milliseconds(moments[i].work - moments[i - 1].work));
+            frames.intervals.push_back(milliseconds(moments[i].time - moments[i - 1].time));
+        }
+        if (moments.size() > 1) {
+            const double length = milliseconds(moments.back().time - moments.front().time);
+            frames.perSecond.push_back(1000 * static_cast<double>(moments.size() - 1) / length);
+        }
+        pass(kRest);
+    }
+
+private:
+    struct Moment
+    {
+        std::chrono::nanoseconds time;
+        std::chrono::nanoseconds work;
+    };
+    std::vector<Moment> m_moments;
+    bool m_moved = false;
+    int m_repeated = 0;
+};
+
+void report(Table &table, const std::string &motion, const Frames &frames)
+{
+    table.add({motion + ", frames per second, median", median(frames.perSecond), 60, "/s", "noisy: wall time",
+               true});
+    table.add({motion + ", work per frame, 95 %", quantile(frames.work, 0.95), 16.7, "ms", ""});
+    table.add({motion + ", time between frames, 95 %", quantile(frames.intervals, 0.95), 16.7, "ms",
+               "noisy: wall time of a 16 ms timer"});
+    Table::note("  work per frame, median", median(frames.work), "ms");
+    Table::note("  time between frames, median", median(frames.intervals), "ms");
+    Table::note("  frames without a new step, each motion", median(frames.repeated), "");
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    const Surroundings surroundings(argc, argv);
+    registerViews();
+    SystemClock clock;
+    HubParts parts(clock);
+    NotchServices services(parts.settings, NotchBranding::fennivar(), parts.platform());
+    QQmlEngine engine;
+    const X11Desktop desktop;
+    PanelFactory panels(engine, desktop);
+    const NotchGeometry geometry(twoDisplays().constFirst());
+    NotchScreenModel model(geometry);
+    const auto panel = panels.create(geometry.panelFrame(), model, services);
+    auto *window = qobject_cast<NotchWindow *>(QGuiApplication::allWindows().value(0));
+    if (!window)
+        qFatal("the panel has no window");
+
+    services.start();
+    panel->setHitArea(geometry.hitRect(false, false));
+    panel->orderFront();
+    pass(kRest);
+
+    Recorder recorder(*window);
+    Frames opening, closing;
+    const auto open = [&] {
+        services.setAnyExpanded(true);
+        services.show(model.selected());
+        model.setExpanded(true);
+    };
+    const auto close = [&] {
+        model.setExpanded(false);
+        services.setAnyExpanded(false);
+        services.show(std::nullopt);
+    };
+    const auto loading = threadTime();
+    open();
+    const auto loaded = threadTime() - loading;
+    pass(kRest);
+    close();
+    pass(kRest);
+    for (int i = -kWarmUp; i < kOpenings; ++i) {
+        if (i == 0)
+            opening = closing = {};
+        recorder.record(opening, open);
+        recorder.record(closing, close);
+    }
+
+    Table table;
+    report(table, "Opening animation", opening);
+    report(table, "Closing animation", closing);
+    Table::note("First opening: making the pane, work", milliseconds(loaded), "ms");
+    return table.exitStatus();
+}

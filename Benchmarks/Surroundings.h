@@ -1,0 +1,60 @@
+#pragma once
+
+#include "Fakes.h"
+#include "NotchKit/NotchServices.h"
+#include "NotchKit/NotchSettings.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QQuickWindow>
+
+namespace Benchmarks {
+
+/// The application object, set up as the program sets up its own.
+class Surroundings
+{
+public:
+    Surroundings(int &argc, char **argv)
+        : m_application(prepare(argc), argv)
+    {
+        QFont font = QGuiApplication::font();
+        font.setFamily(QStringLiteral("Inter"));
+        QGuiApplication::setFont(font);
+    }
+
+private:
+    static int &prepare(int &argc)
+    {
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
+        qputenv("QT_NO_GLIB", "1");
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        return argc;
+    }
+
+    QGuiApplication m_application;
+};
+
+/// What the hub is made of, with nothing behind it.
+struct HubParts
+{
+    explicit HubParts(Kestrune::Clock &time)
+        : clock(time)
+    {}
+    Kestrune::NotchPlatform platform() { return {clock, sounds, workspace}; }
+
+    Kestrune::Clock &clock;
+    Kestrune::Fakes::MemoryDefaults defaults;
+    Kestrune::Fakes::FakeSounds sounds;
+    Kestrune::Fakes::FakeWorkspace workspace;
+    Kestrune::NotchSettings settings{defaults};
+};
+
+/// Two displays side by side; the first is the virtual display that the benchmarks run on.
+inline QList<Kestrune::Display> twoDisplays()
+{
+    return {{QStringLiteral("first"), {0, 0, 1280, 800}, 0, std::nullopt, std::nullopt},
+            {QStringLiteral("second"), {1280, 0, 1920, 1080}, 0, std::nullopt, std::nullopt}};
+}
+
+} // namespace Benchmarks
