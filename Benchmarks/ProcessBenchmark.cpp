@@ -221,6 +221,7 @@ void measureMemory(Table &table, const Program &program, const char *what, doubl
     const auto own =
         program.figure("smaps_rollup", "Private_Dirty:") + program.figure("smaps_rollup", "Private_Clean:");
     Table::note("  of it shared with nobody", own / 1000, "MB");
+    Table::note("  were nothing shared (RSS)", program.figure("smaps_rollup", "Rss:") / 1000, "MB");
 }
 
 void measureIdle(Table &table, const Program &program, const Onlooker &onlooker, const std::string &when)
@@ -232,8 +233,8 @@ void measureIdle(Table &table, const Program &program, const Onlooker &onlooker,
     std::this_thread::sleep_for(kIdleTime);
     const auto used = program.processorTime() - busy;
     const double share = 100 * milliseconds(used) / milliseconds(Time::now() - begin);
-    table.add(
-        {"Closed and idle, " + when + ": processor", share, 0.25, "%", "noisy: half more on a busy machine"});
+    table.add({"Closed and idle, " + when + ": processor", share, 0.25, "%",
+               "noisy: rises when the machine is busy"});
     table.add({"  redraws in 30 s", static_cast<double>(onlooker.redraws()), 0, "", ""});
     table.add({"  bytes written to disk", program.figure("io", "write_bytes:") - written, 0, "", ""});
 }
