@@ -4,6 +4,9 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+#include <span>
+
 #include <xcb/xfixes.h>
 
 namespace Kestrune {
@@ -75,7 +78,9 @@ bool X11Desktop::nativeEventFilter(const QByteArray &, void *message, qintptr *)
     return false;
 }
 
-std::optional<xcb_window_t> X11Desktop::topmostManagedFrame()
+namespace {
+
+std::optional<xcb_window_t> topmostManagedFrame()
 {
     constexpr uint32_t most = 4096;
     const auto cookie = xcb_get_property(X11::connection(), false, X11::root(),
@@ -87,6 +92,26 @@ std::optional<xcb_window_t> X11Desktop::topmostManagedFrame()
         return std::nullopt;
     const auto *windows = static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
     return frameOf(windows[count - 1]);
+}
+
+/// The root window's children from the bottom up.
+std::span<const xcb_window_t> childrenOf(const xcb_query_tree_reply_t &tree)
+{
+    return {xcb_query_tree_children(&tree), static_cast<std::size_t>(xcb_query_tree_children_length(&tree))};
+}
+
+} // namespace
+
+std::optional<xcb_window_t> X11Desktop::managedFrameAbove(xcb_window_t window)
+{
+    const auto frame = topmostManagedFrame();
+    const X11::Reply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(X11::connection(), xcb_query_tree(X11::connection(), X11::root()), nullptr));
+    if (!frame || !tree)
+        return std::nullopt;
+    const auto stack = childrenOf(*tree);
+    const auto self = std::ranges::find(stack, window);
+    return std::find(self, stack.end(), *frame) == stack.end() ? std::nullopt : frame;
 }
 
 } // namespace Kestrune

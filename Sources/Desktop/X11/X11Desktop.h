@@ -21,8 +21,8 @@ public:
     /// A compositor runs, so that transparent pixels show what lies beneath.
     bool hasCompositor() const { return m_hasCompositor; }
 
-    /// The top-level X window that holds the topmost managed window; nothing without a window manager.
-    static std::optional<xcb_window_t> topmostManagedFrame();
+    /// The top-level X window that holds the topmost managed window, if it is above `window`.
+    static std::optional<xcb_window_t> managedFrameAbove(xcb_window_t window);
 
 Q_SIGNALS:
     void compositorChanged();

@@ -142,7 +142,7 @@ bool X11HotKeys::grab(Grab &wanted)
     auto *connection = X11::connection();
     std::vector<xcb_void_cookie_t> cookies;
     for (const uint16_t locks : lockCombinations()) {
-        cookies.push_back(xcb_grab_key_checked(connection, true, X11::root(), wanted.modifiers | locks,
+        cookies.push_back(xcb_grab_key_checked(connection, false, X11::root(), wanted.modifiers | locks,
                                                wanted.keycode, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
     }
     bool taken = false;
@@ -191,18 +191,17 @@ bool X11HotKeys::nativeEventFilter(const QByteArray &, void *message, qintptr *)
 
 bool X11HotKeys::handleKey(const xcb_key_press_event_t &event, bool press)
 {
-    if (event.event != X11::root())
+    const auto held = std::ranges::find(m_grabs, event.detail, &Grab::keycode);
+    if (event.event != X11::root() || held == m_grabs.end())
         return false;
-    for (Grab &held : m_grabs) {
-        if (held.keycode != event.detail)
-            continue;
-        const bool matches = (event.state & kAllModifiers & ~lockMask()) == held.modifiers;
-        const bool repeated = std::exchange(held.down, press);
-        if (press && matches && !repeated && m_handler)
-            m_handler(held.identity);
-        return true;
-    }
-    return false;
+    // A key held down repeats as presses, with or without releases at the very same time between them.
+    const bool repeated = std::exchange(held->down, press) || event.time == held->released;
+    if (!press)
+        held->released = event.time;
+    const bool matches = (event.state & kAllModifiers & ~lockMask()) == held->modifiers;
+    if (press && matches && !repeated && m_handler)
+        m_handler(held->identity);
+    return true;
 }
 
 } // namespace Kestrune

@@ -28,7 +28,8 @@ private:
         quint32 keyCode;           ///< As registered.
         uint16_t modifiers;        ///< X modifier mask without lock keys.
         xcb_keycode_t keycode = 0; ///< 0 while the keyboard has no such key.
-        bool down = false;         ///< Held down: auto-repeat does not count.
+        bool down = false;
+        xcb_timestamp_t released = XCB_CURRENT_TIME; ///< Of the last release; a repeat has the same time.
     };
 
     bool nativeEventFilter(const QByteArray &type, void *message, qintptr *result) override;

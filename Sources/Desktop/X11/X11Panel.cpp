@@ -232,10 +232,12 @@ void X11Panel::restack()
 {
     if (!m_window->isVisible())
         return;
-    // Just above the managed windows, not on top of everything: a screen lock stays above the notch.
-    if (const auto frame = X11Desktop::topmostManagedFrame())
+    // Just above the managed windows, not on top of everything: a screen lock stays above the notch. And
+    // only when it must move: some window managers put a window back under others while it moves.
+    if (const auto frame = X11Desktop::managedFrameAbove(id())) {
         stack(id(), *frame, XCB_STACK_MODE_ABOVE);
-    placeHitWindow();
+        placeHitWindow();
+    }
     xcb_flush(X11::connection());
 }
 

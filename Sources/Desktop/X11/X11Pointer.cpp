@@ -76,9 +76,13 @@ QPointF X11Pointer::location() { return query().location; }
 PointerSample X11Pointer::sample()
 {
     PointerSample sample = query();
-    const auto press = std::exchange(m_press, std::nullopt);
-    if (press && !sample.primaryDown)
+    // A press since the last sample is a new one even if the button was down then: one sample says that it
+    // was let go, the next that it was pressed.
+    if (m_press && m_wasDown)
+        sample.primaryDown = false;
+    else if (const auto press = std::exchange(m_press, std::nullopt); press && !sample.primaryDown)
         sample = {*press, true};
+    m_wasDown = sample.primaryDown;
     return sample;
 }
 

@@ -36,6 +36,7 @@ private:
     std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
     uint8_t m_inputOpcode = 0;
     std::optional<QPointF> m_press; ///< Where the primary button went down since the last sample.
+    bool m_wasDown = false;         ///< In the last sample.
 };
 
 } // namespace Kestrune
