@@ -71,7 +71,8 @@ QScreen *screenAt(const QRectF &qtFrame)
 xcb_window_t createHitWindow()
 {
     const xcb_window_t window = xcb_generate_id(X11::connection());
-    const std::array<uint32_t, 2> values{true, XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE};
+    const std::array<uint32_t, 2> values{true, XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE |
+                                                   XCB_EVENT_MASK_ENTER_WINDOW | XCB_EVENT_MASK_LEAVE_WINDOW};
     xcb_create_window(X11::connection(), XCB_COPY_FROM_PARENT, window, X11::root(), 0, 0, 1, 1, 0,
                       XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,
                       XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values.data());

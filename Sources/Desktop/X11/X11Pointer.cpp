@@ -14,6 +14,7 @@ namespace Kestrune {
 namespace {
 
 constexpr uint32_t kPrimaryButton = 1;
+constexpr int kMostCached = 8; // Samples, thirty a second.
 
 /// Asks the server for raw button presses from every device.
 void selectRawPresses()
@@ -47,18 +48,35 @@ X11Pointer::~X11Pointer() = default;
 
 bool X11Pointer::nativeEventFilter(const QByteArray &, void *message, qintptr *)
 {
-    if (isRawPress(static_cast<const xcb_generic_event_t *>(message)) && !m_press)
-        m_press = query().location;
+    const auto &event = *static_cast<const xcb_generic_event_t *>(message);
+    if (isCrossing(event))
+        m_watching = true;
+    if (isRawPress(event)) {
+        m_watching = true;
+        if (!m_press)
+            m_press = query().location;
+    }
     return false;
 }
 
-bool X11Pointer::isRawPress(const xcb_generic_event_t *event) const
+bool X11Pointer::isInput(const xcb_generic_event_t &event, uint16_t type) const
 {
-    if ((event->response_type & 0x7f) != XCB_GE_GENERIC)
-        return false;
-    const auto *raw = reinterpret_cast<const xcb_input_raw_button_press_event_t *>(event);
-    return raw->extension == m_inputOpcode && raw->event_type == XCB_INPUT_RAW_BUTTON_PRESS &&
-           raw->detail == kPrimaryButton;
+    const auto &input = reinterpret_cast<const xcb_ge_generic_event_t &>(event);
+    return (event.response_type & 0x7f) == XCB_GE_GENERIC && input.extension == m_inputOpcode &&
+           input.event_type == type;
+}
+
+bool X11Pointer::isCrossing(const xcb_generic_event_t &event) const
+{
+    const int type = event.response_type & 0x7f;
+    return type == XCB_ENTER_NOTIFY || type == XCB_LEAVE_NOTIFY || isInput(event, XCB_INPUT_ENTER) ||
+           isInput(event, XCB_INPUT_LEAVE);
+}
+
+bool X11Pointer::isRawPress(const xcb_generic_event_t &event) const
+{
+    return isInput(event, XCB_INPUT_RAW_BUTTON_PRESS) &&
+           reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event).detail == kPrimaryButton;
 }
 
 PointerSample X11Pointer::query() const
@@ -73,9 +91,20 @@ PointerSample X11Pointer::query() const
 
 QPointF X11Pointer::location() { return query().location; }
 
+void X11Pointer::observe()
+{
+    if (!m_watching && ++m_cached < kMostCached)
+        return;
+    const PointerSample now = query();
+    m_watching = now != m_last || now.primaryDown;
+    m_last = now;
+    m_cached = 0;
+}
+
 PointerSample X11Pointer::sample()
 {
-    PointerSample sample = query();
+    observe();
+    PointerSample sample = m_last;
     // A press since the last sample is a new one even if the button was down then: one sample says that it
     // was let go, the next that it was pressed.
     if (m_press && m_wasDown)

@@ -11,9 +11,13 @@
 
 namespace Kestrune {
 
-/// The X server's core pointer. Positions are asked for, over a connection of its own: on the one that
-/// Qt's event thread reads, each answer would wake that thread too. Presses of the primary button are also
-/// told by the server as raw input events, so that a click between two samples is not lost.
+/// The X server's core pointer.
+///
+/// Asking the server costs more than all the rest of a poll, so a sample asks only while something goes on:
+/// from the moment the pointer crosses the edge of one of this program's windows, or a primary button goes
+/// down anywhere, until it rests; and a few times a second in any case. In between the pointer may move
+/// elsewhere on the desktop unnoticed. The questions go over a connection of their own: on the one that
+/// Qt's event thread reads, each answer would wake that thread too.
 class X11Pointer : public Pointer, private QAbstractNativeEventFilter
 {
 public:
@@ -31,10 +35,16 @@ private:
 
     bool nativeEventFilter(const QByteArray &type, void *message, qintptr *result) override;
     PointerSample query() const;
-    bool isRawPress(const xcb_generic_event_t *event) const;
+    bool isInput(const xcb_generic_event_t &event, uint16_t type) const;
+    bool isCrossing(const xcb_generic_event_t &event) const;
+    bool isRawPress(const xcb_generic_event_t &event) const;
+    void observe();
 
     std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
     uint8_t m_inputOpcode = 0;
+    PointerSample m_last;           ///< The last answer.
+    int m_cached = 0;               ///< Samples since it was asked for.
+    bool m_watching = true;         ///< The next sample asks.
     std::optional<QPointF> m_press; ///< Where the primary button went down since the last sample.
     bool m_wasDown = false;         ///< In the last sample.
 };
