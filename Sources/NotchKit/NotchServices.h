@@ -34,8 +34,9 @@ class NotchServices : public QObject
     Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
     Q_PROPERTY(Kestrune::NotchSettings *settings READ settings CONSTANT)
     Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
-    /// The current time, updated every second while the hub runs.
-    Q_PROPERTY(QDateTime now READ now NOTIFY nowChanged BINDABLE bindableNow)
+    /// The current time, updated every second while the hub runs. Not bindable for the views: a view's
+    /// binding keeps a bindable dependency for good, and would wake each second while it is off screen.
+    Q_PROPERTY(QDateTime now READ now NOTIFY nowChanged)
     /// At least one notch is open.
     Q_PROPERTY(bool anyExpanded READ anyExpanded NOTIFY anyExpandedChanged BINDABLE bindableAnyExpanded)
     /// The closed notch shows an activity in its wings.
@@ -53,7 +54,6 @@ public:
     TimerModel *timer() const { return m_timer; }
 
     QDateTime now() const { return m_now; }
-    QBindable<QDateTime> bindableNow() const { return QBindable<QDateTime>(&m_now); }
     bool anyExpanded() const { return m_anyExpanded; }
     void setAnyExpanded(bool any) { m_anyExpanded = any; }
     QBindable<bool> bindableAnyExpanded() const { return QBindable<bool>(&m_anyExpanded); }
