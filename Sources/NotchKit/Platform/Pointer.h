@@ -22,8 +22,9 @@ public:
     virtual QPointF location() = 0;
 
     /// Where the pointer is now; while no button is down and it moves outside every panel's hit area, an
-    /// earlier place outside all of them may be given instead. A click so short that it began and ended since the previous sample is
-    /// reported once as a pressed sample at the place of the press, so that no press is ever missed.
+    /// earlier place outside all of them may be given instead. A click so short that it began and ended since
+    /// the previous sample is reported once as a pressed sample at the place of the press, so that no press
+    /// is ever missed.
     virtual PointerSample sample() = 0;
 };
 
