@@ -149,7 +149,7 @@ std::unique_ptr<DefaultsDatabase> DefaultsStore::openHealthy()
 void DefaultsStore::setDamagedAside()
 {
     const QString name = setAside(m_path);
-    std::fprintf(stderr, "kestrune: damaged settings were set aside as %s; starting afresh\n",
+    std::fprintf(stderr, "Kestrune: damaged settings were set aside as %s; starting afresh\n",
                  QFile::encodeName(name).constData());
 }
 

@@ -91,7 +91,7 @@ void SqliteUserDefaults::save()
 void SqliteUserDefaults::keepInMemory(const char *reason)
 {
     if (!m_isFailing)
-        std::fprintf(stderr, "kestrune: settings are kept in memory until %s can be written: %s\n",
+        std::fprintf(stderr, "Kestrune: settings are kept in memory until %s can be written: %s\n",
                      QFile::encodeName(m_path).constData(), reason);
     m_isFailing = true;
     m_store->setPatience(milliseconds(0)); // one wait is enough: whoever holds the file may be stuck
