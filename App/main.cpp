@@ -20,22 +20,24 @@ using namespace Kestrune;
 class TemporaryEnvironment
 {
 public:
-    void set(const char *name, const char *value)
+    void set(const char *name, const QByteArray &value)
     {
-        if (!qEnvironmentVariableIsEmpty(name))
-            return;
+        m_before.emplace_back(name, qEnvironmentVariableIsSet(name) ? qgetenv(name) : QByteArray());
         qputenv(name, value);
-        m_names.push_back(name);
     }
 
-    void clear()
+    void restore()
     {
-        for (const char *name : std::exchange(m_names, {}))
-            qunsetenv(name);
+        for (const auto &[name, value] : std::exchange(m_before, {})) {
+            if (value.isNull())
+                qunsetenv(name);
+            else
+                qputenv(name, value);
+        }
     }
 
 private:
-    std::vector<const char *> m_names;
+    std::vector<std::pair<const char *, QByteArray>> m_before;
 };
 
 /// What must be decided before the application object is made.
@@ -47,6 +49,7 @@ TemporaryEnvironment setUpPlatform()
     TemporaryEnvironment environment;
     environment.set("QT_XCB_GL_INTEGRATION", "none");
     environment.set("QT_NO_GLIB", "1");
+    // Under Wayland too, where X programs run as guests: the panel needs what only X11 offers so far.
     environment.set("QT_QPA_PLATFORM", "xcb");
     return environment;
 }
@@ -64,12 +67,12 @@ void setUpFont()
 int runProgram(int argc, char *argv[], const QStringList &arguments)
 {
     TemporaryEnvironment environment = setUpPlatform();
-    if (qEnvironmentVariable("QT_QPA_PLATFORM") != QLatin1String("xcb") || !X11::canConnect()) {
+    if (!X11::canConnect()) {
         std::fputs("Kestrune: it needs an X11 display\n", stderr);
         return 1;
     }
     QGuiApplication application(argc, argv);
-    environment.clear();
+    environment.restore();
     QGuiApplication::setQuitOnLastWindowClosed(false);
     setUpFont();
 

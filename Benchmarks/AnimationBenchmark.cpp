@@ -108,7 +108,7 @@ void report(Table &table, const std::string &motion, const Frames &frames)
                true});
     table.add({motion + ", work per frame, 95 %", quantile(frames.work, 0.95), 16.7, "ms", ""});
     table.add({motion + ", time between frames, 95 %", quantile(frames.intervals, 0.95), 16.7, "ms",
-               "noisy: wall time of a 16 ms timer"});
+               "noisy: wall time"});
     Table::note("  work per frame, median", median(frames.work), "ms");
     Table::note("  time between frames, median", median(frames.intervals), "ms");
     Table::note("  frames without a new step, each motion", median(frames.repeated), "");

@@ -1,5 +1,6 @@
 #include "NotchWindow.h"
 
+#include "FrameDriver.h"
 #include "NotchShapeItem.h"
 
 #include <QQmlComponent>
@@ -15,7 +16,13 @@ constexpr auto kNotchView = "qrc:/Kestrune/Views/NotchView.qml";
 
 }
 
-void registerViews() { qml_register_types_Kestrune_Views(); }
+void registerViews()
+{
+    qml_register_types_Kestrune_Views();
+    static auto *const frames =
+        new FrameDriver; // Kept to the end: animations outlive the application object.
+    frames->install();
+}
 
 NotchWindow::NotchWindow(QQmlEngine &engine, NotchScreenModel &model, NotchServices &services)
     : m_presentation(model, services)

@@ -29,7 +29,7 @@ private:
     std::unique_ptr<QQuickItem> m_root;
 };
 
-/// Registers the views' types; once, before the first window is made.
+/// Registers the views' types and sets the pace of animations; once, before the first window is made.
 void registerViews();
 
 } // namespace Kestrune
