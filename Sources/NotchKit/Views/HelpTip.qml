@@ -14,7 +14,7 @@ Rectangle {
         const scene = anchor.Window.window
         if (!scene)
             return 0
-        const margin = (scene.width - 760) / 2 + 30
+        const margin = (scene.width - Theme.contentWidth) / 2
         const left = anchor.mapToItem(null, anchor.width / 2 - width / 2, 0).x
         return Math.max(margin - left, 0) - Math.max(left + width - (scene.width - margin), 0)
     }

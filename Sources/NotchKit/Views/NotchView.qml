@@ -13,6 +13,8 @@ FocusScope {
     readonly property bool expanded: screenModel.expanded
     readonly property size notchSize: screenModel.geometry.shapeSize(expanded, services.hasActivity)
     readonly property size closedSize: screenModel.geometry.notchSize
+    readonly property size wingedSize: screenModel.geometry.shapeSize(false, true)
+    readonly property size openSize: screenModel.geometry.shapeSize(true, false)
     readonly property bool housing: screenModel.geometry.hasHardwareNotch
     readonly property real response: expanded ? 0.42 : 0.34
     readonly property real damping: expanded ? 0.8 : 0.92
@@ -27,7 +29,7 @@ FocusScope {
 
     NotchSpring { id: shapeWidth; target: view.notchSize.width }
     NotchSpring { id: shapeHeight; target: view.notchSize.height }
-    NotchSpring { id: topRadius; target: view.expanded ? 14 : 6 }
+    NotchSpring { id: topRadius; target: view.expanded ? Theme.flare : 6 }
     NotchSpring { id: bottomRadius; target: view.expanded ? 30 : view.housing ? 10 : 14 }
     NotchSpring { id: openness; target: view.expanded ? 1 : 0; precision: 0.002 }
 
@@ -57,7 +59,7 @@ FocusScope {
 
     ClosedActivity {
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(shape.width - 2 * shape.topRadius, view.closedSize.width + 152)
+        width: Math.min(shape.width - 2 * shape.topRadius, view.wingedSize.width)
         height: view.closedSize.height
         wing: Math.max(0, (width - view.closedSize.width) / 2)
         opacity: Math.max(0, 1 - openness.value * 4)
@@ -79,8 +81,8 @@ FocusScope {
         Loader {
             active: false
             x: (parent.width - width) / 2
-            width: 760 - 2 * (14 + Theme.inset)
-            height: 330
+            width: Theme.contentWidth
+            height: view.openSize.height
             focus: true
             sourceComponent: ExpandedContent {
                 focus: true

@@ -13,6 +13,8 @@ QtObject {
     readonly property color highlighted: Qt.rgba(1, 1, 1, 0.22)
 
     readonly property int inset: 16
+    readonly property int flare: 14 // the open notch's top radius: its body begins that far in
+    readonly property int contentWidth: 760 - 2 * (flare + inset) // of the open notch's 760 points
     readonly property int gap: 8
     readonly property int tileRadius: 12
     readonly property int buttonRadius: 8

@@ -36,8 +36,10 @@ void SystemClockTest::fastTimersKeepTheirRateTogether()
     const auto start = clock.uptime();
     QTest::qWait(1500);
     const double seconds = std::chrono::duration<double>(clock.uptime() - start).count();
-    QVERIFY2(std::abs(polls - seconds / 0.033) <= 2, qPrintable(QString::number(polls)));
-    QVERIFY2(std::abs(ticks - seconds / 0.050) <= 2, qPrintable(QString::number(ticks)));
+    // A busy machine delays ticks, both kinds alike; it never adds any.
+    QVERIFY2(polls <= seconds / 0.033 + 1 && ticks <= seconds / 0.050 + 1,
+             qPrintable(QString::number(ticks)));
+    QVERIFY2(std::abs(polls * 33.0 / (ticks * 50.0) - 1) < 0.15, qPrintable(QString::number(polls)));
     QVERIFY2(alone < ticks / 2, qPrintable(QString::number(alone)));
 }
 
