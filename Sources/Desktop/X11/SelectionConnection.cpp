@@ -1,0 +1,140 @@
+#include "SelectionConnection.h"
+
+#include <algorithm>
+
+#include <xcb/xfixes.h>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr size_t kMostAbandoned = 8;
+
+} // namespace
+
+SelectionConnection::SelectionConnection(const QByteArray &display)
+    : m_connection(xcb_connect(display.isEmpty() ? nullptr : display.constData(), nullptr))
+{
+    if (xcb_connection_has_error(m_connection) != 0)
+        return;
+    const auto *extension = xcb_get_extension_data(m_connection, &xcb_xfixes_id);
+    if (!extension || !extension->present)
+        return;
+    // The server takes no other request of the extension from a client that has not told its version.
+    const auto cookie = xcb_xfixes_query_version(m_connection, 1, 0);
+    const X11::Reply<xcb_xfixes_query_version_reply_t> version(
+        xcb_xfixes_query_version_reply(m_connection, cookie, nullptr));
+    if (!version)
+        return;
+    m_ownerEvent = static_cast<uint8_t>(extension->first_event + XCB_XFIXES_SELECTION_NOTIFY);
+    m_window = createWindow();
+}
+
+SelectionConnection::~SelectionConnection() { xcb_disconnect(m_connection); }
+
+bool SelectionConnection::isAlive() const
+{
+    return m_ownerEvent != 0 && xcb_connection_has_error(m_connection) == 0;
+}
+
+SelectionConnection::Event SelectionConnection::nextEvent()
+{
+    if (m_held.empty())
+        return Event(xcb_poll_for_event(m_connection));
+    Event event = std::move(m_held.front());
+    m_held.pop_front();
+    return event;
+}
+
+void SelectionConnection::watchOwner(xcb_atom_t selection)
+{
+    xcb_xfixes_select_selection_input(m_connection, m_window, selection,
+                                      XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+}
+
+bool SelectionConnection::isOwnerEvent(const xcb_generic_event_t &event) const
+{
+    return (event.response_type & 0x7f) == m_ownerEvent;
+}
+
+xcb_window_t SelectionConnection::ownerOf(xcb_atom_t selection) const
+{
+    const X11::Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
+        m_connection, xcb_get_selection_owner(m_connection, selection), nullptr));
+    return reply ? reply->owner : static_cast<xcb_window_t>(XCB_WINDOW_NONE);
+}
+
+xcb_atom_t SelectionConnection::atom(const QByteArray &name)
+{
+    const auto known = m_atoms.constFind(name);
+    if (known != m_atoms.cend())
+        return *known;
+    const auto cookie = xcb_intern_atom(m_connection, false, static_cast<uint16_t>(name.size()), name.data());
+    const X11::Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection, cookie, nullptr));
+    const xcb_atom_t value = reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+    m_atoms.insert(name, value);
+    return value;
+}
+
+QList<QByteArray> SelectionConnection::names(const QList<xcb_atom_t> &atoms) const
+{
+    QList<xcb_get_atom_name_cookie_t> cookies;
+    cookies.reserve(atoms.size());
+    for (const xcb_atom_t atom : atoms)
+        cookies.append(xcb_get_atom_name(m_connection, atom));
+    QList<QByteArray> names;
+    for (const auto cookie : cookies) {
+        xcb_generic_error_t *failure = nullptr;
+        const X11::Reply<xcb_get_atom_name_reply_t> reply(
+            xcb_get_atom_name_reply(m_connection, cookie, &failure));
+        const X11::Reply<xcb_generic_error_t> error(failure);
+        names.append(reply ? QByteArray(xcb_get_atom_name_name(reply.get()),
+                                        xcb_get_atom_name_name_length(reply.get()))
+                           : QByteArray());
+    }
+    return names;
+}
+
+xcb_timestamp_t SelectionConnection::serverTime()
+{
+    // Nothing is appended, but the server tells when.
+    const xcb_atom_t property = atom("KESTRUNE_TIME");
+    xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_window, property, XCB_ATOM_INTEGER, 32, 0,
+                        nullptr);
+    xcb_flush(m_connection);
+    while (Event event{xcb_wait_for_event(m_connection)}) {
+        const auto &change = reinterpret_cast<const xcb_property_notify_event_t &>(*event);
+        if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && change.window == m_window &&
+            change.atom == property)
+            return change.time;
+        m_held.push_back(std::move(event));
+    }
+    return XCB_CURRENT_TIME;
+}
+
+xcb_window_t SelectionConnection::createWindow()
+{
+    const auto *screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
+    const xcb_window_t window = xcb_generate_id(m_connection);
+    const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_create_window(m_connection, 0, window, screen->root, -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
+                      screen->root_visual, XCB_CW_EVENT_MASK, &events);
+    return window;
+}
+
+void SelectionConnection::destroyWindow(xcb_window_t window) { xcb_destroy_window(m_connection, window); }
+
+void SelectionConnection::abandonWindow(xcb_window_t window)
+{
+    const uint32_t events = XCB_EVENT_MASK_NO_EVENT;
+    xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &events);
+    m_abandoned.push_back(window);
+    if (m_abandoned.size() <= kMostAbandoned)
+        return;
+    destroyWindow(m_abandoned.front());
+    m_abandoned.pop_front();
+}
+
+} // namespace Kestrune

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "IncrementalTransfers.h"
+#include "PasteboardTypes.h"
+
+namespace Kestrune {
+
+/// Content of this program on a selection, given to whoever asks until another program takes it over.
+class SelectionOwner
+{
+public:
+    SelectionOwner(SelectionConnection &x, xcb_atom_t selection)
+        : m_x(x)
+        , m_selection(selection)
+        , m_transfers(x)
+    {}
+
+    /// Takes the selection for the content in these forms.
+    void offer(const QList<PasteboardTypes::Form> &forms);
+
+    void handle(const xcb_generic_event_t &event);
+
+    std::optional<IncrementalTransfers::Clock::time_point> deadline() const { return m_transfers.deadline(); }
+    void expire(IncrementalTransfers::Clock::time_point now) { m_transfers.expire(now); }
+
+private:
+    struct Form
+    {
+        xcb_atom_t target;
+        xcb_atom_t type;
+        QByteArray data;
+    };
+
+    void answer(const xcb_selection_request_event_t &request);
+    bool isOurs(const xcb_selection_request_event_t &request) const;
+    bool give(xcb_window_t reader, xcb_atom_t target, xcb_atom_t property);
+    bool giveMultiple(xcb_window_t reader, xcb_atom_t property);
+    void giveTargets(xcb_window_t reader, xcb_atom_t property);
+
+    SelectionConnection &m_x;
+    xcb_atom_t m_selection;
+    IncrementalTransfers m_transfers;
+    std::vector<Form> m_forms; ///< Empty while the selection is another's.
+    xcb_timestamp_t m_since = XCB_CURRENT_TIME;
+    uint32_t m_taken = 0; ///< Number of the request that took the selection.
+};
+
+} // namespace Kestrune

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QUrl>
+
+/// The two forms in which programs hand over files.
+namespace Kestrune::UriLists {
+
+/// The file managers' own form: "copy" or "cut", then a URL a line.
+constexpr auto kCopiedFiles = "x-special/gnome-copied-files";
+
+/// The URLs of local files in a list of `type`, in their order, without a host.
+QList<QUrl> localFiles(const QByteArray &list, const QByteArray &type);
+
+QByteArray uriList(const QList<QUrl> &urls);
+QByteArray copiedFiles(const QList<QUrl> &urls);
+
+/// The paths of local files and the other URLs in full, one a line.
+QString paths(const QList<QUrl> &urls);
+
+} // namespace Kestrune::UriLists

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "CommandQueue.h"
+#include "NotchKit/Platform/Pasteboard.h"
+
+#include <QThread>
+
+#include <atomic>
+#include <memory>
+
+namespace Kestrune {
+
+/// The X11 clipboard. A thread with a connection of its own talks to the other programs, and sleeps until
+/// something is copied, pasted or asked for; the main thread only leaves it a note and reads a counter.
+///
+/// Without an X server, or once the connection is lost, the pasteboard is empty for good. What was on the
+/// clipboard when the object was made is no change.
+class X11Pasteboard : public Pasteboard
+{
+public:
+    /// Watches the clipboard of `display`, or of the one in the environment when it is empty.
+    explicit X11Pasteboard(const QByteArray &display = {});
+    ~X11Pasteboard() override;
+
+    qint64 changeCount() const override { return m_changeCount; }
+    QFuture<QStringList> types() override;
+    QFuture<QList<QUrl>> fileUrls() override;
+    QFuture<std::optional<EncodedPicture>> picture() override;
+    QFuture<std::optional<QString>> string() override;
+    qint64 write(const PasteboardContent &content) override;
+
+private:
+    template <typename Answer, typename Question>
+    QFuture<Answer> ask(Question question);
+
+    std::atomic<qint64> m_changeCount = 0;
+    CommandQueue m_commands;
+    std::unique_ptr<QThread> m_thread;
+};
+
+} // namespace Kestrune
