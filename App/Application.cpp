@@ -31,7 +31,7 @@ void Application::run(const LaunchRequest &request)
     const AppPlatform app{
         m_defaults, m_suiteDefaults, m_applications, m_loginItem,
         [this](const QString &message, const QString &details) { m_alert.show(message, details); }};
-    const NotchPlatform tools{m_clock, m_sounds, m_workspace};
+    const NotchPlatform tools{m_clock, m_defaults, m_sounds, m_workspace, m_pasteboard};
     const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys};
     m_state = std::make_unique<AppState>(app, tools, controller, request);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());

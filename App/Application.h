@@ -11,6 +11,7 @@
 #include "Desktop/X11/X11Desktop.h"
 #include "Desktop/X11/X11Displays.h"
 #include "Desktop/X11/X11HotKeys.h"
+#include "Desktop/X11/X11Pasteboard.h"
 #include "Desktop/X11/X11Pointer.h"
 #include "NotchKit/Views/AlertWindow.h"
 #include "PanelFactory.h"
@@ -46,6 +47,7 @@ private:
     X11Displays m_displays;
     X11Pointer m_pointer;
     X11HotKeys m_hotKeys;
+    X11Pasteboard m_pasteboard;
     QQmlEngine m_engine;
     PanelFactory m_panels;
     AlertWindow m_alert;

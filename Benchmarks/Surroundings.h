@@ -41,12 +41,13 @@ struct HubParts
     explicit HubParts(Kestrune::Clock &time)
         : clock(time)
     {}
-    Kestrune::NotchPlatform platform() { return {clock, sounds, workspace}; }
+    Kestrune::NotchPlatform platform() { return {clock, defaults, sounds, workspace, pasteboard}; }
 
     Kestrune::Clock &clock;
     Kestrune::Fakes::MemoryDefaults defaults;
     Kestrune::Fakes::FakeSounds sounds;
     Kestrune::Fakes::FakeWorkspace workspace;
+    Kestrune::Fakes::FakePasteboard pasteboard;
     Kestrune::NotchSettings settings{defaults};
 };
 

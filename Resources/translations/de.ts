@@ -187,5 +187,61 @@
         <source>this app</source>
         <translation>dieser App</translation>
     </message>
+    <message>
+        <source>Copy something and it appears here.
+Passwords from password managers are never saved.</source>
+        <translation>Kopiere etwas, und es erscheint hier.
+Passwörter aus Passwortverwaltungen werden nie gespeichert.</translation>
+    </message>
+    <message>
+        <source>Clipboard history is off.
+Turn it on in Settings.</source>
+        <translation>Der Zwischenablage-Verlauf ist aus.
+Schalte ihn in den Einstellungen ein.</translation>
+    </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Verlauf löschen</translation>
+    </message>
+    <message>
+        <source>Nothing matches.</source>
+        <translation>Nichts gefunden.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>PDFs</source>
+        <translation>PDFs</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Bild</translation>
+    </message>
 </context>
 </TS>

@@ -11,7 +11,7 @@ namespace {
 constexpr std::array kTools{
     CatalogueEntry{"home", QT_TRANSLATE_NOOP("notch", "Home"), "square.grid.2x2.fill", "HomePane"},
     CatalogueEntry{"nowPlaying", QT_TRANSLATE_NOOP("notch", "Now Playing"), "music.note"},
-    CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Clipboard"), "doc.on.clipboard"},
+    CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Clipboard"), "doc.on.clipboard", "ClipboardPane"},
     CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Screenshots"), "camera.viewfinder"},
     CatalogueEntry{"calendar", QT_TRANSLATE_NOOP("notch", "Calendar"), "calendar"},
     CatalogueEntry{"shelf", QT_TRANSLATE_NOOP("notch", "Shelf"), "tray.and.arrow.down"},
@@ -35,7 +35,7 @@ constexpr std::array kWidgets{
     CatalogueEntry{"timer", QT_TRANSLATE_NOOP("notch", "Timer"), nullptr, "TimerBlock"},
     CatalogueEntry{"stocks", QT_TRANSLATE_NOOP("notch", "Stocks")},
     CatalogueEntry{"system", QT_TRANSLATE_NOOP("notch", "System")},
-    CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Latest copies")},
+    CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Latest copies"), nullptr, "ClipboardBlock"},
     CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Latest screenshots")},
     CatalogueEntry{"note", QT_TRANSLATE_NOOP("notch", "Note"), nullptr, "NoteBlock"},
 };

@@ -13,16 +13,21 @@
 
 namespace Kestrune {
 
+class ClipboardModel;
+class Pasteboard;
 class SoundPlayer;
 class TimerModel;
+class UserDefaults;
 class Workspace;
 
 /// The ports that the tools are built on.
 struct NotchPlatform
 {
     Clock &clock;
+    UserDefaults &defaults;
     SoundPlayer &sounds;
     Workspace &workspace;
+    Pasteboard &pasteboard;
 };
 
 /// The hub: owns every tool model and the two clocks that drive them, and knows which pane is on screen.
@@ -31,8 +36,10 @@ struct NotchPlatform
 class NotchServices : public QObject
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("NotchKit/Tools/ClipboardModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
     Q_PROPERTY(Kestrune::NotchSettings *settings READ settings CONSTANT)
+    Q_PROPERTY(Kestrune::ClipboardModel *clipboard READ clipboard CONSTANT)
     Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
     /// The current time, updated every second while the hub runs. Not bindable for the views: a view's
     /// binding keeps a bindable dependency for good, and would wake each second while it is off screen.
@@ -51,6 +58,7 @@ public:
 
     NotchSettings *settings() const { return &m_settings; }
     const NotchBranding &branding() const { return m_branding; }
+    ClipboardModel *clipboard() const { return m_clipboard; }
     TimerModel *timer() const { return m_timer; }
 
     QDateTime now() const { return m_now; }
@@ -108,6 +116,7 @@ private:
     Workspace &m_workspace;
     std::vector<std::unique_ptr<ToolModel>> m_models; ///< The first with an activity shows it.
     TimerModel *m_timer;
+    ClipboardModel *m_clipboard;
     std::optional<NotchTool> m_visibleTool;
     std::unique_ptr<RunningTimer> m_clockTimer;
     std::unique_ptr<RunningTimer> m_fastTimer;

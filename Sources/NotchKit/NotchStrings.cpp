@@ -42,14 +42,22 @@ class Translation
 {
 public:
     Translation()
+        : m_language(chooseLocalization(availableLocalizations(), QLocale::system().uiLanguages()))
     {
-        const QString language =
-            chooseLocalization(availableLocalizations(), QLocale::system().uiLanguages());
-        if (m_translator.load(language, QString::fromLatin1(kTranslations)))
+        if (m_translator.load(m_language, QString::fromLatin1(kTranslations)))
             QCoreApplication::installTranslator(&m_translator);
     }
 
+    const QString &language() const { return m_language; }
+
+    static const Translation &chosen()
+    {
+        static const Translation translation;
+        return translation;
+    }
+
 private:
+    QString m_language;
     QTranslator m_translator;
 };
 
@@ -67,9 +75,11 @@ QString chooseLocalization(const QStringList &available, const QStringList &pref
 
 QString notchStrings(const char *english)
 {
-    static const Translation chosen;
+    Translation::chosen();
     return QCoreApplication::translate(kContext, english);
 }
+
+QString notchLanguage() { return Translation::chosen().language(); }
 
 QString hostName()
 {

@@ -9,6 +9,9 @@ namespace Kestrune {
 /// The language is chosen once, on first use, from the user's preference order, and kept.
 QString notchStrings(const char *english);
 
+/// The language that notchStrings speaks, a BCP 47 tag.
+QString notchLanguage();
+
 /// The first of the user's `preferences` (BCP 47 tags, best first) that one of the `available`
 /// translations serves; "en" when none does. "de-AT" is served by "de"; "pt" by "pt-BR".
 QString chooseLocalization(const QStringList &available, const QStringList &preferences);

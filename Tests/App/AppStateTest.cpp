@@ -22,6 +22,7 @@ struct Stage
     Fakes::FakeLoginItem loginItem;
     Fakes::FakeSounds sounds;
     Fakes::FakeWorkspace workspace;
+    Fakes::FakePasteboard pasteboard;
     Fakes::FakeDisplays displays;
     Fakes::FakePointer pointer;
     Fakes::FakePanels panels;
@@ -41,7 +42,8 @@ struct Stage
         const AppPlatform platform{
             defaults, suiteDefaults, applications, loginItem,
             [this](const QString &message, const QString &details) { alerts << message << details; }};
-        app = std::make_unique<AppState>(platform, NotchPlatform{clock, sounds, workspace},
+        app = std::make_unique<AppState>(platform,
+                                         NotchPlatform{clock, defaults, sounds, workspace, pasteboard},
                                          NotchControllerPlatform{clock, displays, pointer, panels, hotKeys},
                                          LaunchRequest::parse(arguments));
     }

@@ -10,16 +10,22 @@ namespace Kestrune::Fakes {
 /// The whole core over fake ports: settings, hub and controller.
 struct Core
 {
+    explicit Core(MemoryDefaults::Values stored = {})
+        : defaults(std::move(stored))
+    {}
+
     FakeClock clock;
     MemoryDefaults defaults;
     FakeSounds sounds;
     FakeWorkspace workspace;
+    FakePasteboard pasteboard;
     FakeDisplays displays;
     FakePointer pointer;
     FakePanels panels;
     FakeHotKeys hotKeys;
     NotchSettings settings{defaults};
-    NotchServices services{settings, NotchBranding::fennivar(), {clock, sounds, workspace}};
+    NotchServices services{
+        settings, NotchBranding::fennivar(), {clock, defaults, sounds, workspace, pasteboard}};
     NotchController controller{services, {clock, displays, pointer, panels, hotKeys}};
 
     NotchScreenModel &model(std::size_t index = 0) { return *controller.notches().at(index).model; }

@@ -5,6 +5,7 @@
 #include "NotchKit/Platform/HotKeys.h"
 #include "NotchKit/Platform/LoginItem.h"
 #include "NotchKit/Platform/NotchPanels.h"
+#include "NotchKit/Platform/Pasteboard.h"
 #include "NotchKit/Platform/Pointer.h"
 #include "NotchKit/Platform/RunningApplications.h"
 #include "NotchKit/Platform/SoundPlayer.h"
@@ -12,6 +13,7 @@
 #include "NotchKit/Platform/Workspace.h"
 
 #include <QMap>
+#include <QPromise>
 #include <QSet>
 #include <QUrl>
 
@@ -108,6 +110,12 @@ private:
 class MemoryDefaults : public UserDefaults
 {
 public:
+    using Values = QMap<QString, DefaultsValue>;
+
+    explicit MemoryDefaults(Values stored = {})
+        : values(std::move(stored))
+    {}
+
     std::optional<DefaultsValue> object(const QString &key) const override
     {
         const auto found = values.constFind(key);
@@ -116,7 +124,7 @@ public:
     void setObject(const QString &key, const DefaultsValue &value) override { values.insert(key, value); }
     void removeObject(const QString &key) override { values.remove(key); }
 
-    QMap<QString, DefaultsValue> values;
+    Values values;
 };
 
 class FakeDisplays : public Displays
@@ -130,6 +138,73 @@ public:
 
     QList<Display> displays;
     int mainIndex = 0;
+};
+
+/// Answers at once, or, while `held`, when `release` is called. Counts what it was asked for.
+class FakePasteboard : public Pasteboard
+{
+public:
+    qint64 changeCount() const override { return count; }
+    QFuture<QStringList> types() override { return answer(offered, QStringLiteral("types")); }
+    QFuture<QList<QUrl>> fileUrls() override { return answer(urls, QStringLiteral("urls")); }
+    QFuture<std::optional<EncodedPicture>> picture() override
+    {
+        return answer(encoded, QStringLiteral("picture"));
+    }
+    QFuture<std::optional<QString>> string() override { return answer(text, QStringLiteral("string")); }
+    qint64 write(const PasteboardContent &content) override
+    {
+        written = content;
+        return ++count;
+    }
+
+    /// Another program copies.
+    void offer(const QString &copied) { replace({QString::fromLatin1(kString)}).text = copied; }
+    void offer(const QList<QUrl> &copied) { replace({QString::fromLatin1(kFileUrls)}).urls = copied; }
+    void offer(const EncodedPicture &copied) { replace({copied.type}).encoded = copied; }
+    FakePasteboard &replace(const QStringList &types)
+    {
+        ++count;
+        offered = types;
+        urls.clear();
+        encoded.reset();
+        text.reset();
+        return *this;
+    }
+
+    void release()
+    {
+        held = false;
+        for (const auto &finish : std::exchange(waiting, {}))
+            finish();
+    }
+
+    qint64 count = 1;
+    QStringList offered;
+    QList<QUrl> urls;
+    std::optional<EncodedPicture> encoded;
+    std::optional<QString> text;
+    PasteboardContent written;
+    QStringList asked;
+    bool held = false;
+    std::vector<std::function<void()>> waiting;
+
+private:
+    template <typename Value>
+    QFuture<Value> answer(const Value &value, const QString &question)
+    {
+        asked.append(question);
+        auto promise = std::make_shared<QPromise<Value>>();
+        promise->start();
+        waiting.push_back([promise, value] {
+            promise->addResult(value);
+            promise->finish();
+        });
+        const auto future = promise->future();
+        if (!held)
+            release();
+        return future;
+    }
 };
 
 class FakePointer : public Pointer

@@ -3,6 +3,7 @@
 #include "NotchKit/NotchScreenModel.h"
 #include "NotchKit/NotchServices.h"
 #include "NotchKit/NotchSettings.h"
+#include "NotchKit/Tools/ClipboardModel.h"
 #include "NotchKit/Tools/TimerModel.h"
 
 #include <QtQml/qqml.h>
@@ -19,6 +20,7 @@ namespace Kestrune {
         QML_UNCREATABLE("belongs to the core")                                                               \
     }
 
+KESTRUNE_VIEW_TYPE(ClipboardModel);
 KESTRUNE_VIEW_TYPE(NotchScreenModel);
 KESTRUNE_VIEW_TYPE(NotchServices);
 KESTRUNE_VIEW_TYPE(NotchSettings);

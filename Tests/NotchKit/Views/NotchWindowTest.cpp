@@ -2,18 +2,17 @@
 #include "NotchKit/Tools/TimerModel.h"
 #include "NotchKit/Views/SpringValue.h"
 #include "NotchKit/Views/Symbols.h"
-#include "Support/Core.h"
 #include "Support/TestRegistry.h"
+#include "WindowStage.h"
 
 #include <QFontDatabase>
-#include <QQmlEngine>
-#include <QQuickItem>
 #include <QRawFont>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTest>
 
 using namespace Kestrune;
+using Stage = WindowStage;
 
 namespace {
 
@@ -24,52 +23,6 @@ void collectWarnings(QtMsgType type, const QMessageLogContext &, const QString &
     if (type != QtDebugMsg && type != QtInfoMsg)
         warnings.append(text);
 }
-
-/// A notch window over fake ports, shown on the offscreen platform.
-struct Stage
-{
-    Fakes::Core core;
-    QQmlEngine engine;
-    std::unique_ptr<NotchWindow> window;
-    QRectF outline;
-
-    Stage()
-    {
-        core.displays.displays = {Fakes::externalDisplay()};
-        core.settings.setColumn(HomeColumn::center, HomeWidget::timer);
-        core.settings.setColumn(HomeColumn::right, HomeWidget::note);
-        core.controller.start();
-        window = std::make_unique<NotchWindow>(engine, core.model(), core.services);
-        QObject::connect(window.get(), &NotchWindow::outlineChanged, window.get(),
-                         [this](const QPainterPath &path) { outline = path.boundingRect(); });
-        window->resize(880, 390);
-        window->show();
-    }
-
-    /// The first visible item of the QML type, or null.
-    QQuickItem *find(const QString &type) const { return find(window->contentItem(), type); }
-
-    static QQuickItem *find(QQuickItem *item, const QString &type)
-    {
-        if (QString::fromLatin1(item->metaObject()->className()).startsWith(type + QLatin1String("_QML")))
-            return item->isVisible() ? item : nullptr;
-        for (QQuickItem *child : item->childItems()) {
-            if (QQuickItem *found = find(child, type))
-                return found;
-        }
-        return nullptr;
-    }
-
-    static QList<QQuickItem *> buttons(QQuickItem *item)
-    {
-        QList<QQuickItem *> all;
-        if (item->inherits("QQuickAbstractButton") && item->isVisible() && item->isEnabled())
-            all.append(item);
-        for (QQuickItem *child : item->childItems())
-            all += buttons(child);
-        return all;
-    }
-};
 
 } // namespace
 

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "ClipboardPicture.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QStringList>
+#include <QUuid>
+
+#include <optional>
+
+namespace Kestrune {
+
+/// Holds a value beside stored fields that is never stored itself: it is written as nothing and read as none.
+template <typename Value>
+struct CodableIgnored
+{
+    std::optional<Value> wrappedValue;
+
+    bool operator==(const CodableIgnored &) const = default;
+};
+
+/// One entry of the clipboard history.
+class ClipboardItem
+{
+    Q_GADGET
+    Q_PROPERTY(QString id READ idText)
+    Q_PROPERTY(QString symbol READ symbol)
+    Q_PROPERTY(QString preview READ preview)
+    Q_PROPERTY(bool isLink READ isLink)
+    Q_PROPERTY(QDateTime date MEMBER date)
+    Q_PROPERTY(bool hasThumbnail READ hasThumbnail)
+    Q_PROPERTY(QImage thumbnail READ thumbnail)
+
+public:
+    enum class Kind { text, link, image, pdf, file };
+
+    QUuid id = QUuid::createUuid();
+    Kind kind = Kind::text;
+    QString text;      ///< The text, the link, the file names, or the picture's size in words.
+    QStringList paths; ///< Absolute paths of copied files.
+    QDateTime date;    ///< Of the capture, UTC.
+    CodableIgnored<ClipboardPicture> image;
+
+    QString idText() const { return id.toString(QUuid::WithoutBraces).toUpper(); }
+
+    /// The symbol of its kind.
+    QString symbol() const;
+
+    /// The beginning of the text, on one line.
+    QString preview() const;
+
+    bool isLink() const { return kind == Kind::link; }
+
+    bool hasThumbnail() const { return image.wrappedValue.has_value(); }
+
+    /// A null image for an item without a picture.
+    QImage thumbnail() const;
+
+    /// Whether copying it again would be the same to the user: same kind, text and files.
+    bool sameContent(const ClipboardItem &other) const;
+
+    bool operator==(const ClipboardItem &other) const = default;
+};
+
+using ClipboardItems = QList<ClipboardItem>;
+
+/// The stored form: a JSON array, UTF-8. Pictures are left out; dates are seconds since 2001-01-01 UTC.
+QByteArray encodeClipboardItems(const ClipboardItems &items);
+
+/// Nothing when `stored` is not, as a whole, such an array.
+std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored);
+
+} // namespace Kestrune

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "NotchKit/Platform/Pasteboard.h"
+
+#include <QImage>
+#include <QSize>
+
+#include <memory>
+
+namespace Kestrune {
+
+/// A copied picture: the bytes as they were received, its size, and a small image of it for the list. It is
+/// decoded only to make that image. Copies share their data; equal means the same data.
+class ClipboardPicture
+{
+public:
+    /// Larger pictures are refused unopened, whatever their encoding claims to hold.
+    static constexpr qint64 kMostPixels = 64'000'000;
+    static constexpr qint64 kMostBytes = 64 * 1024 * 1024;
+    static constexpr int kThumbnailSide = 64; ///< Pixels; twice the side of a row's square.
+
+    /// Nothing for data that is no picture, is damaged or exceeds the limits. Any thread; decodes.
+    static std::optional<ClipboardPicture> fromEncoded(const EncodedPicture &encoded);
+
+    /// The picture in a file; nothing also for what is no regular file. Any thread; reads and decodes.
+    static std::optional<ClipboardPicture> fromFile(const QString &path);
+
+    /// As it was received.
+    EncodedPicture encoded() const;
+
+    QSize size() const { return m_data->size; }
+    const QImage &thumbnail() const { return m_data->thumbnail; }
+
+    /// What it takes in memory, in bytes.
+    qint64 cost() const { return m_data->bytes.size() + m_data->thumbnail.sizeInBytes(); }
+
+    bool operator==(const ClipboardPicture &other) const = default;
+
+private:
+    struct Data
+    {
+        QByteArray bytes;
+        bool compressed = false;
+        QString type;
+        QSize size;
+        QImage thumbnail;
+    };
+
+    explicit ClipboardPicture(Data data);
+
+    std::shared_ptr<const Data> m_data;
+};
+
+} // namespace Kestrune

@@ -1,0 +1,144 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrune.Views
+
+/// The clipboard history: filters, search, clear; below, the items. With the keyboard, typing searches, the
+/// arrows choose, Return copies and Delete removes.
+Pane {
+    id: pane
+
+    readonly property ClipboardModel clipboard: services.clipboard
+    readonly property bool historyOn: services.settings.clipboardHistory
+    property string copied: ""
+
+    function copy(id) {
+        clipboard.copy(id)
+        copied = id
+    }
+
+    Item {
+        id: header
+
+        anchors { left: parent.left; right: parent.right; top: parent.top }
+        height: 28
+
+        Row {
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 6
+
+            Repeater {
+                model: pane.clipboard.filterTitles
+
+                FilterChip {
+                    required property int index
+                    required property string modelData
+
+                    text: modelData
+                    active: index === pane.clipboard.filter
+                    onClicked: pane.clipboard.filter = index
+                }
+            }
+        }
+        Row {
+            anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+            spacing: 6
+
+            SearchField {
+                id: search
+
+                anchors.verticalCenter: parent.verticalCenter
+                screenModel: pane.screenModel
+                field.focus: true
+                text: pane.clipboard.query
+                onTextChanged: pane.clipboard.query = text
+
+                field.Keys.onUpPressed: list.decrementCurrentIndex()
+                field.Keys.onDownPressed: list.incrementCurrentIndex()
+                field.Keys.onReturnPressed: list.copyCurrent()
+                field.Keys.onEnterPressed: list.copyCurrent()
+                field.Keys.onDeletePressed: event => {
+                    event.accepted = field.cursorPosition === field.length && field.selectedText === ""
+                    if (event.accepted)
+                        list.removeCurrent()
+                }
+            }
+            HeaderButton {
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: "trash"
+                help: qsTranslate("notch", "Clear history")
+                onClicked: pane.clipboard.clear()
+            }
+        }
+    }
+
+    PaneMessage {
+        anchors { fill: parent; topMargin: header.height }
+        visible: !list.visible
+        symbol: "doc.on.clipboard"
+        text: !pane.historyOn ? qsTranslate("notch", "Clipboard history is off.\nTurn it on in Settings.")
+            : pane.clipboard.items.length === 0
+            ? qsTranslate("notch", "Copy something and it appears here.\nPasswords from password managers are never saved.")
+            : qsTranslate("notch", "Nothing matches.")
+    }
+
+    ListView {
+        id: list
+
+        function copyCurrent() {
+            if (currentItem)
+                pane.copy(currentItem.item.id)
+        }
+
+        function removeCurrent() {
+            if (currentItem)
+                pane.clipboard.remove(currentItem.item.id)
+        }
+
+        anchors { fill: parent; topMargin: header.height + 4 }
+        visible: pane.historyOn && rows.count > 0
+        clip: true
+        spacing: 2
+        boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: 0
+        keyNavigationEnabled: false
+        T.ScrollBar.vertical: ScrollBar {}
+        Accessible.role: Accessible.List
+        Accessible.name: qsTranslate("notch", "Clipboard")
+
+        model: KeyedListModel {
+            id: rows
+
+            source: pane.clipboard
+            list: "visible"
+        }
+        delegate: ClipRow {
+            required property var modelData
+            required property int index
+
+            width: ListView.view.width - 10
+            item: modelData
+            services: pane.services
+            shown: pane.visible
+            copied: item.id === pane.copied
+            current: search.field.activeFocus && index === list.currentIndex
+            onClicked: pane.copy(item.id)
+            onMenuWanted: (x, y) => {
+                const at = mapToItem(pane, x, y)
+                menu.item = item.id
+                menu.openAt(at.x, at.y)
+            }
+        }
+        move: Transition { NumberAnimation { properties: "y"; duration: 160; easing.type: Easing.OutCubic } }
+        displaced: move
+    }
+
+    ContextMenu {
+        id: menu
+
+        property string item
+
+        entry: qsTranslate("notch", "Delete")
+        onChosen: pane.clipboard.remove(item)
+        onClosed: search.field.forceActiveFocus()
+    }
+}

@@ -1,0 +1,25 @@
+import QtQuick
+import Kestrune.Views
+
+/// One choice of a row of which one is chosen.
+ButtonBase {
+    id: chip
+
+    help: text
+    implicitWidth: label.implicitWidth + 20
+    implicitHeight: label.implicitHeight + 8
+    radius: height / 2
+    Accessible.role: Accessible.RadioButton
+
+    contentItem: Text {
+        id: label
+
+        text: chip.text
+        font.pixelSize: 11
+        font.weight: Font.DemiBold
+        color: Theme.text
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+}

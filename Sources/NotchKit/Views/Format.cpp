@@ -1,0 +1,13 @@
+#include "Format.h"
+
+#include "NotchKit/NotchStrings.h"
+#include "NotchKit/RelativeTime.h"
+
+namespace Kestrune {
+
+QString Format::relativeTime(const QDateTime &date, const QDateTime &now)
+{
+    return Kestrune::relativeTime(date, now, notchLanguage());
+}
+
+} // namespace Kestrune

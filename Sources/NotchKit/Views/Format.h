@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QDateTime>
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace Kestrune {
+
+/// Values as the views word them, in the language of the texts.
+class Format : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+public:
+    /// How long ago `date` was: "5m ago".
+    Q_INVOKABLE static QString relativeTime(const QDateTime &date, const QDateTime &now);
+};
+
+} // namespace Kestrune
