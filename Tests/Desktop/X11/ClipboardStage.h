@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Desktop/X11/X11Pasteboard.h"
+#include "EndToEnd/VirtualDisplay.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+/// A virtual display, the adapter on it, and the programs that it exchanges with.
+class ClipboardStage
+{
+public:
+    ClipboardStage();
+
+    /// A new adapter, and none of the programs.
+    void reset();
+
+    /// Each returns once the adapter has seen the copy that follows.
+    bool copied(const std::function<bool()> &copy);
+    bool startRogue(const QStringList &arguments);
+    bool copy(const QString &client, const QString &type, const QByteArray &bytes);
+
+    /// What a program ("xclip", "qt", "gtk") gets when it pastes.
+    QByteArray paste(const QString &client, const QString &type);
+
+    bool start(const QString &program, const QStringList &arguments);
+
+    /// Types keys into the window of that title.
+    bool type(const QString &window, const QStringList &keys);
+
+    QString file(const QString &name, const QByteArray &bytes);
+    QString path(const QString &name) const { return m_home.filePath(name); }
+
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    std::unique_ptr<VirtualDisplay> display;
+    std::unique_ptr<Kestrune::X11Pasteboard> pasteboard;
+    std::vector<std::unique_ptr<ChildProcess>> programs; ///< The last one started is the last here.
+
+private:
+    QTemporaryDir m_home;
+};
