@@ -60,8 +60,10 @@ std::optional<ClipboardPicture> ClipboardPicture::fromEncoded(const EncodedPictu
 
     const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     const bool compress = isUnpacked(encoded.type);
-    return ClipboardPicture({compress ? qCompress(encoded.data, 1) : encoded.data, compress, encoded.type,
-                             turned ? size.transposed() : size, cropped(image)});
+    QByteArray bytes = compress ? qCompress(encoded.data, 1) : encoded.data;
+    bytes.squeeze();
+    return ClipboardPicture(
+        {bytes, compress, encoded.type, turned ? size.transposed() : size, cropped(image)});
 }
 
 std::optional<ClipboardPicture> ClipboardPicture::fromFile(const QString &path)

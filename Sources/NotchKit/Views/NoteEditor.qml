@@ -69,6 +69,7 @@ Tile {
             Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
             Component.onCompleted: {
+                ClipboardGuard.detach(input)
                 text = editor.settings.note
                 cursorPosition = length
             }

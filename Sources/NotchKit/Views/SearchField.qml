@@ -42,6 +42,7 @@ Row {
             border.width: field.activeFocus ? 1 : 0
             border.color: Theme.accent
         }
+        Component.onCompleted: ClipboardGuard.detach(field)
         onPressed: search.screenModel.keyboardWanted()
 
         Text {

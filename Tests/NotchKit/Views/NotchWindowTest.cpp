@@ -5,6 +5,7 @@
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
+#include <QClipboard>
 #include <QFontDatabase>
 #include <QRawFont>
 #include <QSet>
@@ -37,6 +38,7 @@ private Q_SLOTS:
     void outlineFollowsTheState();
     void everyPaneLoadsQuietly();
     void tabReachesEveryControl();
+    void noFieldReadsTheClipboardUnasked();
     void noteIsBoundBothWays();
     void timerPaneFollowsItsModel();
     void homeExplainsItsEmptiness();
@@ -126,6 +128,27 @@ void NotchWindowTest::tabReachesEveryControl()
     }
     QTest::keyClick(stage.window.get(), Qt::Key_Escape);
     QVERIFY(!stage.core.model().expanded());
+}
+
+void NotchWindowTest::noFieldReadsTheClipboardUnasked()
+{
+    Stage stage;
+    int fields = 0;
+    for (const NotchTool tool : stage.core.services.offeredTools()) {
+        QGuiApplication::clipboard()->clear();
+        stage.core.controller.open(tool);
+        QTRY_VERIFY(stage.find(QString::fromLatin1(entry(tool).view)));
+        QList<QSharedPointer<QSignalSpy>> looks;
+        for (QQuickItem *item : Stage::items(stage.window->contentItem())) {
+            if (item->metaObject()->indexOfProperty("canPaste") >= 0)
+                looks.append(QSharedPointer<QSignalSpy>::create(item, SIGNAL(canPasteChanged())));
+        }
+        fields += static_cast<int>(looks.size());
+        QGuiApplication::clipboard()->setText(QStringLiteral("secret"));
+        for (const auto &look : looks)
+            QCOMPARE(look->count(), 0);
+    }
+    QVERIFY(fields > 1);
 }
 
 void NotchWindowTest::noteIsBoundBothWays()

@@ -32,25 +32,32 @@ struct WindowStage
     QQuickItem *find(const QString &type) const { return all(type).value(0); }
     QList<QQuickItem *> all(const QString &type) const { return all(window->contentItem(), type); }
 
-    /// Every visible item of the QML type below `item`.
+    /// `item` and everything below it, shown or not.
+    static QList<QQuickItem *> items(QQuickItem *item)
+    {
+        QList<QQuickItem *> found{item};
+        for (QQuickItem *child : item->childItems())
+            found += items(child);
+        return found;
+    }
+
+    /// The visible items of the QML type among them.
     static QList<QQuickItem *> all(QQuickItem *item, const QString &type)
     {
-        QList<QQuickItem *> found;
-        if (QString::fromLatin1(item->metaObject()->className()).startsWith(type + QLatin1String("_QML")) &&
-            item->isVisible())
-            found.append(item);
-        for (QQuickItem *child : item->childItems())
-            found += all(child, type);
+        QList<QQuickItem *> found = items(item);
+        found.removeIf([&](QQuickItem *other) {
+            const auto name = QString::fromLatin1(other->metaObject()->className());
+            return !other->isVisible() || !name.startsWith(type + QLatin1String("_QML"));
+        });
         return found;
     }
 
     static QList<QQuickItem *> buttons(QQuickItem *item)
     {
-        QList<QQuickItem *> found;
-        if (item->inherits("QQuickAbstractButton") && item->isVisible() && item->isEnabled())
-            found.append(item);
-        for (QQuickItem *child : item->childItems())
-            found += buttons(child);
+        QList<QQuickItem *> found = items(item);
+        found.removeIf([](QQuickItem *other) {
+            return !other->inherits("QQuickAbstractButton") || !other->isVisible() || !other->isEnabled();
+        });
         return found;
     }
 };
