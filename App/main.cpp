@@ -12,6 +12,8 @@
 #include <utility>
 #include <vector>
 
+#include <malloc.h>
+
 namespace {
 
 using namespace Kestrune;
@@ -54,6 +56,14 @@ TemporaryEnvironment setUpPlatform()
     return environment;
 }
 
+/// Gives the memory of copied pictures back as soon as it is free. Without a fixed limit the allocator
+/// learns to keep ever larger blocks.
+void setUpMemory()
+{
+    constexpr int kLargest = 512 * 1024; // Bytes.
+    mallopt(M_MMAP_THRESHOLD, kLargest);
+}
+
 void setUpFont()
 {
     const QString inter = QStringLiteral("Inter");
@@ -66,6 +76,7 @@ void setUpFont()
 
 int runProgram(int argc, char *argv[], const QStringList &arguments)
 {
+    setUpMemory();
     TemporaryEnvironment environment = setUpPlatform();
     if (!X11::canConnect()) {
         std::fputs("Kestrune: it needs an X11 display\n", stderr);

@@ -41,7 +41,11 @@ struct HubParts
     explicit HubParts(Kestrune::Clock &time)
         : clock(time)
     {}
-    Kestrune::NotchPlatform platform() { return {clock, defaults, sounds, workspace, pasteboard}; }
+    Kestrune::NotchPlatform platform() { return platform(pasteboard); }
+    Kestrune::NotchPlatform platform(Kestrune::Pasteboard &other)
+    {
+        return {clock, defaults, sounds, workspace, other};
+    }
 
     Kestrune::Clock &clock;
     Kestrune::Fakes::MemoryDefaults defaults;
