@@ -9,9 +9,15 @@ namespace Kestrune {
 
 CommandQueue::CommandQueue()
     : m_descriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
-{}
+{
+    m_closed = m_descriptor < 0; // Nobody could be woken.
+}
 
-CommandQueue::~CommandQueue() { ::close(m_descriptor); }
+CommandQueue::~CommandQueue()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+}
 
 void CommandQueue::post(Command command)
 {

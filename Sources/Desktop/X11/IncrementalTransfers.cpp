@@ -84,13 +84,13 @@ void IncrementalTransfers::giveUp(xcb_window_t reader)
 
 void IncrementalTransfers::removeFinished()
 {
-    // Partitioned by hand, since a reader's events stay selected as long as it has another transfer.
-    const auto finished = std::ranges::stable_partition(m_transfers, std::not_fn(&Transfer::finished));
     std::vector<xcb_window_t> readers;
-    for (const Transfer &transfer : finished)
-        readers.push_back(transfer.reader);
-    m_transfers.erase(finished.begin(), finished.end());
-    for (const xcb_window_t reader : readers) {
+    for (const Transfer &transfer : m_transfers) {
+        if (transfer.finished)
+            readers.push_back(transfer.reader);
+    }
+    std::erase_if(m_transfers, [](const Transfer &transfer) { return transfer.finished; });
+    for (const xcb_window_t reader : readers) { // Unless it waits for another answer.
         if (std::ranges::find(m_transfers, reader, &Transfer::reader) == m_transfers.end())
             selectEvents(m_x, reader, XCB_EVENT_MASK_NO_EVENT);
     }

@@ -16,7 +16,7 @@ public:
     using Clock = std::chrono::steady_clock;
 
     /// Longer answers go piece by piece.
-    static constexpr qsizetype kPiece = 256 * 1024;
+    static constexpr qsizetype kPiece = qsizetype{256} * 1024;
 
     explicit IncrementalTransfers(SelectionConnection &x)
         : m_x(x)

@@ -15,10 +15,11 @@ namespace Kestrune {
 
 namespace {
 
-constexpr qsizetype kMostTypes = 64 * 1024; // Bytes, as are the other limits.
-constexpr qsizetype kMostFiles = 8 * 1024 * 1024;
-constexpr qsizetype kMostText = 16 * 1024 * 1024;
-constexpr qsizetype kMostPicture = 64 * 1024 * 1024;
+constexpr qsizetype kMegabyte = qsizetype{1024} * 1024;
+constexpr qsizetype kMostTypes = kMegabyte / 16;
+constexpr qsizetype kMostFiles = 8 * kMegabyte;
+constexpr qsizetype kMostText = 16 * kMegabyte;
+constexpr qsizetype kMostPicture = 64 * kMegabyte;
 
 QList<xcb_atom_t> atomsIn(const QByteArray &data)
 {
@@ -52,7 +53,8 @@ void PasteboardLoop::run()
         finishReading();
         expire();
         const bool hadCommand = runCommand();
-        if (!hadEvent && !hadCommand && !startQuestion())
+        const bool hadQuestion = startQuestion();
+        if (!hadEvent && !hadCommand && !hadQuestion)
             sleep();
     }
 }

@@ -322,14 +322,12 @@ void X11PasteboardTest::idle()
     const auto wakeUps = [] {
         const QDir tasks(u"/proc/self/task"_s);
         for (const QString &task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            QFile name(tasks.filePath(task + u"/comm"_s));
-            QFile status(tasks.filePath(task + u"/status"_s));
-            if (!name.open(QFile::ReadOnly) || name.readAll() != "pasteboard\n" ||
-                !status.open(QFile::ReadOnly))
-                continue;
-            const QByteArray text = status.readAll();
-            const auto at = text.indexOf("\nvoluntary_ctxt_switches:");
-            return text.mid(at + 25, text.indexOf('\n', at + 1) - at - 25).trimmed().toLongLong();
+            QFile file(tasks.filePath(task + u"/status"_s));
+            const QByteArray status = file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+            if (status.startsWith("Name:\tpasteboard\n"))
+                return status.mid(status.indexOf("\nvoluntary_ctxt_switches:") + 25)
+                    .split('\n')[0]
+                    .toLongLong();
         }
         return qint64{-1};
     };
