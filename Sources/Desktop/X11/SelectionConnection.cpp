@@ -1,16 +1,8 @@
 #include "SelectionConnection.h"
 
-#include <algorithm>
-
 #include <xcb/xfixes.h>
 
 namespace Kestrune {
-
-namespace {
-
-constexpr size_t kMostAbandoned = 8;
-
-} // namespace
 
 SelectionConnection::SelectionConnection(const QByteArray &display)
     : m_connection(xcb_connect(display.isEmpty() ? nullptr : display.constData(), nullptr))
@@ -39,10 +31,15 @@ bool SelectionConnection::isAlive() const
 
 SelectionConnection::Event SelectionConnection::nextEvent()
 {
-    if (m_held.empty())
-        return Event(xcb_poll_for_event(m_connection));
-    Event event = std::move(m_held.front());
-    m_held.pop_front();
+    Event event;
+    do {
+        if (m_held.empty()) {
+            event.reset(xcb_poll_for_event(m_connection));
+        } else {
+            event = std::move(m_held.front());
+            m_held.pop_front();
+        }
+    } while (event && m_abandoned.handle(m_connection, *event));
     return event;
 }
 
@@ -126,15 +123,9 @@ xcb_window_t SelectionConnection::createWindow()
 
 void SelectionConnection::destroyWindow(xcb_window_t window) { xcb_destroy_window(m_connection, window); }
 
-void SelectionConnection::abandonWindow(xcb_window_t window)
+void SelectionConnection::abandonWindow(xcb_window_t window, xcb_atom_t property)
 {
-    const uint32_t events = XCB_EVENT_MASK_NO_EVENT;
-    xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &events);
-    m_abandoned.push_back(window);
-    if (m_abandoned.size() <= kMostAbandoned)
-        return;
-    destroyWindow(m_abandoned.front());
-    m_abandoned.pop_front();
+    m_abandoned.add(m_connection, window, property);
 }
 
 } // namespace Kestrune

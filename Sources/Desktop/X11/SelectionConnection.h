@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AbandonedTransfers.h"
 #include "X11Connection.h"
 
 #include <QByteArray>
@@ -52,17 +53,15 @@ public:
     xcb_window_t createWindow();
     void destroyWindow(xcb_window_t window);
 
-    /// Forgets a window that another client may still write to. It goes away only when several more have
-    /// been abandoned: a client that writes to a missing window may end with an error, and what the user
-    /// copied there with it.
-    void abandonWindow(xcb_window_t window);
+    /// Gives up a window in whose property another client's answer was awaited.
+    void abandonWindow(xcb_window_t window, xcb_atom_t property);
 
 private:
     xcb_connection_t *m_connection;
     uint8_t m_ownerEvent = 0; ///< 0 without XFixes.
     xcb_window_t m_window = XCB_WINDOW_NONE;
     std::deque<Event> m_held; ///< Arrived while a call waited for something else.
-    std::deque<xcb_window_t> m_abandoned;
+    AbandonedTransfers m_abandoned;
     QHash<QByteArray, xcb_atom_t> m_atoms; ///< Of the names that the program asked for.
 };
 

@@ -35,7 +35,7 @@ SelectionReader::~SelectionReader()
     if (m_ownerIsDone)
         m_x.destroyWindow(m_window);
     else
-        m_x.abandonWindow(m_window);
+        m_x.abandonWindow(m_window, m_x.atom(kProperty));
 }
 
 void SelectionReader::handle(const xcb_generic_event_t &event)

@@ -74,6 +74,7 @@ private Q_SLOTS:
     void rogues_data();
     void rogues();
     void nextCopyDoesNotWaitForAHangingOwner();
+    void refusedContentStaysWithItsOwner();
     void readers();
     void idle();
     void endsWhileAsked();
@@ -268,6 +269,16 @@ void X11PasteboardTest::nextCopyDoesNotWaitForAHangingOwner()
     QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(string(), kText);
     QCOMPARE(wait(hanging), std::nullopt);
+}
+
+void X11PasteboardTest::refusedContentStaysWithItsOwner()
+{
+    // xclip ends with an error when it writes to a window that is gone.
+    const QByteArray bytes = random(70 * kMegabyte);
+    QVERIFY(m_stage->copy(u"xclip"_s, u"image/png"_s, bytes));
+    QCOMPARE(types(), QStringList{u"image/png"_s});
+    QCOMPARE(picture(), QByteArray());
+    QVERIFY(m_stage->paste(u"xclip"_s, u"image/png"_s) == bytes);
 }
 
 void X11PasteboardTest::readers()
