@@ -69,10 +69,18 @@ void Session::setFlag(const QString &domain, const QString &key, bool value)
 
 bool Session::flag(const QString &domain, const QString &key) const
 {
+    return read(domain).value<bool>(key).value_or(false);
+}
+
+QByteArray Session::data(const QString &key) const
+{
+    return read(u"kestrune"_s).value<QByteArray>(key).value_or(QByteArray());
+}
+
+Kestrune::SqliteUserDefaults Session::read(const QString &domain) const
+{
     using Kestrune::SqliteUserDefaults;
-    return SqliteUserDefaults(defaultsFile(domain), SqliteUserDefaults::Access::ReadOnly)
-        .value<bool>(key)
-        .value_or(false);
+    return SqliteUserDefaults(defaultsFile(domain), SqliteUserDefaults::Access::ReadOnly);
 }
 
 bool Session::start(const QStringList &arguments)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Desktop/Defaults/SqliteUserDefaults.h"
 #include "EndToEnd/ChildProcess.h"
 
 #include <QDBusConnection>
@@ -32,6 +33,9 @@ public:
     void setFlag(const QString &domain, const QString &key, bool value);
     bool flag(const QString &domain, const QString &key) const;
 
+    /// Data that the program keeps in its own defaults.
+    QByteArray data(const QString &key) const;
+
     /// Starts the program and waits until it answers on the bus.
     bool start(const QStringList &arguments = {});
     bool isRunning() const { return m_program && m_program->state() == QProcess::Running; }
@@ -54,6 +58,7 @@ public:
 
 private:
     QString defaultsFile(const QString &domain) const;
+    Kestrune::SqliteUserDefaults read(const QString &domain) const;
 
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;

@@ -21,6 +21,7 @@ Pane {
 
         anchors { left: parent.left; right: parent.right; top: parent.top }
         height: 28
+        z: 1 // so that its tips lie over the list
 
         Row {
             anchors.verticalCenter: parent.verticalCenter
@@ -50,7 +51,10 @@ Pane {
                 screenModel: pane.screenModel
                 field.focus: true
                 text: pane.clipboard.query
-                onTextChanged: pane.clipboard.query = text
+                onTextChanged: {
+                    pane.clipboard.query = text
+                    list.currentIndex = 0
+                }
 
                 field.Keys.onUpPressed: list.decrementCurrentIndex()
                 field.Keys.onDownPressed: list.incrementCurrentIndex()
@@ -84,14 +88,21 @@ Pane {
     ListView {
         id: list
 
+        // Not currentItem: after quick typing it may still be one that is not shown any more.
+        function current() {
+            return rows.at(Math.max(currentIndex, 0))
+        }
+
         function copyCurrent() {
-            if (currentItem)
-                pane.copy(currentItem.item.id)
+            const item = current()
+            if (item)
+                pane.copy(item.id)
         }
 
         function removeCurrent() {
-            if (currentItem)
-                pane.clipboard.remove(currentItem.item.id)
+            const item = current()
+            if (item)
+                pane.clipboard.remove(item.id)
         }
 
         anchors { fill: parent; topMargin: header.height + 4 }

@@ -27,6 +27,9 @@ public:
     void setList(const QString &list);
     int count() const { return static_cast<int>(m_rows.size()); }
 
+    /// The element in that row; nothing outside. Unlike a view's items never behind the list.
+    Q_INVOKABLE QVariant at(int row) const { return m_rows.value(row); }
+
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

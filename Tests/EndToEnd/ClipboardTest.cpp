@@ -1,0 +1,109 @@
+#include "EndToEnd/Stage.h"
+#include "NotchKit/Tools/ClipboardItem.h"
+#include "Support/TestRegistry.h"
+
+#include <QBuffer>
+#include <QDirIterator>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+using namespace Kestrune;
+
+/// Copies of other programs, through the history, back to other programs.
+class ClipboardTest : public StageTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void copiesAreKeptFoundAndGivenBack()
+    {
+        setStage({});
+        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"clipboard"_s));
+        QVERIFY(copied(u"UTF8_STRING"_s, "a needle: ü, שלום, 🚀\n") && copied(u"UTF8_STRING"_s, "hay"));
+        QVERIFY(copied(u"text/uri-list"_s, "file:///tmp/plan%20b.pdf\r\n"));
+        QByteArray picture;
+        QBuffer buffer(&picture);
+        QImage(700, 500, QImage::Format_RGB32).save(&buffer, "png");
+        copy(u"image/png"_s, picture);
+        QTest::qWait(1000); // Return below would otherwise replace it before it was looked at.
+        QVERIFY(stage().openByHotKey());
+        stage().input.type("image");
+        QTRY_VERIFY_WITH_TIMEOUT(chosen(u"image/png"_s) == picture, 10000);
+
+        stage().session.program().killNow();
+        QVERIFY(stage().session.start() && stage().choose(u"clipboard"_s));
+        QCOMPARE(texts(), QStringList({u"plan b.pdf"_s, u"hay"_s, u"a needle: ü, שלום, 🚀"_s}));
+        QVERIFY(stage().openByHotKey());
+        stage().input.type("needle");
+        QTRY_COMPARE(chosen(u"UTF8_STRING"_s), "a needle: ü, שלום, 🚀"_qba);
+        for (int i = 0; i < 6; ++i)
+            stage().input.tap(XK_BackSpace);
+        stage().input.type("pdf");
+        QTRY_COMPARE(chosen(u"text/uri-list"_s).trimmed(), "file:///tmp/plan%20b.pdf"_qba);
+        QTRY_COMPARE(texts().first(), u"plan b.pdf"_s);
+    }
+
+    void secretsLeaveNoTrace()
+    {
+        setStage({});
+        QVERIFY(stage().run());
+        ChildProcess manager(stage().session.environment());
+        manager.launch(QStringLiteral(KESTRUNE_ROGUE_OWNER),
+                       {u"honest"_s, u"UTF8_STRING"_s, u"x-kde-passwordManagerHint"_s});
+        QByteArray asked;
+        QTRY_COMPARE(asked += manager.readAllStandardOutput(), "ready\nTARGETS\n"_qba);
+        QVERIFY(copied(u"UTF8_STRING"_s, "harmless"));
+        QCOMPARE(texts(), QStringList{u"harmless"_s});
+        QCOMPARE(manager.readAllStandardOutput(), QByteArray());
+        stage().session.endProgram();
+        int files = 0;
+        QDirIterator all(stage().session.environment().value(u"HOME"_s), QDir::Files | QDir::Hidden,
+                         QDirIterator::Subdirectories);
+        while (all.hasNext()) {
+            QFile file(all.next());
+            files += file.open(QIODevice::ReadOnly) ? 1 : 0;
+            QVERIFY2(!file.readAll().contains("\"public\""), qPrintable(file.fileName()));
+        }
+        QVERIFY(files > 0);
+    }
+
+private:
+    QStringList texts()
+    {
+        const auto items = decodeClipboardItems(stage().session.data(u"notch.clipboardItems"_s));
+        QStringList texts;
+        for (const ClipboardItem &item : items.value_or(ClipboardItems()))
+            texts.append(item.text);
+        return texts;
+    }
+
+    /// Copies with xclip, which keeps the clipboard in the background.
+    void copy(const QString &type, const QByteArray &bytes)
+    {
+        ChildProcess client(stage().session.environment());
+        client.launch(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-t"_s, type, u"-i"_s});
+        client.write(bytes);
+        client.closeWriteChannel();
+        client.waitForFinished();
+    }
+    bool copied(const QString &type, const QByteArray &bytes)
+    {
+        const auto before = texts();
+        copy(type, bytes);
+        return waitUntil([&] { return texts() != before; });
+    }
+
+    /// What another program pastes after Return was pressed in the list.
+    QByteArray chosen(const QString &type)
+    {
+        stage().input.tap(XK_Return);
+        QTest::qWait(100);
+        ChildProcess client(stage().session.environment());
+        client.launch(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-t"_s, type, u"-o"_s});
+        client.waitForFinished();
+        return client.readAllStandardOutput();
+    }
+};
+
+REGISTER_TEST(ClipboardTest);
+#include "ClipboardTest.moc"
