@@ -1,0 +1,181 @@
+#pragma once
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+
+#include <random>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace Kestrune::Tests {
+
+/// A folder of logs to which random things happen, good and bad; the same for the same seed.
+class RandomLogs
+{
+public:
+    RandomLogs(const QString &folder, unsigned seed)
+        : m_folder(folder)
+        , m_random(seed)
+    {}
+
+    unsigned below(unsigned end) { return std::uniform_int_distribution<unsigned>(0, end - 1)(m_random); }
+
+    void change(const QDateTime &now)
+    {
+        const QString path = anyPath();
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        switch (below(12)) {
+        case 0:
+            file.remove();
+            return;
+        case 1: // cut anywhere
+            if (file.exists() && file.size() > 0)
+                file.resize(below(static_cast<unsigned>(file.size())));
+            break;
+        case 2: // replaced by another file
+            file.setFileName(path + QLatin1String(".new"));
+            append(file, line(now) + line(now));
+            std::rename(qPrintable(file.fileName()), qPrintable(path));
+            file.setFileName(path);
+            break;
+        case 3: // not written for a week
+            touch(path, now.addDays(-8));
+            return;
+        case 4: { // half a line, which the next append may or may not complete
+            const QByteArray whole = line(now);
+            append(file, whole.left(below(static_cast<unsigned>(whole.size()))));
+            break;
+        }
+        default:
+            for (unsigned count = below(4) + 1; count > 0; --count)
+                append(file, line(now));
+        }
+        touch(path, now);
+    }
+
+    QByteArray line(const QDateTime &now)
+    {
+        static const QList<QByteArray> broken{"",
+                                              "\r",
+                                              "{\"usage\":",
+                                              "[\"usage\"]",
+                                              "\"usage\"",
+                                              "{\"message\":{\"usage\":{}}}",
+                                              "{\"message\":\"usage\",\"usage\":{}}",
+                                              "{\"message\":{\"usage\":[]},\"timestamp\":\"x\"}",
+                                              QByteArray(5000, '[') + "\"usage\"" + QByteArray(5000, ']')};
+        if (below(8) == 0)
+            return pick(broken) + '\n';
+        QByteArray text = response(now);
+        const auto place = static_cast<qsizetype>(below(static_cast<unsigned>(text.size())));
+        switch (below(16)) {
+        case 0:
+            text.insert(place, '\0');
+            break;
+        case 1:
+            text.insert(place, '\xff');
+            break;
+        case 2:
+            text.truncate(place);
+            break;
+        case 3:
+            text += '\r';
+            break;
+        default:
+            break;
+        }
+        return text + '\n';
+    }
+
+private:
+    const QByteArray &pick(const QList<QByteArray> &all)
+    {
+        return all.at(below(static_cast<unsigned>(all.size())));
+    }
+
+    QString anyPath()
+    {
+        static const QStringList places{QStringLiteral("a.jsonl"),     QStringLiteral("b/c.jsonl"),
+                                        QStringLiteral("b/d/e.jsonl"), QStringLiteral(".hidden/f.jsonl"),
+                                        QStringLiteral("b/.g.jsonl"),  QStringLiteral("h.json")};
+        return m_folder + QLatin1Char('/') + places.at(below(static_cast<unsigned>(places.size())));
+    }
+
+    QByteArray number()
+    {
+        static const QList<QByteArray> numbers{
+            "0",     "12",   "-5",   "3.9", "-3.9", "1e3", "9007199254740993",
+            "\"7\"", "true", "null", "{}",  "[1]",  "1e15"};
+        return pick(numbers);
+    }
+
+    QByteArray member(const QByteArray &name, const QByteArray &value)
+    {
+        return below(8) == 0 ? QByteArray() : "\"" + name + "\":" + value + ",";
+    }
+
+    QByteArray timestamp(const QDateTime &now)
+    {
+        static const QList<QByteArray> bad{"\"2026-02-30T10:00:00.000Z\"", "\"2026-02-03T10:00:00Z\"",
+                                           "\"2026-02-03 10:00:00.000Z\"", "1770000000", "null"};
+        if (below(10) == 0)
+            return pick(bad);
+        const QDateTime date = now.addMSecs(3'600'000 - qint64(below(8 * 24 * 3600)) * 1000 - below(1000));
+        const int zone = static_cast<int>(below(27)) - 12;
+        const QDateTime local = below(2) ? date.toUTC() : date.toOffsetFromUtc(zone * 3600 + 1800);
+        return '"' + local.toString(Qt::ISODateWithMs).toLatin1() + '"';
+    }
+
+    QByteArray padding()
+    {
+        switch (below(40)) {
+        case 0: // spans blocks
+            return "\"pad\":\"" + QByteArray(200'000 + below(400'000), 'x') + "\",";
+        case 1: // too long
+            return below(4) ? QByteArray() : "\"pad\":\"" + QByteArray((4 << 20) + 1, 'x') + "\",";
+        case 2:
+            return "\"pad\":" + QByteArray(200, '[') + QByteArray(200, ']') + ",";
+        case 3: // half a surrogate pair
+            return "\"pad\":\"\\\\ud83d \\ud83d\\ude00 cut \\ud83d\",";
+        default:
+            return {};
+        }
+    }
+
+    QByteArray response(const QDateTime &now)
+    {
+        const QByteArray usage = '{' + member("input_tokens", number()) + member("output_tokens", number()) +
+                                 member("input_tokens", number()) + // twice: the last counts
+                                 member("cache_creation_input_tokens", number()) +
+                                 "\"cache_read_input_tokens\":" + number() + '}';
+        const QByteArray id = below(9) ? "\"m" + QByteArray::number(below(30)) + '"' : "7";
+        const QByteArray request = below(9) ? "\"" + QByteArray::number(below(3)) + '"' : "7";
+        return '{' + padding() + member("requestId", request) + member("timestamp", timestamp(now)) +
+               "\"message\":{" + member("id", id) + padding() + "\"usage\":" + usage + "}}";
+    }
+
+    static void append(QFile &file, const QByteArray &text)
+    {
+        if (file.open(QIODevice::Append)) {
+            file.write(text);
+            file.close();
+        }
+    }
+
+    /// Each change has a time of its own, as changes by hand have.
+    void touch(const QString &path, const QDateTime &time)
+    {
+        const timespec stamp{static_cast<time_t>(time.toSecsSinceEpoch()), ++m_touched * 1000};
+        const timespec times[]{stamp, stamp};
+        utimensat(AT_FDCWD, qPrintable(path), times, 0);
+    }
+
+    QString m_folder;
+    std::mt19937 m_random;
+    long m_touched = 0;
+};
+
+} // namespace Kestrune::Tests
