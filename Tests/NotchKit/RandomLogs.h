@@ -32,8 +32,8 @@ public:
             file.remove();
             return;
         case 1: // cut anywhere
-            if (file.exists() && file.size() > 0)
-                file.resize(below(static_cast<unsigned>(file.size())));
+            if (file.size() > 0)
+                file.resize(beginning(file.size()));
             break;
         case 2: // replaced by another file
             file.setFileName(path + QLatin1String(".new"));
@@ -46,7 +46,7 @@ public:
             return;
         case 4: { // half a line, which the next append may or may not complete
             const QByteArray whole = line(now);
-            append(file, whole.left(below(static_cast<unsigned>(whole.size()))));
+            append(file, whole.left(beginning(whole.size())));
             break;
         }
         default:
@@ -91,6 +91,9 @@ public:
     }
 
 private:
+    /// Less than the whole; never so much that an unfinished line is taken to grow at its end only.
+    qint64 beginning(qint64 size) { return below(static_cast<unsigned>(std::min<qint64>(size, 900'000))); }
+
     const QByteArray &pick(const QList<QByteArray> &all)
     {
         return all.at(below(static_cast<unsigned>(all.size())));

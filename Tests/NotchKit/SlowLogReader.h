@@ -68,7 +68,8 @@ private:
     void enter(const QByteArray &line)
     {
         // The parser lets bytes pass in strings that no JSON may hold.
-        if (!line.contains("\"usage\"") || line.contains('\0') || line.size() > 4 << 20)
+        if (!line.contains("\"usage\"") || line.contains('\0') || !line.isValidUtf8() ||
+            line.size() > 4 << 20)
             return;
         const QJsonObject object = QJsonDocument::fromJson(line).object();
         const QJsonValue message = object[QLatin1String("message")];

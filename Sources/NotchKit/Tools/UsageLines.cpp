@@ -16,7 +16,8 @@ constexpr char kWord[] = "\"usage\"";
 constexpr qint64 kWordSize = sizeof kWord - 1;
 constexpr qint64 kBlock = 256 << 10;
 
-/// A shorter unfinished line is looked at afresh, so that one that was rewritten in place counts right.
+/// A shorter unfinished line is looked at afresh, so that one that was rewritten in place counts right. A
+/// longer one is taken to grow at its end only.
 constexpr qint64 kShortLine = 1 << 20;
 
 char *lastLineFeed(char *begin, char *end)
@@ -65,7 +66,7 @@ UsageLines::UsageLines()
 
 char *UsageLines::find(char *begin, char *end)
 {
-    if (findFast(begin, end))
+    if (begin == end || findFast(begin, end))
         return begin;
     void *found = memmem(begin, static_cast<std::size_t>(end - begin), kWord, kWordSize);
     return found ? static_cast<char *>(found) : end;
