@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "NotchKit/Catalogue.h"
+#include "UsageReport.h"
 
 #include <QMap>
 
@@ -54,6 +55,13 @@ CommandLine parseSettings(const QStringList &arguments)
     return {Verb::settings, arguments, {}};
 }
 
+CommandLine parseUsage(const QStringList &arguments)
+{
+    QString fault;
+    const auto request = UsageRequest::parse(arguments, fault);
+    return request ? CommandLine{Verb::usage, arguments, {}} : bad(fault);
+}
+
 CommandLine parsePlain(Verb verb, const QString &name, const QStringList &arguments)
 {
     return arguments.isEmpty() ? CommandLine{verb, {}, {}}
@@ -81,6 +89,8 @@ CommandLine CommandLine::parse(const QStringList &arguments)
         return parseStatus(rest);
     if (first == QLatin1String("settings"))
         return parseSettings(rest);
+    if (first == QLatin1String("usage"))
+        return parseUsage(rest);
     return parseStart(arguments);
 }
 
@@ -95,6 +105,8 @@ QString CommandLine::helpText()
   kestrune close                  close every notch
   kestrune quit                   end the program
   kestrune status [--json]        what it is doing
+  kestrune usage [--json] [--home DIR] [--now TIME]
+                                  what Codex and Claude Code logged of their use
   kestrune settings list          every setting
   kestrune settings get KEY
   kestrune settings set KEY VALUE

@@ -4,10 +4,12 @@
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "NotchKit/NotchSettings.h"
 #include "StandardSettings.h"
+#include "UsageReport.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -157,6 +159,17 @@ int runSettings(const QStringList &arguments)
     return status;
 }
 
+int printUsage(const QStringList &arguments)
+{
+    QString fault;
+    const auto request = UsageRequest::parse(arguments, fault);
+    if (!request || !QDir(request->home).exists())
+        return fail(2, request ? QStringLiteral("there is no folder %1").arg(request->home) : fault);
+    const QByteArray report = usageReport(*request);
+    std::fwrite(report.constData(), 1, static_cast<std::size_t>(report.size()), stdout);
+    return 0;
+}
+
 } // namespace
 
 int runCommand(const CommandLine &command)
@@ -180,6 +193,8 @@ int runCommand(const CommandLine &command)
         return printStatus(!command.arguments.isEmpty());
     case Verb::settings:
         return runSettings(command.arguments);
+    case Verb::usage:
+        return printUsage(command.arguments);
     case Verb::bad:
         return fail(2, command.fault + QStringLiteral("; see kestrune --help"));
     case Verb::start:

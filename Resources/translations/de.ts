@@ -243,5 +243,81 @@ Schalte ihn in den Einstellungen ein.</translation>
         <source>Image</source>
         <translation>Bild</translation>
     </message>
+    <message>
+        <source>Connect Codex or Claude Code to see your limits.</source>
+        <translation>Verbinde Codex oder Claude Code, um deine Kontingente zu sehen.</translation>
+    </message>
+    <message>
+        <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
+        <translation>Liest die Kontingente, die Codex CLI auf diesem Rechner in ~/.codex sichert.</translation>
+    </message>
+    <message>
+        <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
+        <translation>Zählt die Tokens zusammen, die Claude Code auf diesem Rechner in ~/.claude protokolliert. Was vom Kontingent übrig ist, speichert Anthropic nicht lokal.</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>Letzte 7 Tage</translation>
+    </message>
+    <message>
+        <source>Nothing leaves your Mac.</source>
+        <translation>Nichts verlässt deinen Rechner.</translation>
+    </message>
+    <message>
+        <source>Read again</source>
+        <translation>Neu lesen</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>%@ tokens</source>
+        <translation>%@ Tokens</translation>
+    </message>
+    <message>
+        <source>%d%% left</source>
+        <translation>%d %% übrig</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Wird gelesen …</translation>
+    </message>
+    <message>
+        <source>No Codex activity found yet. Use Codex once and it appears here.</source>
+        <translation>Noch keine Codex-Aktivität gefunden. Benutze Codex einmal, dann erscheint sie hier.</translation>
+    </message>
+    <message>
+        <source>Updated %@</source>
+        <translation>Aktualisiert %@</translation>
+    </message>
+    <message>
+        <source>5-hour window</source>
+        <translation>5-Stunden-Fenster</translation>
+    </message>
+    <message>
+        <source>Weekly</source>
+        <translation>Wöchentlich</translation>
+    </message>
+    <message>
+        <source>No Claude Code activity found.</source>
+        <translation>Keine Claude-Code-Aktivität gefunden.</translation>
+    </message>
+    <message>
+        <source>%d%% of your budget</source>
+        <translation>%d %% deines Budgets</translation>
+    </message>
+    <message>
+        <source>%d%% of your busiest block this week</source>
+        <translation>%d %% deines stärksten Blocks der Woche</translation>
+    </message>
+    <message>
+        <source>This 5-hour block</source>
+        <translation>Dieser 5-Stunden-Block</translation>
+    </message>
+    <message>
+        <source>Resets: %@</source>
+        <translation>Neu ab: %@</translation>
+    </message>
 </context>
 </TS>

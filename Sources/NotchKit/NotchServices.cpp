@@ -1,6 +1,7 @@
 #include "NotchServices.h"
 
 #include "NotchKit/Platform/Workspace.h"
+#include "Tools/AIUsageModel.h"
 #include "Tools/ClipboardModel.h"
 #include "Tools/TimerModel.h"
 
@@ -28,6 +29,8 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
     , m_timer(add(std::make_unique<TimerModel>(platform.clock, platform.sounds)))
     , m_clipboard(add(
           std::make_unique<ClipboardModel>(settings, platform.defaults, platform.clock, platform.pasteboard)))
+    , m_aiUsage(
+          add(std::make_unique<AIUsageModel>(settings, platform.clock, AIUsageHomes::below(platform.home))))
     , m_now(platform.clock.now())
 {
     m_activityTool.setBinding([this] { return computeActivityTool(); });

@@ -5,6 +5,7 @@
 #include "NotchSettings.h"
 #include "ToolModel.h"
 
+#include <QDir>
 #include <QProperty>
 
 #include <functional>
@@ -15,6 +16,7 @@ namespace Kestrune {
 
 class ClipboardModel;
 class Pasteboard;
+class AIUsageModel;
 class SoundPlayer;
 class TimerModel;
 class UserDefaults;
@@ -28,6 +30,7 @@ struct NotchPlatform
     SoundPlayer &sounds;
     Workspace &workspace;
     Pasteboard &pasteboard;
+    QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
 };
 
 /// The hub: owns every tool model and the two clocks that drive them, and knows which pane is on screen.
@@ -37,10 +40,12 @@ class NotchServices : public QObject
 {
     Q_OBJECT
     Q_MOC_INCLUDE("NotchKit/Tools/ClipboardModel.h")
+    Q_MOC_INCLUDE("NotchKit/Tools/AIUsageModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
     Q_PROPERTY(Kestrune::NotchSettings *settings READ settings CONSTANT)
     Q_PROPERTY(Kestrune::ClipboardModel *clipboard READ clipboard CONSTANT)
     Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
+    Q_PROPERTY(Kestrune::AIUsageModel *aiUsage READ aiUsage CONSTANT)
     /// The current time, updated every second while the hub runs. Not bindable for the views: a view's
     /// binding keeps a bindable dependency for good, and would wake each second while it is off screen.
     Q_PROPERTY(QDateTime now READ now NOTIFY nowChanged)
@@ -60,6 +65,7 @@ public:
     const NotchBranding &branding() const { return m_branding; }
     ClipboardModel *clipboard() const { return m_clipboard; }
     TimerModel *timer() const { return m_timer; }
+    AIUsageModel *aiUsage() const { return m_aiUsage; }
 
     QDateTime now() const { return m_now; }
     bool anyExpanded() const { return m_anyExpanded; }
@@ -117,6 +123,7 @@ private:
     std::vector<std::unique_ptr<ToolModel>> m_models; ///< The first with an activity shows it.
     TimerModel *m_timer;
     ClipboardModel *m_clipboard;
+    AIUsageModel *m_aiUsage;
     std::optional<NotchTool> m_visibleTool;
     std::unique_ptr<RunningTimer> m_clockTimer;
     std::unique_ptr<RunningTimer> m_fastTimer;

@@ -40,6 +40,9 @@ void ArgumentsTest::verbs_data()
     QTest::newRow("set") << "settings set hoverDelay 0.3" << Verb::settings;
     QTest::newRow("set without a value") << "settings set hoverDelay" << Verb::bad;
     QTest::newRow("settings") << "settings" << Verb::bad;
+    QTest::newRow("usage") << "usage --json --now 2026-03-10T12:00:00Z --home /" << Verb::usage;
+    QTest::newRow("usage of no home") << "usage --home" << Verb::bad;
+    QTest::newRow("usage of some time") << "usage --now noon" << Verb::bad;
     QTest::newRow("help") << "--help" << Verb::help;
 }
 

@@ -3,6 +3,7 @@
 #include "NotchKit/NotchScreenModel.h"
 #include "NotchKit/NotchServices.h"
 #include "NotchKit/NotchSettings.h"
+#include "NotchKit/Tools/AIUsageModel.h"
 #include "NotchKit/Tools/ClipboardModel.h"
 #include "NotchKit/Tools/TimerModel.h"
 
@@ -21,6 +22,7 @@ namespace Kestrune {
     }
 
 KESTRUNE_VIEW_TYPE(ClipboardModel);
+KESTRUNE_VIEW_TYPE(AIUsageModel);
 KESTRUNE_VIEW_TYPE(NotchScreenModel);
 KESTRUNE_VIEW_TYPE(NotchServices);
 KESTRUNE_VIEW_TYPE(NotchSettings);

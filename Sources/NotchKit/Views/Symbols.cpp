@@ -12,6 +12,7 @@ const QHash<QString, char16_t> &table()
 {
     static const QHash<QString, char16_t> glyphs{
         {QStringLiteral("airplayaudio"), u'\uF01F'},
+        {QStringLiteral("arrow.clockwise"), u'\uF450'},
         {QStringLiteral("arrow.counterclockwise"), u'\uF459'},
         {QStringLiteral("backward.end.fill"), u'\uF4AE'},
         {QStringLiteral("backward.fill"), u'\uF45F'},

@@ -1,0 +1,158 @@
+#include "UsageReport.h"
+
+#include "NotchKit/Tools/AIUsageModel.h"
+#include "NotchKit/Tools/ClaudeLogReader.h"
+#include "NotchKit/Tools/CodexReader.h"
+#include "NotchKit/Views/AIUsagePresentation.h"
+
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+
+namespace Kestrune {
+
+namespace {
+
+QJsonValue time(const std::optional<QDateTime> &time)
+{
+    return time ? QJsonValue(time->toUTC().toString(Qt::ISODateWithMs)) : QJsonValue();
+}
+
+QJsonValue json(const std::optional<ClaudeUsage> &claude)
+{
+    if (!claude)
+        return {};
+    QJsonArray days;
+    for (const qint64 tokens : claude->dailyTokens)
+        days.append(tokens);
+    return QJsonObject{{QStringLiteral("blockTokens"), claude->blockTokens},
+                       {QStringLiteral("blockStart"), time(claude->blockStart)},
+                       {QStringLiteral("weekTokens"), claude->weekTokens},
+                       {QStringLiteral("weekMessages"), claude->weekMessages},
+                       {QStringLiteral("lastActivity"), time(claude->lastActivity)},
+                       {QStringLiteral("peakBlockTokens"), claude->peakBlockTokens},
+                       {QStringLiteral("dailyTokens"), days}};
+}
+
+QJsonValue json(const std::optional<UsageWindow> &window)
+{
+    if (!window)
+        return {};
+    return QJsonObject{{QStringLiteral("usedPercent"), window->usedPercent},
+                       {QStringLiteral("minutes"), window->minutes},
+                       {QStringLiteral("resetsAt"), time(window->resetsAt)}};
+}
+
+QJsonValue json(const std::optional<CodexUsage> &codex)
+{
+    if (!codex)
+        return {};
+    return QJsonObject{{QStringLiteral("primary"), json(codex->primary)},
+                       {QStringLiteral("secondary"), json(codex->secondary)},
+                       {QStringLiteral("updated"), time(codex->updated)}};
+}
+
+/// Reports in words, one figure a line.
+class Words
+{
+public:
+    explicit Words(const QDateTime &now)
+        : m_now(now)
+    {}
+
+    void add(const std::optional<CodexUsage> &codex)
+    {
+        if (!codex) {
+            line(QStringLiteral("Codex: no activity found"));
+            return;
+        }
+        line(QStringLiteral("Codex, updated %1").arg(timeText(codex->updated)));
+        add(QStringLiteral("5-hour window"), codex->primary);
+        add(QStringLiteral("weekly"), codex->secondary);
+    }
+
+    void add(const std::optional<ClaudeUsage> &claude)
+    {
+        if (!claude) {
+            line(QStringLiteral("Claude Code: no activity found"));
+            return;
+        }
+        const auto number = [](qint64 tokens) { return QLocale().toString(tokens); };
+        line(QStringLiteral("Claude Code"));
+        QString block = QStringLiteral("  this 5-hour block: %1 tokens").arg(number(claude->blockTokens));
+        if (claude->blockStart)
+            block += until(claude->blockStart->addSecs(ClaudeUsage::kBlockSeconds));
+        line(block);
+        line(QStringLiteral("  busiest block: %1 tokens").arg(number(claude->peakBlockTokens)));
+        line(QStringLiteral("  last 7 days: %1 tokens in %2 responses")
+                 .arg(number(claude->weekTokens), number(claude->weekMessages)));
+    }
+
+    QByteArray text() const { return m_text.toUtf8(); }
+
+private:
+    void add(const QString &name, const std::optional<UsageWindow> &window)
+    {
+        if (!window)
+            return;
+        line(QStringLiteral("  %1: %2% used").arg(name).arg(window->usedPercent) +
+             (window->resetsAt ? until(*window->resetsAt) : QString()));
+    }
+
+    QString until(const QDateTime &end) const { return QStringLiteral(", resets ") + timeText(end); }
+
+    QString timeText(const QDateTime &time) const
+    {
+        return AIUsagePresentation::timeText(time, m_now, QLocale());
+    }
+
+    void line(const QString &text) { m_text += text + QLatin1Char('\n'); }
+
+    QDateTime m_now;
+    QString m_text;
+};
+
+} // namespace
+
+std::optional<UsageRequest> UsageRequest::parse(const QStringList &arguments, QString &fault)
+{
+    UsageRequest request{false, QDir::homePath(), QDateTime::currentDateTimeUtc()};
+    for (auto argument = arguments.cbegin(); argument != arguments.cend(); ++argument) {
+        const bool hasValue = argument + 1 != arguments.cend();
+        if (*argument == QLatin1String("--json")) {
+            request.json = true;
+        } else if (*argument == QLatin1String("--home") && hasValue) {
+            request.home = *++argument;
+        } else if (*argument == QLatin1String("--now") && hasValue) {
+            request.now = QDateTime::fromString(*++argument, Qt::ISODateWithMs);
+            if (!request.now.isValid()) {
+                fault = QStringLiteral("%1 is no ISO 8601 date and time").arg(*argument);
+                return std::nullopt;
+            }
+        } else {
+            fault = QStringLiteral("usage takes --json, --home DIR and --now TIME");
+            return std::nullopt;
+        }
+    }
+    return request;
+}
+
+QByteArray usageReport(const UsageRequest &request)
+{
+    const AIUsageHomes homes = AIUsageHomes::below(request.home);
+    const auto claude = ClaudeLogReader(homes.claude).summary(request.now);
+    const auto codex = CodexReader::readCodex(homes.codex, request.now, StopFlag(false));
+    if (request.json) {
+        const QJsonObject report{{QStringLiteral("claude"), json(claude)},
+                                 {QStringLiteral("codex"), json(codex)}};
+        return QJsonDocument(report).toJson(QJsonDocument::Indented);
+    }
+    Words words(request.now);
+    words.add(codex);
+    words.add(claude);
+    return words.text();
+}
+
+} // namespace Kestrune

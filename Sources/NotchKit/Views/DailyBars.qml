@@ -1,0 +1,61 @@
+import QtQuick
+import Kestrune.Views
+
+/// Seven days as vertical bars, oldest on the left, with their letters; the days' numbers are in the tips.
+Row {
+    id: bars
+
+    /// Maps with "fraction" of the height, "letter" and "help".
+    required property var days
+
+    height: 56
+    spacing: 6
+
+    Repeater {
+        model: bars.days
+
+        Item {
+            id: day
+
+            required property var modelData
+            required property int index
+
+            readonly property bool isToday: index === bars.days.length - 1
+
+            width: (bars.width - bars.spacing * (bars.days.length - 1)) / bars.days.length
+            height: bars.height
+            Accessible.role: Accessible.StaticText
+            Accessible.name: modelData.help
+
+            Rectangle {
+                anchors { left: parent.left; right: parent.right; bottom: letter.top; bottomMargin: 4 }
+                height: Math.max(3, day.modelData.fraction * (bars.height - letter.height - 4))
+                radius: 3
+                color: day.isToday ? Theme.accent : area.containsMouse ? Theme.dim : Qt.rgba(1, 1, 1, 0.3)
+            }
+            Text {
+                id: letter
+
+                anchors { bottom: parent.bottom; horizontalCenter: parent.horizontalCenter }
+                text: day.modelData.letter
+                font.pixelSize: 10
+                color: day.isToday ? Theme.text : Theme.dim
+                Accessible.ignored: true
+            }
+            MouseArea {
+                id: area
+
+                anchors.fill: parent
+                hoverEnabled: true
+                acceptedButtons: Qt.NoButton
+            }
+            Loader {
+                active: area.containsMouse
+                sourceComponent: HelpTip {
+                    text: day.modelData.help
+                    anchor: day
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,23 @@
+import QtQuick
+import Kestrune.Views
+
+/// A horizontal gauge.
+Rectangle {
+    id: bar
+
+    required property real fraction
+
+    implicitWidth: 120
+    implicitHeight: 6
+    radius: height / 2
+    color: Qt.rgba(1, 1, 1, 0.12)
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: UsageGauge.percent(fraction)
+
+    Rectangle {
+        width: UsageGauge.filled(bar.fraction, bar.width)
+        height: parent.height
+        radius: parent.radius
+        color: UsageGauge.color(bar.fraction)
+    }
+}

@@ -1,0 +1,60 @@
+import QtQuick
+import Kestrune.Views
+
+/// One assistant's card: its heading, then what it has to show, or how to connect it, or why there is nothing.
+Tile {
+    id: card
+
+    required property string symbol
+    required property string title
+    required property bool on
+    required property string explanation ///< While it is off.
+    required property string hint ///< While it has nothing to show.
+    default property alias content: body.data
+
+    signal connect
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title
+
+    SectionLabel {
+        id: heading
+
+        x: 12
+        y: 12
+        symbol: card.symbol
+        title: card.title
+    }
+
+    Column {
+        id: body
+
+        anchors { left: parent.left; right: parent.right; top: heading.bottom; margins: 12 }
+        spacing: 12
+        visible: card.on && card.hint === ""
+    }
+
+    Column {
+        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter; margins: 24 }
+        anchors.verticalCenterOffset: 8
+        spacing: 12
+        visible: !body.visible
+
+        Text {
+            width: parent.width
+            text: card.on ? card.hint : card.explanation
+            font.pixelSize: 12
+            lineHeight: 1.2
+            color: Qt.rgba(1, 1, 1, 0.7)
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.WordWrap
+        }
+        TextButton {
+            anchors.horizontalCenter: parent.horizontalCenter
+            visible: !card.on
+            text: qsTranslate("notch", "Connect")
+            prominent: true
+            onClicked: card.connect()
+        }
+    }
+}

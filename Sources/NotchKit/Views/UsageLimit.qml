@@ -1,0 +1,50 @@
+import QtQuick
+import Kestrune.Views
+
+/// One limit: what it is and how much of it is left or used, the gauge, when it begins anew.
+///
+///   | title             text |
+///   | ====-----------------  |
+///   | resets                 |
+Column {
+    id: limit
+
+    required property var line
+
+    spacing: 6
+
+    Item {
+        width: parent.width
+        height: value.implicitHeight
+
+        Text {
+            anchors { left: parent.left; right: value.left; rightMargin: 8 }
+            text: limit.line.title
+            font.pixelSize: 12
+            color: Theme.dim
+            elide: Text.ElideRight
+        }
+        Text {
+            id: value
+
+            anchors.right: parent.right
+            width: Math.min(implicitWidth, parent.width)
+            text: limit.line.text
+            font.pixelSize: 12
+            color: Theme.text
+            elide: Text.ElideRight
+        }
+    }
+    UsageBar {
+        width: parent.width
+        fraction: limit.line.fraction
+    }
+    Text {
+        width: parent.width
+        visible: text !== ""
+        text: limit.line.resets
+        font.pixelSize: 11
+        color: Theme.dim
+        elide: Text.ElideRight
+    }
+}
