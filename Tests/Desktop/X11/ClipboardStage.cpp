@@ -56,7 +56,7 @@ void ClipboardStage::reset()
 bool ClipboardStage::copied(const std::function<bool()> &copy)
 {
     const qint64 before = pasteboard->changeCount();
-    return copy() && waitUntil([&] { return pasteboard->changeCount() > before; });
+    return copy() && waitUntil([&] { return pasteboard->changeCount() > before; }, 3000);
 }
 
 bool ClipboardStage::startRogue(const QStringList &arguments)
@@ -68,6 +68,12 @@ bool ClipboardStage::copy(const QString &client, const QString &type, const QByt
 {
     const auto [program, arguments] = command(client, u"copy"_s, type, {file(u"copied"_s, bytes)});
     return copied([&, program = program, arguments = arguments] { return start(program, arguments); });
+}
+
+void ClipboardStage::write(const Kestrune::PasteboardContent &content)
+{
+    pasteboard->write(content);
+    pasteboard->types().waitForFinished();
 }
 
 QByteArray ClipboardStage::paste(const QString &client, const QString &type)

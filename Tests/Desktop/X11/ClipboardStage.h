@@ -21,6 +21,9 @@ public:
     bool startRogue(const QStringList &arguments);
     bool copy(const QString &client, const QString &type, const QByteArray &bytes);
 
+    /// Returns once the content is the display's.
+    void write(const Kestrune::PasteboardContent &content);
+
     /// What a program ("xclip", "qt", "gtk") gets when it pastes.
     QByteArray paste(const QString &client, const QString &type);
 
