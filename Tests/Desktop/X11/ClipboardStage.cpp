@@ -1,7 +1,5 @@
 #include "Desktop/X11/ClipboardStage.h"
 
-#include "EndToEnd/Waiting.h"
-
 #include <QCoreApplication>
 #include <QFile>
 

@@ -210,7 +210,7 @@ int serve(Owner &owner)
     Owner closed("honest", {"x-kde-passwordManagerHint", "UTF8_STRING"}, kSecret);
     for (unsigned round = 0;; ++round) {
         (round % 2 == 0 ? open : closed).own();
-        const auto until = std::chrono::steady_clock::now() + std::chrono::microseconds(round * 37 % 700);
+        const auto until = std::chrono::steady_clock::now() + std::chrono::microseconds(round * 37 % 2000);
         do {
             open.handleEvents();
             closed.handleEvents();
