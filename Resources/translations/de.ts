@@ -319,5 +319,9 @@ Schalte ihn in den Einstellungen ein.</translation>
         <source>Resets: %@</source>
         <translation>Neu ab: %@</translation>
     </message>
+    <message>
+        <source>%d%%</source>
+        <translation>%d %%</translation>
+    </message>
 </context>
 </TS>

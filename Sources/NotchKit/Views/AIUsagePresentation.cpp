@@ -28,9 +28,9 @@ QString wholePercent(double fraction)
 
 QString clockTime(const QTime &time, const QLocale &locale)
 {
-    if (locale.language() == QLocale::C)
-        return time.toString(QStringLiteral("HH:mm"));
-    return locale.toString(time, QLocale::ShortFormat);
+    // Where no language is set, even the short form has seconds.
+    QString format = locale.timeFormat(QLocale::ShortFormat);
+    return locale.toString(time, format.remove(QLatin1String(":ss")));
 }
 
 QString tokensText(qint64 tokens)
@@ -122,7 +122,8 @@ void AIUsagePresentation::addClaude(Shown &shown) const
 
 UsageLine AIUsagePresentation::line(const QString &title, const UsageWindow &window) const
 {
-    return {title, leftText(window.usedPercent), window.usedPercent / 100, resetText(window.resetsAt)};
+    const QString left = leftText(window.usedPercent);
+    return {title, left, left, window.usedPercent / 100, resetText(window.resetsAt)};
 }
 
 UsageLine AIUsagePresentation::blockLine(const AIUsageModel::Claude &claude) const
@@ -137,7 +138,9 @@ UsageLine AIUsagePresentation::blockLine(const AIUsageModel::Claude &claude) con
     if (claude.blockStart)
         end = claude.blockStart->addSecs(AIUsageModel::Claude::kBlockSeconds);
     return {notchStrings(QT_TRANSLATE_NOOP("notch", "This 5-hour block")),
-            filled(text, "%d", wholePercent(fraction)), fraction, resetText(end)};
+            filled(text, "%d", wholePercent(fraction)),
+            filled(QT_TRANSLATE_NOOP("notch", "%d%%"), "%d", wholePercent(fraction)), fraction,
+            resetText(end)};
 }
 
 QVariantList AIUsagePresentation::dayBars(const AIUsageModel::Claude &claude) const

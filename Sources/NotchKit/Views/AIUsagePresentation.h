@@ -16,12 +16,14 @@ struct UsageLine
     QML_VALUE_TYPE(usageLine)
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QString text MEMBER text)
+    Q_PROPERTY(QString brief MEMBER brief)
     Q_PROPERTY(double fraction MEMBER fraction)
     Q_PROPERTY(QString resets MEMBER resets)
 
 public:
     QString title;
     QString text;
+    QString brief;       ///< The text where there is little room.
     double fraction = 0; ///< Of the limit; may be more than 1.
     QString resets;      ///< Empty when it is not known.
 

@@ -8,7 +8,7 @@ Row {
     /// Maps with "fraction" of the height, "letter" and "help".
     required property var days
 
-    height: 56
+    height: 68
     spacing: 6
 
     Repeater {

@@ -1,7 +1,7 @@
 import QtQuick
 import Kestrune.Views
 
-/// One assistant on Home: its name and a gauge for each limit, or why there is none.
+/// One assistant on Home: a gauge for each limit, the first under its name, or why there is none.
 Column {
     id: brief
 
@@ -9,23 +9,31 @@ Column {
     required property string hint
     required property var lines
 
-    spacing: 4
+    spacing: 8
 
-    Text {
+    Column {
         width: parent.width
-        text: brief.title
-        font.pixelSize: 12
-        color: Theme.text
-        elide: Text.ElideRight
+        spacing: 2
+        visible: brief.hint !== ""
+
+        Text {
+            width: parent.width
+            text: brief.title
+            font.pixelSize: 12
+            color: Theme.text
+            elide: Text.ElideRight
+        }
+        Text {
+            width: parent.width
+            text: brief.hint
+            font.pixelSize: 11
+            color: Theme.dim
+            wrapMode: Text.WordWrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+        }
     }
-    Text {
-        width: parent.width
-        visible: text !== ""
-        text: brief.hint
-        font.pixelSize: 11
-        color: Theme.dim
-        wrapMode: Text.WordWrap
-    }
+
     Repeater {
         model: brief.hint === "" ? brief.lines : []
 
@@ -33,16 +41,30 @@ Column {
             id: line
 
             required property var modelData
+            required property int index
 
             width: brief.width
             spacing: 4
 
-            Text {
+            Item {
                 width: parent.width
-                text: line.modelData.text
-                font.pixelSize: 11
-                color: Theme.dim
-                elide: Text.ElideRight
+                height: value.implicitHeight
+
+                Text {
+                    anchors { left: parent.left; right: value.left; rightMargin: 8 }
+                    text: line.index === 0 ? brief.title : line.modelData.title
+                    font.pixelSize: 12
+                    color: line.index === 0 ? Theme.text : Theme.dim
+                    elide: Text.ElideRight
+                }
+                Text {
+                    id: value
+
+                    anchors.right: parent.right
+                    text: line.modelData.brief
+                    font.pixelSize: 12
+                    color: Theme.dim
+                }
             }
             UsageBar {
                 width: parent.width

@@ -34,23 +34,24 @@ Tile {
         visible: card.on && card.hint === ""
     }
 
-    Column {
-        anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter; margins: 24 }
-        anchors.verticalCenterOffset: 8
-        spacing: 12
+    Item {
+        anchors { left: parent.left; right: parent.right; top: heading.bottom; bottom: parent.bottom; margins: 20 }
         visible: !body.visible
 
         Text {
-            width: parent.width
+            anchors { left: parent.left; right: parent.right; top: parent.top; bottom: button.top; bottomMargin: 8 }
             text: card.on ? card.hint : card.explanation
             font.pixelSize: 12
             lineHeight: 1.2
             color: Qt.rgba(1, 1, 1, 0.7)
             horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
             wrapMode: Text.WordWrap
         }
         TextButton {
-            anchors.horizontalCenter: parent.horizontalCenter
+            id: button
+
+            anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
             visible: !card.on
             text: qsTranslate("notch", "Connect")
             prominent: true
