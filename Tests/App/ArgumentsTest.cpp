@@ -1,7 +1,11 @@
 #include "App/CommandLine.h"
 #include "App/SettingsText.h"
+#include "App/UsageReport.h"
 #include "Support/TestRegistry.h"
 
+#include <QDir>
+#include <QJsonDocument>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Kestrune;
@@ -19,6 +23,7 @@ private Q_SLOTS:
     void verbs();
     void settingsTexts_data();
     void settingsTexts();
+    void usageAsJson();
 };
 
 void ArgumentsTest::verbs_data()
@@ -82,6 +87,37 @@ void ArgumentsTest::settingsTexts()
     QCOMPARE(value.has_value(), valid);
     if (valid)
         QCOMPARE(SettingsText::format(value), text);
+}
+
+void ArgumentsTest::usageAsJson()
+{
+    const QTemporaryDir home;
+    const auto write = [&](const QString &folder, const QByteArray &text) {
+        QVERIFY(QDir(home.path()).mkpath(folder));
+        QFile file(home.filePath(folder) + QLatin1String("/a.jsonl"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush());
+        const QDateTime time = QDateTime::fromMSecsSinceEpoch(1773144000500, Qt::UTC);
+        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+    };
+    const auto report = [&] {
+        QString fault;
+        const QStringList line{QStringLiteral("--now"), QStringLiteral("2026-03-10T13:00:00+01:00"),
+                               QStringLiteral("--home"), home.path(), QStringLiteral("--json")};
+        return QJsonDocument::fromJson(usageReport(UsageRequest::parse(line, fault).value()));
+    };
+    QCOMPARE(report(), QJsonDocument::fromJson(R"({"claude": null, "codex": null})"));
+    write(QStringLiteral(".claude/projects/p"),
+          R"({"timestamp":"2026-03-10T11:00:00.5Z","message":{"usage":{"output_tokens":9007199254740993}}})"
+          "\n");
+    write(QStringLiteral(".codex/sessions"),
+          R"({"rate_limits":{"primary":{"used_percent":1.5,"window_minutes":300,"resets_in_seconds":60}}})");
+    QCOMPARE(report(), QJsonDocument::fromJson(R"({
+        "claude": {"blockTokens": 9007199254740993, "blockStart": "2026-03-10T11:00:00.500Z",
+                   "weekTokens": 9007199254740993, "weekMessages": 1,
+                   "lastActivity": "2026-03-10T11:00:00.500Z", "peakBlockTokens": 9007199254740993,
+                   "dailyTokens": [0, 0, 0, 0, 0, 0, 9007199254740993]},
+        "codex": {"primary": {"usedPercent": 1.5, "minutes": 300, "resetsAt": "2026-03-10T12:01:00.000Z"},
+                  "secondary": null, "updated": "2026-03-10T12:00:00.500Z"}})"));
 }
 
 REGISTER_TEST(ArgumentsTest);

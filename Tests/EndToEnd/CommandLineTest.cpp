@@ -15,7 +15,8 @@ private Q_SLOTS:
     {
         rows({"frobnicate", "--frobnicate", "open frobnicate", "toggle home", "settings", "settings get",
               "settings get frobnicate", "settings set hoverDelay", "settings set hoverDelay soon",
-              "settings set openMode Click", "settings set tools home"});
+              "settings set openMode Click", "settings set tools home", "usage --home",
+              "usage --home /nowhere", "usage --now noon"});
     }
 
     void badArguments()

@@ -29,7 +29,7 @@ Column {
             font.pixelSize: 11
             color: Theme.dim
             wrapMode: Text.WordWrap
-            maximumLineCount: 2
+            maximumLineCount: 3
             elide: Text.ElideRight
         }
     }
