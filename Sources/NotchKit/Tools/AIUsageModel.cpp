@@ -4,6 +4,7 @@
 #include "CodexReader.h"
 #include "NotchKit/NotchSettings.h"
 
+#include <QFutureWatcher>
 #include <QtConcurrentRun>
 
 namespace Kestrune {
@@ -75,13 +76,19 @@ void AIUsageModel::refresh(bool force)
         return;
     m_lastRefresh = m_clock.uptime();
     m_loading = true;
-    QtConcurrent::run([sources = m_sources, now = m_clock.now(), found]() mutable {
+    // The watcher goes with the model; a continuation would not outlive it safely.
+    auto *watcher = new QFutureWatcher<Found>(this);
+    connect(watcher, &QFutureWatcherBase::finished, this, [this, watcher] {
+        take(watcher->result());
+        watcher->deleteLater();
+    });
+    watcher->setFuture(QtConcurrent::run([sources = m_sources, now = m_clock.now(), found]() mutable {
         if (found.readCodex)
             found.codex = CodexReader::readCodex(sources->codexHome, now, sources->stop);
         if (found.readClaude)
             found.claude = sources->claude.summary(now);
         return found;
-    }).then(this, [this](const Found &result) { take(result); });
+    }));
 }
 
 void AIUsageModel::take(const Found &found)
