@@ -11,7 +11,7 @@ namespace Kestrune {
 struct ClaudeUsage
 {
     static constexpr int kDays = 7;
-    static constexpr qint64 kBlockSeconds = 5 * 3600;
+    static constexpr qint64 kBlockSeconds = 18'000;
 
     qint64 blockTokens = 0;              ///< In the running block; 0 without one.
     std::optional<QDateTime> blockStart; ///< The running block's first response.

@@ -39,7 +39,7 @@ void UsageLedger::prune(qint64 weekAgo)
     m_sorted.reserve(static_cast<std::size_t>(m_entries.size()));
     for (const Entry &entry : std::as_const(m_entries))
         m_sorted.push_back({entry.date, entry.tokens});
-    std::ranges::sort(m_sorted);
+    std::sort(m_sorted.begin(), m_sorted.end());
     m_changed = false;
 }
 

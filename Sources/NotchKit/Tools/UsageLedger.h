@@ -33,7 +33,10 @@ private:
     {
         qint64 date;
         qint64 tokens;
-        auto operator<=>(const Dated &) const = default;
+        bool operator<(const Dated &other) const
+        {
+            return date != other.date ? date < other.date : tokens < other.tokens;
+        }
     };
 
     void prune(qint64 weekAgo);
