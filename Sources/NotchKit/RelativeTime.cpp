@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <memory>
+#include <optional>
 
 #include <unicode/reldatefmt.h>
 
@@ -52,9 +52,9 @@ private:
 
 const Formatter &formatter(const QString &language)
 {
-    thread_local std::unique_ptr<Formatter> kept;
+    thread_local std::optional<Formatter> kept;
     if (!kept || kept->language() != language)
-        kept = std::make_unique<Formatter>(language);
+        kept.emplace(language);
     return *kept;
 }
 

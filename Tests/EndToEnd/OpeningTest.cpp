@@ -162,15 +162,14 @@ private Q_SLOTS:
     void tabReachesEveryTool()
     {
         QVERIFY(stage().run() && stage().openByHotKey());
-        QStringList seen;
-        for (int press = 0; press < 16 && seen.size() < 3; ++press) {
+        const QStringList tools = stage().session.tools();
+        QSet<QString> seen;
+        for (int press = 0; press < 120 && seen.size() < tools.size(); ++press) {
             stage().input.tap(XK_Tab);
             stage().input.tap(XK_space);
-            const QString selected = stage().session.selected();
-            if (!seen.contains(selected))
-                seen.append(selected);
+            seen.insert(stage().session.selected());
         }
-        QCOMPARE(seen, QStringList({u"home"_s, u"timer"_s, u"note"_s}));
+        QCOMPARE(seen, QSet<QString>(tools.begin(), tools.end()));
         stage().input.tap(XK_Escape);
         QVERIFY(stage().waitClosed());
     }
@@ -185,7 +184,7 @@ private Q_SLOTS:
             if (!seen.contains(selected))
                 seen.append(selected);
         }
-        QCOMPARE(seen, QStringList({u"home"_s, u"timer"_s, u"note"_s}));
+        QCOMPARE(seen, stage().session.tools());
     }
 };
 

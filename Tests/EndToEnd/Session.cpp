@@ -131,6 +131,11 @@ bool Session::isOpen(int index) const { return display(index).value("expanded"_L
 
 QString Session::selected(int index) const { return display(index).value("selected"_L1).toString(); }
 
+QStringList Session::tools() const
+{
+    return QVariant(status().value("tools"_L1).toArray().toVariantList()).toStringList();
+}
+
 qint64 Session::proportionalSetSize() const
 {
     QFile file(u"/proc/%1/smaps_rollup"_s.arg(m_program->processId()));

@@ -52,6 +52,7 @@ public:
     QJsonObject display(int index = 0) const;
     bool isOpen(int index = 0) const;
     QString selected(int index = 0) const;
+    QStringList tools() const; ///< Those in the tool row, in its order.
 
     /// The program's share of memory in kilobytes, pages shared with others counted in part.
     qint64 proportionalSetSize() const;

@@ -31,7 +31,7 @@ public:
     static constexpr int kMostItems = 60;
     /// What all kept pictures may take in memory together, in bytes. Beyond it the oldest go: one that came
     /// from a file is dropped from its item, another goes with its item.
-    static constexpr qint64 kPictureBudget = 256 * 1024 * 1024;
+    static constexpr qint64 kPictureBudget = qint64{256} * 1024 * 1024;
 
     ClipboardModel(NotchSettings &settings, UserDefaults &defaults, Clock &clock, Pasteboard &pasteboard,
                    QObject *parent = nullptr);

@@ -16,7 +16,7 @@ class ClipboardPicture
 public:
     /// Larger pictures are refused unopened, whatever their encoding claims to hold.
     static constexpr qint64 kMostPixels = 64'000'000;
-    static constexpr qint64 kMostBytes = 64 * 1024 * 1024;
+    static constexpr qint64 kMostBytes = qint64{64} * 1024 * 1024;
     static constexpr int kThumbnailSide = 64; ///< Pixels; twice the side of a row's square.
 
     /// Nothing for data that is no picture, is damaged or exceeds the limits. Any thread; decodes.

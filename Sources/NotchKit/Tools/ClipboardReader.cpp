@@ -96,7 +96,7 @@ bool isLink(const QString &text)
 /// The first characters of a text. Looks at no more of it than it must: the whole may be megabytes.
 QString firstCharacters(const QString &text)
 {
-    for (qsizetype looked = 4 * kMostCharacters;; looked *= 4) {
+    for (qsizetype looked = qsizetype{4} * kMostCharacters;; looked *= 4) {
         const QString beginning = text.left(looked);
         QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, beginning);
         for (int i = 0; i < kMostCharacters && finder.position() >= 0; ++i)
