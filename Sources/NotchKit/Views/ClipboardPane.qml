@@ -148,7 +148,7 @@ Pane {
 
         property string item
 
-        entry: qsTranslate("notch", "Delete")
+        entries: [qsTranslate("notch", "Delete")]
         onChosen: pane.clipboard.remove(item)
         onClosed: search.field.forceActiveFocus()
     }

@@ -2,13 +2,14 @@ import QtQuick
 import QtQuick.Templates as T
 import Kestrune.Views
 
-/// A menu of one entry at the pointer, kept inside its parent.
+/// A menu at the pointer, kept inside its parent. With the keyboard, the arrows choose an entry.
 T.Popup {
     id: menu
 
-    required property string entry
+    required property list<string> entries
 
-    signal chosen
+    /// The entry with this place among the entries.
+    signal chosen(int index)
 
     function openAt(x, y) {
         menu.x = Math.max(0, Math.min(x, parent.width - width))
@@ -16,40 +17,58 @@ T.Popup {
         open()
     }
 
-    width: button.implicitWidth + 8
-    height: button.implicitHeight + 8
+    width: column.implicitWidth + 8
+    height: column.implicitHeight + 8
     padding: 4
     focus: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+    onOpened: rows.itemAt(0)?.forceActiveFocus()
     background: Rectangle {
         radius: 8
         color: "#2c2c2e"
         border.color: Theme.hovered
     }
-    contentItem: ButtonBase {
-        id: button
+    contentItem: Column {
+        id: column
 
-        help: menu.entry
-        text: menu.entry
-        plain: true
-        focus: true
-        radius: 5
-        implicitWidth: Math.max(label.implicitWidth + 24, 96)
-        implicitHeight: 26
-        Accessible.role: Accessible.MenuItem
-        onClicked: {
-            menu.close()
-            menu.chosen()
-        }
-        contentItem: Text {
-            id: label
+        Repeater {
+            id: rows
 
-            leftPadding: 8
-            text: menu.entry
-            font.pixelSize: 12
-            color: Theme.text
-            verticalAlignment: Text.AlignVCenter
-            Accessible.ignored: true
+            model: menu.entries
+
+            ButtonBase {
+                id: button
+
+                required property int index
+                required property string modelData
+
+                help: modelData
+                text: modelData
+                plain: true
+                radius: 5
+                width: Math.max(implicitWidth, column.width)
+                implicitWidth: Math.min(Math.max(label.implicitWidth + 24, 96), 320)
+                implicitHeight: 26
+                Accessible.role: Accessible.MenuItem
+                Keys.onUpPressed: rows.itemAt(Math.max(index - 1, 0)).forceActiveFocus(Qt.TabFocusReason)
+                Keys.onDownPressed: rows.itemAt(Math.min(index + 1, rows.count - 1))
+                    .forceActiveFocus(Qt.TabFocusReason)
+                onClicked: {
+                    menu.close()
+                    menu.chosen(index)
+                }
+                contentItem: Text {
+                    id: label
+
+                    leftPadding: 8
+                    text: button.modelData
+                    elide: Text.ElideMiddle
+                    font.pixelSize: 12
+                    color: Theme.text
+                    verticalAlignment: Text.AlignVCenter
+                    Accessible.ignored: true
+                }
+            }
         }
     }
 }
