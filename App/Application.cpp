@@ -12,6 +12,7 @@ Application::Application(const QDBusConnection &bus)
     , m_defaults(SqliteUserDefaults::path(standardDomain()))
     , m_suiteDefaults(SqliteUserDefaults::path(NotchBranding::suiteIdentifier()),
                       SqliteUserDefaults::Access::ReadOnly)
+    , m_workspace(bus)
     , m_loginItem(QCoreApplication::applicationFilePath())
     , m_applications(bus, {NotchBranding::suiteIdentifier()})
     , m_displays(m_defaults)

@@ -11,21 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// No folders of services: nothing of the machine's own starts on this bus.
-constexpr auto busConfiguration = R"(<busconfig>
-  <type>session</type><listen>unix:tmpdir=/tmp</listen><auth>EXTERNAL</auth>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/>
-  </policy>
-</busconfig>)";
-
-} // namespace
-
 Session::Session()
     : m_environment(QProcessEnvironment::systemEnvironment())
-    , m_connection(QString())
 {
     for (const auto &name :
          {u"QT_QPA_PLATFORM"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"XDG_CURRENT_DESKTOP"_s,
@@ -39,28 +26,10 @@ Session::Session()
         QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         m_environment.insert(u"XDG_%1_%2"_s.arg(name, name == "RUNTIME"_L1 ? u"DIR"_s : u"HOME"_s), folder);
     }
-
-    QFile configuration(m_home.filePath(u"bus.conf"_s));
-    if (!configuration.open(QFile::WriteOnly) || configuration.write(busConfiguration) < 0)
-        qFatal("the bus could not be configured");
-    configuration.close();
-    m_bus = std::make_unique<ChildProcess>(m_environment);
-    m_bus->launch(u"dbus-daemon"_s,
-                  {u"--config-file"_s, configuration.fileName(), u"--print-address"_s, u"--nofork"_s});
-    if (!waitUntil([&] { return m_bus->canReadLine(); }))
-        qFatal("the bus did not start");
-    const QString address = QString::fromLatin1(m_bus->readLine().trimmed());
-    m_environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, address);
-    m_connection = QDBusConnection::connectToBus(address, m_home.path());
-    if (!m_connection.isConnected())
-        qFatal("the bus does not answer");
+    m_bus = std::make_unique<PrivateBus>(m_environment, m_home.path());
 }
 
-Session::~Session()
-{
-    m_program.reset();
-    QDBusConnection::disconnectFromBus(m_home.path());
-}
+Session::~Session() { m_program.reset(); }
 
 void Session::setFlag(const QString &domain, const QString &key, bool value)
 {
@@ -118,7 +87,7 @@ QString Session::setting(const QString &name) const
 QJsonObject Session::status() const
 {
     // A bus without the program on it is not asked: the command would only say that nothing runs.
-    if (!m_connection.interface()->isServiceRegistered(busName()))
+    if (!bus().interface()->isServiceRegistered(busName()))
         return {};
     return QJsonDocument::fromJson(command({u"status"_s, u"--json"_s}).output.toUtf8()).object();
 }

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "Desktop/Defaults/SqliteUserDefaults.h"
-#include "EndToEnd/ChildProcess.h"
+#include "EndToEnd/PrivateBus.h"
 
-#include <QDBusConnection>
 #include <QJsonObject>
 #include <QTemporaryDir>
 
@@ -26,7 +25,7 @@ public:
 
     /// What every process of the session gets; the display adds itself.
     QProcessEnvironment &environment() { return m_environment; }
-    QDBusConnection bus() const { return m_connection; }
+    QDBusConnection bus() const { return m_bus->connection(); }
     static QString busName() { return QStringLiteral("example.kestrune.Kestrune"); }
 
     /// Sets or reads a Boolean in the user defaults of a domain, as another program would.
@@ -63,7 +62,6 @@ private:
 
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;
-    std::unique_ptr<ChildProcess> m_bus;
-    QDBusConnection m_connection;
+    std::unique_ptr<PrivateBus> m_bus;
     std::unique_ptr<ChildProcess> m_program;
 };

@@ -286,8 +286,10 @@ class FakeWorkspace : public Workspace
 {
 public:
     void open(const QUrl &url) override { opened.append(url); }
+    void reveal(const QList<QUrl> &files) override { revealed.append(files); }
 
     QList<QUrl> opened;
+    QList<QList<QUrl>> revealed;
 };
 
 class FakeApplications : public RunningApplications

@@ -1,8 +1,6 @@
 #include "BusDaemon.h"
 
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
+#include "BusCall.h"
 
 namespace Kestrune::BusDaemon {
 
@@ -19,12 +17,9 @@ void call(const QDBusConnection &bus, const QString &method, const QVariantList 
     QDBusMessage message =
         QDBusMessage::createMethodCall(daemon, QStringLiteral("/org/freedesktop/DBus"), daemon, method);
     message.setArguments(arguments);
-    auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(message, kTimeout), context);
-    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context, [watcher, done = std::move(done)] {
-        const QDBusMessage reply = watcher->reply();
+    callBus(bus, message, kTimeout, context, [done = std::move(done)](const QDBusMessage &reply) {
         const bool answered = reply.type() == QDBusMessage::ReplyMessage;
         done(answered ? reply.arguments().value(0) : QVariant());
-        watcher->deleteLater();
     });
 }
 

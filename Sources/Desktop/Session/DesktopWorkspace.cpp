@@ -1,5 +1,7 @@
 #include "DesktopWorkspace.h"
 
+#include "BusCall.h"
+
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
@@ -37,6 +39,32 @@ void openSettings()
     }
 }
 
+constexpr int kRevealTimeout = 5000; // ms, for a file manager that is started by the call.
+constexpr int kMostFolders = 3;      // Windows that one request may open.
+
+void openWithDesktop(const QUrl &url)
+{
+    QProcess::startDetached(QStringLiteral("xdg-open"), {url.toString(QUrl::FullyEncoded)});
+}
+
+QList<QUrl> localFiles(QList<QUrl> files)
+{
+    files.removeIf([](const QUrl &file) { return !file.isLocalFile(); });
+    return files;
+}
+
+void openFolders(const QList<QUrl> &files)
+{
+    QList<QUrl> folders;
+    for (const QUrl &file : files) {
+        const QUrl folder = file.adjusted(QUrl::StripTrailingSlash).adjusted(QUrl::RemoveFilename);
+        if (!folders.contains(folder) && folders.size() < kMostFolders)
+            folders.append(folder);
+    }
+    for (const QUrl &folder : std::as_const(folders))
+        openWithDesktop(folder);
+}
+
 } // namespace
 
 void DesktopWorkspace::open(const QUrl &url)
@@ -45,7 +73,22 @@ void DesktopWorkspace::open(const QUrl &url)
         openSettings();
         return;
     }
-    QProcess::startDetached(QStringLiteral("xdg-open"), {url.toString(QUrl::FullyEncoded)});
+    openWithDesktop(url);
+}
+
+void DesktopWorkspace::reveal(const QList<QUrl> &files)
+{
+    const QList<QUrl> local = localFiles(files);
+    if (local.isEmpty())
+        return;
+    const QString manager = QStringLiteral("org.freedesktop.FileManager1");
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        manager, QStringLiteral("/org/freedesktop/FileManager1"), manager, QStringLiteral("ShowItems"));
+    call << QUrl::toStringList(local, QUrl::FullyEncoded) << QString(); // No startup notification.
+    callBus(m_bus, call, kRevealTimeout, &m_answers, [local](const QDBusMessage &reply) {
+        if (reply.type() != QDBusMessage::ReplyMessage)
+            openFolders(local);
+    });
 }
 
 } // namespace Kestrune

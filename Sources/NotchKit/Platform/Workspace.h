@@ -1,10 +1,12 @@
 #pragma once
 
-class QUrl;
+#include <QList>
+#include <QUrl>
 
 namespace Kestrune {
 
-/// Opens addresses with the desktop's programs. Main thread only; nothing here waits.
+/// Opens addresses with the desktop's programs and shows files in its file manager. Main thread only; nothing
+/// here waits.
 class Workspace
 {
 public:
@@ -12,6 +14,10 @@ public:
 
     /// Opens a web page in the default browser, or, for a privacy-page address, the desktop's settings.
     virtual void open(const QUrl &url) = 0;
+
+    /// Shows the files, selected, in the file manager; where none answers, their folders. Addresses that
+    /// are no local files are left out, and nothing happens when none remains.
+    virtual void reveal(const QList<QUrl> &files) = 0;
 };
 
 } // namespace Kestrune

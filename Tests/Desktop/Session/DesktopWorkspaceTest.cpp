@@ -1,0 +1,100 @@
+#include "Desktop/Session/DesktopWorkspace.h"
+#include "Desktop/BusStandIn.h"
+#include "EndToEnd/Waiting.h"
+#include "Support/TestRegistry.h"
+
+#include <QUrl>
+
+using namespace Kestrune;
+using namespace Qt::StringLiterals;
+
+/// Showing files in the file manager, over a stand-in of it and of the program that opens folders.
+class DesktopWorkspaceTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_path = qgetenv("PATH");
+        QFile opener(m_folder.filePath(u"xdg-open"_s));
+        QVERIFY(opener.open(QFile::WriteOnly));
+        opener.write("#!/bin/sh\necho \"$@\" >> " + m_folder.filePath(u"opened"_s).toUtf8() + '\n');
+        opener.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        qputenv("PATH", m_folder.path().toUtf8() + ':' + m_path);
+    }
+    void cleanupTestCase() { qputenv("PATH", m_path); }
+    void cleanup() { QFile::remove(m_folder.filePath(u"opened"_s)); }
+
+    void theFileManagerSelectsTheFiles()
+    {
+        BusStandIn manager(u"org.freedesktop.FileManager1"_s);
+        QVERIFY(manager.appear([](const QDBusMessage &call) { return call.createReply(); }));
+        DesktopWorkspace workspace(manager.bus());
+        workspace.reveal({});
+        workspace.reveal({QUrl(u"https://example.org/a"_s)});
+        workspace.reveal(files({u"/tmp/50% of it?#1"_s, u"/tmp/Grüße 日本.png"_s}));
+        QTRY_COMPARE(manager.called(),
+                     QStringList{u"/org/freedesktop/FileManager1 org.freedesktop.FileManager1.ShowItems"_s});
+        const QVariantList expected{QStringList{u"file:///tmp/50%25%20of%20it%3F%231"_s,
+                                                u"file:///tmp/Gr%C3%BC%C3%9Fe%20%E6%97%A5%E6%9C%AC.png"_s},
+                                    QString()};
+        QCOMPARE(manager.calls.constFirst().arguments(), expected);
+        QVERIFY(holdsFor([&] { return opened().isEmpty(); }, 100));
+    }
+
+    void foldersOpenWhereNoFileManagerAnswers_data()
+    {
+        QTest::addColumn<bool>("present");
+        QTest::addColumn<bool>("answers");
+        QTest::newRow("there is none") << false << false;
+        QTest::newRow("it refuses") << true << true;
+        QTest::newRow("it hangs") << true << false;
+    }
+
+    void foldersOpenWhereNoFileManagerAnswers()
+    {
+        QFETCH(const bool, present);
+        QFETCH(const bool, answers);
+        BusStandIn manager(u"org.freedesktop.FileManager1"_s);
+        const auto refuse = [answers](const QDBusMessage &call) {
+            return answers
+                       ? std::optional(call.createErrorReply(QDBusError::NotSupported, u"no window here"_s))
+                       : std::nullopt;
+        };
+        QVERIFY(!present || manager.appear(refuse));
+        DesktopWorkspace workspace(manager.bus());
+        QElapsedTimer blocked;
+        blocked.start();
+        workspace.reveal(
+            files({u"/tmp/a b/1"_s, u"/tmp/a b/2"_s, u"/tmp/c/folder/"_s, u"/file"_s, u"/d/4"_s}));
+        QVERIFY2(blocked.elapsed() < 100, "the caller waited");
+        QVERIFY(waitUntil([&] { return opened().size() == 3; }, 8000));
+        QVERIFY(holdsFor([&] { return opened().size() == 3; }, 100));
+        QStringList folders = opened();
+        folders.sort(); // They are opened by programs of their own, which run at the same time.
+        QCOMPARE(folders, QStringList({u"file:///"_s, u"file:///tmp/a%20b/"_s, u"file:///tmp/c/"_s}));
+    }
+
+private:
+    static QList<QUrl> files(const QStringList &paths)
+    {
+        QList<QUrl> urls;
+        for (const QString &path : paths)
+            urls.append(QUrl::fromLocalFile(path));
+        return urls;
+    }
+
+    QStringList opened() const
+    {
+        QFile log(m_folder.filePath(u"opened"_s));
+        return log.open(QFile::ReadOnly) ? QString::fromUtf8(log.readAll()).split(u'\n', Qt::SkipEmptyParts)
+                                         : QStringList();
+    }
+
+    QTemporaryDir m_folder;
+    QByteArray m_path;
+};
+
+REGISTER_TEST(DesktopWorkspaceTest);
+#include "DesktopWorkspaceTest.moc"

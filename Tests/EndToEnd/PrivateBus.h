@@ -1,0 +1,23 @@
+#pragma once
+
+#include "EndToEnd/ChildProcess.h"
+
+#include <QDBusConnection>
+
+/// A session bus of the test's own that starts no service by itself.
+class PrivateBus
+{
+public:
+    /// Keeps its configuration in `folder` and adds its address to `environment`.
+    PrivateBus(QProcessEnvironment &environment, const QString &folder);
+    ~PrivateBus();
+    Q_DISABLE_COPY_MOVE(PrivateBus)
+
+    QDBusConnection connection() const { return m_connection; }
+    QString address() const { return m_address; }
+
+private:
+    ChildProcess m_daemon;
+    QString m_address;
+    QDBusConnection m_connection{QString()};
+};
