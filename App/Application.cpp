@@ -13,6 +13,7 @@ Application::Application(const QDBusConnection &bus)
     , m_suiteDefaults(SqliteUserDefaults::path(NotchBranding::suiteIdentifier()),
                       SqliteUserDefaults::Access::ReadOnly)
     , m_workspace(bus)
+    , m_sharing(bus)
     , m_loginItem(QCoreApplication::applicationFilePath())
     , m_applications(bus, {NotchBranding::suiteIdentifier()})
     , m_displays(m_defaults)
@@ -32,7 +33,7 @@ void Application::run(const LaunchRequest &request)
     const AppPlatform app{
         m_defaults, m_suiteDefaults, m_applications, m_loginItem,
         [this](const QString &message, const QString &details) { m_alert.show(message, details); }};
-    const NotchPlatform tools{m_clock, m_defaults, m_sounds, m_workspace, m_pasteboard};
+    const NotchPlatform tools{m_clock, m_defaults, m_sounds, m_workspace, m_pasteboard, m_sharing};
     const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys};
     m_state = std::make_unique<AppState>(app, tools, controller, request);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());

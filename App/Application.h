@@ -6,6 +6,7 @@
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "Desktop/Session/BusApplications.h"
 #include "Desktop/Session/DesktopWorkspace.h"
+#include "Desktop/Sharing/KdeConnectSharing.h"
 #include "Desktop/Sound/CanberraSounds.h"
 #include "Desktop/Time/SystemClock.h"
 #include "Desktop/X11/X11Desktop.h"
@@ -41,6 +42,7 @@ private:
     SystemClock m_clock;
     CanberraSounds m_sounds;
     DesktopWorkspace m_workspace;
+    KdeConnectSharing m_sharing;
     AutostartLoginItem m_loginItem;
     BusApplications m_applications;
     X11Desktop m_desktop;

@@ -1,5 +1,6 @@
 #include "NotchServices.h"
 
+#include "AirDrop.h"
 #include "NotchKit/Platform/Workspace.h"
 #include "Tools/AIUsageModel.h"
 #include "Tools/ClipboardModel.h"
@@ -26,6 +27,7 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
     , m_branding(branding)
     , m_clock(platform.clock)
     , m_workspace(platform.workspace)
+    , m_airDrop(std::make_unique<AirDrop>(platform.sharing))
     , m_timer(add(std::make_unique<TimerModel>(platform.clock, platform.sounds)))
     , m_clipboard(add(
           std::make_unique<ClipboardModel>(settings, platform.defaults, platform.clock, platform.pasteboard)))

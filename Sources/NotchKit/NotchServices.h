@@ -14,7 +14,9 @@
 
 namespace Kestrune {
 
+class AirDrop;
 class ClipboardModel;
+class FileSharing;
 class Pasteboard;
 class AIUsageModel;
 class SoundPlayer;
@@ -30,6 +32,7 @@ struct NotchPlatform
     SoundPlayer &sounds;
     Workspace &workspace;
     Pasteboard &pasteboard;
+    FileSharing &sharing;
     QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
 };
 
@@ -39,6 +42,7 @@ struct NotchPlatform
 class NotchServices : public QObject
 {
     Q_OBJECT
+    Q_MOC_INCLUDE("NotchKit/AirDrop.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ClipboardModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/AIUsageModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
@@ -46,6 +50,8 @@ class NotchServices : public QObject
     Q_PROPERTY(Kestrune::ClipboardModel *clipboard READ clipboard CONSTANT)
     Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
     Q_PROPERTY(Kestrune::AIUsageModel *aiUsage READ aiUsage CONSTANT)
+    /// Sends files to the user's other devices.
+    Q_PROPERTY(Kestrune::AirDrop *airDrop READ airDrop CONSTANT)
     /// The current time, updated every second while the hub runs. Not bindable for the views: a view's
     /// binding keeps a bindable dependency for good, and would wake each second while it is off screen.
     Q_PROPERTY(QDateTime now READ now NOTIFY nowChanged)
@@ -66,6 +72,7 @@ public:
     ClipboardModel *clipboard() const { return m_clipboard; }
     TimerModel *timer() const { return m_timer; }
     AIUsageModel *aiUsage() const { return m_aiUsage; }
+    AirDrop *airDrop() const { return m_airDrop.get(); }
 
     QDateTime now() const { return m_now; }
     bool anyExpanded() const { return m_anyExpanded; }
@@ -120,6 +127,7 @@ private:
     NotchBranding m_branding;
     Clock &m_clock;
     Workspace &m_workspace;
+    std::unique_ptr<AirDrop> m_airDrop;
     std::vector<std::unique_ptr<ToolModel>> m_models; ///< The first with an activity shows it.
     TimerModel *m_timer;
     ClipboardModel *m_clipboard;

@@ -23,6 +23,7 @@ struct Stage
     Fakes::FakeSounds sounds;
     Fakes::FakeWorkspace workspace;
     Fakes::FakePasteboard pasteboard;
+    Fakes::FakeSharing sharing;
     Fakes::FakeDisplays displays;
     Fakes::FakePointer pointer;
     Fakes::FakePanels panels;
@@ -42,10 +43,10 @@ struct Stage
         const AppPlatform platform{
             defaults, suiteDefaults, applications, loginItem,
             [this](const QString &message, const QString &details) { alerts << message << details; }};
-        app = std::make_unique<AppState>(platform,
-                                         NotchPlatform{clock, defaults, sounds, workspace, pasteboard},
-                                         NotchControllerPlatform{clock, displays, pointer, panels, hotKeys},
-                                         LaunchRequest::parse(arguments));
+        app = std::make_unique<AppState>(
+            platform, NotchPlatform{clock, defaults, sounds, workspace, pasteboard, sharing},
+            NotchControllerPlatform{clock, displays, pointer, panels, hotKeys},
+            LaunchRequest::parse(arguments));
     }
 
     void setSuite(bool running, bool notch)

@@ -19,13 +19,14 @@ struct Core
     FakeSounds sounds;
     FakeWorkspace workspace;
     FakePasteboard pasteboard;
+    FakeSharing sharing;
     FakeDisplays displays;
     FakePointer pointer;
     FakePanels panels;
     FakeHotKeys hotKeys;
     NotchSettings settings{defaults};
     NotchServices services{
-        settings, NotchBranding::fennivar(), {clock, defaults, sounds, workspace, pasteboard}};
+        settings, NotchBranding::fennivar(), {clock, defaults, sounds, workspace, pasteboard, sharing}};
     NotchController controller{services, {clock, displays, pointer, panels, hotKeys}};
 
     NotchScreenModel &model(std::size_t index = 0) { return *controller.notches().at(index).model; }

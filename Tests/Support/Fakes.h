@@ -2,6 +2,7 @@
 
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/Displays.h"
+#include "NotchKit/Platform/FileSharing.h"
 #include "NotchKit/Platform/HotKeys.h"
 #include "NotchKit/Platform/LoginItem.h"
 #include "NotchKit/Platform/NotchPanels.h"
@@ -290,6 +291,41 @@ public:
 
     QList<QUrl> opened;
     QList<QList<QUrl>> revealed;
+};
+
+/// Reaches devices "id0", "Device 0" and so on. Answers at once, or, while `held`, when `release` is called.
+class FakeSharing : public FileSharing
+{
+public:
+    explicit FakeSharing(int count = 0)
+    {
+        for (int i = 0; i < count; ++i)
+            reachable.append({QStringLiteral("id%1").arg(i), QStringLiteral("Device %1").arg(i)});
+    }
+
+    QFuture<QList<SharingDevice>> devices() override
+    {
+        waiting.emplace_back().start();
+        const auto future = waiting.back().future();
+        if (!held)
+            release();
+        return future;
+    }
+    void send(const QString &device, const QList<QUrl> &files) override { sent.append({device, files}); }
+
+    void release()
+    {
+        held = false;
+        for (auto &promise : std::exchange(waiting, {})) {
+            promise.addResult(reachable);
+            promise.finish();
+        }
+    }
+
+    QList<SharingDevice> reachable;
+    QList<std::pair<QString, QList<QUrl>>> sent;
+    bool held = false;
+    std::vector<QPromise<QList<SharingDevice>>> waiting;
 };
 
 class FakeApplications : public RunningApplications

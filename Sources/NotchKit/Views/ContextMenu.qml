@@ -11,12 +11,20 @@ T.Popup {
     /// The entry with this place among the entries.
     signal chosen(int index)
 
+    property point place
+
+    function placeAt(x, y) {
+        place = Qt.point(x, y)
+    }
+
     function openAt(x, y) {
-        menu.x = Math.max(0, Math.min(x, parent.width - width))
-        menu.y = y + height > parent.height ? Math.max(0, y - height) : y
+        placeAt(x, y)
         open()
     }
 
+    // Bound, because the size of entries that came with the opening is known only after it.
+    x: Math.max(0, Math.min(place.x, parent.width - width))
+    y: place.y + height > parent.height ? Math.max(0, place.y - height) : place.y
     width: column.implicitWidth + 8
     height: column.implicitHeight + 8
     padding: 4

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "NotchKit/AirDrop.h"
 #include "NotchKit/NotchScreenModel.h"
 #include "NotchKit/NotchServices.h"
 #include "NotchKit/NotchSettings.h"
@@ -21,6 +22,7 @@ namespace Kestrune {
         QML_UNCREATABLE("belongs to the core")                                                               \
     }
 
+KESTRUNE_VIEW_TYPE(AirDrop);
 KESTRUNE_VIEW_TYPE(ClipboardModel);
 KESTRUNE_VIEW_TYPE(AIUsageModel);
 KESTRUNE_VIEW_TYPE(NotchScreenModel);

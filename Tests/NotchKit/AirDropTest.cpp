@@ -1,0 +1,81 @@
+#include "NotchKit/AirDrop.h"
+#include "Support/Fakes.h"
+#include "Support/TestRegistry.h"
+
+#include <QTest>
+
+using namespace Kestrune;
+using namespace Qt::StringLiterals;
+
+class AirDropTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void filesGoWhereTheyShould_data()
+    {
+        QTest::addColumn<int>("devices");
+        QTest::addColumn<QList<QUrl>>("sent");
+        QTest::addColumn<int>("chosen"); // -1: cancelled, -2: not asked
+        QTest::addColumn<QString>("device");
+        const QList<QUrl> files{QUrl(u"file:///a b"_s), QUrl(u"file:///c"_s)};
+        QTest::newRow("no file") << 1 << QList<QUrl>() << -2 << QString();
+        QTest::newRow("no local file") << 1 << QList<QUrl>{QUrl(u"https://c"_s)} << -2 << QString();
+        QTest::newRow("no device") << 0 << files << -2 << QString();
+        QTest::newRow("one device") << 1 << files << -2 << u"id0"_s;
+        QTest::newRow("the second of three") << 3 << files << 1 << u"id1"_s;
+        QTest::newRow("no such choice") << 3 << files << 3 << QString();
+        QTest::newRow("cancelled") << 2 << files << -1 << QString();
+    }
+
+    void filesGoWhereTheyShould()
+    {
+        QFETCH(const int, devices);
+        QFETCH(const QList<QUrl>, sent);
+        QFETCH(const int, chosen);
+        QFETCH(const QString, device);
+        Fakes::FakeSharing sharing(devices);
+        AirDrop airDrop(sharing);
+        airDrop.send(sent);
+        QCOMPARE(!airDrop.choices().isEmpty(), chosen > -2);
+        if (chosen > -2)
+            QCOMPARE(airDrop.choices().constFirst(), u"Device 0"_s);
+        if (chosen >= 0)
+            airDrop.choose(chosen);
+        else if (chosen == -1)
+            airDrop.cancel();
+        QVERIFY(airDrop.choices().isEmpty());
+        QCOMPARE(sharing.sent.size(), device.isEmpty() ? 0 : 1);
+        if (!device.isEmpty())
+            QCOMPARE(sharing.sent.constFirst(), std::pair(device, sent));
+        airDrop.choose(0);
+        QVERIFY2(sharing.sent.size() < 2, "nothing waits any more");
+    }
+
+    void laterRequestsAndEndsLeaveNothingBehind()
+    {
+        const QList<QUrl> first{QUrl(u"file:///1"_s)}, second{QUrl(u"file:///2"_s)};
+        Fakes::FakeSharing sharing(1);
+        sharing.held = true;
+        auto airDrop = std::make_unique<AirDrop>(sharing);
+        const int request = airDrop->send(first);
+        QVERIFY(airDrop->send(second) != request);
+        sharing.release();
+        QCOMPARE(sharing.sent, (QList{std::pair(u"id0"_s, second)}));
+
+        sharing.held = true;
+        airDrop->send(first);
+        airDrop->cancel();
+        sharing.release();
+        QVERIFY2(sharing.sent.size() == 1, "it was cancelled before the devices were known");
+
+        sharing.held = true;
+        airDrop->send(first);
+        airDrop.reset();
+        sharing.release();
+        QCOMPARE(sharing.sent.size(), 1);
+    }
+};
+
+REGISTER_TEST(AirDropTest);
+#include "AirDropTest.moc"
