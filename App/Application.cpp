@@ -33,8 +33,8 @@ void Application::run(const LaunchRequest &request)
     const AppPlatform app{
         m_defaults, m_suiteDefaults, m_applications, m_loginItem,
         [this](const QString &message, const QString &details) { m_alert.show(message, details); }};
-    const NotchPlatform tools{m_clock, m_defaults, m_sounds, m_workspace, m_pasteboard, m_sharing};
-    const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys};
+    const NotchPlatform tools{m_clock, m_defaults, m_sounds, m_workspace, m_pasteboard, m_drags, m_sharing};
+    const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys, m_drags};
     m_state = std::make_unique<AppState>(app, tools, controller, request);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());
     m_control = std::make_unique<ControlService>(*m_state, *m_keys);

@@ -11,6 +11,7 @@
 #include "Desktop/Time/SystemClock.h"
 #include "Desktop/X11/X11Desktop.h"
 #include "Desktop/X11/X11Displays.h"
+#include "Desktop/X11/X11DragPasteboard.h"
 #include "Desktop/X11/X11HotKeys.h"
 #include "Desktop/X11/X11Pasteboard.h"
 #include "Desktop/X11/X11Pointer.h"
@@ -49,6 +50,7 @@ private:
     X11Displays m_displays;
     X11Pointer m_pointer;
     X11HotKeys m_hotKeys;
+    X11DragPasteboard m_drags;
     X11Pasteboard m_pasteboard;
     QQmlEngine m_engine;
     PanelFactory m_panels;

@@ -71,7 +71,8 @@ void pollPointer(benchmark::State &state)
     X11Pointer pointer;
     Fakes::FakePanels panels;
     Fakes::FakeHotKeys hotKeys;
-    NotchController controller(services, {pollTime, displays, pointer, panels, hotKeys});
+    Fakes::FakeDrags drags;
+    NotchController controller(services, {pollTime, displays, pointer, panels, hotKeys, drags});
     controller.start();
     if (controller.notches().size() != 2)
         state.SkipWithError("there are not two notches");

@@ -224,7 +224,8 @@ void measureGaps(NotchServices &services, Clock &clock)
     displays.displays = twoDisplays();
     Fakes::FakePanels panels;
     Fakes::FakeHotKeys hotKeys;
-    NotchController controller(services, {clock, displays, pointer, panels, hotKeys});
+    Fakes::FakeDrags drags;
+    NotchController controller(services, {clock, displays, pointer, panels, hotKeys, drags});
     controller.start();
     pass(4s);
     pointer.takeLongest();

@@ -44,7 +44,7 @@ struct HubParts
     Kestrune::NotchPlatform platform() { return platform(pasteboard); }
     Kestrune::NotchPlatform platform(Kestrune::Pasteboard &other)
     {
-        return {clock, defaults, sounds, workspace, other, sharing};
+        return {clock, defaults, sounds, workspace, other, drags, sharing};
     }
 
     Kestrune::Clock &clock;
@@ -52,6 +52,7 @@ struct HubParts
     Kestrune::Fakes::FakeSounds sounds;
     Kestrune::Fakes::FakeWorkspace workspace;
     Kestrune::Fakes::FakePasteboard pasteboard;
+    Kestrune::Fakes::FakeDrags drags;
     Kestrune::Fakes::FakeSharing sharing;
     Kestrune::NotchSettings settings{defaults};
 };

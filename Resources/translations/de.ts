@@ -323,5 +323,27 @@ Schalte ihn in den Einstellungen ein.</translation>
         <source>%d%%</source>
         <translation>%d %%</translation>
     </message>
+    <message>
+        <source>Drop files here to keep them handy.
+Drag them out anywhere, or AirDrop them.</source>
+        <translation>Dateien hierher ziehen, um sie griffbereit zu haben.
+Von hier lassen sie sich überallhin ziehen oder mit AirDrop senden.</translation>
+    </message>
+    <message>
+        <source>AirDrop</source>
+        <translation>AirDrop</translation>
+    </message>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Im Dateimanager zeigen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
 </context>
 </TS>

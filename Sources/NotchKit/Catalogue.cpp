@@ -14,7 +14,7 @@ constexpr std::array kTools{
     CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Clipboard"), "doc.on.clipboard", "ClipboardPane"},
     CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Screenshots"), "camera.viewfinder"},
     CatalogueEntry{"calendar", QT_TRANSLATE_NOOP("notch", "Calendar"), "calendar"},
-    CatalogueEntry{"shelf", QT_TRANSLATE_NOOP("notch", "Shelf"), "tray.and.arrow.down"},
+    CatalogueEntry{"shelf", QT_TRANSLATE_NOOP("notch", "Shelf"), "tray.and.arrow.down", "ShelfPane"},
     CatalogueEntry{"aiUsage", QT_TRANSLATE_NOOP("notch", "AI Usage"), "sparkles", "AIUsagePane"},
     CatalogueEntry{"weather", QT_TRANSLATE_NOOP("notch", "Weather"), "cloud.sun"},
     CatalogueEntry{"stocks", QT_TRANSLATE_NOOP("notch", "Stocks"), "chart.xyaxis.line"},

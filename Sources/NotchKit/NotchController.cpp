@@ -303,13 +303,22 @@ void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool fre
 
 void NotchController::pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress)
 {
-    const QString &key = notch.screen.name;
-    if (m_services.settings()->openMode() == NotchOpenMode::click) {
-        if (inside && freshPress)
-            set(notch, true);
+    if (inside && pressed && !freshPress && m_services.offeredTools().contains(NotchTool::shelf) &&
+        m_platform.drags.holdsFileUrls()) {
+        notch.model->setSelected(NotchTool::shelf);
+        set(notch, true);
         return;
     }
-    if (pressed || !inside) {
+    if (m_services.settings()->openMode() == NotchOpenMode::hover)
+        pollResting(notch, inside && !pressed);
+    else if (inside && freshPress)
+        set(notch, true);
+}
+
+void NotchController::pollResting(Notch &notch, bool resting)
+{
+    const QString &key = notch.screen.name;
+    if (!resting) {
         m_hoverStart.remove(key);
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/Displays.h"
+#include "NotchKit/Platform/DragPasteboard.h"
 #include "NotchKit/Platform/NotchPanels.h"
 #include "NotchKit/Platform/Pointer.h"
 #include "NotchScreenModel.h"
@@ -27,6 +28,7 @@ struct NotchControllerPlatform
     Pointer &pointer;
     NotchPanels &panels;
     HotKeys &hotKeys;
+    DragPasteboard &drags;
 };
 
 /// Keeps one panel and one screen model per wanted display, and opens and closes them: it polls the
@@ -92,6 +94,7 @@ private:
     void poll();
     void pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress);
     void pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress);
+    void pollResting(Notch &notch, bool resting);
 
     NotchServices &m_services;
     NotchControllerPlatform m_platform;

@@ -4,6 +4,7 @@
 #include "NotchKit/Platform/Workspace.h"
 #include "Tools/AIUsageModel.h"
 #include "Tools/ClipboardModel.h"
+#include "Tools/ShelfModel.h"
 #include "Tools/TimerModel.h"
 
 #include <algorithm>
@@ -33,6 +34,7 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
           std::make_unique<ClipboardModel>(settings, platform.defaults, platform.clock, platform.pasteboard)))
     , m_aiUsage(
           add(std::make_unique<AIUsageModel>(settings, platform.clock, AIUsageHomes::below(platform.home))))
+    , m_shelf(add(std::make_unique<ShelfModel>(settings, platform.workspace, *m_airDrop, platform.drags)))
     , m_now(platform.clock.now())
 {
     m_activityTool.setBinding([this] { return computeActivityTool(); });

@@ -16,8 +16,10 @@ namespace Kestrune {
 
 class AirDrop;
 class ClipboardModel;
+class DragPasteboard;
 class FileSharing;
 class Pasteboard;
+class ShelfModel;
 class AIUsageModel;
 class SoundPlayer;
 class TimerModel;
@@ -32,6 +34,7 @@ struct NotchPlatform
     SoundPlayer &sounds;
     Workspace &workspace;
     Pasteboard &pasteboard;
+    DragPasteboard &drags;
     FileSharing &sharing;
     QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
 };
@@ -45,9 +48,11 @@ class NotchServices : public QObject
     Q_MOC_INCLUDE("NotchKit/AirDrop.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ClipboardModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/AIUsageModel.h")
+    Q_MOC_INCLUDE("NotchKit/Tools/ShelfModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
     Q_PROPERTY(Kestrune::NotchSettings *settings READ settings CONSTANT)
     Q_PROPERTY(Kestrune::ClipboardModel *clipboard READ clipboard CONSTANT)
+    Q_PROPERTY(Kestrune::ShelfModel *shelf READ shelf CONSTANT)
     Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
     Q_PROPERTY(Kestrune::AIUsageModel *aiUsage READ aiUsage CONSTANT)
     /// Sends files to the user's other devices.
@@ -71,6 +76,7 @@ public:
     const NotchBranding &branding() const { return m_branding; }
     ClipboardModel *clipboard() const { return m_clipboard; }
     TimerModel *timer() const { return m_timer; }
+    ShelfModel *shelf() const { return m_shelf; }
     AIUsageModel *aiUsage() const { return m_aiUsage; }
     AirDrop *airDrop() const { return m_airDrop.get(); }
 
@@ -132,6 +138,7 @@ private:
     TimerModel *m_timer;
     ClipboardModel *m_clipboard;
     AIUsageModel *m_aiUsage;
+    ShelfModel *m_shelf;
     std::optional<NotchTool> m_visibleTool;
     std::unique_ptr<RunningTimer> m_clockTimer;
     std::unique_ptr<RunningTimer> m_fastTimer;

@@ -23,6 +23,7 @@ struct Stage
     Fakes::FakeSounds sounds;
     Fakes::FakeWorkspace workspace;
     Fakes::FakePasteboard pasteboard;
+    Fakes::FakeDrags drags;
     Fakes::FakeSharing sharing;
     Fakes::FakeDisplays displays;
     Fakes::FakePointer pointer;
@@ -44,8 +45,8 @@ struct Stage
             defaults, suiteDefaults, applications, loginItem,
             [this](const QString &message, const QString &details) { alerts << message << details; }};
         app = std::make_unique<AppState>(
-            platform, NotchPlatform{clock, defaults, sounds, workspace, pasteboard, sharing},
-            NotchControllerPlatform{clock, displays, pointer, panels, hotKeys},
+            platform, NotchPlatform{clock, defaults, sounds, workspace, pasteboard, drags, sharing},
+            NotchControllerPlatform{clock, displays, pointer, panels, hotKeys, drags},
             LaunchRequest::parse(arguments));
     }
 

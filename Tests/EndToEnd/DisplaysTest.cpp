@@ -77,7 +77,7 @@ private:
     /// As many notches as that are on screen, and no window of a former one.
     bool showsNotches(int count)
     {
-        return stage().session.displays().size() == count && stage().x.countWindows({880, 390}) == count;
+        return stage().session.displays().size() == count && stage().x.topWindows({880, 390}).size() == count;
     }
 
     static constexpr QPoint secondNotch = {1920, 16};

@@ -72,7 +72,7 @@ private Q_SLOTS:
         QTRY_VERIFY(stage().looksOpen() && stage().session.isOpen());
         QCOMPARE(stage().session.selected(), tool);
         QVERIFY(stage().session.isRunning());
-        QCOMPARE(stage().x.countWindows({880, 390}), 1);
+        QCOMPARE(stage().x.topWindows({880, 390}).size(), qsizetype(1));
     }
 
     void pausesWhileTheSuiteShowsItsNotch_data()
@@ -154,7 +154,7 @@ private Q_SLOTS:
     void quitEndsTheProgram()
     {
         QVERIFY(stage().run());
-        const int windows = stage().x.countWindows({880, 390});
+        const auto windows = stage().x.topWindows({880, 390}).size();
         QCOMPARE(windows, 1);
         QCOMPARE(stage().session.command({u"quit"_s}).status, 0);
         QTRY_VERIFY(!stage().session.isRunning());

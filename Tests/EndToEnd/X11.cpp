@@ -120,20 +120,22 @@ xcb_window_t X11::focus() const
     return reply ? reply->focus : xcb_window_t{XCB_WINDOW_NONE};
 }
 
-int X11::countWindows(QSize size) const
+QList<xcb_window_t> X11::topWindows(QSize size) const
 {
     const auto tree =
         owned(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, root()), nullptr));
     const auto *windows = xcb_query_tree_children(tree.get());
-    return static_cast<int>(std::count_if(
-        windows, windows + xcb_query_tree_children_length(tree.get()), [&](xcb_window_t window) {
-            const auto geometry =
-                owned(xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));
-            const auto attributes = owned(xcb_get_window_attributes_reply(
-                m_connection, xcb_get_window_attributes(m_connection, window), nullptr));
-            return geometry && attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE &&
-                   QSize(geometry->width, geometry->height) == size;
-        }));
+    QList<xcb_window_t> found;
+    std::copy_if(windows, windows + xcb_query_tree_children_length(tree.get()), std::back_inserter(found),
+                 [&](xcb_window_t window) {
+                     const auto geometry = owned(xcb_get_geometry_reply(
+                         m_connection, xcb_get_geometry(m_connection, window), nullptr));
+                     const auto attributes = owned(xcb_get_window_attributes_reply(
+                         m_connection, xcb_get_window_attributes(m_connection, window), nullptr));
+                     return geometry && attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE &&
+                            QSize(geometry->width, geometry->height) == size;
+                 });
+    return found;
 }
 
 QImage X11::grab(const QRect &area) const

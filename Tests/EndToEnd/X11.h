@@ -46,7 +46,7 @@ public:
     QList<quint32> clientWindows() const { return property(root(), "_NET_CLIENT_LIST"); }
 
     /// The windows right below the root that are on screen and are `size` large.
-    int countWindows(QSize size) const;
+    QList<xcb_window_t> topWindows(QSize size) const;
 
     /// What is on the screen there, all windows included.
     QImage grab(const QRect &area) const;

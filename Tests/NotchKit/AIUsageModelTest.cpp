@@ -28,10 +28,7 @@ struct Home
 {
     QTemporaryDir folder;
     Fakes::Core core;
-    NotchServices services{core.settings,
-                           NotchBranding::none(),
-                           {core.clock, core.defaults, core.sounds, core.workspace, core.pasteboard,
-                            core.sharing, folder.path()}};
+    NotchServices services{core.settings, NotchBranding::none(), core.platform(folder.path())};
     AIUsageModel &model = *services.aiUsage();
     AIUsagePresentation shown;
 

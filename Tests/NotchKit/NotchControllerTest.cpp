@@ -29,6 +29,8 @@ private Q_SLOTS:
     void hoverOpensAfterItsDelay();
     void pressingCancelsTheHover();
     void clickModeOpensOnTheFreshPress();
+    void filesOpenTheShelf_data();
+    void filesOpenTheShelf();
     void leavingClosesAfterAQuarterSecond();
     void whatHoldsTheNotchOpen_data();
     void whatHoldsTheNotchOpen();
@@ -167,6 +169,41 @@ void NotchControllerTest::clickModeOpensOnTheFreshPress()
     core.press(true);
     core.wait(33);
     QVERIFY(core.model().expanded());
+}
+
+void NotchControllerTest::filesOpenTheShelf_data()
+{
+    QTest::addColumn<QStringList>("tools");
+    QTest::addColumn<bool>("files");
+    QTest::addColumn<bool>("click");
+    QTest::addColumn<bool>("opens");
+    const QStringList with{QStringLiteral("note"), QStringLiteral("shelf")};
+    QTest::newRow("files") << with << true << false << true;
+    QTest::newRow("in click mode") << with << true << true << true;
+    QTest::newRow("something else") << with << false << false << false;
+    QTest::newRow("no shelf") << QStringList{QStringLiteral("note")} << true << false << false;
+}
+
+void NotchControllerTest::filesOpenTheShelf()
+{
+    QFETCH(const QStringList, tools);
+    QFETCH(const bool, files);
+    QFETCH(const bool, click);
+    QFETCH(const bool, opens);
+    Fakes::Core core({{QStringLiteral("notch.tools"), tools}});
+    core.settings.setTools(fromRawValues<NotchTool>(tools));
+    core.settings.setOpenMode(click ? NotchOpenMode::click : NotchOpenMode::hover);
+    core.displays.displays = {externalDisplay()};
+    core.controller.start();
+    if (files)
+        core.drags.files = {QUrl(QStringLiteral("file:///a"))};
+    core.moveTo(kOutside);
+    core.press(true);
+    core.wait(33);
+    core.moveTo(kNotch);
+    core.wait(33);
+    QCOMPARE(core.model().expanded(), opens);
+    QCOMPARE(core.model().selected(), opens ? NotchTool::shelf : NotchTool::note);
 }
 
 void NotchControllerTest::leavingClosesAfterAQuarterSecond()

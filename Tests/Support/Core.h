@@ -19,15 +19,20 @@ struct Core
     FakeSounds sounds;
     FakeWorkspace workspace;
     FakePasteboard pasteboard;
+    FakeDrags drags;
     FakeSharing sharing;
     FakeDisplays displays;
     FakePointer pointer;
     FakePanels panels;
     FakeHotKeys hotKeys;
     NotchSettings settings{defaults};
-    NotchServices services{
-        settings, NotchBranding::fennivar(), {clock, defaults, sounds, workspace, pasteboard, sharing}};
-    NotchController controller{services, {clock, displays, pointer, panels, hotKeys}};
+    NotchServices services{settings, NotchBranding::fennivar(), platform()};
+    NotchController controller{services, {clock, displays, pointer, panels, hotKeys, drags}};
+
+    NotchPlatform platform(const QString &home = QDir::homePath())
+    {
+        return {clock, defaults, sounds, workspace, pasteboard, drags, sharing, home};
+    }
 
     NotchScreenModel &model(std::size_t index = 0) { return *controller.notches().at(index).model; }
     const FakePanels::Panel &panel(std::size_t index = 0) { return *panels.alive.at(index); }

@@ -2,6 +2,7 @@
 
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/Displays.h"
+#include "NotchKit/Platform/DragPasteboard.h"
 #include "NotchKit/Platform/FileSharing.h"
 #include "NotchKit/Platform/HotKeys.h"
 #include "NotchKit/Platform/LoginItem.h"
@@ -273,6 +274,22 @@ public:
     std::vector<HotKeyIdentity> registered;
     std::pair<quint32, quint32> codes;
     bool taken = false;
+};
+
+class FakeDrags : public DragPasteboard
+{
+public:
+    bool holdsFileUrls() const override { return !files.isEmpty(); }
+    QFuture<QList<QUrl>> fileUrls() override
+    {
+        QPromise<QList<QUrl>> promise;
+        promise.start();
+        promise.addResult(files);
+        promise.finish();
+        return promise.future();
+    }
+
+    QList<QUrl> files;
 };
 
 class FakeSounds : public SoundPlayer

@@ -6,6 +6,7 @@
 #include "NotchKit/NotchSettings.h"
 #include "NotchKit/Tools/AIUsageModel.h"
 #include "NotchKit/Tools/ClipboardModel.h"
+#include "NotchKit/Tools/ShelfModel.h"
 #include "NotchKit/Tools/TimerModel.h"
 
 #include <QtQml/qqml.h>
@@ -28,6 +29,7 @@ KESTRUNE_VIEW_TYPE(AIUsageModel);
 KESTRUNE_VIEW_TYPE(NotchScreenModel);
 KESTRUNE_VIEW_TYPE(NotchServices);
 KESTRUNE_VIEW_TYPE(NotchSettings);
+KESTRUNE_VIEW_TYPE(ShelfModel);
 KESTRUNE_VIEW_TYPE(TimerModel);
 
 #undef KESTRUNE_VIEW_TYPE

@@ -19,10 +19,12 @@ Rectangle {
         return Math.max(margin - left, 0) - Math.max(left + width - (scene.width - margin), 0)
     }
 
-    x: Math.round(anchor.width / 2 - width / 2 + shift())
-    y: below ? anchor.height + 6 : -height - 6
+    readonly property point origin: anchor.mapToItem(parent, 0, 0)
+
+    x: Math.round(origin.x + anchor.width / 2 - width / 2 + shift())
+    y: Math.round(origin.y + (below ? anchor.height + 6 : -height - 6))
     z: 100
-    width: label.implicitWidth + 16
+    width: Math.min(label.implicitWidth, Theme.contentWidth - 16) + 16
     height: label.implicitHeight + 8
     radius: 6
     color: "#3a3a3c"
@@ -32,6 +34,9 @@ Rectangle {
         id: label
 
         anchors.centerIn: parent
+        width: tip.width - 16
+        elide: Text.ElideMiddle
+        textFormat: Text.PlainText
         text: tip.text
         color: Theme.text
         font.pixelSize: 11

@@ -68,6 +68,16 @@ FocusScope {
         presentation: view.presentation
     }
 
+    FileDropArea {
+        anchors.fill: parent
+        enabled: view.presentation.offersShelf
+        onTargetedChanged: view.screenModel.dropTargeted = targeted
+        onFilesDropped: {
+            view.services.shelf.loadURLs()
+            view.presentation.selectTool("shelf")
+        }
+    }
+
     Item {
         id: window
 

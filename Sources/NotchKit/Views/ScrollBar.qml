@@ -7,10 +7,12 @@ T.ScrollBar {
     id: bar
 
     implicitWidth: 6
+    implicitHeight: 6
     minimumSize: 0.12
     visible: size < 1
     contentItem: Rectangle {
         implicitWidth: 6
+        implicitHeight: 6
         radius: 3
         color: bar.pressed ? Theme.dim : bar.hovered ? Qt.rgba(1, 1, 1, 0.35) : Theme.highlighted
     }

@@ -1,0 +1,147 @@
+#include "ShelfModel.h"
+
+#include "NotchKit/AirDrop.h"
+#include "NotchKit/FileSymbols.h"
+#include "NotchKit/Platform/DragPasteboard.h"
+#include "NotchKit/Platform/Workspace.h"
+
+#include <QFileInfo>
+#include <QtConcurrent>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr qint64 kPruneInterval = 30; // Seconds.
+
+} // namespace
+
+ShelfModel::ShelfModel(NotchSettings &settings, Workspace &workspace, AirDrop &sharing, DragPasteboard &drags,
+                       QObject *parent)
+    : ToolModel(NotchTool::shelf, parent)
+    , m_settings(settings)
+    , m_workspace(workspace)
+    , m_sharing(sharing)
+    , m_drags(drags)
+{
+    Items stored;
+    for (const QString &path : settings.shelfPaths())
+        stored.append(QUrl::fromLocalFile(path));
+    m_items = stored;
+    m_tiles.setBinding([this] { return computeTiles(); });
+    connect(&m_look, &QFutureWatcher<Findings>::finished, this, &ShelfModel::looked);
+    prune();
+}
+
+ShelfModel::~ShelfModel() = default;
+
+void ShelfModel::add(const QList<QUrl> &urls)
+{
+    Items all = items();
+    QSet<QUrl> known(all.cbegin(), all.cend());
+    for (const QUrl &url : urls) {
+        if (!url.isLocalFile() || known.contains(url))
+            continue;
+        known.insert(url);
+        all.append(url);
+    }
+    persist(all);
+    look();
+}
+
+void ShelfModel::loadURLs()
+{
+    auto *drop = new QFutureWatcher<Items>(this);
+    connect(drop, &QFutureWatcher<Items>::finished, this, [this, drop] {
+        add(drop->result());
+        drop->deleteLater();
+    });
+    drop->setFuture(m_drags.fileUrls());
+}
+
+void ShelfModel::remove(const QUrl &url)
+{
+    Items left = items();
+    left.removeAll(url);
+    persist(left);
+}
+
+void ShelfModel::clear() { persist({}); }
+
+void ShelfModel::persist(const Items &items)
+{
+    m_items = items;
+    QStringList paths;
+    for (const QUrl &url : items)
+        paths.append(url.toLocalFile());
+    m_settings.setShelfPaths(paths);
+}
+
+void ShelfModel::prune()
+{
+    m_pruning = true;
+    look();
+}
+
+void ShelfModel::look()
+{
+    m_lookAgain = m_look.isRunning();
+    if (!m_lookAgain && !items().isEmpty())
+        m_look.setFuture(QtConcurrent::run(inspect, items()));
+}
+
+ShelfModel::Findings ShelfModel::inspect(const Items &items)
+{
+    Findings found;
+    for (const QUrl &url : items) {
+        const QFileInfo file(url.toLocalFile());
+        if (!file.exists())
+            found.missing.insert(url);
+        else if (file.isDir())
+            found.folders.insert(url);
+    }
+    return found;
+}
+
+void ShelfModel::looked()
+{
+    const Findings found = m_look.result();
+    m_folders = found.folders;
+    if (std::exchange(m_pruning, false) && !found.missing.isEmpty()) {
+        Items left = items();
+        left.removeIf([&](const QUrl &url) { return found.missing.contains(url); });
+        persist(left);
+    }
+    if (m_lookAgain)
+        look();
+}
+
+QList<ShelfTile> ShelfModel::computeTiles() const
+{
+    QList<ShelfTile> tiles;
+    const QSet<QUrl> folders = m_folders;
+    for (const QUrl &url : m_items.value()) {
+        const QString path = url.toLocalFile();
+        const QString name = url.adjusted(QUrl::StripTrailingSlash).fileName();
+        tiles.append({url, name, path, folders.contains(url) ? QStringLiteral("folder") : fileSymbol(name)});
+    }
+    return tiles;
+}
+
+int ShelfModel::airDrop() { return items().isEmpty() ? 0 : m_sharing.send(items()); }
+
+void ShelfModel::reveal() { m_workspace.reveal(items()); }
+
+void ShelfModel::visibleToolChanged(std::optional<NotchTool> visible)
+{
+    if (visible == NotchTool::shelf)
+        prune();
+}
+
+void ShelfModel::tick(const ClockTick &tick)
+{
+    if (tick.anyExpanded && tick.seconds % kPruneInterval == 0)
+        prune();
+}
+
+} // namespace Kestrune
