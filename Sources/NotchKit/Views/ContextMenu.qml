@@ -43,6 +43,10 @@ T.Popup {
             id: rows
 
             model: menu.entries
+            onItemAdded: (index, item) => {
+                if (index === 0 && menu.opened)
+                    item.forceActiveFocus()
+            }
 
             ButtonBase {
                 id: button
