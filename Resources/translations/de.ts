@@ -345,5 +345,41 @@ Von hier lassen sie sich überallhin ziehen oder mit AirDrop senden.</translatio
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
+    <message>
+        <source>Paste your script here. It scrolls right under the camera so you keep eye contact.</source>
+        <translation>Füge hier deinen Text ein. Er läuft direkt unter der Kamera durch, damit du den Blickkontakt hältst.</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Sprechtext</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Abspielen</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Zum Anfang</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Text %d</source>
+        <translation>Schrift %d</translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation>Kleinere Schrift</translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation>Größere Schrift</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
 </context>
 </TS>

@@ -5,6 +5,7 @@
 #include "Tools/AIUsageModel.h"
 #include "Tools/ClipboardModel.h"
 #include "Tools/ShelfModel.h"
+#include "Tools/TeleprompterModel.h"
 #include "Tools/TimerModel.h"
 
 #include <algorithm>
@@ -35,6 +36,7 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
     , m_aiUsage(
           add(std::make_unique<AIUsageModel>(settings, platform.clock, AIUsageHomes::below(platform.home))))
     , m_shelf(add(std::make_unique<ShelfModel>(settings, platform.workspace, *m_airDrop, platform.drags)))
+    , m_prompter(add(std::make_unique<TeleprompterModel>(settings)))
     , m_now(platform.clock.now())
 {
     m_activityTool.setBinding([this] { return computeActivityTool(); });

@@ -22,6 +22,7 @@ class Pasteboard;
 class ShelfModel;
 class AIUsageModel;
 class SoundPlayer;
+class TeleprompterModel;
 class TimerModel;
 class UserDefaults;
 class Workspace;
@@ -49,12 +50,14 @@ class NotchServices : public QObject
     Q_MOC_INCLUDE("NotchKit/Tools/ClipboardModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/AIUsageModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ShelfModel.h")
+    Q_MOC_INCLUDE("NotchKit/Tools/TeleprompterModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
     Q_PROPERTY(Kestrune::NotchSettings *settings READ settings CONSTANT)
     Q_PROPERTY(Kestrune::ClipboardModel *clipboard READ clipboard CONSTANT)
     Q_PROPERTY(Kestrune::ShelfModel *shelf READ shelf CONSTANT)
     Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
     Q_PROPERTY(Kestrune::AIUsageModel *aiUsage READ aiUsage CONSTANT)
+    Q_PROPERTY(Kestrune::TeleprompterModel *prompter READ prompter CONSTANT)
     /// Sends files to the user's other devices.
     Q_PROPERTY(Kestrune::AirDrop *airDrop READ airDrop CONSTANT)
     /// The current time, updated every second while the hub runs. Not bindable for the views: a view's
@@ -78,6 +81,7 @@ public:
     TimerModel *timer() const { return m_timer; }
     ShelfModel *shelf() const { return m_shelf; }
     AIUsageModel *aiUsage() const { return m_aiUsage; }
+    TeleprompterModel *prompter() const { return m_prompter; }
     AirDrop *airDrop() const { return m_airDrop.get(); }
 
     QDateTime now() const { return m_now; }
@@ -139,6 +143,7 @@ private:
     ClipboardModel *m_clipboard;
     AIUsageModel *m_aiUsage;
     ShelfModel *m_shelf;
+    TeleprompterModel *m_prompter;
     std::optional<NotchTool> m_visibleTool;
     std::unique_ptr<RunningTimer> m_clockTimer;
     std::unique_ptr<RunningTimer> m_fastTimer;

@@ -7,6 +7,7 @@
 #include "NotchKit/Tools/AIUsageModel.h"
 #include "NotchKit/Tools/ClipboardModel.h"
 #include "NotchKit/Tools/ShelfModel.h"
+#include "NotchKit/Tools/TeleprompterModel.h"
 #include "NotchKit/Tools/TimerModel.h"
 
 #include <QtQml/qqml.h>
@@ -30,6 +31,7 @@ KESTRUNE_VIEW_TYPE(NotchScreenModel);
 KESTRUNE_VIEW_TYPE(NotchServices);
 KESTRUNE_VIEW_TYPE(NotchSettings);
 KESTRUNE_VIEW_TYPE(ShelfModel);
+KESTRUNE_VIEW_TYPE(TeleprompterModel);
 KESTRUNE_VIEW_TYPE(TimerModel);
 
 #undef KESTRUNE_VIEW_TYPE

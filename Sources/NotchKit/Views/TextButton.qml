@@ -7,6 +7,7 @@ ButtonBase {
 
     property string symbol: ""
     property bool prominent: false
+    property real symbolWidth: 0 // its own where none is given
 
     help: text
     implicitHeight: 28
@@ -33,6 +34,7 @@ ButtonBase {
                 visible: control.symbol !== ""
                 name: control.symbol
                 size: 14
+                width: control.symbolWidth > 0 ? control.symbolWidth : implicitWidth
                 anchors.verticalCenter: parent.verticalCenter
                 color: control.prominent ? "black" : Theme.text
             }

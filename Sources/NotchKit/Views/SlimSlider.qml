@@ -1,0 +1,57 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrune.Views
+
+/// A thin horizontal slider. With the keyboard, the arrows move it by `stepSize`.
+T.Slider {
+    id: control
+
+    /// Shown as a tooltip and read out as the name.
+    required property string help
+
+    implicitWidth: 160
+    implicitHeight: 28
+    leftPadding: 2
+    rightPadding: 2
+    focusPolicy: Qt.TabFocus
+    hoverEnabled: true
+    opacity: enabled ? 1 : 0.4
+    Accessible.role: Accessible.Slider
+    Accessible.name: help
+
+    background: Item {
+        Rectangle {
+            x: control.leftPadding
+            width: control.availableWidth
+            height: 4
+            anchors.verticalCenter: parent.verticalCenter
+            radius: 2
+            color: control.hovered ? Theme.highlighted : Theme.hovered
+
+            Rectangle {
+                width: control.handle.x + control.handle.width / 2 - control.leftPadding
+                height: parent.height
+                radius: parent.radius
+                color: Theme.accent
+            }
+        }
+    }
+    handle: Rectangle {
+        x: control.leftPadding + control.visualPosition * (control.availableWidth - width)
+        anchors.verticalCenter: parent.verticalCenter
+        width: 14
+        height: 14
+        radius: 7
+        color: control.pressed ? "#d0d0d4" : control.hovered ? "white" : "#ececf0"
+        border.width: control.visualFocus ? 2 : 0
+        border.color: Theme.accent
+    }
+
+    Loader {
+        active: control.hovered && !control.pressed
+        sourceComponent: HelpTip {
+            text: control.help
+            anchor: control
+        }
+    }
+}

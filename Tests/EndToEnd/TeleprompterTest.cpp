@@ -1,0 +1,60 @@
+#include "EndToEnd/Stage.h"
+#include "Support/TestRegistry.h"
+
+using namespace Qt::StringLiterals;
+
+/// The script from the keyboard to the scrolling lines.
+class TeleprompterTest : public StageTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aTypedScriptSurvivesAndScrolls()
+    {
+        setStage({});
+        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"teleprompter"_s));
+        QVERIFY(stage().openByHotKey());
+        stage().input.type("good evening all");
+        QTRY_COMPARE(stage().session.setting(u"prompterText"_s), u"good evening all"_s);
+        stage().session.program().killNow();
+        QVERIFY(stage().run({{"prompterSpeed", "60"}}) && stage().choose(u"teleprompter"_s));
+        QCOMPARE(stage().session.setting(u"prompterText"_s), u"good evening all"_s);
+
+        QVERIFY(stage().openByHotKey());
+        QTRY_VERIFY(height() > 0);
+        const int start = height();
+        QVERIFY2(holdsFor([&] { return height() == start; }, 300), "it moves before it is played");
+        stage().input.click(play);
+        QTRY_VERIFY(height() < start - 15);
+        stage().input.move(Place::away);
+        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().openByHotKey());
+        QTRY_VERIFY(height() > 0);
+        const int paused = height();
+        QVERIFY2(paused < start - 15, "it lost its place");
+        QVERIFY2(holdsFor([&] { return height() == paused; }, 500), "closing did not pause it");
+        stage().input.click(restart);
+        QTRY_COMPARE(height(), start);
+    }
+
+private:
+    /// The topmost row of the pane that shows a bright pixel of the script, or 0.
+    int height()
+    {
+        const QImage picture = stage().x.grab(area);
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (qGray(picture.pixel(x, y)) > 100)
+                    return area.y() + y;
+            }
+        }
+        return 0;
+    }
+
+    static constexpr QRect area{300, 44, 680, 190};
+    static constexpr QPoint play{338, 264};
+    static constexpr QPoint restart{438, 264};
+};
+
+REGISTER_TEST(TeleprompterTest);
+#include "TeleprompterTest.moc"

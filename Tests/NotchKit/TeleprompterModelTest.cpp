@@ -1,0 +1,84 @@
+#include "NotchKit/Tools/TeleprompterModel.h"
+#include "Support/Core.h"
+#include "Support/TestRegistry.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Kestrune;
+
+/// The playback, driven by the hub's fast clock.
+class TeleprompterModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void scrollsAtTheSpeed_data()
+    {
+        QTest::addColumn<double>("speed");
+        QTest::addColumn<double>("maximum");
+        QTest::addColumn<double>("offset"); ///< After ten seconds.
+        const double endless = std::numeric_limits<double>::infinity();
+        QTest::newRow("default") << 28.0 << endless << 280.0;
+        QTest::newRow("fast") << 140.0 << endless << 1400.0;
+        QTest::newRow("to the end") << 100.0 << 333.0 << 333.0;
+        QTest::newRow("nothing to scroll") << 28.0 << 0.0 << 0.0;
+    }
+
+    void scrollsAtTheSpeed()
+    {
+        QFETCH(const double, speed);
+        QFETCH(const double, maximum);
+        QFETCH(const double, offset);
+        Fakes::Core core;
+        core.settings.setPrompterSpeed(speed);
+        core.services.start();
+        TeleprompterModel &prompter = *core.services.prompter();
+        prompter.setMaximumOffset(maximum);
+        core.services.show(NotchTool::teleprompter);
+        core.wait(1000);
+        QCOMPARE(prompter.offset(), 0.0);
+        prompter.setPlaying(true);
+        core.wait(10'000);
+        QVERIFY(std::abs(prompter.offset() - offset) < 1e-6);
+        QCOMPARE(prompter.playing(), std::isinf(maximum));
+    }
+
+    void changesOfModeKeepToTheRules()
+    {
+        Fakes::Core core;
+        core.services.start();
+        TeleprompterModel &prompter = *core.services.prompter();
+        QSignalSpy moved(&prompter, &TeleprompterModel::offsetChanged);
+        prompter.restart();
+        QCOMPARE(moved.size(), 0);
+        prompter.setEditing(true);
+        prompter.setPlaying(true);
+        QVERIFY(!prompter.editing());
+        core.wait(1000);
+        prompter.restart();
+        QVERIFY(prompter.playing() && prompter.offset() == 0);
+        core.wait(1000);
+        prompter.setEditing(true);
+        QVERIFY(!prompter.playing() && prompter.offset() > 27);
+
+        prompter.setMaximumOffset(20);
+        QCOMPARE(prompter.offset(), 20.0);
+        prompter.setPlaying(true);
+        QVERIFY2(prompter.offset() == 0, "at its end it starts from the top");
+        prompter.scrollTo(-5);
+        QCOMPARE(prompter.offset(), 0.0);
+
+        for (const auto left : {std::optional(NotchTool::note), std::optional<NotchTool>()}) {
+            core.services.show(NotchTool::teleprompter);
+            prompter.setPlaying(true);
+            core.services.show(left);
+            QVERIFY(!prompter.playing());
+            core.services.show(NotchTool::teleprompter);
+            QVERIFY2(!prompter.playing(), "coming back does not resume");
+        }
+    }
+};
+
+REGISTER_TEST(TeleprompterModelTest);
+#include "TeleprompterModelTest.moc"

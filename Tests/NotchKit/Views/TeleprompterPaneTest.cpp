@@ -1,0 +1,123 @@
+#include "NotchKit/Tools/TeleprompterModel.h"
+#include "NotchKit/Views/PrompterScript.h"
+#include "Support/TestRegistry.h"
+#include "WindowStage.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Kestrune;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The teleprompter's pane with the keyboard.
+struct Stage : WindowStage
+{
+    TeleprompterModel &prompter = *core.services.prompter();
+    NotchSettings &settings = core.settings;
+
+    explicit Stage(const QString &script)
+        : WindowStage({{u"notch.prompterText"_s, script}})
+    {
+        core.controller.open(NotchTool::teleprompter);
+        if (!QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }))
+            qFatal("the notch did not open");
+        window->requestActivate();
+        QTest::qWait(50);
+    }
+
+    PrompterScript *script() const
+    {
+        for (QQuickItem *item : items(window->contentItem())) {
+            if (auto *found = qobject_cast<PrompterScript *>(item))
+                return found;
+        }
+        return nullptr;
+    }
+    QQuickItem *button(const QString &text) const
+    {
+        for (QQuickItem *item : buttons(window->contentItem())) {
+            if (item->property("text") == text || item->property("help") == text)
+                return item;
+        }
+        return nullptr;
+    }
+    void click(const QQuickItem *item, double x = 0.5) const
+    {
+        QTest::mouseClick(window.get(), Qt::LeftButton, {},
+                          item->mapToScene({item->width() * x, item->height() / 2}).toPoint());
+    }
+};
+
+} // namespace
+
+class TeleprompterPaneTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { registerViews(); }
+
+    void anEmptyPaneTakesTheScript()
+    {
+        Stage stage{QString()};
+        QVERIFY(!stage.button(u"Play"_s) && !stage.button(u"Restart"_s) && !stage.script()->isVisible());
+        for (const char letter : "Hi all"_qba)
+            QTest::keyClick(stage.window.get(), letter);
+        QCOMPARE(stage.settings.prompterText(), u"Hi all"_s);
+        QVERIFY(stage.prompter.editing() && !stage.script()->isVisible());
+        stage.click(stage.button(u"Done"_s));
+        QVERIFY(stage.script()->isVisible() && !stage.find(u"PlainEditor"_s));
+        QTRY_VERIFY(!std::isinf(stage.prompter.maximumOffset()));
+        stage.click(stage.button(u"Edit"_s));
+        QVERIFY(stage.find(u"PlainEditor"_s));
+    }
+
+    void controlsDrawAndScrollTheScript()
+    {
+        Stage stage(u"word "_s.repeated(3000));
+        QTRY_VERIFY(stage.prompter.maximumOffset() > 1000 && !std::isinf(stage.prompter.maximumOffset()));
+        const QRect top(stage.script()->mapToScene({}).toPoint(), QSize(700, 40));
+        const auto brightest = [&] {
+            const QImage picture = stage.window->grabWindow().copy(top);
+            int bright = 0;
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x)
+                    bright = std::max(bright, qGray(picture.pixel(x, y)));
+            }
+            return bright;
+        };
+        QVERIFY2(brightest() < 10, "the first line stands a third of the way down");
+        stage.click(stage.button(u"Play"_s));
+        QSignalSpy frames(stage.window.get(), &QQuickWindow::frameSwapped);
+        stage.core.wait(2000);
+        QCOMPARE(qRound(stage.prompter.offset()), 56);
+        QTRY_VERIFY(stage.script()->shownOffset() > 50);
+        QTRY_VERIFY(frames.size() > 3);
+        QVERIFY2(brightest() > 100, "lines have come up");
+        QTest::keyClick(stage.window.get(), Qt::Key_Space);
+        QVERIFY(!stage.prompter.playing());
+        QTRY_COMPARE(stage.script()->shownOffset(), stage.prompter.offset());
+        QTest::qWait(700); // The button's tip has come.
+        frames.clear();
+        QTest::qWait(300);
+        QVERIFY2(frames.size() < 2, "it draws although nothing moves");
+
+        stage.prompter.scrollTo(500);
+        stage.click(stage.button(u"Larger text"_s));
+        QCOMPARE(stage.settings.prompterFontSize(), 24.0);
+        QTRY_VERIFY2(stage.prompter.offset() > 520, "the line that was being read has moved");
+        stage.click(stage.button(u"Restart"_s));
+        QCOMPARE(stage.script()->shownOffset(), 0.0);
+        auto *slider = stage.find(u"SlimSlider"_s);
+        stage.click(slider, 0.98);
+        QVERIFY(stage.settings.prompterSpeed() > 130);
+        slider->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(stage.window.get(), Qt::Key_Left);
+        QVERIFY(stage.settings.prompterSpeed() < 140);
+    }
+};
+
+REGISTER_TEST(TeleprompterPaneTest);
+#include "TeleprompterPaneTest.moc"
