@@ -12,11 +12,14 @@ Application::Application(const QDBusConnection &bus)
     , m_defaults(SqliteUserDefaults::path(standardDomain()))
     , m_suiteDefaults(SqliteUserDefaults::path(NotchBranding::suiteIdentifier()),
                       SqliteUserDefaults::Access::ReadOnly)
+    , m_capturePreferences(SqliteUserDefaults::path(FolderCaptureQuery::domain()),
+                           SqliteUserDefaults::Access::ReadOnly)
     , m_workspace(bus)
     , m_sharing(bus)
     , m_loginItem(QCoreApplication::applicationFilePath())
     , m_applications(bus, {NotchBranding::suiteIdentifier()})
     , m_displays(m_defaults)
+    , m_captures(m_capturePreferences)
     , m_panels(m_engine, m_desktop)
     , m_alert(m_engine)
 {
@@ -33,7 +36,8 @@ void Application::run(const LaunchRequest &request)
     const AppPlatform app{
         m_defaults, m_suiteDefaults, m_applications, m_loginItem,
         [this](const QString &message, const QString &details) { m_alert.show(message, details); }};
-    const NotchPlatform tools{m_clock, m_defaults, m_sounds, m_workspace, m_pasteboard, m_drags, m_sharing};
+    const NotchPlatform tools{m_clock, m_defaults, m_sounds,   m_workspace, m_pasteboard,
+                              m_drags, m_sharing,  m_captures, m_thumbnails};
     const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys, m_drags};
     m_state = std::make_unique<AppState>(app, tools, controller, request);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());

@@ -2,6 +2,8 @@
 
 #include "AppState.h"
 #include "ControlService.h"
+#include "Desktop/Captures/FolderCaptureQuery.h"
+#include "Desktop/Captures/SharedThumbnails.h"
 #include "Desktop/Defaults/SqliteUserDefaults.h"
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "Desktop/Session/BusApplications.h"
@@ -40,6 +42,7 @@ private:
     QDBusConnection m_bus;
     SqliteUserDefaults m_defaults;
     SqliteUserDefaults m_suiteDefaults;
+    SqliteUserDefaults m_capturePreferences;
     SystemClock m_clock;
     CanberraSounds m_sounds;
     DesktopWorkspace m_workspace;
@@ -52,6 +55,8 @@ private:
     X11HotKeys m_hotKeys;
     X11DragPasteboard m_drags;
     X11Pasteboard m_pasteboard;
+    FolderCaptureQuery m_captures;
+    SharedThumbnails m_thumbnails;
     QQmlEngine m_engine;
     PanelFactory m_panels;
     AlertWindow m_alert;

@@ -44,7 +44,7 @@ struct HubParts
     Kestrune::NotchPlatform platform() { return platform(pasteboard); }
     Kestrune::NotchPlatform platform(Kestrune::Pasteboard &other)
     {
-        return {clock, defaults, sounds, workspace, other, drags, sharing};
+        return {clock, defaults, sounds, workspace, other, drags, sharing, captures, thumbnails};
     }
 
     Kestrune::Clock &clock;
@@ -54,6 +54,8 @@ struct HubParts
     Kestrune::Fakes::FakePasteboard pasteboard;
     Kestrune::Fakes::FakeDrags drags;
     Kestrune::Fakes::FakeSharing sharing;
+    Kestrune::Fakes::FakeCaptureQuery captures;
+    Kestrune::Fakes::FakeThumbnails thumbnails;
     Kestrune::NotchSettings settings{defaults};
 };
 

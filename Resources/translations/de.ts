@@ -330,12 +330,32 @@ Drag them out anywhere, or AirDrop them.</source>
 Von hier lassen sie sich überallhin ziehen oder mit AirDrop senden.</translation>
     </message>
     <message>
-        <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <source>Allow %@ to read your screenshots folder in
+System Settings › Privacy &amp; Security › Files and Folders.</source>
+        <translation>%@ braucht Zugriff auf den Ordner mit den Bildschirmfotos:
+Systemeinstellungen › Datenschutz &amp; Sicherheit › Dateien und Ordner.</translation>
+    </message>
+    <message>
+        <source>Take a screenshot (⇧⌘4) and it appears here.
+Drag it into any app, or right-click for more.</source>
+        <translation>Nimm ein Bildschirmfoto auf (⇧⌘4), und es erscheint hier.
+Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
+        <translation>Klick öffnet · in ein Programm ziehen · Rechtsklick: kopieren, AirDrop oder Ablage</translation>
     </message>
     <message>
         <source>Show in Finder</source>
-        <translation>Im Dateimanager zeigen</translation>
+        <translation>In der Dateiverwaltung zeigen</translation>
+    </message>
+    <message>
+        <source>AirDrop</source>
+        <translation>AirDrop</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -380,6 +400,14 @@ Von hier lassen sie sich überallhin ziehen oder mit AirDrop senden.</translatio
     <message>
         <source>Edit</source>
         <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Add to Shelf</source>
+        <translation>In die Ablage legen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
     </message>
 </context>
 </TS>

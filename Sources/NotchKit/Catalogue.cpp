@@ -12,7 +12,8 @@ constexpr std::array kTools{
     CatalogueEntry{"home", QT_TRANSLATE_NOOP("notch", "Home"), "square.grid.2x2.fill", "HomePane"},
     CatalogueEntry{"nowPlaying", QT_TRANSLATE_NOOP("notch", "Now Playing"), "music.note"},
     CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Clipboard"), "doc.on.clipboard", "ClipboardPane"},
-    CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Screenshots"), "camera.viewfinder"},
+    CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Screenshots"), "camera.viewfinder",
+                   "CapturesPane"},
     CatalogueEntry{"calendar", QT_TRANSLATE_NOOP("notch", "Calendar"), "calendar"},
     CatalogueEntry{"shelf", QT_TRANSLATE_NOOP("notch", "Shelf"), "tray.and.arrow.down", "ShelfPane"},
     CatalogueEntry{"aiUsage", QT_TRANSLATE_NOOP("notch", "AI Usage"), "sparkles", "AIUsagePane"},
@@ -37,7 +38,7 @@ constexpr std::array kWidgets{
     CatalogueEntry{"stocks", QT_TRANSLATE_NOOP("notch", "Stocks")},
     CatalogueEntry{"system", QT_TRANSLATE_NOOP("notch", "System")},
     CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Latest copies"), nullptr, "ClipboardBlock"},
-    CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Latest screenshots")},
+    CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Latest screenshots"), nullptr, "CapturesBlock"},
     CatalogueEntry{"note", QT_TRANSLATE_NOOP("notch", "Note"), nullptr, "NoteBlock"},
 };
 

@@ -3,6 +3,7 @@
 #include "AirDrop.h"
 #include "NotchKit/Platform/Workspace.h"
 #include "Tools/AIUsageModel.h"
+#include "Tools/CapturesModel.h"
 #include "Tools/ClipboardModel.h"
 #include "Tools/ShelfModel.h"
 #include "Tools/TeleprompterModel.h"
@@ -30,6 +31,9 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
     , m_clock(platform.clock)
     , m_workspace(platform.workspace)
     , m_airDrop(std::make_unique<AirDrop>(platform.sharing))
+    , m_captures(
+          add(std::make_unique<CapturesModel>(settings, platform.clock, platform.captures,
+                                              platform.thumbnails, platform.pasteboard, platform.workspace)))
     , m_timer(add(std::make_unique<TimerModel>(platform.clock, platform.sounds)))
     , m_clipboard(add(
           std::make_unique<ClipboardModel>(settings, platform.defaults, platform.clock, platform.pasteboard)))
@@ -82,36 +86,28 @@ NotchTools NotchServices::offeredTools() const
     return offered;
 }
 
-bool NotchServices::opensWings(const ToolModel &model) const
-{
-    if (!m_settings.isEnabled(model.tool()))
-        return false;
-    switch (model.activity()) {
-    case ToolModel::Activity::announcement:
-        return m_settings.announceScreenshots();
-    case ToolModel::Activity::live:
-        return m_settings.liveActivities();
-    case ToolModel::Activity::held:
-    case ToolModel::Activity::none:
-        break;
-    }
-    return false;
-}
-
-bool NotchServices::joinsWings(const ToolModel &model) const
-{
-    const bool held = model.activity() == ToolModel::Activity::held;
-    return opensWings(model) || (held && m_settings.liveActivities() && m_settings.isEnabled(model.tool()));
-}
-
+/// Reads the same properties in the same order each time: a binding that reads less, or in another order,
+/// than it did before is not safe in Qt 6.4 when it is one of those properties that has changed.
 std::optional<NotchTool> NotchServices::computeActivityTool() const
 {
-    const auto opens = [this](const auto &model) { return opensWings(*model); };
-    if (std::ranges::none_of(m_models, opens))
-        return std::nullopt;
-    const auto shown =
-        std::ranges::find_if(m_models, [this](const auto &model) { return joinsWings(*model); });
-    return (*shown)->tool();
+    using Activity = ToolModel::Activity;
+    const NotchTools enabled = m_settings.tools();
+    const bool announces = m_settings.announceScreenshots();
+    const bool showsLive = m_settings.liveActivities();
+    std::optional<NotchTool> shown;
+    bool opened = false;
+    for (const auto &model : m_models) {
+        const Activity activity = model->activity();
+        if (!enabled.contains(model->tool()))
+            continue;
+        const bool opens =
+            (activity == Activity::announcement && announces) || (activity == Activity::live && showsLive);
+        const bool joins = opens || (activity == Activity::held && showsLive);
+        opened = opened || opens;
+        if (joins && !shown)
+            shown = model->tool();
+    }
+    return opened ? shown : std::nullopt;
 }
 
 void NotchServices::openUrl(const QUrl &url) { m_workspace.open(url); }
@@ -123,6 +119,12 @@ void NotchServices::openPrivacy(const QString &anchor)
     if (!url.isValid())
         qFatal("%s is no privacy page", qPrintable(anchor));
     m_workspace.open(url);
+}
+
+void NotchServices::collapse() const
+{
+    if (collapseAll)
+        collapseAll();
 }
 
 void NotchServices::refreshNow() { m_now = m_clock.now(); }

@@ -15,14 +15,17 @@
 namespace Kestrune {
 
 class AirDrop;
+class CapturesModel;
 class ClipboardModel;
 class DragPasteboard;
 class FileSharing;
 class Pasteboard;
 class ShelfModel;
 class AIUsageModel;
+class ScreenCaptureQuery;
 class SoundPlayer;
 class TeleprompterModel;
+class Thumbnails;
 class TimerModel;
 class UserDefaults;
 class Workspace;
@@ -37,6 +40,8 @@ struct NotchPlatform
     Pasteboard &pasteboard;
     DragPasteboard &drags;
     FileSharing &sharing;
+    ScreenCaptureQuery &captures;
+    Thumbnails &thumbnails;
     QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
 };
 
@@ -47,12 +52,14 @@ class NotchServices : public QObject
 {
     Q_OBJECT
     Q_MOC_INCLUDE("NotchKit/AirDrop.h")
+    Q_MOC_INCLUDE("NotchKit/Tools/CapturesModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ClipboardModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/AIUsageModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ShelfModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TeleprompterModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
     Q_PROPERTY(Kestrune::NotchSettings *settings READ settings CONSTANT)
+    Q_PROPERTY(Kestrune::CapturesModel *captures READ captures CONSTANT)
     Q_PROPERTY(Kestrune::ClipboardModel *clipboard READ clipboard CONSTANT)
     Q_PROPERTY(Kestrune::ShelfModel *shelf READ shelf CONSTANT)
     Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
@@ -77,6 +84,7 @@ public:
 
     NotchSettings *settings() const { return &m_settings; }
     const NotchBranding &branding() const { return m_branding; }
+    CapturesModel *captures() const { return m_captures; }
     ClipboardModel *clipboard() const { return m_clipboard; }
     TimerModel *timer() const { return m_timer; }
     ShelfModel *shelf() const { return m_shelf; }
@@ -114,6 +122,9 @@ public:
     /// makes no valid address stops the program.
     Q_INVOKABLE void openPrivacy(const QString &anchor);
 
+    /// Closes every notch, for example after a file was opened.
+    Q_INVOKABLE void collapse() const;
+
     Action openSettings; ///< Opens the settings window; empty while the application offers none.
     Action collapseAll;  ///< Closes every notch; set by the controller.
 
@@ -126,8 +137,6 @@ Q_SIGNALS:
 private:
     template <typename Model>
     Model *add(std::unique_ptr<Model> model);
-    bool opensWings(const ToolModel &model) const;
-    bool joinsWings(const ToolModel &model) const;
     std::optional<NotchTool> computeActivityTool() const;
     void refreshNow();
     void tick();
@@ -139,6 +148,7 @@ private:
     Workspace &m_workspace;
     std::unique_ptr<AirDrop> m_airDrop;
     std::vector<std::unique_ptr<ToolModel>> m_models; ///< The first with an activity shows it.
+    CapturesModel *m_captures;
     TimerModel *m_timer;
     ClipboardModel *m_clipboard;
     AIUsageModel *m_aiUsage;

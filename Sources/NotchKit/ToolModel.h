@@ -37,7 +37,7 @@ public:
 
     NotchTool tool() const { return m_tool; }
 
-    /// Read inside a binding: what it depends on must be bindable.
+    /// Read inside a binding: what it depends on must be bindable, and read each time in the same order.
     virtual Activity activity() const { return Activity::none; }
 
     virtual void hubStarted() {}

@@ -25,6 +25,8 @@ struct Stage
     Fakes::FakePasteboard pasteboard;
     Fakes::FakeDrags drags;
     Fakes::FakeSharing sharing;
+    Fakes::FakeCaptureQuery captures;
+    Fakes::FakeThumbnails thumbnails;
     Fakes::FakeDisplays displays;
     Fakes::FakePointer pointer;
     Fakes::FakePanels panels;
@@ -45,7 +47,9 @@ struct Stage
             defaults, suiteDefaults, applications, loginItem,
             [this](const QString &message, const QString &details) { alerts << message << details; }};
         app = std::make_unique<AppState>(
-            platform, NotchPlatform{clock, defaults, sounds, workspace, pasteboard, drags, sharing},
+            platform,
+            NotchPlatform{clock, defaults, sounds, workspace, pasteboard, drags, sharing, captures,
+                          thumbnails},
             NotchControllerPlatform{clock, displays, pointer, panels, hotKeys, drags},
             LaunchRequest::parse(arguments));
     }

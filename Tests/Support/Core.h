@@ -21,6 +21,8 @@ struct Core
     FakePasteboard pasteboard;
     FakeDrags drags;
     FakeSharing sharing;
+    FakeCaptureQuery captures;
+    FakeThumbnails thumbnails;
     FakeDisplays displays;
     FakePointer pointer;
     FakePanels panels;
@@ -31,7 +33,7 @@ struct Core
 
     NotchPlatform platform(const QString &home = QDir::homePath())
     {
-        return {clock, defaults, sounds, workspace, pasteboard, drags, sharing, home};
+        return {clock, defaults, sounds, workspace, pasteboard, drags, sharing, captures, thumbnails, home};
     }
 
     NotchScreenModel &model(std::size_t index = 0) { return *controller.notches().at(index).model; }

@@ -10,7 +10,9 @@
 #include "NotchKit/Platform/Pasteboard.h"
 #include "NotchKit/Platform/Pointer.h"
 #include "NotchKit/Platform/RunningApplications.h"
+#include "NotchKit/Platform/ScreenCaptureQuery.h"
 #include "NotchKit/Platform/SoundPlayer.h"
+#include "NotchKit/Platform/Thumbnails.h"
 #include "NotchKit/Platform/UserDefaults.h"
 #include "NotchKit/Platform/Workspace.h"
 
@@ -343,6 +345,44 @@ public:
     QList<std::pair<QString, QList<QUrl>>> sent;
     bool held = false;
     std::vector<QPromise<QList<SharingDevice>>> waiting;
+};
+
+/// Finds what the test puts in `found`, when the test says so.
+class FakeCaptureQuery : public ScreenCaptureQuery
+{
+public:
+    void installHandler(Handler installed) override { handler = std::move(installed); }
+    void start() override { running = true; }
+    void stop() override { running = false; }
+    QList<ScreenCapture> results() const override { return found; }
+    bool isAccessMissing() const override { return accessMissing; }
+    void requestAccess() override { ++requests; }
+
+    Handler handler;
+    QList<ScreenCapture> found;
+    bool running = false;
+    bool accessMissing = false;
+    int requests = 0;
+};
+
+/// Answers when the test does: a promise for each request, in their order.
+class FakeThumbnails : public Thumbnails
+{
+public:
+    QFuture<QImage> thumbnail(const QString &path) override
+    {
+        asked.append(path);
+        answers.emplace_back().start();
+        return answers.back().future();
+    }
+    void answer(std::size_t index, const QImage &image)
+    {
+        answers.at(index).addResult(image);
+        answers.at(index).finish();
+    }
+
+    QStringList asked;
+    std::vector<QPromise<QImage>> answers;
 };
 
 class FakeApplications : public RunningApplications

@@ -86,9 +86,10 @@ void TimerModel::adjust(double minutes)
 
 ToolModel::Activity TimerModel::activity() const
 {
+    const bool isPaused = pausedRemaining().has_value();
     if (isRunning())
         return Activity::live;
-    return pausedRemaining() ? Activity::held : Activity::none;
+    return isPaused ? Activity::held : Activity::none;
 }
 
 void TimerModel::tick(const ClockTick &tick)

@@ -10,4 +10,9 @@ QString Format::relativeTime(const QDateTime &date, const QDateTime &now)
     return Kestrune::relativeTime(date, now, notchLanguage());
 }
 
+QString Format::namingHost(const QString &text)
+{
+    return QString(text).replace(QLatin1String("%@"), hostName());
+}
+
 } // namespace Kestrune

@@ -16,6 +16,9 @@ class Format : public QObject
 public:
     /// How long ago `date` was: "5m ago".
     Q_INVOKABLE static QString relativeTime(const QDateTime &date, const QDateTime &now);
+
+    /// `text` with the program's own name in place of "%@".
+    Q_INVOKABLE static QString namingHost(const QString &text);
 };
 
 } // namespace Kestrune

@@ -30,6 +30,12 @@ public:
     /// The element in that row; nothing outside. Unlike a view's items never behind the list.
     Q_INVOKABLE QVariant at(int row) const { return m_rows.value(row); }
 
+    /// The row of that element, -1 when it is in none.
+    Q_INVOKABLE int indexOf(const QVariant &element) const
+    {
+        return static_cast<int>(m_rows.indexOf(element));
+    }
+
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;

@@ -5,12 +5,12 @@
 
 namespace Kestrune {
 
-/// An image scaled to fill the item and clipped to its rounded corners.
+/// An image scaled to fill the item and clipped to its rounded corners; nothing while there is none.
 class Picture : public QQuickPaintedItem
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QImage image READ image WRITE setImage NOTIFY imageChanged)
+    Q_PROPERTY(QImage image READ image WRITE setImage RESET resetImage NOTIFY imageChanged)
     Q_PROPERTY(qreal radius MEMBER m_radius NOTIFY radiusChanged)
 
 public:
@@ -18,6 +18,7 @@ public:
 
     const QImage &image() const { return m_image; }
     void setImage(const QImage &image);
+    void resetImage() { setImage({}); }
 
     void paint(QPainter *painter) override;
 

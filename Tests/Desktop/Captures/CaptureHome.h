@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QThread>
+
+/// A user's home folder of its own, with a Pictures folder; screenshot tools find nothing else.
+class CaptureHome
+{
+public:
+    CaptureHome()
+    {
+        qputenv("HOME", folder.path().toUtf8());
+        for (const char *name : {"CONFIG", "CACHE", "DATA"})
+            qputenv(qPrintable(QStringLiteral("XDG_%1_HOME").arg(QLatin1String(name))),
+                    folder.filePath(u'.' + QString::fromLatin1(name).toLower()).toUtf8());
+        qputenv("XDG_DATA_DIRS", folder.path().toUtf8()); // the machine's own desktop settings stay out
+        make(QStringLiteral("Pictures"));
+    }
+
+    QString path(const QString &name) const { return folder.filePath(name); }
+    QString make(const QString &name) const
+    {
+        QDir(folder.path()).mkpath(name);
+        return path(name);
+    }
+
+    static QByteArray picture(QSize size = {40, 30}, const char *format = "png", const QString &software = {})
+    {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(0xff2a6bd1);
+        if (!software.isNull())
+            image.setText(QStringLiteral("Software"), software);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        image.save(&buffer, format);
+        return bytes;
+    }
+
+    /// Writes a file below the home folder, later than all before; its folder is made too.
+    QString write(const QString &name, const QByteArray &bytes = picture()) const
+    {
+        QThread::msleep(10); // the kernel's time for files moves in steps
+        make(QFileInfo(name).path());
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+            qFatal("%s cannot be written", qPrintable(name));
+        return file.fileName();
+    }
+
+    QTemporaryDir folder;
+};
