@@ -67,6 +67,9 @@ private Q_SLOTS:
         QVERIFY(stage().session.set(u"announceScreenshots"_s, u"false"_s));
         shoot(home);
         QVERIFY(holdsFor([&] { return !hasActivity(); }, 1500));
+        for (const QString &name : pictures(home.filePath(u"Pictures"_s)))
+            QVERIFY(QFile::remove(home.filePath(u"Pictures/"_s + name)));
+        QVERIFY(holdsFor([&] { return stage().session.isRunning(); }, 500));
     }
 
 private:

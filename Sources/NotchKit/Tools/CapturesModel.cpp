@@ -29,6 +29,14 @@ CapturesModel::Items itemsOf(const QList<ScreenCapture> &captures)
     return items;
 }
 
+/// Only what is still awaited: with Qt 6.4 a finished future must not be cancelled once what followed on it
+/// is gone.
+void cancel(QFuture<QImage> &answer)
+{
+    if (!answer.isFinished())
+        answer.cancel();
+}
+
 } // namespace
 
 CapturesModel::CapturesModel(NotchSettings &settings, Clock &clock, ScreenCaptureQuery &query,
@@ -160,7 +168,7 @@ void CapturesModel::forget(const Items &kept)
     m_requests.removeIf([&](QHash<QString, Request>::iterator request) {
         if (isKept(request.key()))
             return false;
-        request->answer.cancel();
+        cancel(request->answer);
         return true;
     });
     QVariantMap images = thumbnails();
@@ -181,7 +189,7 @@ void CapturesModel::requestThumbnails(const QList<ScreenCapture> &captures)
 void CapturesModel::request(const ScreenCapture &capture)
 {
     Request &request = m_requests[capture.path];
-    request.answer.cancel();
+    cancel(request.answer);
     request = {capture.modified, m_maker.thumbnail(capture.path)};
     request.answer.then(this, [this, id = capture.path, modified = capture.modified](const QImage &image) {
         receive(id, modified, image);
