@@ -49,7 +49,7 @@ FolderCaptureQuery::FolderCaptureQuery(const UserDefaults &preferences)
 
 FolderCaptureQuery::~FolderCaptureQuery()
 {
-    stop();
+    FolderCaptureQuery::stop();
     for (auto &thread : m_threads) {
         if (!thread->wait(kLongestEnd))
             std::ignore = thread.release(); // It keeps what it needs, and ends with the process.

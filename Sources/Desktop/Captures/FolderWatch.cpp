@@ -59,7 +59,7 @@ bool FolderWatch::setFolders(const QStringList &folders)
 QList<FolderWatch::Event> FolderWatch::take()
 {
     QList<Event> events;
-    alignas(inotify_event) std::array<char, 16 * 1024> buffer;
+    alignas(inotify_event) std::array<char, 16384> buffer;
     for (;;) {
         const ssize_t length = m_descriptor < 0 ? 0 : ::read(m_descriptor, buffer.data(), buffer.size());
         if (length <= 0)

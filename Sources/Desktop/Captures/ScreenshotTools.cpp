@@ -12,8 +12,8 @@ namespace Kestrune {
 
 namespace {
 
-constexpr int kLongestWait = 2000;           // Milliseconds, for a program that only reads a setting.
-constexpr qint64 kLongestFile = 1024 * 1024; // Bytes; settings are a few kilobytes.
+constexpr int kLongestWait = 2000;       // Milliseconds, for a program that only reads a setting.
+constexpr qint64 kLongestFile = 1 << 20; // Bytes; settings are a few kilobytes.
 
 enum class Meaning { folder, pattern, title };
 

@@ -71,7 +71,7 @@ ButtonBase {
         radius: thumb.radius
         color: area.pressed ? Theme.pressed : "transparent"
         border.width: thumb.visualFocus ? 2 : 1
-        border.color: thumb.visualFocus ? Theme.accent : area.containsMouse ? Theme.highlighted : Theme.faint
+        border.color: thumb.visualFocus ? Theme.accent : area.containsMouse ? Theme.dim : Theme.hovered
     }
     MouseArea {
         id: area

@@ -25,6 +25,15 @@ ActivityWings {
             height: Math.min(22, parent.height - 8)
             image: activity.thumbnail
             radius: 4
+
+            // A dark picture would have no edge on the black notch.
+            Rectangle {
+                anchors.fill: parent
+                visible: activity.thumbnail !== undefined
+                radius: parent.radius
+                color: "transparent"
+                border.color: Theme.highlighted
+            }
         }
     ]
     trailing: Symbol {
