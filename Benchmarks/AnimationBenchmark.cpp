@@ -6,13 +6,9 @@
 #include "NotchKit/Views/NotchWindow.h"
 #include "Surroundings.h"
 #include "Table.h"
+#include "Timing.h"
 
-#include <QEventLoop>
 #include <QQmlEngine>
-#include <QTimer>
-
-#include <chrono>
-#include <ctime>
 
 using namespace Benchmarks;
 using namespace Kestrune;
@@ -24,26 +20,6 @@ constexpr int kWarmUp = 3;
 constexpr int kOpenings = 25;
 constexpr auto kMotion = 450ms; // the springs still move
 constexpr auto kRest = 900ms;   // they have come to rest
-
-double milliseconds(std::chrono::nanoseconds time)
-{
-    return std::chrono::duration<double, std::milli>(time).count();
-}
-
-/// Processor time of this thread, which does all the work of a frame.
-std::chrono::nanoseconds threadTime()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
-}
-
-void pass(std::chrono::milliseconds time)
-{
-    QEventLoop loop;
-    QTimer::singleShot(time, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 /// What every step of the motions took.
 struct Frames

@@ -65,7 +65,7 @@ void PrompterScript::setOffset(double offset)
         m_glide.setTarget(offset);
     else
         m_glide.jump(offset);
-    polish();
+    redrawIfMoved();
     Q_EMIT offsetChanged();
 }
 
@@ -97,6 +97,15 @@ void PrompterScript::breakAnew(bool keepPlace)
     polish();
 }
 
+/// Both are asked for at once: what polishing asks for would take a second frame.
+void PrompterScript::redrawIfMoved()
+{
+    if (top() == m_drawnTop)
+        return;
+    polish();
+    update();
+}
+
 void PrompterScript::beginLayout()
 {
     m_broken = false;
@@ -118,8 +127,6 @@ void PrompterScript::updatePolish()
     m_layout.advanceTo(m_glide.position() + height());
     if (std::isinf(m_end) && !m_rest.isActive())
         m_rest.start(0, this);
-    if (top() != m_drawnTop)
-        update();
 }
 
 void PrompterScript::timerEvent(QTimerEvent *event)
@@ -166,8 +173,7 @@ void PrompterScript::glide(int milliseconds)
 {
     m_glide.advance((milliseconds - m_time) / 1000.0, m_speed, !m_playing);
     m_time = milliseconds;
-    if (top() != m_drawnTop)
-        polish();
+    redrawIfMoved();
     if (!m_playing && m_glide.arrived())
         animate();
 }

@@ -84,6 +84,7 @@ private:
 
     double top() const; ///< Of the script in the item, on a whole pixel of the display.
     void breakAnew(bool keepPlace);
+    void redrawIfMoved();
     void beginLayout();
     void layOutRest();
     void setEnd(double end);
