@@ -29,14 +29,6 @@ CapturesModel::Items itemsOf(const QList<ScreenCapture> &captures)
     return items;
 }
 
-/// Only what is still awaited: with Qt 6.4 a finished future must not be cancelled once what followed on it
-/// is gone.
-void cancel(QFuture<QImage> &answer)
-{
-    if (!answer.isFinished())
-        answer.cancel();
-}
-
 } // namespace
 
 CapturesModel::CapturesModel(NotchSettings &settings, Clock &clock, ScreenCaptureQuery &query,
@@ -165,12 +157,7 @@ void CapturesModel::forget(const Items &kept)
     const auto isKept = [&](const QString &id) {
         return std::ranges::find(kept, id, &Item::id) != kept.end();
     };
-    m_requests.removeIf([&](QHash<QString, Request>::iterator request) {
-        if (isKept(request.key()))
-            return false;
-        cancel(request->answer);
-        return true;
-    });
+    m_requests.removeIf([&](QHash<QString, Request>::iterator request) { return !isKept(request.key()); });
     QVariantMap images = thumbnails();
     images.removeIf([&](QVariantMap::iterator image) { return !isKept(image.key()); });
     if (images.size() != thumbnails().size())
@@ -188,18 +175,20 @@ void CapturesModel::requestThumbnails(const QList<ScreenCapture> &captures)
 
 void CapturesModel::request(const ScreenCapture &capture)
 {
-    Request &request = m_requests[capture.path];
-    cancel(request.answer);
-    request = {capture.modified, m_maker.thumbnail(capture.path)};
-    request.answer.then(this, [this, id = capture.path, modified = capture.modified](const QImage &image) {
-        receive(id, modified, image);
-    });
+    const auto giveUp = [](Answer *answer) {
+        answer->cancel();
+        delete answer;
+    };
+    const std::shared_ptr<Answer> answer(new Answer, giveUp);
+    connect(answer.get(), &Answer::finished, this,
+            [this, id = capture.path, source = answer.get()] { receive(id, *source); });
+    answer->setFuture(m_maker.thumbnail(capture.path));
+    m_requests[capture.path] = {capture.modified, answer};
 }
 
-void CapturesModel::receive(const QString &id, const QDateTime &modified, const QImage &image)
+void CapturesModel::receive(const QString &id, const Answer &answer)
 {
-    if (m_requests.value(id).modified != modified)
-        return;
+    const QImage image = answer.isCanceled() ? QImage() : answer.result();
     QVariantMap images = thumbnails();
     if (image.isNull())
         images.remove(id);

@@ -5,12 +5,14 @@
 #include "NotchKit/Platform/ScreenCaptureQuery.h"
 #include "NotchKit/ToolModel.h"
 
-#include <QFuture>
+#include <QFutureWatcher>
 #include <QHash>
 #include <QImage>
 #include <QProperty>
 #include <QUrl>
 #include <QVariantMap>
+
+#include <memory>
 
 namespace Kestrune {
 
@@ -98,11 +100,13 @@ Q_SIGNALS:
     void needsAccessChanged();
 
 private:
-    /// What was asked for: of which state of the file.
+    using Answer = QFutureWatcher<QImage>;
+
+    /// What was asked for, of which state of the file. Dropping it gives the answer up.
     struct Request
     {
         QDateTime modified;
-        QFuture<QImage> answer;
+        std::shared_ptr<Answer> answer;
     };
 
     void followSetting();
@@ -111,7 +115,7 @@ private:
     void requestThumbnails(const QList<ScreenCapture> &captures);
     void request(const ScreenCapture &capture);
     void forget(const Items &kept);
-    void receive(const QString &id, const QDateTime &modified, const QImage &image);
+    void receive(const QString &id, const Answer &answer);
     QUrl find(const QString &id) const;
 
     NotchSettings &m_settings;
