@@ -159,16 +159,16 @@ void FolderCaptureQueryTest::settingsOfTools_data()
         QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(setting)
                             << QString::fromLatin1(capture);
     };
-    row("xfce", "xfce4/xfce4-screenshooter", "screenshot_dir=file:HOME/work\n", "work/Screenshot_1.png");
+    row("xfce", "xfce4/xfce4-screenshooter", "screenshot_dir=file:HOME/office\n", "office/Screenshot_1.png");
     row("xfce's title", "xfce4/xfce4-screenshooter", "title=My %shot\nscreenshot_dir=file://HOME/w%20k\n",
         "w k/My %shot_2026-11-21_10-20-30-1.png");
     row("flameshot", "flameshot/flameshot.ini",
-        "[General]\nsavePath=HOME/work\nfilenamePattern=\"take %d.%m.%y, %H.%M %%\"\n",
-        "work/take 21.11.26, 10.20 %.png");
-    row("spectacle", "spectaclerc", "[Save]\ndefaultSaveLocation[$e]=file://$HOME/work\n",
-        "work/Screenshot_2026.png");
-    row("spectacle's later", "spectaclerc", "[ImageSave]\nimageSaveLocation=file://HOME/work/\n",
-        "work/Screenshot_2026.png");
+        "[General]\nsavePath=HOME/office\nfilenamePattern=\"take %d.%m.%y, %H.%M %%\"\n",
+        "office/take 21.11.26, 10.20 %.png");
+    row("spectacle", "spectaclerc", "[Save]\ndefaultSaveLocation[$e]=file://$HOME/office\n",
+        "office/Screenshot_2026.png");
+    row("spectacle's later", "spectaclerc", "[ImageSave]\nimageSaveLocation=file://HOME/office/\n",
+        "office/Screenshot_2026.png");
     row("desktop elsewhere", "user-dirs.dirs", "XDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n",
         "Schreibtisch/Screenshot.png");
     row("own choice", "", "", "mine/any name.png");

@@ -48,7 +48,7 @@ void CapturesPaneTest::clickMenuAndMessages()
     };
     QTRY_COMPARE(stage.all(QStringLiteral("CaptureThumb")).size(), 2);
     QVERIFY(choose(0));
-    QCOMPARE(stage.core.workspace.revealed, QList<QUrl>{url});
+    QCOMPARE(stage.core.workspace.revealed.value(0), QList<QUrl>{url});
     QVERIFY(choose(3));
     QCOMPARE(std::get<QList<QUrl>>(stage.core.pasteboard.written), QList<QUrl>{url});
     QVERIFY(stage.core.model().expanded());
