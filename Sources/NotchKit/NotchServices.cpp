@@ -30,6 +30,7 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
     , m_branding(branding)
     , m_clock(platform.clock)
     , m_workspace(platform.workspace)
+    , m_thumbnails(platform.thumbnails)
     , m_airDrop(std::make_unique<AirDrop>(platform.sharing))
     , m_captures(
           add(std::make_unique<CapturesModel>(settings, platform.clock, platform.captures,

@@ -91,6 +91,7 @@ public:
     AIUsageModel *aiUsage() const { return m_aiUsage; }
     TeleprompterModel *prompter() const { return m_prompter; }
     AirDrop *airDrop() const { return m_airDrop.get(); }
+    Thumbnails &thumbnails() const { return m_thumbnails; }
 
     QDateTime now() const { return m_now; }
     bool anyExpanded() const { return m_anyExpanded; }
@@ -146,6 +147,7 @@ private:
     NotchBranding m_branding;
     Clock &m_clock;
     Workspace &m_workspace;
+    Thumbnails &m_thumbnails;
     std::unique_ptr<AirDrop> m_airDrop;
     std::vector<std::unique_ptr<ToolModel>> m_models; ///< The first with an activity shows it.
     CapturesModel *m_captures;

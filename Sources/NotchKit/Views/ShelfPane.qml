@@ -50,6 +50,7 @@ Pane {
 
             height: ListView.view.height - 12
             tile: modelData
+            services: pane.services
             onHoveredChanged: if (hovered) tip.tile = this; else if (tip.tile === this) tip.tile = null
             onRemoved: pane.shelf.remove(tile.url)
             onMenuWanted: (x, y) => {

@@ -6,6 +6,7 @@ Tile {
     id: view
 
     required property var tile
+    required property NotchServices services
 
     readonly property bool hovered: mouse.containsMouse && !drag.active
 
@@ -26,8 +27,20 @@ Tile {
     Item {
         anchors { fill: parent; margins: 8 }
 
+        FileThumbnail {
+            id: thumbnail
+
+            services: view.services
+            path: view.tile.symbol === "photo" ? view.tile.path : ""
+        }
+        Picture {
+            anchors { fill: parent; bottomMargin: name.height + 4 }
+            image: thumbnail.image
+            radius: 6
+        }
         Symbol {
             anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; bottom: name.top }
+            visible: !thumbnail.isReady
             name: view.tile.symbol
             size: 40
             color: Theme.dim
@@ -66,6 +79,7 @@ Tile {
 
             urls: [view.tile.url]
             symbol: view.tile.symbol
+            picture: thumbnail.image
         }
     }
     ButtonBase {
@@ -79,6 +93,12 @@ Tile {
         tipBelow: true
         visible: mouse.containsMouse || hovered || view.activeFocus || activeFocus
         help: qsTranslate("notch", "Remove")
+        background: Rectangle {
+            radius: remove.radius
+            color: Qt.rgba(0, 0, 0, remove.down ? 0.8 : 0.55)
+            border.width: remove.visualFocus ? 2 : 0
+            border.color: Theme.accent
+        }
         onClicked: view.removed()
         contentItem: Symbol {
             name: "xmark.circle.fill"
