@@ -65,6 +65,8 @@ private Q_SLOTS:
         shelf.clear();
         QCOMPARE(core.settings.shelfPaths(), QStringList());
         QCOMPARE(shelf.airDrop(), 0);
+        core.settings.setShelfPaths({folder.paths()[0]});
+        QCOMPARE(shelf.items(), QList<QUrl>{folder.urls[0]});
     }
 
     void filesThatAreGoneLeave_data()

@@ -14,6 +14,14 @@ namespace {
 
 constexpr qint64 kPruneInterval = 30; // Seconds.
 
+QStringList pathsOf(const QList<QUrl> &urls)
+{
+    QStringList paths;
+    for (const QUrl &url : urls)
+        paths.append(url.toLocalFile());
+    return paths;
+}
+
 } // namespace
 
 ShelfModel::ShelfModel(NotchSettings &settings, Workspace &workspace, AirDrop &sharing, DragPasteboard &drags,
@@ -24,16 +32,26 @@ ShelfModel::ShelfModel(NotchSettings &settings, Workspace &workspace, AirDrop &s
     , m_sharing(sharing)
     , m_drags(drags)
 {
-    Items stored;
-    for (const QString &path : settings.shelfPaths())
-        stored.append(QUrl::fromLocalFile(path));
-    m_items = stored;
+    load();
     m_tiles.setBinding([this] { return computeTiles(); });
     connect(&m_look, &QFutureWatcher<Findings>::finished, this, &ShelfModel::looked);
-    prune();
+    connect(&settings, &NotchSettings::shelfPathsChanged, this, &ShelfModel::load);
 }
 
 ShelfModel::~ShelfModel() = default;
+
+/// At the start, and when the setting was changed by another hand than this one's.
+void ShelfModel::load()
+{
+    const QStringList paths = m_settings.shelfPaths();
+    if (paths == pathsOf(items()))
+        return;
+    Items stored;
+    for (const QString &path : paths)
+        stored.append(QUrl::fromLocalFile(path));
+    m_items = stored;
+    prune();
+}
 
 void ShelfModel::add(const QList<QUrl> &urls)
 {
@@ -71,10 +89,7 @@ void ShelfModel::clear() { persist({}); }
 void ShelfModel::persist(const Items &items)
 {
     m_items = items;
-    QStringList paths;
-    for (const QUrl &url : items)
-        paths.append(url.toLocalFile());
-    m_settings.setShelfPaths(paths);
+    m_settings.setShelfPaths(pathsOf(items));
 }
 
 void ShelfModel::prune()

@@ -85,6 +85,7 @@ private:
     };
     static Findings inspect(const Items &items);
 
+    void load();
     void persist(const Items &items);
     void look();
     void looked();
