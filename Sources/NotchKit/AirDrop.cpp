@@ -1,5 +1,7 @@
 #include "AirDrop.h"
 
+#include <QFutureWatcher>
+
 namespace Kestrune {
 
 AirDrop::AirDrop(FileSharing &sharing, QObject *parent)
@@ -12,14 +14,21 @@ int AirDrop::send(const QList<QUrl> &files)
     cancel();
     m_files = files;
     m_files.removeIf([](const QUrl &file) { return !file.isLocalFile(); });
-    const int request = m_request;
-    if (!m_files.isEmpty()) {
-        m_sharing.devices().then(this, [this, request](const QList<SharingDevice> &devices) {
-            if (request == m_request)
-                found(devices);
-        });
-    }
-    return request;
+    if (!m_files.isEmpty())
+        askForDevices();
+    return m_request;
+}
+
+void AirDrop::askForDevices()
+{
+    // No then(): its answer must not outlive this object.
+    auto *answer = new QFutureWatcher<QList<SharingDevice>>(this);
+    connect(answer, &QFutureWatcherBase::finished, this, [this, answer, request = m_request.value()] {
+        if (request == m_request)
+            found(answer->result());
+        answer->deleteLater();
+    });
+    answer->setFuture(m_sharing.devices());
 }
 
 void AirDrop::choose(int index)

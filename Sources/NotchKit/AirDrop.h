@@ -41,6 +41,7 @@ Q_SIGNALS:
     void requestChanged();
 
 private:
+    void askForDevices();
     void found(const QList<SharingDevice> &devices);
 
     FileSharing &m_sharing;

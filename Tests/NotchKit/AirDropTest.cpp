@@ -37,6 +37,7 @@ private Q_SLOTS:
         Fakes::FakeSharing sharing(devices);
         AirDrop airDrop(sharing);
         airDrop.send(sent);
+        QCoreApplication::processEvents();
         QCOMPARE(!airDrop.choices().isEmpty(), chosen > -2);
         if (chosen > -2)
             QCOMPARE(airDrop.choices().constFirst(), u"Device 0"_s);
@@ -61,18 +62,21 @@ private Q_SLOTS:
         const int request = airDrop->send(first);
         QVERIFY(airDrop->send(second) != request);
         sharing.release();
+        QCoreApplication::processEvents();
         QCOMPARE(sharing.sent, (QList{std::pair(u"id0"_s, second)}));
 
         sharing.held = true;
         airDrop->send(first);
         airDrop->cancel();
         sharing.release();
+        QCoreApplication::processEvents();
         QVERIFY2(sharing.sent.size() == 1, "it was cancelled before the devices were known");
 
         sharing.held = true;
         airDrop->send(first);
         airDrop.reset();
         sharing.release();
+        QCoreApplication::processEvents();
         QCOMPARE(sharing.sent.size(), 1);
     }
 };
