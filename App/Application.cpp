@@ -1,5 +1,6 @@
 #include "Application.h"
 
+#include "LocalServices.h"
 #include "NotchKit/Views/NotchWindow.h"
 #include "StandardSettings.h"
 
@@ -20,6 +21,7 @@ Application::Application(const QDBusConnection &bus)
     , m_applications(bus, {NotchBranding::suiteIdentifier()})
     , m_displays(m_defaults)
     , m_captures(m_capturePreferences)
+    , m_localServices(LocalServices::fromEnvironment(m_http))
     , m_panels(m_engine, m_desktop)
     , m_alert(m_engine)
 {
@@ -36,8 +38,9 @@ void Application::run(const LaunchRequest &request)
     const AppPlatform app{
         m_defaults, m_suiteDefaults, m_applications, m_loginItem,
         [this](const QString &message, const QString &details) { m_alert.show(message, details); }};
-    const NotchPlatform tools{m_clock, m_defaults, m_sounds,   m_workspace, m_pasteboard,
-                              m_drags, m_sharing,  m_captures, m_thumbnails};
+    HttpClient &http = m_localServices ? *m_localServices : m_http;
+    const NotchPlatform tools{m_clock,   m_defaults, m_sounds,     m_workspace, m_pasteboard, m_drags,
+                              m_sharing, m_captures, m_thumbnails, http,        m_location};
     const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys, m_drags};
     m_state = std::make_unique<AppState>(app, tools, controller, request);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());

@@ -5,6 +5,8 @@
 #include "Desktop/Captures/FolderCaptureQuery.h"
 #include "Desktop/Captures/SharedThumbnails.h"
 #include "Desktop/Defaults/SqliteUserDefaults.h"
+#include "Desktop/Location/GeoClueLocation.h"
+#include "Desktop/Network/QtHttpClient.h"
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "Desktop/Session/BusApplications.h"
 #include "Desktop/Session/DesktopWorkspace.h"
@@ -57,6 +59,9 @@ private:
     X11Pasteboard m_pasteboard;
     FolderCaptureQuery m_captures;
     SharedThumbnails m_thumbnails;
+    QtHttpClient m_http;
+    std::unique_ptr<HttpClient> m_localServices; ///< In place of the web services, in tests.
+    GeoClueLocation m_location;
     QQmlEngine m_engine;
     PanelFactory m_panels;
     AlertWindow m_alert;

@@ -1,6 +1,7 @@
 #include "Application.h"
 #include "CommandLine.h"
 #include "Desktop/X11/X11Connection.h"
+#include "LocalServices.h"
 #include "SingleInstance.h"
 
 #include <QFontDatabase>
@@ -77,6 +78,11 @@ void setUpFont()
 int runProgram(int argc, char *argv[], const QStringList &arguments)
 {
     setUpMemory();
+    if (!LocalServices::isEnvironmentValid()) {
+        std::fprintf(stderr, "Kestrune: %s is no address like http://127.0.0.1:8080\n",
+                     LocalServices::kVariable);
+        return 2;
+    }
     TemporaryEnvironment environment = setUpPlatform();
     if (!X11::canConnect()) {
         std::fputs("Kestrune: it needs an X11 display\n", stderr);

@@ -44,7 +44,8 @@ struct HubParts
     Kestrune::NotchPlatform platform() { return platform(pasteboard); }
     Kestrune::NotchPlatform platform(Kestrune::Pasteboard &other)
     {
-        return {clock, defaults, sounds, workspace, other, drags, sharing, captures, thumbnails};
+        return {clock,   defaults, sounds,     workspace, other,   drags,
+                sharing, captures, thumbnails, http,      location};
     }
 
     Kestrune::Clock &clock;
@@ -56,6 +57,8 @@ struct HubParts
     Kestrune::Fakes::FakeSharing sharing;
     Kestrune::Fakes::FakeCaptureQuery captures;
     Kestrune::Fakes::FakeThumbnails thumbnails;
+    Kestrune::Fakes::FakeHttp http;
+    Kestrune::Fakes::FakeLocation location;
     Kestrune::NotchSettings settings{defaults};
 };
 

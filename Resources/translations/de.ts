@@ -409,5 +409,73 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
         <source>Copy</source>
         <translation>Kopieren</translation>
     </message>
+    <message>
+        <source>Type the symbols that you want to follow.</source>
+        <translation>Gib die Symbole ein, die du verfolgen möchtest.</translation>
+    </message>
+    <message>
+        <source>Symbols, separated by commas (AAPL, TSLA, ^GSPC, BTC-USD)</source>
+        <translation>Symbole, durch Kommas getrennt (AAPL, TSLA, ^GSPC, BTC-USD)</translation>
+    </message>
+    <message>
+        <source>Delayed quotes from Yahoo Finance.</source>
+        <translation>Verzögerte Kurse von Yahoo Finance.</translation>
+    </message>
+    <message>
+        <source>Edit symbols</source>
+        <translation>Symbole bearbeiten</translation>
+    </message>
+    <message>
+        <source>Choose a city to see its weather.</source>
+        <translation>Wähle eine Stadt, um ihr Wetter zu sehen.</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Stadt</translation>
+    </message>
+    <message>
+        <source>Use my location</source>
+        <translation>Meinen Standort verwenden</translation>
+    </message>
+    <message>
+        <source>Change city</source>
+        <translation>Stadt ändern</translation>
+    </message>
+    <message>
+        <source>Forecast by Open-Meteo. Only the city&apos;s coordinates are sent.</source>
+        <translation>Vorhersage von Open-Meteo. Nur die Koordinaten der Stadt werden gesendet.</translation>
+    </message>
+    <message>
+        <source>Weather is not available right now.</source>
+        <translation>Das Wetter ist gerade nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>City not found.</source>
+        <translation>Stadt nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>My location</source>
+        <translation>Mein Standort</translation>
+    </message>
+    <message>
+        <source>Location not available. Type a city instead.</source>
+        <translation>Standort nicht verfügbar. Gib stattdessen eine Stadt ein.</translation>
+    </message>
+    <message>
+        <source>Not found: %@</source>
+        <translation>Nicht gefunden: %@</translation>
+    </message>
+    <message>
+        <source>Wind %@ mph</source>
+        <translation>Wind %@ mph</translation>
+    </message>
+    <message>
+        <source>Wind %@ km/h</source>
+        <translation>Wind %@ km/h</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
 </context>
 </TS>

@@ -6,8 +6,10 @@
 #include "Tools/CapturesModel.h"
 #include "Tools/ClipboardModel.h"
 #include "Tools/ShelfModel.h"
+#include "Tools/StocksModel.h"
 #include "Tools/TeleprompterModel.h"
 #include "Tools/TimerModel.h"
+#include "Tools/WeatherModel.h"
 
 #include <algorithm>
 
@@ -41,6 +43,9 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
     , m_aiUsage(
           add(std::make_unique<AIUsageModel>(settings, platform.clock, AIUsageHomes::below(platform.home))))
     , m_shelf(add(std::make_unique<ShelfModel>(settings, platform.workspace, *m_airDrop, platform.drags)))
+    , m_weather(
+          add(std::make_unique<WeatherModel>(settings, platform.clock, platform.http, platform.location)))
+    , m_stocks(add(std::make_unique<StocksModel>(settings, platform.clock, platform.http)))
     , m_prompter(add(std::make_unique<TeleprompterModel>(settings)))
     , m_now(platform.clock.now())
 {

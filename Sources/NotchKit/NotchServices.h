@@ -19,15 +19,19 @@ class CapturesModel;
 class ClipboardModel;
 class DragPasteboard;
 class FileSharing;
+class HttpClient;
+class LocationService;
 class Pasteboard;
 class ShelfModel;
 class AIUsageModel;
 class ScreenCaptureQuery;
 class SoundPlayer;
+class StocksModel;
 class TeleprompterModel;
 class Thumbnails;
 class TimerModel;
 class UserDefaults;
+class WeatherModel;
 class Workspace;
 
 /// The ports that the tools are built on.
@@ -42,6 +46,8 @@ struct NotchPlatform
     FileSharing &sharing;
     ScreenCaptureQuery &captures;
     Thumbnails &thumbnails;
+    HttpClient &http;
+    LocationService &location;
     QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
 };
 
@@ -56,14 +62,18 @@ class NotchServices : public QObject
     Q_MOC_INCLUDE("NotchKit/Tools/ClipboardModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/AIUsageModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ShelfModel.h")
+    Q_MOC_INCLUDE("NotchKit/Tools/StocksModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TeleprompterModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
+    Q_MOC_INCLUDE("NotchKit/Tools/WeatherModel.h")
     Q_PROPERTY(Kestrune::NotchSettings *settings READ settings CONSTANT)
     Q_PROPERTY(Kestrune::CapturesModel *captures READ captures CONSTANT)
     Q_PROPERTY(Kestrune::ClipboardModel *clipboard READ clipboard CONSTANT)
     Q_PROPERTY(Kestrune::ShelfModel *shelf READ shelf CONSTANT)
     Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
     Q_PROPERTY(Kestrune::AIUsageModel *aiUsage READ aiUsage CONSTANT)
+    Q_PROPERTY(Kestrune::WeatherModel *weather READ weather CONSTANT)
+    Q_PROPERTY(Kestrune::StocksModel *stocks READ stocks CONSTANT)
     Q_PROPERTY(Kestrune::TeleprompterModel *prompter READ prompter CONSTANT)
     /// Sends files to the user's other devices.
     Q_PROPERTY(Kestrune::AirDrop *airDrop READ airDrop CONSTANT)
@@ -89,6 +99,8 @@ public:
     TimerModel *timer() const { return m_timer; }
     ShelfModel *shelf() const { return m_shelf; }
     AIUsageModel *aiUsage() const { return m_aiUsage; }
+    WeatherModel *weather() const { return m_weather; }
+    StocksModel *stocks() const { return m_stocks; }
     TeleprompterModel *prompter() const { return m_prompter; }
     AirDrop *airDrop() const { return m_airDrop.get(); }
     Thumbnails &thumbnails() const { return m_thumbnails; }
@@ -155,6 +167,8 @@ private:
     ClipboardModel *m_clipboard;
     AIUsageModel *m_aiUsage;
     ShelfModel *m_shelf;
+    WeatherModel *m_weather;
+    StocksModel *m_stocks;
     TeleprompterModel *m_prompter;
     std::optional<NotchTool> m_visibleTool;
     std::unique_ptr<RunningTimer> m_clockTimer;

@@ -27,6 +27,8 @@ struct Stage
     Fakes::FakeSharing sharing;
     Fakes::FakeCaptureQuery captures;
     Fakes::FakeThumbnails thumbnails;
+    Fakes::FakeHttp http;
+    Fakes::FakeLocation location;
     Fakes::FakeDisplays displays;
     Fakes::FakePointer pointer;
     Fakes::FakePanels panels;
@@ -49,7 +51,7 @@ struct Stage
         app = std::make_unique<AppState>(
             platform,
             NotchPlatform{clock, defaults, sounds, workspace, pasteboard, drags, sharing, captures,
-                          thumbnails},
+                          thumbnails, http, location},
             NotchControllerPlatform{clock, displays, pointer, panels, hotKeys, drags},
             LaunchRequest::parse(arguments));
     }
@@ -88,7 +90,7 @@ void AppStateTest::launchRequests_data()
     QTest::newRow("a tool") << "--open timer" << true << "timer";
     QTest::newRow("no tool") << "--open" << true << "home";
     QTest::newRow("unknown tool") << "--open sundial" << true << "home";
-    QTest::newRow("tool without a pane") << "--open weather" << true << "home";
+    QTest::newRow("tool without a pane") << "--open system" << true << "home";
 }
 
 void AppStateTest::launchRequests()

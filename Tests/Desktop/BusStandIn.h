@@ -35,6 +35,8 @@ public:
     /// The bus as the adapter under test sees it.
     QDBusConnection bus() const { return m_bus.connection(); }
 
+    QString address() const { return m_bus.address(); }
+
     QString introspect(const QString &) const override { return {}; }
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
     {

@@ -23,6 +23,8 @@ struct Core
     FakeSharing sharing;
     FakeCaptureQuery captures;
     FakeThumbnails thumbnails;
+    FakeHttp http;
+    FakeLocation location;
     FakeDisplays displays;
     FakePointer pointer;
     FakePanels panels;
@@ -33,7 +35,8 @@ struct Core
 
     NotchPlatform platform(const QString &home = QDir::homePath())
     {
-        return {clock, defaults, sounds, workspace, pasteboard, drags, sharing, captures, thumbnails, home};
+        return {clock,   defaults, sounds,     workspace, pasteboard, drags,
+                sharing, captures, thumbnails, http,      location,   home};
     }
 
     NotchScreenModel &model(std::size_t index = 0) { return *controller.notches().at(index).model; }

@@ -5,6 +5,8 @@
 #include "NotchKit/Platform/DragPasteboard.h"
 #include "NotchKit/Platform/FileSharing.h"
 #include "NotchKit/Platform/HotKeys.h"
+#include "NotchKit/Platform/HttpClient.h"
+#include "NotchKit/Platform/LocationService.h"
 #include "NotchKit/Platform/LoginItem.h"
 #include "NotchKit/Platform/NotchPanels.h"
 #include "NotchKit/Platform/Pasteboard.h"
@@ -383,6 +385,50 @@ public:
 
     QStringList asked;
     std::vector<QPromise<QImage>> answers;
+};
+
+/// Answers when the test does: a promise for each request, in their order.
+class FakeHttp : public HttpClient
+{
+public:
+    QFuture<HttpReply> get(const HttpRequest &request) override
+    {
+        asked.append(request);
+        answers.emplace_back().start();
+        return answers.back().future();
+    }
+    void answer(std::size_t index, const HttpReply &reply)
+    {
+        answers.at(index).addResult(reply);
+        answers.at(index).finish();
+    }
+    QStringList addresses() const
+    {
+        QStringList list;
+        for (const HttpRequest &request : asked)
+            list.append(QString::fromLatin1(request.url.toEncoded()));
+        return list;
+    }
+
+    QList<HttpRequest> asked;
+    std::vector<QPromise<HttpReply>> answers;
+};
+
+class FakeLocation : public LocationService
+{
+public:
+    QFuture<std::optional<Coordinate>> locate() override
+    {
+        answers.emplace_back().start();
+        return answers.back().future();
+    }
+    void answer(std::size_t index, const std::optional<Coordinate> &fix)
+    {
+        answers.at(index).addResult(fix);
+        answers.at(index).finish();
+    }
+
+    std::vector<QPromise<std::optional<Coordinate>>> answers;
 };
 
 class FakeApplications : public RunningApplications

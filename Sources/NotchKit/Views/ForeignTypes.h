@@ -8,8 +8,10 @@
 #include "NotchKit/Tools/CapturesModel.h"
 #include "NotchKit/Tools/ClipboardModel.h"
 #include "NotchKit/Tools/ShelfModel.h"
+#include "NotchKit/Tools/StocksModel.h"
 #include "NotchKit/Tools/TeleprompterModel.h"
 #include "NotchKit/Tools/TimerModel.h"
+#include "NotchKit/Tools/WeatherModel.h"
 
 #include <QtQml/qqml.h>
 
@@ -33,8 +35,10 @@ KESTRUNE_VIEW_TYPE(NotchScreenModel);
 KESTRUNE_VIEW_TYPE(NotchServices);
 KESTRUNE_VIEW_TYPE(NotchSettings);
 KESTRUNE_VIEW_TYPE(ShelfModel);
+KESTRUNE_VIEW_TYPE(StocksModel);
 KESTRUNE_VIEW_TYPE(TeleprompterModel);
 KESTRUNE_VIEW_TYPE(TimerModel);
+KESTRUNE_VIEW_TYPE(WeatherModel);
 
 #undef KESTRUNE_VIEW_TYPE
 

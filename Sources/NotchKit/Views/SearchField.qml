@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kestrune.Views
 
 /// A search symbol and a plain field of one line.
@@ -18,42 +17,12 @@ Row {
         size: 14
         color: field.activeFocus ? Theme.text : Theme.dim
     }
-    T.TextField {
+    LineField {
         id: field
 
         anchors.verticalCenter: parent.verticalCenter
         width: 140
-        implicitHeight: 24
-        leftPadding: 8
-        rightPadding: 8
-        font.family: Qt.application.font.family
-        font.pixelSize: 12
-        color: Theme.text
-        selectionColor: Theme.accent
-        selectedTextColor: "black"
-        verticalAlignment: TextInput.AlignVCenter
-        selectByMouse: true
+        screenModel: search.screenModel
         placeholderText: qsTranslate("notch", "Search")
-        Accessible.role: Accessible.EditableText
-        Accessible.name: placeholderText
-        background: Rectangle {
-            radius: 8
-            color: field.hovered ? Theme.hovered : Theme.faint
-            border.width: field.activeFocus ? 1 : 0
-            border.color: Theme.accent
-        }
-        Component.onCompleted: ClipboardGuard.detach(field)
-        onPressed: search.screenModel.keyboardWanted()
-
-        Text {
-            anchors { fill: parent; leftMargin: 8; rightMargin: 8 }
-            visible: field.length === 0 && field.preeditText === ""
-            text: field.placeholderText
-            font: field.font
-            color: Qt.rgba(1, 1, 1, 0.35)
-            verticalAlignment: Text.AlignVCenter
-            elide: Text.ElideRight
-            Accessible.ignored: true
-        }
     }
 }

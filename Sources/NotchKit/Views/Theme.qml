@@ -6,6 +6,10 @@ import QtQuick
 QtObject {
     readonly property color accent: "#4da3ff"
     readonly property color text: Qt.rgba(1, 1, 1, 0.92)
+    readonly property color good: "#3dcf64"
+    readonly property color warning: "#ffa12e"
+    readonly property color bad: "#ff5a52"
+    readonly property color sun: "#ffd24d"
     readonly property color dim: Qt.rgba(1, 1, 1, 0.55)
     readonly property color faint: Qt.rgba(1, 1, 1, 0.08)
     readonly property color hovered: Qt.rgba(1, 1, 1, 0.14)

@@ -1,5 +1,7 @@
 #include "UsageGauge.h"
 
+#include "Palette.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -22,8 +24,8 @@ QColor UsageGauge::color(double fraction)
 {
     const double shown = clamped(fraction);
     if (shown > 0.85)
-        return QColor::fromRgb(0xff, 0x5a, 0x52);
-    return shown > 0.6 ? QColor::fromRgb(0xff, 0xa1, 0x2e) : QColor::fromRgb(0x3d, 0xcf, 0x64);
+        return Palette::kRed;
+    return shown > 0.6 ? Palette::kOrange : Palette::kGreen;
 }
 
 QString UsageGauge::percent(double fraction)

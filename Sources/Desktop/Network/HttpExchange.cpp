@@ -1,0 +1,95 @@
+#include "HttpExchange.h"
+
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QSslConfiguration>
+
+namespace Kestrune {
+
+namespace {
+
+/// The request as Qt sends it, without anything that says more about the user than the caller does.
+QNetworkRequest prepare(const HttpRequest &request)
+{
+    using Qt = QNetworkRequest;
+    Qt prepared(request.url);
+    prepared.setAttribute(Qt::RedirectPolicyAttribute, Qt::UserVerifiedRedirectPolicy);
+    prepared.setAttribute(Qt::CookieLoadControlAttribute, Qt::Manual);
+    prepared.setAttribute(Qt::CookieSaveControlAttribute, Qt::Manual);
+    prepared.setAttribute(Qt::AuthenticationReuseAttribute, Qt::Manual);
+    prepared.setAttribute(Qt::CacheSaveControlAttribute, false);
+    prepared.setAttribute(Qt::Http2AllowedAttribute, false);
+    // A reply that grows out of all proportion when it is unpacked is refused before it does.
+    prepared.setDecompressedSafetyCheckThreshold(request.mostBytes);
+    // Otherwise the user's languages would be sent. That of the program, "Mozilla/5.0" where none is given,
+    // tells nothing.
+    prepared.setRawHeader("Accept-Language", "*");
+    for (const auto &[name, value] : request.headers)
+        prepared.setRawHeader(name, value);
+    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    tls.setPeerVerifyMode(QSslSocket::VerifyPeer);
+    tls.setProtocol(QSsl::TlsV1_2OrLater);
+    prepared.setSslConfiguration(tls);
+    return prepared;
+}
+
+} // namespace
+
+HttpExchange::HttpExchange(QNetworkAccessManager &manager, const HttpRequest &request, Promise promise)
+    : QObject(&manager)
+    , m_promise(std::move(promise))
+    , m_mostBytes(request.mostBytes)
+    , m_reply(manager.get(prepare(request)))
+{
+    m_reply->setParent(this);
+    m_reply->setReadBufferSize(m_mostBytes + 1);
+    connect(m_reply, &QNetworkReply::redirected, this, &HttpExchange::follow);
+    connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::read);
+    connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::conclude);
+    connect(&m_watcher, &QFutureWatcherBase::canceled, this, &HttpExchange::giveUp);
+    m_watcher.setFuture(m_promise->future());
+    connect(&m_deadline, &QTimer::timeout, this, &HttpExchange::giveUp);
+    m_deadline.setSingleShot(true);
+    m_deadline.start(request.timeout);
+}
+
+void HttpExchange::follow(const QUrl &url)
+{
+    if (url.scheme() == QLatin1String("https") && ++m_redirections <= kMostRedirections)
+        Q_EMIT m_reply->redirectAllowed();
+    else
+        giveUp();
+}
+
+void HttpExchange::read()
+{
+    // Bounded: what is compressed is unpacked as it is read.
+    m_body += m_reply->read(m_mostBytes + 1 - m_body.size());
+    if (m_body.size() > m_mostBytes)
+        giveUp();
+}
+
+void HttpExchange::conclude()
+{
+    read();
+    const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    // An error page is a reply, one that broke off is none.
+    if (status >= 400 || (status >= 200 && m_reply->error() == QNetworkReply::NoError))
+        finish({status, m_body});
+    else
+        giveUp();
+}
+
+void HttpExchange::finish(const HttpReply &reply)
+{
+    if (!m_promise)
+        return;
+    const Promise promise = std::exchange(m_promise, {});
+    m_watcher.disconnect(this);
+    m_reply->disconnect(this);
+    promise->addResult(reply);
+    promise->finish();
+    deleteLater(); // and with it the reply, which ends what still comes
+}
+
+} // namespace Kestrune

@@ -1,0 +1,60 @@
+import QtQuick
+import Kestrune.Views
+
+/// Asks for the weather's place.
+FocusScope {
+    id: editor
+
+    required property WeatherModel weather
+    required property NotchScreenModel screenModel
+
+    implicitWidth: column.width
+    implicitHeight: column.height
+
+    Column {
+        id: column
+
+        spacing: 12
+
+        Symbol {
+            anchors.horizontalCenter: parent.horizontalCenter
+            name: "cloud.sun"
+            size: 30
+            color: Qt.rgba(1, 1, 1, 0.5)
+        }
+        Row {
+            spacing: Theme.gap
+
+            Item { // balances the spinner
+                width: 16
+                height: 1
+            }
+            LineField {
+                id: city
+
+                width: 220
+                implicitHeight: 28
+                focus: true
+                screenModel: editor.screenModel
+                placeholderText: qsTranslate("notch", "City")
+                onAccepted: editor.weather.search(text)
+                onVisibleChanged: if (visible) clear()
+            }
+            TextButton {
+                text: qsTranslate("notch", "Search")
+                prominent: true
+                enabled: city.text.trim() !== ""
+                onClicked: editor.weather.search(city.text)
+            }
+            TextButton {
+                symbol: "location"
+                text: qsTranslate("notch", "Use my location")
+                onClicked: editor.weather.useCurrentLocation()
+            }
+            Spinner {
+                anchors.verticalCenter: parent.verticalCenter
+                running: editor.weather.searching || editor.weather.locating
+            }
+        }
+    }
+}

@@ -1,0 +1,58 @@
+#include "QuoteFormat.h"
+
+#include "NotchKit/NotchStrings.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr int kMostDecimals = 10;
+
+/// The most decimals that a price of that size is written with.
+int mostDecimals(double price)
+{
+    const double size = std::abs(price);
+    if (size >= 100'000)
+        return 0;
+    if (size >= 10 || size == 0)
+        return 2;
+    return std::clamp(3 - static_cast<int>(std::floor(std::log10(size))), 4, kMostDecimals);
+}
+
+/// Two at least where there are any; no further zeros.
+int decimals(double price)
+{
+    const int most = mostDecimals(price);
+    QString digits = QString::number(price, 'f', most);
+    int count = most;
+    for (; count > 2 && digits.endsWith(QLatin1Char('0')); --count)
+        digits.chop(1);
+    return count;
+}
+
+} // namespace
+
+QString QuoteFormat::price(double price) { return QLocale().toString(price, 'f', decimals(price)); }
+
+QString QuoteFormat::change(double fraction)
+{
+    const double percent = std::round(std::clamp(fraction, -1e6, 1e6) * 10'000) / 100;
+    const QLocale locale;
+    const QString sign = percent > 0 ? locale.positiveSign() : percent < 0 ? QStringLiteral("−") : QString();
+    return sign + notchStrings(QT_TRANSLATE_NOOP("notch", "%d%%"))
+                      .replace(QLatin1String("%d"), locale.toString(std::abs(percent), 'f', 2))
+                      .replace(QLatin1String("%%"), QLatin1String("%"));
+}
+
+QString QuoteFormat::notFound(const QStringList &symbols)
+{
+    return notchStrings(QT_TRANSLATE_NOOP("notch", "Not found: %@"))
+        .replace(QLatin1String("%@"), symbols.join(QStringLiteral(", ")));
+}
+
+} // namespace Kestrune

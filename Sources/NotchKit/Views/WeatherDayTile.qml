@@ -1,0 +1,53 @@
+import QtQuick
+import Kestrune.Views
+
+/// One day of the forecast: its name, its sky, its highest and lowest temperature.
+Tile {
+    id: tile
+
+    required property weatherDayFigures day
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: day.help
+
+    Column {
+        anchors.centerIn: parent
+        width: parent.width - 8
+        spacing: 4
+
+        Text {
+            width: parent.width
+            text: tile.day.label
+            font.pixelSize: 12
+            font.weight: Font.DemiBold
+            color: tile.day.today ? Theme.text : Theme.dim
+            horizontalAlignment: Text.AlignHCenter
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        Symbol {
+            width: parent.width
+            name: tile.day.symbol
+            size: 26
+            color: tile.day.symbol === "sun.max.fill" ? Theme.sun : Theme.text
+        }
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 6
+
+            Text {
+                text: tile.day.high
+                font.pixelSize: 13
+                font.weight: Font.Medium
+                color: Theme.text
+                Accessible.ignored: true
+            }
+            Text {
+                text: tile.day.low
+                font.pixelSize: 13
+                color: Theme.dim
+                Accessible.ignored: true
+            }
+        }
+    }
+}

@@ -1,0 +1,93 @@
+#include "WeatherFigures.h"
+
+#include "NotchKit/NotchStrings.h"
+
+#include <QLocale>
+
+#include <cmath>
+
+namespace Kestrune {
+
+namespace {
+
+/// Halves away from zero; never a negative zero.
+QString whole(double value)
+{
+    const double rounded = std::round(value);
+    const QString digits = QLocale().toString(std::abs(rounded), 'f', 0);
+    return rounded < 0 ? QChar(u'−') + digits : digits;
+}
+
+QString dash() { return QStringLiteral("–"); }
+
+QString windText(double speed, bool miles)
+{
+    const char *text =
+        miles ? QT_TRANSLATE_NOOP("notch", "Wind %@ mph") : QT_TRANSLATE_NOOP("notch", "Wind %@ km/h");
+    return notchStrings(text).replace(QLatin1String("%@"), whole(speed));
+}
+
+} // namespace
+
+QString WeatherFigures::degrees(double temperature) { return whole(temperature) + QChar(u'°'); }
+
+void WeatherFigures::setServices(NotchServices *services)
+{
+    m_services = services;
+    const WeatherModel *weather = services->weather();
+    connect(weather, &WeatherModel::figuresChanged, this, &WeatherFigures::update);
+    connect(weather, &WeatherModel::placeChanged, this, &WeatherFigures::update);
+    connect(services->settings(), &NotchSettings::weatherCityChanged, this, &WeatherFigures::update);
+    connect(services, &NotchServices::nowChanged, this, &WeatherFigures::followDate);
+    followDate();
+    update();
+}
+
+void WeatherFigures::followDate()
+{
+    const QDate today = m_services->now().toLocalTime().date();
+    if (std::exchange(m_today, today) != today)
+        update();
+}
+
+void WeatherFigures::update()
+{
+    const WeatherModel &model = *m_services->weather();
+    Shown shown;
+    shown.city = m_services->settings()->weatherCity();
+    shown.symbol = weatherSymbol({});
+    shown.temperature = dash();
+    if (model.hasFiguresOfPlace()) {
+        shown.symbol = model.symbol();
+        if (const auto temperature = model.temperature())
+            shown.temperature = degrees(*temperature);
+        if (const auto wind = model.wind())
+            shown.wind = windText(*wind, model.isFahrenheit());
+        for (const WeatherDay &day : model.days())
+            shown.days.append(figures(day));
+    }
+    if (!shown.days.isEmpty())
+        shown.range = shown.days.first().high + QStringLiteral(" / ") + shown.days.first().low;
+    if (shown == m_shown)
+        return;
+    m_shown = shown;
+    Q_EMIT changed();
+}
+
+WeatherDayFigures WeatherFigures::figures(const WeatherDay &day) const
+{
+    const bool today = day.date == m_today;
+    const int weekday = day.date.dayOfWeek();
+    WeatherDayFigures shown{today ? notchStrings(QT_TRANSLATE_NOOP("notch", "Today"))
+                                  : QLocale().standaloneDayName(weekday, QLocale::ShortFormat),
+                            today,
+                            weatherSymbol(day.code),
+                            degrees(day.high),
+                            degrees(day.low),
+                            {}};
+    const QString name = today ? shown.label : QLocale().standaloneDayName(weekday);
+    shown.help = name + QStringLiteral(": ") + shown.high + QStringLiteral(" / ") + shown.low;
+    return shown;
+}
+
+} // namespace Kestrune

@@ -1,0 +1,108 @@
+#include "Desktop/Location/GeoClueLocation.h"
+#include "Desktop/BusStandIn.h"
+#include "Support/TestRegistry.h"
+
+#include <QDBusObjectPath>
+#include <QElapsedTimer>
+#include <QTest>
+
+using namespace Kestrune;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A value of a property, as a reply to the question for it.
+QDBusMessage valueReply(const QDBusMessage &call, const QVariant &value)
+{
+    return call.createReply(QVariant::fromValue(QDBusVariant(value)));
+}
+
+} // namespace
+
+/// The adapter against a stand-in of GeoClue on a system bus of the test's own.
+class GeoClueLocationTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_service = std::make_unique<BusStandIn>(u"org.freedesktop.GeoClue2"_s);
+        qputenv("DBUS_SYSTEM_BUS_ADDRESS", m_service->address().toLatin1());
+    }
+    void cleanupTestCase() { m_service.reset(); }
+
+    void noServiceNoPlace()
+    {
+        GeoClueLocation location;
+        QElapsedTimer time;
+        time.start();
+        const auto fix = location.locate();
+        QVERIFY2(time.elapsed() < 100, "the caller waited");
+        QTRY_VERIFY(fix.isFinished());
+        QVERIFY(!fix.result());
+    }
+
+    void fixes_data()
+    {
+        QTest::addColumn<QString>("refused"); // the call that the service refuses
+        QTest::addColumn<bool>("found");
+        QTest::newRow("a place") << QString() << true;
+        QTest::newRow("no client") << u"GetClient"_s << false;
+        QTest::newRow("not allowed") << u"Start"_s << false;
+    }
+
+    void fixes()
+    {
+        QFETCH(const QString, refused);
+        QFETCH(const bool, found);
+        QVERIFY(m_service->appear([&](const QDBusMessage &call) { return answer(call, refused); }));
+        GeoClueLocation location;
+        for (int i = 0; i < 2; ++i) {
+            const auto fix = location.locate();
+            QTRY_VERIFY(fix.isFinished());
+            QCOMPARE(fix.result(), found ? std::optional(Coordinate{52.5, -13.25}) : std::nullopt);
+        }
+    }
+
+    void aSilentServiceIsGivenUp()
+    {
+        QVERIFY(m_service->appear([&](const QDBusMessage &call) { return answer(call, u"nothing"_s); }));
+        m_silent = true;
+        auto location = std::make_unique<GeoClueLocation>();
+        auto fix = location->locate();
+        QTRY_VERIFY(m_service->called().join(u' ').contains(u"Client.Start"_s));
+        fix.cancel();
+        QTRY_VERIFY(fix.isFinished());
+        const auto left = location->locate();
+        location.reset();
+        QVERIFY(left.isFinished() && left.isCanceled());
+    }
+
+private:
+    std::optional<QDBusMessage> answer(const QDBusMessage &call, const QString &refused) const
+    {
+        if (call.member() == refused)
+            return call.createErrorReply(QDBusError::AccessDenied, u"no"_s);
+        if (call.member() == "GetClient"_L1)
+            return call.createReply(QVariant::fromValue(QDBusObjectPath(u"/client"_s)));
+        if (call.member() == "Start"_L1 && !m_silent) {
+            auto update = QDBusMessage::createSignal(u"/client"_s, u"org.freedesktop.GeoClue2.Client"_s,
+                                                     u"LocationUpdated"_s);
+            update.setArguments({QVariant::fromValue(QDBusObjectPath(u"/"_s)),
+                                 QVariant::fromValue(QDBusObjectPath(u"/location"_s))});
+            QDBusConnection(u"org.freedesktop.GeoClue2"_s).send(update);
+        }
+        if (call.member() == "Get"_L1) {
+            const QString name = call.arguments().value(1).toString();
+            return valueReply(call, name == "Latitude"_L1 ? 52.5 : name == "Longitude"_L1 ? -13.25 : 0.0);
+        }
+        return call.createReply();
+    }
+
+    std::unique_ptr<BusStandIn> m_service;
+    bool m_silent = false;
+};
+
+REGISTER_TEST(GeoClueLocationTest);
+#include "GeoClueLocationTest.moc"

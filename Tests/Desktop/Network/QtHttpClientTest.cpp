@@ -1,0 +1,284 @@
+#include "Desktop/Network/QtHttpClient.h"
+#include "Support/TestRegistry.h"
+#include "Support/WebStandIn.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QNetworkProxyFactory>
+#include <QProcess>
+#include <QSslConfiguration>
+#include <QSslKey>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Kestrune;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+using Answer = WebStandIn::Answer;
+using End = WebStandIn::Answer::End;
+
+constexpr qint64 kMost = 100'000;
+
+/// What the shell command prints, packed; kept out of this process before it is.
+QByteArray zipped(const QString &command)
+{
+    QProcess shell;
+    shell.start(u"sh"_s, {u"-c"_s, command + u" | gzip -9"_s});
+    shell.waitForFinished();
+    return shell.readAllStandardOutput();
+}
+
+/// Zeros, which shrink to a thousandth.
+QByteArray zeros(int size) { return zipped(u"head -c %1 /dev/zero"_s.arg(size)); }
+
+Answer ended(Answer answer, End end)
+{
+    answer.end = end;
+    return answer;
+}
+
+Answer slow(Answer answer, qsizetype piece, std::chrono::milliseconds pause)
+{
+    answer.piece = piece;
+    answer.pause = pause;
+    return answer;
+}
+
+/// A certificate for 127.0.0.1 that nobody vouches for but itself.
+QSslConfiguration selfSigned()
+{
+    const QTemporaryDir folder;
+    const QString key = folder.filePath(u"key"_s);
+    const QString certificate = folder.filePath(u"certificate"_s);
+    QProcess openssl;
+    openssl.start(u"openssl"_s,
+                  {u"req"_s, u"-x509"_s, u"-newkey"_s, u"rsa:2048"_s, u"-nodes"_s, u"-days"_s, u"2"_s,
+                   u"-subj"_s, u"/CN=127.0.0.1"_s, u"-addext"_s, u"subjectAltName=IP:127.0.0.1"_s,
+                   u"-keyout"_s, key, u"-out"_s, certificate});
+    openssl.waitForFinished();
+    QFile keyFile(key);
+    if (!keyFile.open(QFile::ReadOnly))
+        qFatal("no certificate");
+    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    tls.setPrivateKey(QSslKey(&keyFile, QSsl::Rsa));
+    tls.setLocalCertificateChain(QSslCertificate::fromPath(certificate));
+    return tls;
+}
+
+/// Makes the most memory that this process has held at once what it holds now.
+void forgetPeakMemory()
+{
+    QFile file(u"/proc/self/clear_refs"_s);
+    QVERIFY(file.open(QFile::WriteOnly) && file.write("5") == 1);
+}
+
+/// In kilobytes, since then.
+qint64 peakMemory()
+{
+    QFile file(u"/proc/self/status"_s);
+    file.open(QFile::ReadOnly);
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).simplified().split(' ').constFirst().toLongLong();
+    }
+    return 0;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(WebStandIn::Answer)
+
+/// The adapter against a server of the test's own, polite and otherwise.
+class QtHttpClientTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void replies_data();
+    void replies();
+    void sendsNothingOfItsOwn();
+    void boundsMemory();
+    void cancelledAndLeftBehind();
+    void certificates();
+    void addressesAndProxy();
+
+private:
+    static HttpReply fetch(HttpClient &client, const QUrl &url, std::chrono::milliseconds timeout = 5s)
+    {
+        const auto future = client.get({url, {}, timeout, kMost});
+        return QTest::qWaitFor([&] { return future.isFinished(); }, 20'000) && !future.isCanceled()
+                   ? future.result()
+                   : HttpReply{-1, {}};
+    }
+};
+
+void QtHttpClientTest::replies_data()
+{
+    QTest::addColumn<WebStandIn::Answer>("answer");
+    QTest::addColumn<int>("status"); // 0 for no reply
+    QTest::addColumn<qsizetype>("size");
+    const auto row = [](const char *name, const Answer &answer, int status, qsizetype size = 0) {
+        QTest::newRow(name) << answer << status << size;
+    };
+    const auto raw = [](const QByteArray &bytes, End end) { return ended({bytes}, end); };
+    const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+    const auto gzip = [](const QByteArray &body) {
+        return WebStandIn::page(200, body, "Content-Encoding: gzip\r\n");
+    };
+    row("whole", WebStandIn::page(200, "{}"), 200, 2);
+    row("in pieces", slow(WebStandIn::page(200, QByteArray(500, 'x')), 50, 5ms), 200, 500);
+    row("chunked", raw(chunked + "3\r\nabc\r\n0\r\n\r\n", End::keep), 200, 3);
+    row("until it closes", raw("HTTP/1.0 200 OK\r\n\r\nabcd", End::close), 200, 4);
+    row("empty", WebStandIn::page(204, {}), 204);
+    row("not found", WebStandIn::page(404, "<html>"), 404, 6);
+    row("server error", WebStandIn::page(503, "busy"), 503, 4);
+    row("wants a password", WebStandIn::page(401, "who", "WWW-Authenticate: Basic realm=\"x\"\r\n"), 401, 3);
+    row("just small enough", WebStandIn::page(200, QByteArray(kMost, 'x')), 200, kMost);
+    row("too large", WebStandIn::page(200, QByteArray(kMost + 1, 'x')), 0);
+    row("too large, chunked", raw(chunked + "30d41\r\n" + QByteArray(200'001, 'x'), End::keep), 0);
+    row("truncated", raw("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nabc", End::close), 0);
+    row("reset", raw("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nabc", End::reset), 0);
+    row("reset at once", raw({}, End::reset), 0);
+    row("no HTTP", raw("SSH-2.0-x\r\n\r\n", End::close), 0);
+    row("slow drip", slow(WebStandIn::page(200, QByteArray(5000, 'x')), 1, 50ms), 0);
+    row("silence", raw({}, End::keep), 0);
+    row("to http", WebStandIn::page(302, {}, "Location: /other\r\n"), 0);
+    row("to a file", WebStandIn::page(302, {}, "Location: file:///etc/hostname\r\n"), 0);
+    row("to nowhere", WebStandIn::page(302, {}, "Location: https://127.0.0.1:1/\r\n"), 0);
+    row("packed", gzip(zeros(1000)), 200, 1000);
+    row("packed too large", gzip(zipped(u"seq 40000"_s)), 0);
+    row("packed bomb", gzip(zeros(50'000'000)), 0);
+}
+
+void QtHttpClientTest::replies()
+{
+    QFETCH(const WebStandIn::Answer, answer);
+    QFETCH(const int, status);
+    QFETCH(const qsizetype, size);
+    const WebStandIn server([&](const auto &) { return answer; });
+    QtHttpClient client;
+    QElapsedTimer time;
+    time.start();
+    const HttpReply reply = fetch(client, server.url(u"/first"_s), 1500ms);
+    QCOMPARE(reply.status, status);
+    QCOMPARE(reply.body.size(), size);
+    QVERIFY(time.elapsed() < 2500);
+    for (const QByteArray &target : server.targets())
+        QCOMPARE(target, "/first"); // Qt asks a second time after a reset
+}
+
+void QtHttpClientTest::sendsNothingOfItsOwn()
+{
+    const WebStandIn server([](const auto &) {
+        return WebStandIn::page(200, "{}",
+                                "Set-Cookie: a=b; Path=/\r\nETag: \"e\"\r\nCache-Control: max-age=9\r\n");
+    });
+    QtHttpClient client;
+    const QLocale before;
+    QLocale::setDefault(QLocale(u"de_DE"_s));
+    fetch(client, server.url(u"/a%5Eb?c=San%20Jos%C3%A9"_s));
+    const auto future =
+        client.get({server.url(u"/2"_s), {{"User-Agent", "Own"}, {"Host", "example.org"}}, 5s, 9});
+    QTRY_VERIFY(future.isFinished());
+    QLocale::setDefault(before);
+    const auto log = server.log();
+    QCOMPARE(log.size(), 2);
+    QCOMPARE(log.at(0).target, "/a%5Eb?c=San%20Jos%C3%A9");
+    QCOMPARE(log.at(0).headers.keys(),
+             (QList<QByteArray>{"accept-encoding", "accept-language", "connection", "host", "user-agent"}));
+    QCOMPARE(log.at(0).header("accept-language"), "*");
+    QCOMPARE(log.at(0).header("user-agent"), "Mozilla/5.0");
+    QCOMPARE(log.at(1).headers.keys(), log.at(0).headers.keys());
+    QCOMPARE(log.at(1).header("user-agent"), "Own");
+    QCOMPARE(log.at(1).header("host"), "example.org");
+}
+
+void QtHttpClientTest::boundsMemory()
+{
+    const QByteArray bomb = zeros(300'000'000);
+    const QByteArray large(60'000'000, 'x');
+    QCOMPARE_GT(bomb.size(), 100'000);
+    const WebStandIn server([&](const WebStandIn::Request &request) {
+        return request.target == "/bomb" ? WebStandIn::page(200, bomb, "Content-Encoding: gzip\r\n")
+                                         : slow(WebStandIn::page(200, large), 1'000'000, 1ms);
+    });
+    QtHttpClient client;
+    forgetPeakMemory();
+    const qint64 before = peakMemory();
+    for (const QString &target : {u"/bomb"_s, u"/large"_s, u"/bomb"_s, u"/large"_s})
+        QCOMPARE(fetch(client, server.url(target)).status, 0);
+    const qint64 grown = peakMemory() - before;
+    QVERIFY2(grown < 100'000, qPrintable(QString::number(grown)));
+}
+
+void QtHttpClientTest::cancelledAndLeftBehind()
+{
+    const WebStandIn server([](const auto &) { return Answer{}; }); // silent
+    auto client = std::make_unique<QtHttpClient>();
+    auto given = client->get({server.url(u"/given-up"_s), {}, 60s, kMost});
+    QTRY_COMPARE(server.log().size(), 1);
+    given.cancel();
+    QTRY_VERIFY(given.isFinished());
+    const auto left = client->get({server.url(u"/left"_s), {}, 60s, kMost});
+    QTRY_COMPARE(server.log().size(), 2);
+    QElapsedTimer time;
+    time.start();
+    client.reset();
+    QVERIFY(left.isFinished() && left.isCanceled());
+    QVERIFY(time.elapsed() < 1000);
+}
+
+void QtHttpClientTest::certificates()
+{
+    const QSslConfiguration tls = selfSigned();
+    const WebStandIn server(
+        [](const WebStandIn::Request &request) {
+            if (request.target == "/loop")
+                return WebStandIn::page(302, {}, "Location: /loop\r\n");
+            return request.target == "/moved" ? WebStandIn::page(301, {}, "Location: /here\r\n")
+                                              : WebStandIn::page(200, "secret");
+        },
+        tls);
+    {
+        QtHttpClient client;
+        QCOMPARE(fetch(client, server.url(u"/here"_s)).status, 0);
+        QVERIFY2(server.log().isEmpty(), "it told an unknown server what it wants");
+    }
+    const QSslConfiguration before = QSslConfiguration::defaultConfiguration();
+    QSslConfiguration trusting = before;
+    trusting.addCaCertificates(tls.localCertificateChain());
+    QSslConfiguration::setDefaultConfiguration(trusting);
+    QtHttpClient client;
+    QCOMPARE(fetch(client, server.url(u"/moved"_s)).body, "secret");
+    QUrl otherName = server.url(u"/here"_s);
+    otherName.setHost(u"localhost"_s);
+    QCOMPARE(fetch(client, otherName).status, 0);
+    QCOMPARE(fetch(client, server.url(u"/loop"_s)).status, 0);
+    QSslConfiguration::setDefaultConfiguration(before);
+    QCOMPARE(server.targets().count("/loop"), 4); // the first and three redirections
+}
+
+void QtHttpClientTest::addressesAndProxy()
+{
+    const WebStandIn proxy([](const auto &) { return WebStandIn::page(502, "no"); });
+    const QByteArray address = proxy.url().toEncoded();
+    for (const char *name : {"http_proxy", "https_proxy"})
+        qputenv(name, address);
+    QtHttpClient client;
+    for (const char *refused : {"http://example.invalid/", "http://localhost/", "ftp://127.0.0.1/",
+                                "file:///etc/hostname", "https:///x", ""})
+        QCOMPARE(fetch(client, QUrl(QString::fromLatin1(refused))).status, 0);
+    QVERIFY(proxy.log().isEmpty());
+    QCOMPARE(fetch(client, QUrl(u"https://example.invalid/x"_s)).status, 0);
+    QCOMPARE(proxy.targets().value(0), "example.invalid:443");
+    const WebStandIn direct([](const auto &) { return WebStandIn::page(200, "direct"); });
+    QCOMPARE(fetch(client, direct.url(u"/"_s)).body, "direct");
+    for (const char *name : {"http_proxy", "https_proxy"})
+        qunsetenv(name);
+}
+
+REGISTER_TEST(QtHttpClientTest);
+#include "QtHttpClientTest.moc"
