@@ -6,6 +6,8 @@
 #include "Desktop/Captures/SharedThumbnails.h"
 #include "Desktop/Defaults/SqliteUserDefaults.h"
 #include "Desktop/Location/GeoClueLocation.h"
+#include "Desktop/Media/MprisApplications.h"
+#include "Desktop/Media/MprisExecutor.h"
 #include "Desktop/Network/QtHttpClient.h"
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "Desktop/Session/BusApplications.h"
@@ -62,6 +64,8 @@ private:
     QtHttpClient m_http;
     std::unique_ptr<HttpClient> m_localServices; ///< In place of the web services, in tests.
     GeoClueLocation m_location;
+    MprisApplications m_players;
+    MprisExecutor m_scripts;
     QQmlEngine m_engine;
     PanelFactory m_panels;
     AlertWindow m_alert;

@@ -44,8 +44,8 @@ struct HubParts
     Kestrune::NotchPlatform platform() { return platform(pasteboard); }
     Kestrune::NotchPlatform platform(Kestrune::Pasteboard &other)
     {
-        return {clock,   defaults, sounds,     workspace, other,   drags,
-                sharing, captures, thumbnails, http,      location};
+        return {clock,    defaults,   sounds, workspace, other,   drags,  sharing,
+                captures, thumbnails, http,   location,  players, scripts};
     }
 
     Kestrune::Clock &clock;
@@ -59,6 +59,8 @@ struct HubParts
     Kestrune::Fakes::FakeThumbnails thumbnails;
     Kestrune::Fakes::FakeHttp http;
     Kestrune::Fakes::FakeLocation location;
+    Kestrune::Fakes::FakeApplications players;
+    Kestrune::Fakes::FakeScripts scripts;
     Kestrune::NotchSettings settings{defaults};
 };
 

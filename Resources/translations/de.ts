@@ -477,5 +477,25 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
         <source>Today</source>
         <translation>Heute</translation>
     </message>
+    <message>
+        <source>Allow %@ to control Music or Spotify in
+System Settings › Privacy &amp; Security › Automation.</source>
+        <translation>Erlaube %@ die Steuerung von Musik oder Spotify in
+Systemeinstellungen › Datenschutz &amp; Sicherheit › Automation.</translation>
+    </message>
+    <message>
+        <source>Play something in Music or Spotify
+and it shows up here.</source>
+        <translation>Spiel etwas in Musik oder Spotify,
+und es erscheint hier.</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
 </context>
 </TS>

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::array kTools{
     CatalogueEntry{"home", QT_TRANSLATE_NOOP("notch", "Home"), "square.grid.2x2.fill", "HomePane"},
-    CatalogueEntry{"nowPlaying", QT_TRANSLATE_NOOP("notch", "Now Playing"), "music.note"},
+    CatalogueEntry{"nowPlaying", QT_TRANSLATE_NOOP("notch", "Now Playing"), "music.note", "NowPlayingPane"},
     CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Clipboard"), "doc.on.clipboard", "ClipboardPane"},
     CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Screenshots"), "camera.viewfinder",
                    "CapturesPane"},
@@ -30,7 +30,7 @@ constexpr std::array kTools{
 constexpr std::array kWidgets{
     CatalogueEntry{"greeting", QT_TRANSLATE_NOOP("notch", "Greeting and date"), nullptr, "GreetingBlock"},
     CatalogueEntry{"weather", QT_TRANSLATE_NOOP("notch", "Weather"), nullptr, "WeatherBlock"},
-    CatalogueEntry{"nowPlaying", QT_TRANSLATE_NOOP("notch", "Now Playing")},
+    CatalogueEntry{"nowPlaying", QT_TRANSLATE_NOOP("notch", "Now Playing"), nullptr, "NowPlayingBlock"},
     CatalogueEntry{"events", QT_TRANSLATE_NOOP("notch", "Today's events")},
     CatalogueEntry{"reminders", QT_TRANSLATE_NOOP("notch", "Reminders")},
     CatalogueEntry{"aiUsage", QT_TRANSLATE_NOOP("notch", "AI Usage"), nullptr, "AIUsageBlock"},

@@ -5,6 +5,7 @@
 #include "Tools/AIUsageModel.h"
 #include "Tools/CapturesModel.h"
 #include "Tools/ClipboardModel.h"
+#include "Tools/NowPlayingModel.h"
 #include "Tools/ShelfModel.h"
 #include "Tools/StocksModel.h"
 #include "Tools/TeleprompterModel.h"
@@ -38,6 +39,8 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
           add(std::make_unique<CapturesModel>(settings, platform.clock, platform.captures,
                                               platform.thumbnails, platform.pasteboard, platform.workspace)))
     , m_timer(add(std::make_unique<TimerModel>(platform.clock, platform.sounds)))
+    , m_nowPlaying(add(std::make_unique<NowPlayingModel>(settings, platform.clock, platform.players,
+                                                         platform.scripts, platform.http)))
     , m_clipboard(add(
           std::make_unique<ClipboardModel>(settings, platform.defaults, platform.clock, platform.pasteboard)))
     , m_aiUsage(

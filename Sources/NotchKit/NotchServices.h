@@ -24,7 +24,10 @@ class LocationService;
 class Pasteboard;
 class ShelfModel;
 class AIUsageModel;
+class NowPlayingModel;
+class RunningApplications;
 class ScreenCaptureQuery;
+class ScriptExecutor;
 class SoundPlayer;
 class StocksModel;
 class TeleprompterModel;
@@ -48,6 +51,8 @@ struct NotchPlatform
     Thumbnails &thumbnails;
     HttpClient &http;
     LocationService &location;
+    RunningApplications &players;
+    ScriptExecutor &scripts;
     QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
 };
 
@@ -61,6 +66,7 @@ class NotchServices : public QObject
     Q_MOC_INCLUDE("NotchKit/Tools/CapturesModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ClipboardModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/AIUsageModel.h")
+    Q_MOC_INCLUDE("NotchKit/Tools/NowPlayingModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ShelfModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/StocksModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TeleprompterModel.h")
@@ -70,6 +76,7 @@ class NotchServices : public QObject
     Q_PROPERTY(Kestrune::CapturesModel *captures READ captures CONSTANT)
     Q_PROPERTY(Kestrune::ClipboardModel *clipboard READ clipboard CONSTANT)
     Q_PROPERTY(Kestrune::ShelfModel *shelf READ shelf CONSTANT)
+    Q_PROPERTY(Kestrune::NowPlayingModel *nowPlaying READ nowPlaying CONSTANT)
     Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
     Q_PROPERTY(Kestrune::AIUsageModel *aiUsage READ aiUsage CONSTANT)
     Q_PROPERTY(Kestrune::WeatherModel *weather READ weather CONSTANT)
@@ -96,6 +103,7 @@ public:
     const NotchBranding &branding() const { return m_branding; }
     CapturesModel *captures() const { return m_captures; }
     ClipboardModel *clipboard() const { return m_clipboard; }
+    NowPlayingModel *nowPlaying() const { return m_nowPlaying; }
     TimerModel *timer() const { return m_timer; }
     ShelfModel *shelf() const { return m_shelf; }
     AIUsageModel *aiUsage() const { return m_aiUsage; }
@@ -164,6 +172,7 @@ private:
     std::vector<std::unique_ptr<ToolModel>> m_models; ///< The first with an activity shows it.
     CapturesModel *m_captures;
     TimerModel *m_timer;
+    NowPlayingModel *m_nowPlaying;
     ClipboardModel *m_clipboard;
     AIUsageModel *m_aiUsage;
     ShelfModel *m_shelf;

@@ -29,6 +29,7 @@ struct Stage
     Fakes::FakeThumbnails thumbnails;
     Fakes::FakeHttp http;
     Fakes::FakeLocation location;
+    Fakes::FakeScripts scripts;
     Fakes::FakeDisplays displays;
     Fakes::FakePointer pointer;
     Fakes::FakePanels panels;
@@ -51,7 +52,7 @@ struct Stage
         app = std::make_unique<AppState>(
             platform,
             NotchPlatform{clock, defaults, sounds, workspace, pasteboard, drags, sharing, captures,
-                          thumbnails, http, location},
+                          thumbnails, http, location, applications, scripts},
             NotchControllerPlatform{clock, displays, pointer, panels, hotKeys, drags},
             LaunchRequest::parse(arguments));
     }

@@ -9,21 +9,22 @@
 #include <functional>
 #include <optional>
 
-/// A session bus with the stand-in of one service on it, which records every call that it gets.
-class BusStandIn : public QDBusVirtualObject
+/// The stand-in of one service on a bus, which records every call that it gets.
+class ServiceStandIn : public QDBusVirtualObject
 {
 public:
     /// A reply, or nothing to let the caller wait.
     using Answer = std::function<std::optional<QDBusMessage>(const QDBusMessage &)>;
 
-    explicit BusStandIn(const QString &service)
+    ServiceStandIn(const QString &bus, const QString &service)
         : m_service(service)
-        , m_connection(QDBusConnection::connectToBus(m_bus.address(), service))
+        , m_name(bus + service)
+        , m_connection(QDBusConnection::connectToBus(bus, m_name))
     {
         m_connection.registerVirtualObject(QStringLiteral("/"), this, QDBusConnection::SubPath);
     }
-    ~BusStandIn() override { QDBusConnection::disconnectFromBus(m_service); }
-    Q_DISABLE_COPY_MOVE(BusStandIn)
+    ~ServiceStandIn() override { QDBusConnection::disconnectFromBus(m_name); }
+    Q_DISABLE_COPY_MOVE(ServiceStandIn)
 
     /// The service appears on the bus.
     bool appear(Answer answer)
@@ -31,11 +32,6 @@ public:
         m_answer = std::move(answer);
         return m_connection.registerService(m_service);
     }
-
-    /// The bus as the adapter under test sees it.
-    QDBusConnection bus() const { return m_bus.connection(); }
-
-    QString address() const { return m_bus.address(); }
 
     QString introspect(const QString &) const override { return {}; }
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
@@ -59,10 +55,30 @@ public:
     QList<QDBusMessage> calls;
 
 private:
-    QTemporaryDir m_folder;
-    QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment();
-    PrivateBus m_bus{m_environment, m_folder.path()};
     QString m_service;
+    QString m_name;
     QDBusConnection m_connection;
     Answer m_answer;
+};
+
+/// A session bus of a test's own.
+struct StandInBus
+{
+    QTemporaryDir folder;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    PrivateBus bus{environment, folder.path()};
+};
+
+/// Such a bus with one service on it.
+class BusStandIn : private StandInBus, public ServiceStandIn
+{
+public:
+    explicit BusStandIn(const QString &service)
+        : ServiceStandIn(StandInBus::bus.address(), service)
+    {}
+
+    /// The bus as the adapter under test sees it.
+    QDBusConnection bus() const { return StandInBus::bus.connection(); }
+
+    QString address() const { return StandInBus::bus.address(); }
 };

@@ -25,6 +25,8 @@ struct Core
     FakeThumbnails thumbnails;
     FakeHttp http;
     FakeLocation location;
+    FakeApplications players;
+    FakeScripts scripts;
     FakeDisplays displays;
     FakePointer pointer;
     FakePanels panels;
@@ -35,8 +37,8 @@ struct Core
 
     NotchPlatform platform(const QString &home = QDir::homePath())
     {
-        return {clock,   defaults, sounds,     workspace, pasteboard, drags,
-                sharing, captures, thumbnails, http,      location,   home};
+        return {clock,    defaults,   sounds, workspace, pasteboard, drags,   sharing,
+                captures, thumbnails, http,   location,  players,    scripts, home};
     }
 
     NotchScreenModel &model(std::size_t index = 0) { return *controller.notches().at(index).model; }

@@ -13,12 +13,14 @@
 #include "NotchKit/Platform/Pointer.h"
 #include "NotchKit/Platform/RunningApplications.h"
 #include "NotchKit/Platform/ScreenCaptureQuery.h"
+#include "NotchKit/Platform/ScriptExecutor.h"
 #include "NotchKit/Platform/SoundPlayer.h"
 #include "NotchKit/Platform/Thumbnails.h"
 #include "NotchKit/Platform/UserDefaults.h"
 #include "NotchKit/Platform/Workspace.h"
 
 #include <QMap>
+#include <QMutex>
 #include <QPromise>
 #include <QSet>
 #include <QUrl>
@@ -387,7 +389,8 @@ public:
     std::vector<QPromise<QImage>> answers;
 };
 
-/// Answers when the test does: a promise for each request, in their order.
+/// Answers when the test does: a promise for each request, in their order. Addresses among the `replies` are
+/// answered at once.
 class FakeHttp : public HttpClient
 {
 public:
@@ -395,7 +398,11 @@ public:
     {
         asked.append(request);
         answers.emplace_back().start();
-        return answers.back().future();
+        QFuture<HttpReply> future = answers.back().future();
+        const auto reply = replies.constFind(request.url.toString());
+        if (reply != replies.cend())
+            answer(answers.size() - 1, *reply);
+        return future;
     }
     void answer(std::size_t index, const HttpReply &reply)
     {
@@ -410,6 +417,7 @@ public:
         return list;
     }
 
+    QMap<QString, HttpReply> replies;
     QList<HttpRequest> asked;
     std::vector<QPromise<HttpReply>> answers;
 };
@@ -440,6 +448,35 @@ public:
     }
 
     QSet<QString> running;
+};
+
+/// Answers each script with what the test put there for it, on the thread that asks.
+class FakeScripts : public ScriptExecutor
+{
+public:
+    ScriptOutcome execute(const QString &source) override
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_executed.append(source);
+        return m_answers.value(source);
+    }
+
+    void answer(const QString &source, const ScriptOutcome &outcome)
+    {
+        const QMutexLocker lock(&m_mutex);
+        m_answers.insert(source, outcome);
+    }
+    /// What was executed since the last call.
+    QStringList take()
+    {
+        const QMutexLocker lock(&m_mutex);
+        return std::exchange(m_executed, {});
+    }
+
+private:
+    QMutex m_mutex;
+    QMap<QString, ScriptOutcome> m_answers;
+    QStringList m_executed;
 };
 
 class FakeLoginItem : public LoginItem

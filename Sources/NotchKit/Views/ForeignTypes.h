@@ -7,6 +7,7 @@
 #include "NotchKit/Tools/AIUsageModel.h"
 #include "NotchKit/Tools/CapturesModel.h"
 #include "NotchKit/Tools/ClipboardModel.h"
+#include "NotchKit/Tools/NowPlayingModel.h"
 #include "NotchKit/Tools/ShelfModel.h"
 #include "NotchKit/Tools/StocksModel.h"
 #include "NotchKit/Tools/TeleprompterModel.h"
@@ -34,6 +35,7 @@ KESTRUNE_VIEW_TYPE(AIUsageModel);
 KESTRUNE_VIEW_TYPE(NotchScreenModel);
 KESTRUNE_VIEW_TYPE(NotchServices);
 KESTRUNE_VIEW_TYPE(NotchSettings);
+KESTRUNE_VIEW_TYPE(NowPlayingModel);
 KESTRUNE_VIEW_TYPE(ShelfModel);
 KESTRUNE_VIEW_TYPE(StocksModel);
 KESTRUNE_VIEW_TYPE(TeleprompterModel);

@@ -2,12 +2,22 @@
 
 #include "NotchKit/NotchStrings.h"
 #include "NotchKit/RelativeTime.h"
+#include "NotchKit/Tools/TimerModel.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace Kestrune {
 
 QString Format::relativeTime(const QDateTime &date, const QDateTime &now)
 {
     return Kestrune::relativeTime(date, now, notchLanguage());
+}
+
+QString Format::playTime(double seconds)
+{
+    constexpr double kLongest = 100 * 3600 - 1;
+    return TimerModel::format(std::floor(std::clamp(seconds, 0.0, kLongest)));
 }
 
 QString Format::namingHost(const QString &text)

@@ -1,0 +1,59 @@
+#include "CoverSource.h"
+
+#include "NotchKit/Tools/CoverImage.h"
+
+#include <QFile>
+#include <QUrl>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Kestrune {
+
+namespace {
+
+/// A device or a pipe that bears a cover's name would never end.
+ScriptOutcome readFile(const QString &path)
+{
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0)
+        return ScriptFailed();
+    struct stat status
+    {};
+    QFile file;
+    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+        status.st_size <= CoverImage::kMostBytes &&
+        file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
+        return file.read(CoverImage::kMostBytes);
+    ::close(descriptor);
+    return ScriptFailed();
+}
+
+/// "data:image/png;base64,…", or without the word base64 percent-encoded.
+ScriptOutcome decodeData(const QString &address)
+{
+    constexpr qint64 kMostCharacters = CoverImage::kMostBytes / 3 * 4 + 1000;
+    const qsizetype comma = address.indexOf(QLatin1Char(','));
+    if (comma < 0 || address.size() > kMostCharacters)
+        return ScriptFailed();
+    const QByteArray data = QByteArray::fromPercentEncoding(address.mid(comma + 1).toLatin1());
+    if (!address.left(comma).endsWith(QLatin1String(";base64"), Qt::CaseInsensitive))
+        return data;
+    return QByteArray::fromBase64(data);
+}
+
+} // namespace
+
+ScriptOutcome CoverSource::read(const QString &address)
+{
+    // An address with the picture in it is too long to be taken apart for nothing.
+    if (address.startsWith(QLatin1String("data:"), Qt::CaseInsensitive))
+        return decodeData(address);
+    const QUrl url(address);
+    if (url.isLocalFile())
+        return readFile(url.toLocalFile());
+    return url.scheme() == QLatin1String("https") ? ScriptOutcome(address) : ScriptFailed();
+}
+
+} // namespace Kestrune

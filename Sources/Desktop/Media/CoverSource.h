@@ -1,0 +1,12 @@
+#pragma once
+
+#include "NotchKit/Platform/ScriptExecutor.h"
+
+namespace Kestrune::CoverSource {
+
+/// What a player's cover address leads to: the bytes of a local file or of the address itself, or, as a text,
+/// an address on the network that is left to the caller. Failed for any other address, for what is no regular
+/// file and for more bytes than a cover may have. Any thread; reads the file.
+ScriptOutcome read(const QString &address);
+
+} // namespace Kestrune::CoverSource

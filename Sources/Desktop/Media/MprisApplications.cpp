@@ -1,0 +1,38 @@
+#include "MprisApplications.h"
+
+#include "Desktop/Session/BusDaemon.h"
+#include "MprisNames.h"
+
+#include <algorithm>
+
+namespace Kestrune {
+
+MprisApplications::MprisApplications(const QDBusConnection &bus)
+{
+    if (!bus.isConnected())
+        return;
+    m_watcher.setConnection(bus);
+    m_watcher.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
+    m_watcher.addWatchedService(QStringLiteral("org.mpris.MediaPlayer2*")); // Whole parts of names match.
+    QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, &m_watcher,
+                     [this](const QString &name) { m_names.insert(name); });
+    QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, &m_watcher,
+                     [this](const QString &name) { m_names.remove(name); });
+    // Whoever comes or goes meanwhile is told of behind this answer.
+    BusDaemon::call(bus, QStringLiteral("ListNames"), {}, &m_watcher, [this](const QVariant &names) {
+        for (const QString &name : names.toStringList()) {
+            if (MprisNames::playerOf(name))
+                m_names.insert(name);
+        }
+    });
+}
+
+bool MprisApplications::isRunning(const QString &bundle) const
+{
+    return std::ranges::any_of(m_names, [&](const QString &name) {
+        const auto player = MprisNames::playerOf(name);
+        return player && bundleIdentifier(*player) == bundle;
+    });
+}
+
+} // namespace Kestrune

@@ -1,0 +1,109 @@
+#include "MprisBus.h"
+
+#include "MprisNames.h"
+
+#include <QDBusPendingCallWatcher>
+#include <QEventLoop>
+#include <QTimer>
+#include <QUuid>
+
+#include <vector>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr int kBusTimeout = 25000; // ms, after which the bus gives a call up.
+
+QDBusMessage makeCall(const QString &busName, const char *interface, const QString &method)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(busName, QStringLiteral("/org/mpris/MediaPlayer2"),
+                                                       QLatin1String(interface), method);
+    // A player that has ended meanwhile is not started again.
+    call.setAutoStartService(false);
+    return call;
+}
+
+QDBusMessage makeQuestion(const QString &busName)
+{
+    QDBusMessage question = makeCall(busName, "org.freedesktop.DBus.Properties", QStringLiteral("GetAll"));
+    question << QStringLiteral("org.mpris.MediaPlayer2.Player");
+    return question;
+}
+
+/// Waits until all calls have been answered or patience is at its end.
+void await(const QList<QDBusPendingCall> &calls)
+{
+    if (calls.isEmpty())
+        return;
+    QEventLoop loop;
+    qsizetype open = calls.size();
+    std::vector<std::unique_ptr<QDBusPendingCallWatcher>> watchers;
+    for (const QDBusPendingCall &call : calls) {
+        watchers.push_back(std::make_unique<QDBusPendingCallWatcher>(call));
+        QObject::connect(watchers.back().get(), &QDBusPendingCallWatcher::finished, &loop, [&] {
+            if (--open == 0)
+                loop.quit();
+        });
+    }
+    QTimer::singleShot(MprisBus::kPatience, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+} // namespace
+
+MprisBus::MprisBus(const QString &address)
+    : m_address(address)
+    , m_connectionName(QUuid::createUuid().toString())
+{}
+
+MprisBus::~MprisBus() { QDBusConnection::disconnectFromBus(m_connectionName); }
+
+QDBusConnection &MprisBus::bus()
+{
+    if (!m_bus.isConnected()) {
+        m_bus = m_address.isEmpty()
+                    ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connectionName)
+                    : QDBusConnection::connectToBus(m_address, m_connectionName);
+    }
+    return m_bus;
+}
+
+QStringList MprisBus::names()
+{
+    const QDBusMessage question = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("ListNames"));
+    const QDBusPendingCall call = bus().asyncCall(question, kBusTimeout);
+    await({call});
+    QStringList names = call.isFinished() ? call.reply().arguments().value(0).toStringList() : QStringList();
+    names.removeIf([](const QString &name) { return !MprisNames::playerOf(name); });
+    names.sort();
+    return names;
+}
+
+QHash<QString, QDBusMessage> MprisBus::properties(const QStringList &busNames)
+{
+    m_unanswered.removeIf([](const auto &unanswered) { return unanswered.value().isFinished(); });
+    QHash<QString, QDBusPendingCall> asked;
+    for (const QString &name : busNames) {
+        if (!m_unanswered.contains(name))
+            asked.insert(name, bus().asyncCall(makeQuestion(name), kBusTimeout));
+    }
+    await(asked.values());
+    QHash<QString, QDBusMessage> replies;
+    for (auto call = asked.cbegin(); call != asked.cend(); ++call) {
+        if (call->isFinished())
+            replies.insert(call.key(), call->reply());
+        else
+            m_unanswered.insert(call.key(), *call);
+    }
+    return replies;
+}
+
+void MprisBus::call(const QString &busName, const QString &method)
+{
+    await({bus().asyncCall(makeCall(busName, "org.mpris.MediaPlayer2.Player", method), kBusTimeout)});
+}
+
+} // namespace Kestrune

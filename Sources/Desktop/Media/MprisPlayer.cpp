@@ -1,0 +1,86 @@
+#include "MprisPlayer.h"
+
+#include <QDBusArgument>
+#include <QStringList>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr qsizetype kLongestText = 1000; // Characters that are of use to anyone.
+
+/// The properties in a value that holds such a map, packed as the bus packs it or not.
+QVariantMap mapOf(const QVariant &value)
+{
+    if (value.userType() != qMetaTypeId<QDBusArgument>())
+        return value.toMap();
+    const auto packed = value.value<QDBusArgument>();
+    return packed.currentSignature() == QLatin1String("a{sv}") ? qdbus_cast<QVariantMap>(packed)
+                                                               : QVariantMap();
+}
+
+/// A text of one line.
+QString lineOf(const QString &text) { return text.left(kLongestText).simplified(); }
+
+QString artistOf(const QVariant &value) { return lineOf(value.toStringList().join(QLatin1String(", "))); }
+
+QString titleOf(const QVariantMap &song, const QString &busName)
+{
+    const QUrl file(song.value(QStringLiteral("xesam:url")).toString());
+    for (const QString &name : {song.value(QStringLiteral("xesam:title")).toString(), file.fileName()}) {
+        if (QString line = lineOf(name); !line.isEmpty())
+            return line;
+    }
+    return busName.section(QLatin1Char('.'), 3, 3); // As the player calls itself on the bus.
+}
+
+MprisState::Playback playbackOf(const QString &status)
+{
+    if (status == QLatin1String("Playing"))
+        return MprisState::Playback::playing;
+    return status == QLatin1String("Paused") ? MprisState::Playback::paused : MprisState::Playback::stopped;
+}
+
+/// Players disagree on the type of a time.
+qint64 timeOf(const QVariant &value) { return std::max<qint64>(value.toLongLong(), 0); }
+
+QString seconds(qint64 microseconds)
+{
+    return QString::number(static_cast<double>(microseconds) / 1e6, 'f', 3);
+}
+
+} // namespace
+
+std::optional<MprisState> MprisState::of(const QString &busName, const QDBusMessage &reply)
+{
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
+        return std::nullopt;
+    const QVariantMap properties = mapOf(reply.arguments().constFirst());
+    const QVariantMap song = mapOf(properties.value(QStringLiteral("Metadata")));
+    MprisState state;
+    state.busName = busName;
+    state.playback = playbackOf(properties.value(QStringLiteral("PlaybackStatus")).toString());
+    state.title = titleOf(song, busName);
+    state.artist = artistOf(song.value(QStringLiteral("xesam:artist")));
+    state.cover = song.value(QStringLiteral("mpris:artUrl")).toString();
+    state.length = timeOf(song.value(QStringLiteral("mpris:length")));
+    state.position = timeOf(properties.value(QStringLiteral("Position")));
+    return state;
+}
+
+QString MprisState::toStatus(MediaPlayer player) const
+{
+    if (!hasSong())
+        return QString();
+    const QString duration = player == MediaPlayer::spotify ? QString::number(length / 1000)
+                                                            : seconds(length); // as each counts it
+    const QStringList lines{playback == Playback::playing ? QStringLiteral("playing")
+                                                          : QStringLiteral("paused"),
+                            title, artist, duration, seconds(position)};
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace Kestrune

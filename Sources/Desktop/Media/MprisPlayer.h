@@ -1,0 +1,35 @@
+#pragma once
+
+#include "NotchKit/Tools/PlayerStatus.h"
+
+#include <QDBusMessage>
+#include <QVariantMap>
+
+namespace Kestrune {
+
+/// What one player on the bus says of itself.
+struct MprisState
+{
+    enum class Playback { stopped, paused, playing };
+
+    QString busName;
+    Playback playback = Playback::stopped;
+    QString title;       ///< Of the song; where it has none, the name of its file or of the player.
+    QString artist;      ///< Several are listed.
+    QString cover;       ///< The address of its cover.
+    qint64 length = 0;   ///< Microseconds.
+    qint64 position = 0; ///< Microseconds.
+
+    /// Whether there is a song to show.
+    bool hasSong() const { return playback != Playback::stopped; }
+
+    /// Reads the properties that a player replied with, whatever their types; nothing for what is no such
+    /// reply.
+    static std::optional<MprisState> of(const QString &busName, const QDBusMessage &reply);
+
+    /// As the status script tells it: a line for the state, the title, the artist, the length and the
+    /// position; empty without a song.
+    QString toStatus(MediaPlayer player) const;
+};
+
+} // namespace Kestrune

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <variant>
+
+namespace Kestrune {
+
+/// The script was not understood, or what it was about went wrong.
+struct ScriptFailed
+{
+    bool operator==(const ScriptFailed &) const = default;
+};
+
+/// The system does not let this program control the one that the script is about.
+struct ScriptNotPermitted
+{
+    bool operator==(const ScriptNotPermitted &) const = default;
+};
+
+/// How a script ended: with a text, which may be empty, or with data.
+using ScriptOutcome = std::variant<ScriptFailed, ScriptNotPermitted, QString, QByteArray>;
+
+/// Runs short scripts that ask or command a media player.
+class ScriptExecutor
+{
+public:
+    virtual ~ScriptExecutor() = default;
+
+    /// Runs one script to its end, which takes a second at the most, whatever the player does. Called on any
+    /// thread but the main one, never on two at a time.
+    virtual ScriptOutcome execute(const QString &source) = 0;
+};
+
+} // namespace Kestrune

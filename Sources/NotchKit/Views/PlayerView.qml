@@ -1,0 +1,100 @@
+import QtQuick
+import Kestrune.Views
+
+/// A song with its cover and its controls.
+///
+///   | cover | title                 |
+///   |       | artist                |
+///   |       | progress              |
+///   |       | previous, pause, next |
+Row {
+    id: view
+
+    required property NowPlayingModel model
+    required property bool compact
+
+    // The song stays as it was while the view goes.
+    property var track: model.track
+
+    spacing: compact ? 12 : 24
+
+    Rectangle {
+        width: view.compact ? 78 : 130
+        height: width
+        radius: view.compact ? 12 : 18
+        color: Theme.faint
+
+        Symbol {
+            anchors.centerIn: parent
+            visible: view.model.artwork === undefined
+            name: "music.note"
+            size: view.compact ? 32 : 52
+            color: Theme.dim
+        }
+        Picture {
+            anchors.fill: parent
+            image: view.model.artwork
+            radius: parent.radius
+        }
+    }
+
+    Column {
+        width: parent.width - x
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 5
+
+        Text {
+            width: parent.width
+            text: view.track ? view.track.title : ""
+            textFormat: Text.PlainText
+            font.pixelSize: view.compact ? 13 : 20
+            font.weight: Font.DemiBold
+            color: Theme.text
+            elide: Text.ElideRight
+            wrapMode: view.compact ? Text.NoWrap : Text.Wrap
+            maximumLineCount: view.compact ? 1 : 2
+        }
+        Text {
+            width: parent.width
+            visible: text !== ""
+            text: view.track ? view.track.artist : ""
+            textFormat: Text.PlainText
+            font.pixelSize: view.compact ? 12 : 14
+            color: Theme.dim
+            elide: Text.ElideRight
+            maximumLineCount: 1
+        }
+        ProgressBar {
+            width: parent.width
+            height: view.compact ? 6 : 30
+            timed: !view.compact
+            track: view.track
+        }
+        Row {
+            x: -(skip.width - 17) / 2
+            spacing: view.compact ? 0 : 8
+
+            TransportButton {
+                id: skip
+
+                help: qsTranslate("notch", "Previous")
+                symbol: "backward.fill"
+                compact: view.compact
+                onClicked: view.model.previous()
+            }
+            TransportButton {
+                help: view.track && view.track.playing ? qsTranslate("notch", "Pause") : qsTranslate("notch", "Play")
+                symbol: view.track && view.track.playing ? "pause.fill" : "play.fill"
+                size: view.compact ? 18 : 24
+                compact: view.compact
+                onClicked: view.model.playPause()
+            }
+            TransportButton {
+                help: qsTranslate("notch", "Next")
+                symbol: "forward.fill"
+                compact: view.compact
+                onClicked: view.model.next()
+            }
+        }
+    }
+}

@@ -1,0 +1,46 @@
+import QtQuick
+import Kestrune.Views
+
+/// How far a song has been played, with the times below if it is `timed`.
+Item {
+    id: bar
+
+    required property var track
+    required property bool timed
+
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: elapsed.text
+
+    Rectangle {
+        id: groove
+
+        anchors { left: parent.left; right: parent.right; top: parent.top; topMargin: bar.timed ? 4 : 1 }
+        height: 4
+        radius: 2
+        color: Qt.rgba(1, 1, 1, 0.16)
+        clip: true
+
+        Rectangle {
+            width: groove.width * (bar.track ? bar.track.progress : 0)
+            height: parent.height
+            radius: parent.radius
+            color: Theme.text
+        }
+    }
+    TabularText {
+        id: elapsed
+
+        anchors { left: parent.left; bottom: parent.bottom }
+        visible: bar.timed
+        text: Format.playTime(bar.track ? bar.track.position : 0)
+        size: 11
+        color: Theme.dim
+    }
+    TabularText {
+        anchors { right: parent.right; bottom: parent.bottom }
+        visible: bar.timed && bar.track !== undefined && bar.track.duration > 0
+        text: Format.playTime(bar.track ? bar.track.duration : 0)
+        size: 11
+        color: Theme.dim
+    }
+}

@@ -1,0 +1,313 @@
+#include "NotchKit/Tools/NowPlayingModel.h"
+#include "NotchKit/Tools/TimerModel.h"
+#include "Support/Core.h"
+#include "Support/TestRegistry.h"
+
+#include <QBuffer>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Kestrune;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto kMusic = MediaPlayer::music;
+constexpr auto kSpotify = MediaPlayer::spotify;
+
+QByteArray picture(int side)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImage(side, side, QImage::Format_RGB32).save(&buffer, "png");
+    return bytes;
+}
+
+/// The core with both players, which say what the test makes them say: "", "denied", "failed", or the state,
+/// the title and the position.
+struct Stage : Fakes::Core
+{
+    NowPlayingModel &model = *services.nowPlaying();
+
+    explicit Stage(const QString &music = u"off"_s, const QString &spotify = u"off"_s)
+    {
+        say(kMusic, music);
+        say(kSpotify, spotify);
+    }
+
+    void say(MediaPlayer player, const QString &words)
+    {
+        if (words == "off"_L1)
+            players.running.remove(bundleIdentifier(player));
+        else
+            players.running.insert(bundleIdentifier(player));
+        scripts.answer(ScriptBridge::statusScript(player), outcome(words));
+    }
+    static ScriptOutcome outcome(const QString &words)
+    {
+        if (words == "denied"_L1)
+            return ScriptNotPermitted();
+        const QStringList parts = words.split(u' ');
+        if (parts.size() < 3)
+            return words.isEmpty() ? ScriptOutcome(QString()) : ScriptFailed();
+        return u"%1\n%2\nBand\n100\n%3"_s.arg(parts.at(0), parts.at(1), parts.at(2));
+    }
+
+    /// Looks and waits for what comes of it, the cover included.
+    void refresh()
+    {
+        bool done = false;
+        model.refresh().then([&] { done = true; });
+        QTRY_VERIFY(done);
+    }
+    /// "Music Song 3 denied", or what of that is known.
+    QString shown() const
+    {
+        QStringList words;
+        if (model.player())
+            words << playerName(*model.player());
+        if (const auto track = model.track())
+            words << track->title << QString::number(track->position);
+        if (model.permissionDenied())
+            words << u"denied"_s;
+        return words.join(u' ');
+    }
+    /// How often Music was asked for its song so far.
+    qsizetype looks()
+    {
+        m_looks += scripts.take().count(ScriptBridge::statusScript(kMusic));
+        return m_looks;
+    }
+
+private:
+    qsizetype m_looks = 0;
+};
+
+} // namespace
+
+class NowPlayingModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void chooses_data();
+    void chooses();
+    void remembersARefusal();
+    void looksInTime_data();
+    void looksInTime();
+    void looksWhenShown();
+    void coverFollowsTheSong();
+    void commands();
+    void activity();
+    void endsWhileItLooks();
+};
+
+void NowPlayingModelTest::chooses_data()
+{
+    QTest::addColumn<QString>("music");
+    QTest::addColumn<QString>("spotify");
+    QTest::addColumn<QString>("shown");
+    const auto row = [](const char *name, const QString &music, const QString &spotify,
+                        const QString &shown) { QTest::newRow(name) << music << spotify << shown; };
+    row("both playing", u"playing A 1"_s, u"playing B 2"_s, u"Music A 1"_s);
+    row("both paused", u"paused A 1"_s, u"paused B 2"_s, u"Music A 1"_s);
+    row("second plays", u"paused A 1"_s, u"playing B 2"_s, u"Spotify B 2"_s);
+    row("first plays", u"playing A 1"_s, u"paused B 2"_s, u"Music A 1"_s);
+    row("only the second runs", u"off"_s, u"paused B 2"_s, u"Spotify B 2"_s);
+    row("first stopped", u""_s, u"paused B 2"_s, u"Spotify B 2"_s);
+    row("first failed", u"failed"_s, u"paused B 2"_s, u"Spotify B 2"_s);
+    row("nothing runs", u"off"_s, u"off"_s, u""_s);
+    row("both stopped", u""_s, u""_s, u""_s);
+    row("first refuses", u"denied"_s, u"paused B 2"_s, u"Spotify B 2"_s);
+    row("second refuses", u"paused A 1"_s, u"denied"_s, u"Music A 1 denied"_s);
+    row("only one, and refuses", u"denied"_s, u"off"_s, u"denied"_s);
+    row("refused and stopped", u"denied"_s, u""_s, u"denied"_s);
+}
+
+void NowPlayingModelTest::chooses()
+{
+    QFETCH(const QString, music);
+    QFETCH(const QString, spotify);
+    QFETCH(const QString, shown);
+    Stage stage(music, spotify);
+    stage.refresh();
+    QCOMPARE(stage.shown(), shown);
+    const QStringList executed = stage.scripts.take();
+    QCOMPARE(executed.contains(ScriptBridge::statusScript(kMusic)), music != "off"_L1);
+    QCOMPARE(executed.contains(ScriptBridge::statusScript(kSpotify)), spotify != "off"_L1);
+
+    const QSignalSpy tracks(&stage.model, &NowPlayingModel::trackChanged);
+    const QSignalSpy players(&stage.model, &NowPlayingModel::playerChanged);
+    stage.refresh();
+    QVERIFY2(tracks.isEmpty() && players.isEmpty(), "nothing has changed");
+}
+
+void NowPlayingModelTest::remembersARefusal()
+{
+    Stage stage(u"denied"_s);
+    stage.refresh();
+    stage.say(kMusic, u""_s);
+    stage.refresh();
+    QCOMPARE(stage.shown(), u"denied"_s);
+    stage.say(kMusic, u"off"_s);
+    stage.refresh();
+    QCOMPARE(stage.shown(), u"denied"_s);
+    stage.say(kMusic, u"playing A 1"_s);
+    stage.refresh();
+    QCOMPARE(stage.shown(), u"Music A 1"_s);
+    stage.say(kMusic, u"denied"_s);
+    stage.refresh();
+    QCOMPARE(stage.shown(), u"denied"_s);
+}
+
+void NowPlayingModelTest::looksInTime_data()
+{
+    QTest::addColumn<bool>("live");
+    QTest::addColumn<bool>("open");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<int>("looks"); // in twenty seconds
+    QTest::newRow("closed") << true << false << true << 10;
+    QTest::newRow("closed, without activities") << false << false << true << 4;
+    QTest::newRow("open, without activities") << false << true << true << 10;
+    QTest::newRow("off") << true << true << false << 0;
+}
+
+void NowPlayingModelTest::looksInTime()
+{
+    QFETCH(const bool, live);
+    QFETCH(const bool, open);
+    QFETCH(const bool, enabled);
+    QFETCH(const int, looks);
+    Stage stage(u"playing A 1"_s);
+    stage.settings.setLiveActivities(live);
+    stage.settings.setEnabled(NotchTool::nowPlaying, enabled);
+    stage.services.setAnyExpanded(open);
+    stage.services.start();
+    stage.wait(20'000);
+    QTRY_COMPARE(stage.looks(), looks);
+    QTest::qWait(10);
+    QCOMPARE(stage.looks(), looks);
+    QCOMPARE(stage.model.track().has_value(), enabled);
+}
+
+void NowPlayingModelTest::looksWhenShown()
+{
+    Stage stage(u"playing A 1"_s);
+    stage.services.show(NotchTool::nowPlaying);
+    QTRY_COMPARE(stage.looks(), 1);
+    stage.services.show(NotchTool::home);
+    QTRY_COMPARE(stage.looks(), 2);
+    QTRY_VERIFY(stage.model.track());
+    stage.settings.setColumn(HomeColumn::hidden, HomeWidget::nowPlaying);
+    for (const auto tool : {std::optional(NotchTool::home), std::optional(NotchTool::timer), {}})
+        stage.services.show(tool);
+    stage.settings.setEnabled(NotchTool::nowPlaying, false);
+    QVERIFY(!stage.model.track());
+    stage.services.show(NotchTool::nowPlaying);
+    QTest::qWait(10);
+    QCOMPARE(stage.looks(), 2);
+}
+
+void NowPlayingModelTest::coverFollowsTheSong()
+{
+    Stage stage(u"playing A 1"_s);
+    const QString script = ScriptBridge::artworkScript(kMusic);
+    const auto asked = [&] { return stage.scripts.take().count(script); };
+    stage.scripts.answer(script, picture(11));
+    stage.refresh();
+    QCOMPARE(stage.model.artwork().width(), 11);
+    QCOMPARE(asked(), 1);
+    stage.say(kMusic, u"paused A 7"_s);
+    stage.refresh();
+    QCOMPARE(asked(), 0);
+    stage.scripts.answer(script, ScriptFailed());
+    stage.say(kMusic, u"paused B 0"_s);
+    stage.refresh();
+    stage.refresh();
+    QCOMPARE(asked(), 1);
+    QVERIFY(stage.model.artwork().isNull());
+    stage.scripts.answer(script, picture(12));
+    for (const QString &words : {u"off"_s, u"paused B 0"_s}) {
+        stage.say(kMusic, words);
+        stage.refresh();
+    }
+    QCOMPARE(stage.model.artwork().width(), 12);
+
+    // The same song in the other player has a cover of its own.
+    stage.say(kMusic, u"off"_s);
+    stage.say(kSpotify, u"playing B 0"_s);
+    stage.scripts.answer(ScriptBridge::artworkScript(kSpotify), u"https://host/b"_s);
+    stage.http.replies = {{u"https://host/b"_s, {200, picture(13)}}};
+    stage.refresh();
+    QCOMPARE(stage.model.artwork().width(), 13);
+}
+
+void NowPlayingModelTest::commands()
+{
+    Stage stage(u"playing A 1"_s);
+    stage.model.next();
+    QTest::qWait(10);
+    QVERIFY2(stage.scripts.take().isEmpty(), "there is no player yet");
+    stage.refresh();
+    stage.scripts.take();
+    stage.model.playPause();
+    QTRY_COMPARE(stage.clock.running(), 1U);
+    QCOMPARE(stage.scripts.take(),
+             QStringList{ScriptBridge::commandScript(ScriptBridge::Command::playPause, kMusic)});
+    stage.say(kMusic, u"paused A 2"_s);
+    stage.wait(249);
+    QTest::qWait(10);
+    QCOMPARE(stage.shown(), u"Music A 1"_s);
+    stage.wait(1);
+    QTRY_COMPARE(stage.shown(), u"Music A 2"_s);
+    QVERIFY(!stage.model.track()->playing && stage.clock.running() == 0);
+
+    const qsizetype looks = stage.looks();
+    stage.model.next();
+    stage.model.previous();
+    QTRY_COMPARE(stage.clock.running(), 2U);
+    stage.wait(250);
+    QTRY_COMPARE(stage.looks(), looks + 2);
+}
+
+void NowPlayingModelTest::activity()
+{
+    Stage stage(u"paused A 1"_s);
+    QVERIFY(!stage.services.hasActivity());
+    stage.refresh();
+    QCOMPARE(stage.services.activityTool(), NotchTool::nowPlaying);
+    stage.services.timer()->start(600);
+    QCOMPARE(stage.services.activityTool(), NotchTool::timer);
+    stage.services.timer()->pause(); // it does not open the wings, but stays in those that a song opens
+    QCOMPARE(stage.services.activityTool(), NotchTool::timer);
+    stage.settings.setEnabled(NotchTool::nowPlaying, false);
+    QVERIFY(!stage.services.hasActivity());
+    stage.settings.setEnabled(NotchTool::nowPlaying, true);
+    stage.services.timer()->reset();
+    stage.refresh();
+    QCOMPARE(stage.services.activityTool(), NotchTool::nowPlaying);
+    stage.settings.setLiveActivities(false);
+    QVERIFY(!stage.services.hasActivity());
+    stage.settings.setLiveActivities(true);
+    stage.say(kMusic, u""_s);
+    stage.refresh();
+    QVERIFY(!stage.services.hasActivity());
+}
+
+void NowPlayingModelTest::endsWhileItLooks()
+{
+    Fakes::Core core;
+    core.players.running = {bundleIdentifier(kMusic)};
+    core.scripts.answer(ScriptBridge::statusScript(kMusic), u"playing\nA\nB\n1\n1"_s);
+    for (int i = 0; i < 20; ++i) {
+        NowPlayingModel model(core.settings, core.clock, core.players, core.scripts, core.http);
+        model.refresh();
+        QTest::qWait(i % 4);
+        model.next();
+    }
+    QTest::qWait(20);
+    core.wait(1000);
+}
+
+REGISTER_TEST(NowPlayingModelTest);
+#include "NowPlayingModelTest.moc"
