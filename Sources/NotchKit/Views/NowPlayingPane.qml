@@ -52,7 +52,7 @@ Pane {
         }
         Text {
             width: parent.width
-            text: pane.model.permissionDenied ? pane.allowText : pane.emptyText
+            text: (pane.model.permissionDenied ? pane.allowText : pane.emptyText).replace("\n", " ")
             font.pixelSize: 12
             color: Theme.dim
             wrapMode: Text.WordWrap

@@ -1,0 +1,150 @@
+#include "EndToEnd/Stage.h"
+#include "Support/TestRegistry.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+/// Real players with real songs, from the session bus to the wings and the pane, and back by its buttons.
+class NowPlayingTest : public StageTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void followsAndControlsRealPlayers()
+    {
+        setStage({});
+        QVERIFY(makeSongs());
+        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"nowPlaying"_s));
+        QVERIFY(!hasActivity() && !stage().covered(wing));
+
+        ChildProcess mpv(stage().session.environment());
+        QVERIFY(mpv.launch(u"mpv"_s,
+                           {u"--no-config"_s, u"--no-terminal"_s, u"--ao=null"_s, u"--vo=null"_s,
+                            u"--script=/usr/lib/mpv-mpris/mpris.so"_s, song(u"one"_s), song(u"two"_s)}));
+        QVERIFY(waitUntil([&] { return hasActivity(); }));
+        QTRY_VERIFY(stage().covered(wing));
+        QVERIFY2(wingsMove(), "the song plays");
+        QVERIFY(stage().openByHotKey());
+        QTRY_COMPARE(stage().x.pixel(cover), QColor(Qt::red));
+        const int played = progress();
+        QTRY_VERIFY(progress() > played);
+
+        stage().input.click(middle);
+        QTRY_COMPARE(ask(u"mpv"_s, u"status"_s), u"Paused"_s);
+        QTest::qWait(600); // the pane has looked again
+        const int paused = progress();
+        QVERIFY(holdsFor([&] { return progress() == paused; }, 2500));
+        stage().input.click(middle);
+        QTRY_COMPARE(ask(u"mpv"_s, u"status"_s), u"Playing"_s);
+        stage().input.click(forward);
+        QTRY_COMPARE(title(), u"two"_s);
+        stage().input.click(backward);
+        QTRY_COMPARE(title(), u"one"_s);
+
+        ChildProcess cmus(stage().session.environment());
+        QVERIFY(startCmus(cmus));
+        ask(u"mpv"_s, u"pause"_s);
+        QTRY_VERIFY(stage().x.pixel(cover) != QColor(Qt::red)); // this one's song has no cover
+        stage().input.click(middle);
+        QTRY_COMPARE(ask(u"cmus"_s, u"status"_s), u"Paused"_s);
+        QCOMPARE(ask(u"mpv"_s, u"status"_s), u"Paused"_s);
+        ask(u"mpv"_s, u"play"_s);
+        QTRY_COMPARE(stage().x.pixel(cover), QColor(Qt::red));
+        ask(u"mpv"_s, u"pause"_s);
+        QTest::qWait(2200);
+        stage().input.move(Place::away);
+        QCOMPARE(stage().session.command({u"close"_s}).status, 0);
+        QVERIFY(stage().waitClosed());
+        QTest::qWait(700); // the spring comes to rest
+        QVERIFY2(!wingsMove() && stage().covered(wing), "it is paused");
+
+        ask(u"mpv"_s, u"stop"_s);
+        QVERIFY(holdsFor([&] { return hasActivity(); }, 2500)); // the other one is paused
+        ask(u"cmus"_s, u"stop"_s);
+        QVERIFY(waitUntil([&] { return !hasActivity(); }));
+        QTRY_VERIFY(!stage().covered(wing));
+    }
+
+private:
+    bool hasActivity() { return stage().session.status().value("hasActivity"_L1).toBool(); }
+    QString music() { return stage().session.environment().value(u"HOME"_s) + u"/music"_s; }
+    QString song(const QString &title) { return music() + u'/' + title + u".flac"_s; }
+
+    QString execute(const QString &program, const QStringList &arguments)
+    {
+        ChildProcess process(stage().session.environment());
+        if (!process.launch(program, arguments) || !process.waitForFinished())
+            return u"failed"_s;
+        return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+    }
+    QString ask(const QString &player, const QString &what)
+    {
+        return execute(u"playerctl"_s, {u"--player"_s, player, what});
+    }
+    QString title() { return execute(u"playerctl"_s, {u"--player=mpv"_s, u"metadata"_s, u"title"_s}); }
+
+    /// Two songs with a red cover beside them, and one without in another folder.
+    bool makeSongs()
+    {
+        QImage red(300, 300, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        if (!QDir().mkpath(music() + u"/bare"_s) || !red.save(music() + u"/cover.png"_s))
+            return false;
+        for (const QString &name : {u"one"_s, u"two"_s, u"bare/three"_s}) {
+            const QString comment = u"TITLE="_s + name;
+            execute(u"sox"_s, {u"-n"_s, u"-r"_s, u"8000"_s, u"--add-comment"_s, comment, u"--add-comment"_s,
+                               u"ARTIST=Band"_s, song(name), u"synth"_s, u"90"_s, u"sine"_s, u"220"_s});
+            if (!QFile::exists(song(name)))
+                return false;
+        }
+        return true;
+    }
+
+    /// The player needs a terminal; it is told what to play over a socket of its own.
+    bool startCmus(ChildProcess &cmus)
+    {
+        QProcessEnvironment environment = stage().session.environment();
+        const QString folder = environment.value(u"XDG_CONFIG_HOME"_s) + u"/cmus"_s;
+        QFile settings(folder + u"/rc"_s);
+        if (!QDir().mkpath(folder) || !settings.open(QFile::WriteOnly) ||
+            settings.write("set output_plugin=ao\nset dsp.ao.driver=null\nset mpris=true\n") < 0)
+            return false;
+        settings.close();
+        environment.insert(u"TERM"_s, u"xterm"_s);
+        cmus.setProcessEnvironment(environment);
+        const QString socket = environment.value(u"XDG_RUNTIME_DIR"_s) + u"/cmus-socket"_s;
+        if (!cmus.launch(u"script"_s, {u"-qfc"_s, u"cmus"_s, u"/dev/null"_s}) ||
+            !waitUntil([&] { return QFile::exists(socket); }))
+            return false;
+        execute(u"cmus-remote"_s, {u"--file"_s, song(u"bare/three"_s)});
+        return waitUntil([&] { return ask(u"cmus"_s, u"status"_s) == "Playing"_L1; });
+    }
+
+    bool wingsMove()
+    {
+        const QImage before = stage().x.grab(rightWing);
+        return waitUntil([&] { return stage().x.grab(rightWing) != before; }, 800);
+    }
+
+    /// How many pixels of the bar are filled.
+    int progress()
+    {
+        const QImage line = stage().x.grab(groove);
+        int filled = 0;
+        while (filled < line.width() && qGray(line.pixel(filled, 0)) > 150)
+            ++filled;
+        return filled;
+    }
+
+    static constexpr QPoint wing{640 - 160, 12};
+    static constexpr QRect rightWing{640 + 95, 0, 76, 32};
+    static constexpr QPoint cover{425, 160};
+    static constexpr QRect groove{516, 157, 400, 1};
+    static constexpr QPoint backward{522, 201};
+    static constexpr QPoint middle{566, 201};
+    static constexpr QPoint forward{610, 201};
+};
+
+REGISTER_TEST(NowPlayingTest);
+#include "NowPlayingTest.moc"
