@@ -11,6 +11,7 @@
 #include "NotchKit/Views/NotchWindow.h"
 #include "Surroundings.h"
 #include "Table.h"
+#include "WatchedPointer.h"
 
 #include <QBuffer>
 #include <QElapsedTimer>
@@ -171,29 +172,6 @@ void measureCaptures(NotchServices &services, NotchScreenModel &model, QQuickWin
     Table::note("Copy to visible row, median", median(samples), "ms", "a look each 500 ms is most of it");
     Table::note("  longest", quantile(samples, 1), "ms");
 }
-
-/// Remembers the longest time between two looks at the pointer.
-class WatchedPointer : public Pointer
-{
-public:
-    QPointF location() override { return {}; }
-    PointerSample sample() override
-    {
-        if (m_time.isValid())
-            m_longest = std::max(m_longest, static_cast<double>(m_time.nsecsElapsed()) / 1e6);
-        m_time.start();
-        return {};
-    }
-    double takeLongest()
-    {
-        m_time.invalidate();
-        return std::exchange(m_longest, 0);
-    }
-
-private:
-    QElapsedTimer m_time;
-    double m_longest = 0;
-};
 
 /// A program that owns the clipboard and never answers.
 class SilentOwner

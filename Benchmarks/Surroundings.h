@@ -41,11 +41,12 @@ struct HubParts
     explicit HubParts(Kestrune::Clock &time)
         : clock(time)
     {}
-    Kestrune::NotchPlatform platform() { return platform(pasteboard); }
-    Kestrune::NotchPlatform platform(Kestrune::Pasteboard &other)
+    Kestrune::NotchPlatform platform() { return make(pasteboard, players, scripts); }
+    Kestrune::NotchPlatform platform(Kestrune::Pasteboard &other) { return make(other, players, scripts); }
+    Kestrune::NotchPlatform platform(Kestrune::RunningApplications &running,
+                                     Kestrune::ScriptExecutor &executor)
     {
-        return {clock,    defaults,   sounds, workspace, other,   drags,  sharing,
-                captures, thumbnails, http,   location,  players, scripts};
+        return make(pasteboard, running, executor);
     }
 
     Kestrune::Clock &clock;
@@ -62,6 +63,14 @@ struct HubParts
     Kestrune::Fakes::FakeApplications players;
     Kestrune::Fakes::FakeScripts scripts;
     Kestrune::NotchSettings settings{defaults};
+
+private:
+    Kestrune::NotchPlatform make(Kestrune::Pasteboard &copies, Kestrune::RunningApplications &running,
+                                 Kestrune::ScriptExecutor &executor)
+    {
+        return {clock,    defaults,   sounds, workspace, copies,  drags,   sharing,
+                captures, thumbnails, http,   location,  running, executor};
+    }
 };
 
 /// Two displays side by side; the first is the virtual display that the benchmarks run on.
