@@ -14,6 +14,7 @@
 #include "Desktop/Session/DesktopWorkspace.h"
 #include "Desktop/Sharing/KdeConnectSharing.h"
 #include "Desktop/Sound/CanberraSounds.h"
+#include "Desktop/System/LinuxStatistics.h"
 #include "Desktop/Time/SystemClock.h"
 #include "Desktop/X11/X11Desktop.h"
 #include "Desktop/X11/X11Displays.h"
@@ -66,6 +67,7 @@ private:
     GeoClueLocation m_location;
     MprisApplications m_players;
     MprisExecutor m_scripts;
+    LinuxStatistics m_host;
     QQmlEngine m_engine;
     PanelFactory m_panels;
     AlertWindow m_alert;

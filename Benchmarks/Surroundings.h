@@ -62,14 +62,15 @@ struct HubParts
     Kestrune::Fakes::FakeLocation location;
     Kestrune::Fakes::FakeApplications players;
     Kestrune::Fakes::FakeScripts scripts;
+    Kestrune::Fakes::FakeHost host;
     Kestrune::NotchSettings settings{defaults};
 
 private:
     Kestrune::NotchPlatform make(Kestrune::Pasteboard &copies, Kestrune::RunningApplications &running,
                                  Kestrune::ScriptExecutor &executor)
     {
-        return {clock,    defaults,   sounds, workspace, copies,  drags,   sharing,
-                captures, thumbnails, http,   location,  running, executor};
+        return {clock,    defaults,   sounds, workspace, copies,  drags,    sharing,
+                captures, thumbnails, http,   location,  running, executor, host};
     }
 };
 

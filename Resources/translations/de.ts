@@ -497,5 +497,29 @@ und es erscheint hier.</translation>
         <source>Next</source>
         <translation>Weiter</translation>
     </message>
+    <message>
+        <source>charging</source>
+        <translation>lädt</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>Batterie</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Arbeitsspeicher</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Festplatte</translation>
+    </message>
+    <message>
+        <source>%@ free</source>
+        <translation>%@ frei</translation>
+    </message>
 </context>
 </TS>

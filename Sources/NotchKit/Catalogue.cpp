@@ -24,7 +24,8 @@ constexpr std::array kTools{
                    "TeleprompterPane"},
     CatalogueEntry{"mirror", QT_TRANSLATE_NOOP("notch", "Mirror"), "camera"},
     CatalogueEntry{"note", QT_TRANSLATE_NOOP("notch", "Note"), "note.text", "NotePane"},
-    CatalogueEntry{"system", QT_TRANSLATE_NOOP("notch", "System"), "gauge.with.dots.needle.33percent"},
+    CatalogueEntry{"system", QT_TRANSLATE_NOOP("notch", "System"), "gauge.with.dots.needle.33percent",
+                   "SystemPane"},
 };
 
 constexpr std::array kWidgets{
@@ -36,7 +37,7 @@ constexpr std::array kWidgets{
     CatalogueEntry{"aiUsage", QT_TRANSLATE_NOOP("notch", "AI Usage"), nullptr, "AIUsageBlock"},
     CatalogueEntry{"timer", QT_TRANSLATE_NOOP("notch", "Timer"), nullptr, "TimerBlock"},
     CatalogueEntry{"stocks", QT_TRANSLATE_NOOP("notch", "Stocks"), nullptr, "StocksBlock"},
-    CatalogueEntry{"system", QT_TRANSLATE_NOOP("notch", "System")},
+    CatalogueEntry{"system", QT_TRANSLATE_NOOP("notch", "System"), nullptr, "SystemBlock"},
     CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Latest copies"), nullptr, "ClipboardBlock"},
     CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Latest screenshots"), nullptr, "CapturesBlock"},
     CatalogueEntry{"note", QT_TRANSLATE_NOOP("notch", "Note"), nullptr, "NoteBlock"},

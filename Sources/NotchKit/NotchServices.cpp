@@ -8,6 +8,7 @@
 #include "Tools/NowPlayingModel.h"
 #include "Tools/ShelfModel.h"
 #include "Tools/StocksModel.h"
+#include "Tools/SystemModel.h"
 #include "Tools/TeleprompterModel.h"
 #include "Tools/TimerModel.h"
 #include "Tools/WeatherModel.h"
@@ -49,6 +50,7 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
     , m_weather(
           add(std::make_unique<WeatherModel>(settings, platform.clock, platform.http, platform.location)))
     , m_stocks(add(std::make_unique<StocksModel>(settings, platform.clock, platform.http)))
+    , m_system(add(std::make_unique<SystemModel>(settings, platform.host)))
     , m_prompter(add(std::make_unique<TeleprompterModel>(settings)))
     , m_now(platform.clock.now())
 {

@@ -22,7 +22,9 @@ class FileSharing;
 class HttpClient;
 class LocationService;
 class Pasteboard;
+class HostStatistics;
 class ShelfModel;
+class SystemModel;
 class AIUsageModel;
 class NowPlayingModel;
 class RunningApplications;
@@ -53,6 +55,7 @@ struct NotchPlatform
     LocationService &location;
     RunningApplications &players;
     ScriptExecutor &scripts;
+    HostStatistics &host;
     QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
 };
 
@@ -69,6 +72,7 @@ class NotchServices : public QObject
     Q_MOC_INCLUDE("NotchKit/Tools/NowPlayingModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ShelfModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/StocksModel.h")
+    Q_MOC_INCLUDE("NotchKit/Tools/SystemModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TeleprompterModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/WeatherModel.h")
@@ -77,6 +81,7 @@ class NotchServices : public QObject
     Q_PROPERTY(Kestrune::ClipboardModel *clipboard READ clipboard CONSTANT)
     Q_PROPERTY(Kestrune::ShelfModel *shelf READ shelf CONSTANT)
     Q_PROPERTY(Kestrune::NowPlayingModel *nowPlaying READ nowPlaying CONSTANT)
+    Q_PROPERTY(Kestrune::SystemModel *system READ system CONSTANT)
     Q_PROPERTY(Kestrune::TimerModel *timer READ timer CONSTANT)
     Q_PROPERTY(Kestrune::AIUsageModel *aiUsage READ aiUsage CONSTANT)
     Q_PROPERTY(Kestrune::WeatherModel *weather READ weather CONSTANT)
@@ -106,6 +111,7 @@ public:
     NowPlayingModel *nowPlaying() const { return m_nowPlaying; }
     TimerModel *timer() const { return m_timer; }
     ShelfModel *shelf() const { return m_shelf; }
+    SystemModel *system() const { return m_system; }
     AIUsageModel *aiUsage() const { return m_aiUsage; }
     WeatherModel *weather() const { return m_weather; }
     StocksModel *stocks() const { return m_stocks; }
@@ -178,6 +184,7 @@ private:
     ShelfModel *m_shelf;
     WeatherModel *m_weather;
     StocksModel *m_stocks;
+    SystemModel *m_system;
     TeleprompterModel *m_prompter;
     std::optional<NotchTool> m_visibleTool;
     std::unique_ptr<RunningTimer> m_clockTimer;

@@ -30,6 +30,7 @@ struct Stage
     Fakes::FakeHttp http;
     Fakes::FakeLocation location;
     Fakes::FakeScripts scripts;
+    Fakes::FakeHost host;
     Fakes::FakeDisplays displays;
     Fakes::FakePointer pointer;
     Fakes::FakePanels panels;
@@ -52,7 +53,7 @@ struct Stage
         app = std::make_unique<AppState>(
             platform,
             NotchPlatform{clock, defaults, sounds, workspace, pasteboard, drags, sharing, captures,
-                          thumbnails, http, location, applications, scripts},
+                          thumbnails, http, location, applications, scripts, host},
             NotchControllerPlatform{clock, displays, pointer, panels, hotKeys, drags},
             LaunchRequest::parse(arguments));
     }

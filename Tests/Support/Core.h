@@ -27,6 +27,7 @@ struct Core
     FakeLocation location;
     FakeApplications players;
     FakeScripts scripts;
+    FakeHost host;
     FakeDisplays displays;
     FakePointer pointer;
     FakePanels panels;
@@ -37,8 +38,8 @@ struct Core
 
     NotchPlatform platform(const QString &home = QDir::homePath())
     {
-        return {clock,    defaults,   sounds, workspace, pasteboard, drags,   sharing,
-                captures, thumbnails, http,   location,  players,    scripts, home};
+        return {clock,      defaults, sounds,   workspace, pasteboard, drags, sharing, captures,
+                thumbnails, http,     location, players,   scripts,    host,  home};
     }
 
     NotchScreenModel &model(std::size_t index = 0) { return *controller.notches().at(index).model; }

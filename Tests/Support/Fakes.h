@@ -4,6 +4,7 @@
 #include "NotchKit/Platform/Displays.h"
 #include "NotchKit/Platform/DragPasteboard.h"
 #include "NotchKit/Platform/FileSharing.h"
+#include "NotchKit/Platform/HostStatistics.h"
 #include "NotchKit/Platform/HotKeys.h"
 #include "NotchKit/Platform/HttpClient.h"
 #include "NotchKit/Platform/LocationService.h"
@@ -437,6 +438,23 @@ public:
     }
 
     std::vector<QPromise<std::optional<Coordinate>>> answers;
+};
+
+class FakeHost : public HostStatistics
+{
+public:
+    std::optional<ProcessorTicks> processorTicks() override { return ++asked, ticks; }
+    std::optional<MemoryPages> memoryPages() override { return pages; }
+    double physicalMemory() override { return installed; }
+    std::optional<QList<PowerSource>> powerSources() override { return supplies; }
+    VolumeCapacity startupVolume() override { return volume; }
+
+    int asked = 0;
+    std::optional<ProcessorTicks> ticks;
+    std::optional<MemoryPages> pages;
+    double installed = 16.0 * 1024 * 1024 * 1024;
+    std::optional<QList<PowerSource>> supplies;
+    VolumeCapacity volume;
 };
 
 class FakeApplications : public RunningApplications

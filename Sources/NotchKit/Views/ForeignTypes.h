@@ -10,6 +10,7 @@
 #include "NotchKit/Tools/NowPlayingModel.h"
 #include "NotchKit/Tools/ShelfModel.h"
 #include "NotchKit/Tools/StocksModel.h"
+#include "NotchKit/Tools/SystemModel.h"
 #include "NotchKit/Tools/TeleprompterModel.h"
 #include "NotchKit/Tools/TimerModel.h"
 #include "NotchKit/Tools/WeatherModel.h"
@@ -38,6 +39,7 @@ KESTRUNE_VIEW_TYPE(NotchSettings);
 KESTRUNE_VIEW_TYPE(NowPlayingModel);
 KESTRUNE_VIEW_TYPE(ShelfModel);
 KESTRUNE_VIEW_TYPE(StocksModel);
+KESTRUNE_VIEW_TYPE(SystemModel);
 KESTRUNE_VIEW_TYPE(TeleprompterModel);
 KESTRUNE_VIEW_TYPE(TimerModel);
 KESTRUNE_VIEW_TYPE(WeatherModel);

@@ -6,6 +6,7 @@ Rectangle {
     id: bar
 
     required property real fraction
+    property color fill: UsageGauge.color(fraction)
 
     implicitWidth: 120
     implicitHeight: 6
@@ -18,6 +19,6 @@ Rectangle {
         width: UsageGauge.filled(bar.fraction, bar.width)
         height: parent.height
         radius: parent.radius
-        color: UsageGauge.color(bar.fraction)
+        color: bar.fill
     }
 }

@@ -1,0 +1,33 @@
+import QtQuick
+import Kestrune.Views
+
+/// The machine's figures in brief.
+HomeBlock {
+    id: block
+
+    tool: "system"
+    title: qsTranslate("notch", "System")
+
+    SystemPresentation {
+        id: figures
+
+        model: block.services.system
+    }
+
+    Column {
+        width: parent.width
+        spacing: 8
+
+        Repeater {
+            model: figures.count
+
+            SystemRow {
+                required property int index
+
+                width: parent.width
+                textSize: 11
+                line: figures.lines[index]
+            }
+        }
+    }
+}
