@@ -92,7 +92,7 @@ void AppStateTest::launchRequests_data()
     QTest::newRow("a tool") << "--open timer" << true << "timer";
     QTest::newRow("no tool") << "--open" << true << "home";
     QTest::newRow("unknown tool") << "--open sundial" << true << "home";
-    QTest::newRow("tool without a pane") << "--open system" << true << "home";
+    QTest::newRow("tool without a pane") << "--open mirror" << true << "home";
 }
 
 void AppStateTest::launchRequests()

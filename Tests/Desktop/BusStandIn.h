@@ -33,6 +33,8 @@ public:
         return m_connection.registerService(m_service);
     }
 
+    void send(const QDBusMessage &signal) { m_connection.send(signal); }
+
     QString introspect(const QString &) const override { return {}; }
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
     {
