@@ -65,10 +65,10 @@ private Q_SLOTS:
             QVERIFY(stage().display.plugSecond(false));
             QTRY_VERIFY2(showsNotches(1), qPrintable(QString::number(round)));
             if (round == 10)
-                memory = stage().session.proportionalSetSize();
+                memory = stage().session.ownMemory();
         }
         // One lost picture of a notch is more than a megabyte; ninety of them would not go unseen.
-        const qint64 growth = stage().session.proportionalSetSize() - memory;
+        const qint64 growth = stage().session.ownMemory() - memory;
         QVERIFY2(memory > 0 && growth < 2048, qPrintable(u"%1 kB more"_s.arg(growth)));
         QVERIFY(stage().openByHotKey());
     }

@@ -105,16 +105,17 @@ QStringList Session::tools() const
     return QVariant(status().value("tools"_L1).toArray().toVariantList()).toStringList();
 }
 
-qint64 Session::proportionalSetSize() const
+qint64 Session::ownMemory() const
 {
     QFile file(u"/proc/%1/smaps_rollup"_s.arg(m_program->processId()));
     if (!file.open(QFile::ReadOnly))
         return -1;
+    qint64 sum = 0;
     for (const QByteArray &line : file.readAll().split('\n')) {
-        if (line.startsWith("Pss:"))
-            return line.mid(4).simplified().split(' ').constFirst().toLongLong();
+        if (line.startsWith("Pss_Anon:") || line.startsWith("Pss_Shmem:"))
+            sum += line.mid(line.indexOf(':') + 1).simplified().split(' ').constFirst().toLongLong();
     }
-    return -1;
+    return sum;
 }
 
 QString Session::defaultsFile(const QString &domain) const

@@ -53,8 +53,9 @@ public:
     QString selected(int index = 0) const;
     QStringList tools() const; ///< Those in the tool row, in its order.
 
-    /// The program's share of memory in kilobytes, pages shared with others counted in part.
-    qint64 proportionalSetSize() const;
+    /// What the program itself fills, in kilobytes: without the files that it maps, whose share depends on
+    /// what else runs.
+    qint64 ownMemory() const;
 
 private:
     QString defaultsFile(const QString &domain) const;

@@ -18,6 +18,10 @@ HomeBlock {
         width: parent.width
         spacing: 8
 
+        SectionLabel {
+            title: block.title
+            symbol: "gauge.with.dots.needle.33percent"
+        }
         Repeater {
             model: figures.count
 
