@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "ControlService.h"
+#include "Desktop/Camera/HelperCamera.h"
 #include "Desktop/Captures/FolderCaptureQuery.h"
 #include "Desktop/Captures/SharedThumbnails.h"
 #include "Desktop/Defaults/SqliteUserDefaults.h"
@@ -68,6 +69,7 @@ private:
     MprisApplications m_players;
     MprisExecutor m_scripts;
     LinuxStatistics m_host;
+    HelperCamera m_camera;
     QQmlEngine m_engine;
     PanelFactory m_panels;
     AlertWindow m_alert;

@@ -63,14 +63,15 @@ struct HubParts
     Kestrune::Fakes::FakeApplications players;
     Kestrune::Fakes::FakeScripts scripts;
     Kestrune::Fakes::FakeHost host;
+    Kestrune::Fakes::FakeCamera camera;
     Kestrune::NotchSettings settings{defaults};
 
 private:
     Kestrune::NotchPlatform make(Kestrune::Pasteboard &copies, Kestrune::RunningApplications &running,
                                  Kestrune::ScriptExecutor &executor)
     {
-        return {clock,    defaults,   sounds, workspace, copies,  drags,    sharing,
-                captures, thumbnails, http,   location,  running, executor, host};
+        return {clock,      defaults, sounds,   workspace, copies,   drags, sharing, captures,
+                thumbnails, http,     location, running,   executor, host,  camera};
     }
 };
 

@@ -521,5 +521,15 @@ und es erscheint hier.</translation>
         <source>%@ free</source>
         <translation>%@ frei</translation>
     </message>
+    <message>
+        <source>No camera found.</source>
+        <translation>Keine Kamera gefunden.</translation>
+    </message>
+    <message>
+        <source>Allow %@ to use the camera in
+System Settings › Privacy &amp; Security › Camera.</source>
+        <translation>Erlaube %@ den Zugriff auf die Kamera in
+Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
+    </message>
 </context>
 </TS>

@@ -22,7 +22,7 @@ constexpr std::array kTools{
     CatalogueEntry{"timer", QT_TRANSLATE_NOOP("notch", "Timer"), "timer", "TimerPane"},
     CatalogueEntry{"teleprompter", QT_TRANSLATE_NOOP("notch", "Teleprompter"), "text.alignleft",
                    "TeleprompterPane"},
-    CatalogueEntry{"mirror", QT_TRANSLATE_NOOP("notch", "Mirror"), "camera"},
+    CatalogueEntry{"mirror", QT_TRANSLATE_NOOP("notch", "Mirror"), "camera", "MirrorPane"},
     CatalogueEntry{"note", QT_TRANSLATE_NOOP("notch", "Note"), "note.text", "NotePane"},
     CatalogueEntry{"system", QT_TRANSLATE_NOOP("notch", "System"), "gauge.with.dots.needle.33percent",
                    "SystemPane"},

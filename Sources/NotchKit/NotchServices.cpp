@@ -5,6 +5,7 @@
 #include "Tools/AIUsageModel.h"
 #include "Tools/CapturesModel.h"
 #include "Tools/ClipboardModel.h"
+#include "Tools/MirrorModel.h"
 #include "Tools/NowPlayingModel.h"
 #include "Tools/ShelfModel.h"
 #include "Tools/StocksModel.h"
@@ -52,6 +53,7 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
     , m_stocks(add(std::make_unique<StocksModel>(settings, platform.clock, platform.http)))
     , m_system(add(std::make_unique<SystemModel>(settings, platform.host)))
     , m_prompter(add(std::make_unique<TeleprompterModel>(settings)))
+    , m_mirror(add(std::make_unique<MirrorModel>(platform.camera)))
     , m_now(platform.clock.now())
 {
     m_activityTool.setBinding([this] { return computeActivityTool(); });

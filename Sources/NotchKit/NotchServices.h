@@ -15,12 +15,14 @@
 namespace Kestrune {
 
 class AirDrop;
+class CameraSession;
 class CapturesModel;
 class ClipboardModel;
 class DragPasteboard;
 class FileSharing;
 class HttpClient;
 class LocationService;
+class MirrorModel;
 class Pasteboard;
 class HostStatistics;
 class ShelfModel;
@@ -56,6 +58,7 @@ struct NotchPlatform
     RunningApplications &players;
     ScriptExecutor &scripts;
     HostStatistics &host;
+    CameraSession &camera;
     QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
 };
 
@@ -69,6 +72,7 @@ class NotchServices : public QObject
     Q_MOC_INCLUDE("NotchKit/Tools/CapturesModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ClipboardModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/AIUsageModel.h")
+    Q_MOC_INCLUDE("NotchKit/Tools/MirrorModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/NowPlayingModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ShelfModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/StocksModel.h")
@@ -87,6 +91,7 @@ class NotchServices : public QObject
     Q_PROPERTY(Kestrune::WeatherModel *weather READ weather CONSTANT)
     Q_PROPERTY(Kestrune::StocksModel *stocks READ stocks CONSTANT)
     Q_PROPERTY(Kestrune::TeleprompterModel *prompter READ prompter CONSTANT)
+    Q_PROPERTY(Kestrune::MirrorModel *mirror READ mirror CONSTANT)
     /// Sends files to the user's other devices.
     Q_PROPERTY(Kestrune::AirDrop *airDrop READ airDrop CONSTANT)
     /// The current time, updated every second while the hub runs. Not bindable for the views: a view's
@@ -116,6 +121,7 @@ public:
     WeatherModel *weather() const { return m_weather; }
     StocksModel *stocks() const { return m_stocks; }
     TeleprompterModel *prompter() const { return m_prompter; }
+    MirrorModel *mirror() const { return m_mirror; }
     AirDrop *airDrop() const { return m_airDrop.get(); }
     Thumbnails &thumbnails() const { return m_thumbnails; }
 
@@ -186,6 +192,7 @@ private:
     StocksModel *m_stocks;
     SystemModel *m_system;
     TeleprompterModel *m_prompter;
+    MirrorModel *m_mirror;
     std::optional<NotchTool> m_visibleTool;
     std::unique_ptr<RunningTimer> m_clockTimer;
     std::unique_ptr<RunningTimer> m_fastTimer;

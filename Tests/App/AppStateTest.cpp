@@ -31,6 +31,7 @@ struct Stage
     Fakes::FakeLocation location;
     Fakes::FakeScripts scripts;
     Fakes::FakeHost host;
+    Fakes::FakeCamera camera;
     Fakes::FakeDisplays displays;
     Fakes::FakePointer pointer;
     Fakes::FakePanels panels;
@@ -53,7 +54,7 @@ struct Stage
         app = std::make_unique<AppState>(
             platform,
             NotchPlatform{clock, defaults, sounds, workspace, pasteboard, drags, sharing, captures,
-                          thumbnails, http, location, applications, scripts, host},
+                          thumbnails, http, location, applications, scripts, host, camera},
             NotchControllerPlatform{clock, displays, pointer, panels, hotKeys, drags},
             LaunchRequest::parse(arguments));
     }
@@ -92,7 +93,7 @@ void AppStateTest::launchRequests_data()
     QTest::newRow("a tool") << "--open timer" << true << "timer";
     QTest::newRow("no tool") << "--open" << true << "home";
     QTest::newRow("unknown tool") << "--open sundial" << true << "home";
-    QTest::newRow("tool without a pane") << "--open mirror" << true << "home";
+    QTest::newRow("tool without a pane") << "--open calendar" << true << "home";
 }
 
 void AppStateTest::launchRequests()

@@ -20,7 +20,7 @@ constexpr QPoint panelEdge(640, 324);   ///< Inside the fully open notch only.
 constexpr QPoint away(640, 600);        ///< Outside the open notch and its window.
 constexpr QPoint pin(974, 20);          ///< The pin button in the header.
 constexpr QPoint firstPreset(520, 169); ///< The shortest countdown in the timer's pane.
-constexpr QRect toolRow(290, 304, 520, 1);
+constexpr QRect toolRow(290, 304, 530, 1);
 
 } // namespace Place
 

@@ -28,6 +28,7 @@ struct Core
     FakeApplications players;
     FakeScripts scripts;
     FakeHost host;
+    FakeCamera camera;
     FakeDisplays displays;
     FakePointer pointer;
     FakePanels panels;
@@ -39,7 +40,7 @@ struct Core
     NotchPlatform platform(const QString &home = QDir::homePath())
     {
         return {clock,      defaults, sounds,   workspace, pasteboard, drags, sharing, captures,
-                thumbnails, http,     location, players,   scripts,    host,  home};
+                thumbnails, http,     location, players,   scripts,    host,  camera,  home};
     }
 
     NotchScreenModel &model(std::size_t index = 0) { return *controller.notches().at(index).model; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "NotchKit/Platform/CameraSession.h"
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/Displays.h"
 #include "NotchKit/Platform/DragPasteboard.h"
@@ -495,6 +496,44 @@ private:
     QMutex m_mutex;
     QMap<QString, ScriptOutcome> m_answers;
     QStringList m_executed;
+};
+
+/// Allows and has a camera unless told otherwise. Questions are answered when the test does.
+class FakeCamera : public CameraSession
+{
+public:
+    void installHandlers(Handlers installed) override { handlers = std::move(installed); }
+    CameraAuthorization authorization() override { return status; }
+    QFuture<bool> requestAccess() override { return ask(QStringLiteral("access")); }
+    QFuture<bool> configure() override { return ask(QStringLiteral("configure")); }
+    void startRunning() override { called.append(QStringLiteral("start")); }
+    void stopRunning() override { called.append(QStringLiteral("stop")); }
+    void requestPicture(const PictureShape &shape) override
+    {
+        if (called.lastIndexOf(QStringLiteral("start")) > called.lastIndexOf(QStringLiteral("stop")))
+            shapes.append(shape);
+    }
+
+    /// Answers the last question.
+    void answer(bool yes)
+    {
+        questions.back().addResult(yes);
+        questions.back().finish();
+    }
+
+    Handlers handlers;
+    CameraAuthorization status = CameraAuthorization::authorized;
+    QStringList called;
+    QList<PictureShape> shapes;
+    std::vector<QPromise<bool>> questions;
+
+private:
+    QFuture<bool> ask(const QString &question)
+    {
+        called.append(question);
+        questions.emplace_back().start();
+        return questions.back().future();
+    }
 };
 
 class FakeLoginItem : public LoginItem

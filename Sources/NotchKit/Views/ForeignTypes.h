@@ -7,6 +7,7 @@
 #include "NotchKit/Tools/AIUsageModel.h"
 #include "NotchKit/Tools/CapturesModel.h"
 #include "NotchKit/Tools/ClipboardModel.h"
+#include "NotchKit/Tools/MirrorModel.h"
 #include "NotchKit/Tools/NowPlayingModel.h"
 #include "NotchKit/Tools/ShelfModel.h"
 #include "NotchKit/Tools/StocksModel.h"
@@ -33,6 +34,7 @@ KESTRUNE_VIEW_TYPE(AirDrop);
 KESTRUNE_VIEW_TYPE(CapturesModel);
 KESTRUNE_VIEW_TYPE(ClipboardModel);
 KESTRUNE_VIEW_TYPE(AIUsageModel);
+KESTRUNE_VIEW_TYPE(MirrorModel);
 KESTRUNE_VIEW_TYPE(NotchScreenModel);
 KESTRUNE_VIEW_TYPE(NotchServices);
 KESTRUNE_VIEW_TYPE(NotchSettings);

@@ -1,0 +1,141 @@
+#include "Camera.h"
+
+#include <gst/app/gstappsink.h>
+
+#include <array>
+#include <string>
+
+namespace Kestrune {
+
+namespace {
+
+/// What is asked of the camera, best first: enough for a picture a few hundred points wide, at a low cost.
+constexpr std::array kWishes{
+    "video/x-raw, width=640, height=480, framerate=[15/1,60/1]",
+    "video/x-raw, width=[480,1280], height=[270,960], framerate=[15/1,60/1]",
+    "image/jpeg, width=640, height=480, framerate=[15/1,60/1]",
+    "image/jpeg, width=[480,1280], height=[270,960], framerate=[15/1,60/1]",
+    "video/x-raw",
+    "image/jpeg",
+};
+
+constexpr GstClockTime kSlice = 100 * GST_MSECOND;
+constexpr GstClockTime kLongestStart = 10 * GST_SECOND; // Some cameras first measure the light.
+constexpr GstClockTime kLongestPause = 3 * GST_SECOND;
+
+bool isDefault(GstDevice *device)
+{
+    GstStructure *properties = gst_device_get_properties(device);
+    gboolean is = FALSE;
+    if (properties) {
+        gst_structure_get_boolean(properties, "is-default", &is);
+        gst_structure_free(properties);
+    }
+    return is;
+}
+
+/// The first wish that the camera fulfils; nothing when it fulfils none.
+Handle<GstCaps> chooseFormat(GstDevice *device)
+{
+    const Handle<GstCaps> offered(gst_device_get_caps(device));
+    for (const char *const text : kWishes) {
+        const Handle<GstCaps> wish(gst_caps_from_string(text));
+        Handle<GstCaps> both(offered ? gst_caps_intersect(offered.get(), wish.get()) : nullptr);
+        if (both && !gst_caps_is_empty(both.get()))
+            return both;
+    }
+    return {};
+}
+
+bool isJpeg(const GstCaps *format)
+{
+    return gst_structure_has_name(gst_caps_get_structure(format, 0), "image/jpeg");
+}
+
+} // namespace
+
+Camera::~Camera()
+{
+    if (m_pipeline)
+        gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
+}
+
+bool Camera::find()
+{
+    gst_device_monitor_add_filter(m_monitor, "Video/Source", nullptr);
+    if (!gst_device_monitor_start(m_monitor))
+        return false;
+    GList *const devices = gst_device_monitor_get_devices(m_monitor);
+    for (const GList *entry = devices; entry; entry = entry->next) {
+        auto *const device = GST_DEVICE(entry->data);
+        if (!m_device || (isDefault(device) && !isDefault(m_device.get())))
+            m_device.reset(GST_DEVICE(gst_object_ref(device)));
+    }
+    g_list_free_full(devices, gst_object_unref);
+    return m_device != nullptr;
+}
+
+bool Camera::open()
+{
+    const Handle<GstCaps> format = find() ? chooseFormat(m_device.get()) : nullptr;
+    GstElement *const source = format ? gst_device_create_element(m_device.get(), nullptr) : nullptr;
+    if (!source)
+        return false;
+    m_pipeline.reset(gst_pipeline_new(nullptr));
+    gst_bin_add(GST_BIN(m_pipeline.get()), source);
+    const std::string rest = std::string("capsfilter name=format ! ") +
+                             (isJpeg(format.get()) ? "jpegdec ! " : "") +
+                             "appsink name=sink caps=video/x-raw max-buffers=1 drop=true sync=false";
+    GstElement *const bin = gst_parse_bin_from_description(rest.c_str(), TRUE, nullptr);
+    if (!bin)
+        return false;
+    gst_bin_add(GST_BIN(m_pipeline.get()), bin);
+    const Handle<GstElement> filter(gst_bin_get_by_name(GST_BIN(bin), "format"));
+    g_object_set(filter.get(), "caps", format.get(), nullptr);
+    m_sink.reset(gst_bin_get_by_name(GST_BIN(bin), "sink"));
+    return gst_element_link(source, bin) &&
+           gst_element_set_state(m_pipeline.get(), GST_STATE_READY) != GST_STATE_CHANGE_FAILURE;
+}
+
+bool Camera::start()
+{
+    return gst_element_set_state(m_pipeline.get(), GST_STATE_PLAYING) != GST_STATE_CHANGE_FAILURE;
+}
+
+bool Camera::hasFailed() const
+{
+    const Handle<GstBus> bus(gst_element_get_bus(m_pipeline.get()));
+    const auto bad = static_cast<GstMessageType>(GST_MESSAGE_ERROR | GST_MESSAGE_EOS);
+    return Handle<GstMessage>(gst_bus_pop_filtered(bus.get(), bad)) != nullptr;
+}
+
+bool Camera::isPulledOut() const
+{
+    const Handle<GstBus> bus(gst_device_monitor_get_bus(m_monitor));
+    while (const Handle<GstMessage> message{gst_bus_pop(bus.get())}) {
+        if (GST_MESSAGE_TYPE(message.get()) != GST_MESSAGE_DEVICE_REMOVED)
+            continue;
+        GstDevice *removed = nullptr;
+        gst_message_parse_device_removed(message.get(), &removed);
+        if (Handle<GstDevice>(removed) == m_device)
+            return true;
+    }
+    return false;
+}
+
+Handle<GstSample> Camera::next(const std::function<bool()> &isPointless)
+{
+    const GstClockTime longest = m_hasGivenPictures ? kLongestPause : kLongestStart;
+    for (GstClockTime waited = 0; waited < longest; waited += kSlice) {
+        Handle<GstSample> sample(gst_app_sink_try_pull_sample(GST_APP_SINK(m_sink.get()), kSlice));
+        if (sample) {
+            m_hasGivenPictures = true;
+            return sample;
+        }
+        if (hasFailed() || isPulledOut() || isPointless())
+            break;
+    }
+    return {};
+}
+
+} // namespace Kestrune

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "Handles.h"
+
+#include <functional>
+
+namespace Kestrune {
+
+/// The default camera, as GStreamer finds it (PipeWire's cameras, else those of Video4Linux). It is on from
+/// `start` to its end.
+class Camera
+{
+public:
+    /// Opens it without turning it on; false where there is none that can be used.
+    bool open();
+    bool start();
+
+    /// The newest picture that has not been taken yet, or the next one. Nothing when the camera is lost: it
+    /// failed, gave no picture for seconds, or `isPointless` said so meanwhile.
+    Handle<GstSample> next(const std::function<bool()> &isPointless);
+
+    ~Camera();
+    Camera() = default;
+    Camera(const Camera &) = delete;
+    Camera &operator=(const Camera &) = delete;
+
+private:
+    bool find();
+    bool hasFailed() const;
+    bool isPulledOut() const;
+
+    /// Never ended: some of PipeWire's versions corrupt memory when it stops to look.
+    GstDeviceMonitor *const m_monitor = gst_device_monitor_new();
+    Handle<GstDevice> m_device;
+    Handle<GstElement> m_pipeline;
+    Handle<GstElement> m_sink;
+    bool m_hasGivenPictures = false;
+};
+
+} // namespace Kestrune

@@ -1,0 +1,118 @@
+#include "CameraAccess.h"
+
+#include "Desktop/Session/BusCall.h"
+
+#include <QDBusError>
+#include <QDBusObjectPath>
+#include <QDBusServiceWatcher>
+#include <QDBusVariant>
+#include <QUuid>
+
+#include <array>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr int kTimeout = 10'000; // ms, for a portal that is started by the call.
+
+QString service() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
+QString requestInterface() { return QStringLiteral("org.freedesktop.portal.Request"); }
+
+QDBusMessage makeCall(const char *interface, const char *method)
+{
+    return QDBusMessage::createMethodCall(service(), QStringLiteral("/org/freedesktop/portal/desktop"),
+                                          QString::fromLatin1(interface), QString::fromLatin1(method));
+}
+
+/// Whether the reply means that a portal is there which does not let itself be asked.
+bool isRefusal(const QDBusMessage &reply)
+{
+    constexpr std::array kinds{QDBusError::NoReply, QDBusError::TimedOut, QDBusError::Timeout,
+                               QDBusError::AccessDenied};
+    return reply.type() == QDBusMessage::ErrorMessage &&
+           std::ranges::find(kinds, QDBusError(reply).type()) != kinds.end();
+}
+
+} // namespace
+
+CameraAccess::CameraAccess(const QDBusConnection &bus)
+    : m_bus(bus)
+{}
+
+CameraAccess::~CameraAccess() = default;
+
+CameraAuthorization CameraAccess::authorization()
+{
+    const auto answer = m_answer.value_or(CameraAuthorization::notDetermined);
+    if (answer != CameraAuthorization::authorized)
+        m_answer.reset();
+    return answer;
+}
+
+QFuture<bool> CameraAccess::request()
+{
+    if (!m_question) {
+        m_question = std::make_unique<QPromise<bool>>();
+        m_question->start();
+        QDBusMessage call = makeCall("org.freedesktop.DBus.Properties", "Get");
+        call << QStringLiteral("org.freedesktop.portal.Camera") << QStringLiteral("IsCameraPresent");
+        callBus(m_bus, call, kTimeout, this, [this](const QDBusMessage &reply) { takePresence(reply); });
+    }
+    return m_question->future();
+}
+
+void CameraAccess::takePresence(const QDBusMessage &reply)
+{
+    const QVariant value = reply.arguments().value(0);
+    if (reply.type() == QDBusMessage::ReplyMessage && value.value<QDBusVariant>().variant().toBool())
+        ask();
+    else
+        finish(isRefusal(reply) ? CameraAuthorization::denied : CameraAuthorization::authorized);
+}
+
+void CameraAccess::ask()
+{
+    const QString token = QStringLiteral("kestrune") + QUuid::createUuid().toString(QUuid::Id128);
+    QString sender = m_bus.baseService().mid(1);
+    sender.replace(QLatin1Char('.'), QLatin1Char('_'));
+    m_request = QStringLiteral("/org/freedesktop/portal/desktop/request/%1/%2").arg(sender, token);
+    // Without the service's name, whose owner would have to be asked for and waited for.
+    m_bus.connect(QString(), m_request, requestInterface(), QStringLiteral("Response"), this,
+                  SLOT(takeResponse(uint, QVariantMap)));
+    m_watcher =
+        std::make_unique<QDBusServiceWatcher>(service(), m_bus, QDBusServiceWatcher::WatchForUnregistration);
+    connect(m_watcher.get(), &QDBusServiceWatcher::serviceUnregistered, this,
+            [this] { finish(CameraAuthorization::denied); });
+    QDBusMessage call = makeCall("org.freedesktop.portal.Camera", "AccessCamera");
+    call << QVariantMap{{QStringLiteral("handle_token"), token}};
+    callBus(m_bus, call, kTimeout, this, [this](const QDBusMessage &reply) {
+        if (reply.type() != QDBusMessage::ErrorMessage)
+            return;
+        const bool forbidden = reply.errorName() == QLatin1String("org.freedesktop.portal.Error.NotAllowed");
+        finish(forbidden ? CameraAuthorization::restricted : CameraAuthorization::denied);
+    });
+}
+
+void CameraAccess::takeResponse(uint response, const QVariantMap & /*results*/)
+{
+    finish(response == 0 ? CameraAuthorization::authorized : CameraAuthorization::denied);
+}
+
+void CameraAccess::finish(CameraAuthorization answer)
+{
+    if (!m_question)
+        return;
+    if (!m_request.isEmpty())
+        m_bus.disconnect(QString(), m_request, requestInterface(), QStringLiteral("Response"), this,
+                         SLOT(takeResponse(uint, QVariantMap)));
+    m_request.clear();
+    if (m_watcher)
+        m_watcher.release()->deleteLater(); // It may be what has called.
+    m_answer = answer;
+    const auto question = std::exchange(m_question, {});
+    question->addResult(answer == CameraAuthorization::authorized);
+    question->finish();
+}
+
+} // namespace Kestrune

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "NotchKit/Platform/CameraSession.h"
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QPromise>
+#include <QVariantMap>
+
+#include <memory>
+#include <optional>
+
+class QDBusMessage;
+class QDBusServiceWatcher;
+
+namespace Kestrune {
+
+/// The permission to use the camera, from the desktop's camera portal, which asks the user and remembers the
+/// answer. Where there is no portal, or it knows of no camera, every program may use one. Main thread only;
+/// nothing here waits.
+class CameraAccess : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CameraAccess(const QDBusConnection &bus);
+    ~CameraAccess() override;
+
+    /// The last answer. A refusal is told once: what the user changes in the desktop's settings only the
+    /// portal knows, so the next showing asks it again, which it answers by itself.
+    CameraAuthorization authorization();
+
+    /// Asks for it. One question at a time: a second one joins the first.
+    QFuture<bool> request();
+
+    /// The camera was turned off: the next showing asks again.
+    void forget() { m_answer.reset(); }
+
+private Q_SLOTS:
+    void takeResponse(uint response, const QVariantMap &results);
+
+private:
+    void takePresence(const QDBusMessage &reply);
+    void ask();
+    void finish(CameraAuthorization answer);
+
+    QDBusConnection m_bus;
+    std::optional<CameraAuthorization> m_answer;
+    std::unique_ptr<QPromise<bool>> m_question; ///< While the portal is asked.
+    QString m_request;                          ///< The portal's object for the question.
+    std::unique_ptr<QDBusServiceWatcher> m_watcher;
+};
+
+} // namespace Kestrune

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "CameraAccess.h"
+#include "CameraWire.h"
+#include "Desktop/WorkLoop.h"
+#include "NotchKit/Platform/CameraSession.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace Kestrune {
+
+class CameraRun;
+
+/// The camera through a helper process, which runs from a start to a stop only: what it takes of memory and
+/// threads is gone with it. The helper is started and ended on a thread of its own, which the first use
+/// starts.
+class HelperCamera : public QObject, public CameraSession
+{
+    Q_OBJECT
+
+public:
+    /// `helper` is the helper's file, the installed one by default.
+    explicit HelperCamera(const QDBusConnection &bus, const QString &helper = installedHelper());
+    ~HelperCamera() override;
+
+    /// The helper beside the program in a build tree, else where it is installed.
+    static QString installedHelper();
+
+    void installHandlers(Handlers handlers) override { m_handlers = std::move(handlers); }
+    CameraAuthorization authorization() override { return m_access.authorization(); }
+    QFuture<bool> requestAccess() override { return m_access.request(); }
+    QFuture<bool> configure() override;
+    void startRunning() override;
+    void stopRunning() override;
+    void requestPicture(const PictureShape &shape) override;
+
+private:
+    template <typename Function>
+    void post(Function function);
+    void take(quint64 run, const QImage &picture);
+    void lose(quint64 run);
+    bool isCurrent(quint64 run) const { return m_running && run == m_runs; }
+
+    const QString m_helper;
+    CameraAccess m_access;
+    Handlers m_handlers;
+    quint64 m_runs = 0; ///< Starts so far: the number of the present run.
+    bool m_running = false;
+    bool m_ordered = false; ///< A picture is on its way.
+    int m_slot = 0;
+    std::shared_ptr<QPointer<CameraRun>> m_run; ///< Touched on the camera's thread only.
+    WorkLoop m_loop{QStringLiteral("kestrune.camera")};
+};
+
+} // namespace Kestrune

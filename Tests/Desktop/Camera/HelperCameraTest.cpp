@@ -1,0 +1,249 @@
+#include "Desktop/Camera/HelperCamera.h"
+#include "Desktop/BusStandIn.h"
+#include "EndToEnd/CameraServer.h"
+#include "EndToEnd/Waiting.h"
+#include "Support/TestRegistry.h"
+
+#include <QDBusArgument>
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QDir>
+#include <QFile>
+
+#include <unistd.h>
+
+using namespace Kestrune;
+using namespace Qt::StringLiterals;
+
+using Authorization = CameraAuthorization;
+
+namespace {
+
+const QString kPortal = u"org.freedesktop.portal.Desktop"_s;
+const PictureShape kShape{{400, 120}, 12};
+
+/// The folders of a user's own, for this process and what it starts.
+struct Home
+{
+    Home()
+    {
+        for (const char *name : {"XDG_RUNTIME_DIR", "XDG_CONFIG_HOME", "XDG_STATE_HOME"}) {
+            const QString path = folder.filePath(QString::fromLatin1(name));
+            QDir().mkpath(path);
+            qputenv(name, path.toLocal8Bit());
+        }
+        qputenv("DBUS_SESSION_BUS_ADDRESS", portal.address().toLatin1());
+    }
+
+    QTemporaryDir folder;
+    BusStandIn portal{kPortal};
+};
+
+/// The adapter with what it reports.
+struct Stage
+{
+    explicit Stage(const QDBusConnection &bus, const QString &helper = QStringLiteral(KESTRUNE_CAMERA))
+        : camera(bus, helper)
+    {
+        camera.installHandlers(
+            {[this](const QImage &picture) { pictures.append(picture); }, [this] { ++lost; }});
+    }
+
+    bool configure()
+    {
+        const auto usable = camera.configure();
+        return waitUntil([&] { return usable.isFinished(); }, 20'000) && usable.result();
+    }
+    /// A picture of the running camera; null when none comes.
+    QImage take(const PictureShape &shape = kShape)
+    {
+        pictures.clear();
+        camera.requestPicture(shape);
+        camera.requestPicture(shape);
+        return waitUntil([&] { return !pictures.isEmpty(); }) ? pictures.constLast() : QImage();
+    }
+
+    HelperCamera camera;
+    QList<QImage> pictures;
+    int lost = 0;
+};
+
+qint64 count(const QString &folder) { return QDir(folder).entryList(QDir::AllEntries | QDir::System).size(); }
+
+/// Threads, open files and child processes of this process.
+QList<qint64> holdings()
+{
+    QFile children(u"/proc/self/task/%1/children"_s.arg(::gettid()));
+    return {count(u"/proc/self/task"_s), count(u"/proc/self/fd"_s),
+            children.open(QFile::ReadOnly) ? children.readAll().count(' ') : -1};
+}
+
+/// Memory of this process's own, in kilobytes.
+qint64 memory()
+{
+    QFile file(u"/proc/self/smaps_rollup"_s);
+    if (!file.open(QFile::ReadOnly))
+        return -1;
+    const QByteArray text = file.readAll();
+    return text.mid(text.indexOf("Pss:") + 4, 20).simplified().split(' ').constFirst().toLongLong();
+}
+
+} // namespace
+
+/// The camera and its permission over a real PipeWire camera and a stand-in of the desktop's portal.
+class HelperCameraTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void asksThePortal_data()
+    {
+        QTest::addColumn<QString>("behaviour");
+        QTest::addColumn<Authorization>("answer");
+        QTest::newRow("none") << u"none"_s << Authorization::authorized;
+        QTest::newRow("no camera portal") << u"unknown"_s << Authorization::authorized;
+        QTest::newRow("knows no camera") << u"absent"_s << Authorization::authorized;
+        QTest::newRow("allows") << u"0"_s << Authorization::authorized;
+        QTest::newRow("refuses") << u"1"_s << Authorization::denied;
+        QTest::newRow("was dismissed") << u"2"_s << Authorization::denied;
+        QTest::newRow("forbids") << u"forbids"_s << Authorization::restricted;
+        QTest::newRow("ends") << u"ends"_s << Authorization::denied;
+    }
+
+    void asksThePortal()
+    {
+        QFETCH(const QString, behaviour);
+        QFETCH(const Authorization, answer);
+        BusStandIn portal(kPortal);
+        if (behaviour != "none"_L1)
+            QVERIFY(portal.appear([&](const QDBusMessage &call) { return reply(portal, call, behaviour); }));
+        Stage stage(portal.bus());
+        QCOMPARE(stage.camera.authorization(), Authorization::notDetermined);
+        const auto allowed = stage.camera.requestAccess();
+        QTRY_VERIFY(allowed.isFinished());
+        QCOMPARE(allowed.result(), answer == Authorization::authorized);
+        QCOMPARE(stage.camera.authorization(), answer);
+        // Permission holds for a showing; after a refusal the portal is asked anew.
+        QCOMPARE(stage.camera.authorization(),
+                 answer == Authorization::authorized ? answer : Authorization::notDetermined);
+        stage.camera.startRunning();
+        stage.camera.stopRunning();
+        QCOMPARE(stage.camera.authorization(), Authorization::notDetermined);
+    }
+
+    void noCamera()
+    {
+        const Home home;
+        QVERIFY(!Stage(home.portal.bus()).configure());
+        QVERIFY(!Stage(home.portal.bus(), u"/nowhere"_s).configure());
+        Stage stage(home.portal.bus(), u"/nowhere"_s);
+        stage.camera.startRunning();
+        QTRY_COMPARE(stage.lost, 1);
+    }
+
+    void showsTheCameraMirrored()
+    {
+        const Home home;
+        CameraServer server(QProcessEnvironment::systemEnvironment());
+        QVERIFY(server.plugIn());
+        Stage stage(home.portal.bus());
+        QVERIFY(stage.configure());
+        QCOMPARE(server.state(), u"suspended"_s); // to look for it does not turn it on
+        stage.camera.requestPicture(kShape);
+        stage.camera.startRunning();
+        QImage picture;
+        for (const PictureShape &shape : {kShape, PictureShape{{90, 300}, 0}, kShape}) {
+            picture = stage.take(shape);
+            QCOMPARE(picture.size(), shape.size);
+            QCOMPARE(stage.pictures.size(), 1); // two were requested
+            const auto alpha = [&](QPoint place) { return qAlpha(picture.pixel(place)); };
+            QCOMPARE(alpha({0, 0}) == 0 && alpha({shape.size.width() - 1, shape.size.height() - 1}) == 0,
+                     shape.radius > 0);
+            QCOMPARE(alpha({20, 20}), 255);
+        }
+        const QColor left = picture.pixelColor(4, 40);
+        const QColor right = picture.pixelColor(395, 40);
+        QVERIFY(left.blue() > 150 && left.red() < 50 && left.green() < 50);
+        QVERIFY(right.blue() > 150 && right.red() > 150 && right.green() > 150);
+
+        // Pulled out, then plugged in again.
+        QCOMPARE(server.state(), u"running"_s);
+        QVERIFY(server.pullOut());
+        stage.take();
+        QTRY_COMPARE(stage.lost, 1);
+        stage.camera.startRunning();
+        QTRY_COMPARE(stage.lost, 2);
+        QVERIFY(server.plugIn());
+        stage.camera.startRunning();
+        QCOMPARE(stage.take().size(), kShape.size);
+        QCOMPARE(stage.lost, 2);
+    }
+
+    void stopsAtOnceAndLeavesNothing()
+    {
+        const Home home;
+        CameraServer server(QProcessEnvironment::systemEnvironment());
+        QVERIFY(server.plugIn());
+        Stage stage(home.portal.bus());
+        for (int i = 0; i < 3; ++i) {
+            stage.camera.startRunning();
+            QVERIFY(!stage.take().isNull());
+            QCOMPARE(server.state(), u"running"_s);
+            QElapsedTimer time;
+            time.start();
+            stage.camera.stopRunning();
+            QVERIFY2(time.elapsed() < 20, "the caller waited");
+            const qint64 used = timeUntil([&] { return server.state() != "running"_L1; });
+            QVERIFY2(used >= 0 && used < 200, qPrintable(u"released after %1 ms"_s.arg(used)));
+        }
+        const auto settle = [&] {
+            stage.pictures.clear();
+            QTest::qWait(300);
+        };
+        settle();
+        const QList<qint64> held = holdings();
+        const qint64 before = memory();
+        for (int i = 0; i < 100; ++i) {
+            stage.camera.startRunning();
+            if (i % 10 == 0)
+                QVERIFY(!stage.take().isNull());
+            stage.camera.stopRunning();
+            stage.camera.requestPicture(kShape);
+        }
+        settle();
+        QTRY_COMPARE_WITH_TIMEOUT(holdings(), held, 10'000);
+        QVERIFY2(memory() < before + 1024, qPrintable(u"%1 kB from %2"_s.arg(memory()).arg(before)));
+        QVERIFY(server.state() != "running"_L1);
+        QCOMPARE(stage.lost, 0);
+    }
+
+private:
+    /// What a portal of that behaviour does with a call.
+    static std::optional<QDBusMessage> reply(BusStandIn &portal, const QDBusMessage &call,
+                                             const QString &behaviour)
+    {
+        if (behaviour == "unknown"_L1)
+            return call.createErrorReply(QDBusError::InvalidArgs, u"No such interface"_s);
+        if (call.member() == "Get"_L1)
+            return call.createReply(QVariant::fromValue(QDBusVariant(behaviour != "absent"_L1)));
+        if (behaviour == "forbids"_L1)
+            return call.createErrorReply(u"org.freedesktop.portal.Error.NotAllowed"_s, u"no"_s);
+        QDBusConnection bus(portal.address() + kPortal);
+        if (behaviour == "ends"_L1) {
+            bus.unregisterService(kPortal);
+            return {};
+        }
+        const QVariantMap options = qdbus_cast<QVariantMap>(call.arguments().value(0));
+        const QString token = options.value(u"handle_token"_s).toString();
+        const QString sender = call.service().mid(1).replace(u'.', u'_');
+        const QString path = u"/org/freedesktop/portal/desktop/request/"_s + sender + u'/' + token;
+        bus.send(call.createReply(QVariant::fromValue(QDBusObjectPath(path))));
+        auto response = QDBusMessage::createSignal(path, u"org.freedesktop.portal.Request"_s, u"Response"_s);
+        response << behaviour.toUInt() << QVariantMap();
+        bus.send(response);
+        return {};
+    }
+};
+
+REGISTER_TEST(HelperCameraTest);
+#include "HelperCameraTest.moc"

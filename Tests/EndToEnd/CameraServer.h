@@ -1,0 +1,32 @@
+#pragma once
+
+#include "EndToEnd/ChildProcess.h"
+
+#include <memory>
+
+/// PipeWire with one camera, whose picture has coloured bars: light grey at its left, blue at its right.
+class CameraServer
+{
+public:
+    /// In the folders that `environment` names.
+    explicit CameraServer(const QProcessEnvironment &environment)
+        : m_environment(environment)
+    {}
+
+    /// Starts it anew and waits until programs find the camera.
+    bool plugIn();
+
+    /// Takes the camera away.
+    bool pullOut();
+
+    /// As PipeWire sees the camera from outside: "running" while a program uses it. Empty without one.
+    QString state() const { return camera("state"); }
+
+private:
+    QString camera(const char *field) const;
+    QByteArray run(const QString &program, const QStringList &arguments) const;
+
+    QProcessEnvironment m_environment;
+    std::unique_ptr<ChildProcess> m_server;
+    std::unique_ptr<ChildProcess> m_manager;
+};

@@ -1,0 +1,150 @@
+#include "NotchKit/Tools/MirrorModel.h"
+#include "Support/Core.h"
+#include "Support/TestRegistry.h"
+
+#include <QTest>
+
+using namespace Kestrune;
+using namespace Qt::StringLiterals;
+
+using Authorization = CameraAuthorization;
+using State = MirrorModel::State;
+
+namespace {
+
+struct Stage
+{
+    Fakes::Core core;
+    Fakes::FakeCamera &camera = core.camera;
+    MirrorModel &mirror = *core.services.mirror();
+
+    void show(std::optional<NotchTool> tool = NotchTool::mirror) { core.services.show(tool); }
+    void answer(bool yes)
+    {
+        camera.answer(yes);
+        QTest::qWait(1);
+    }
+    void allow(Authorization status)
+    {
+        camera.status = status;
+        answer(status == Authorization::authorized);
+    }
+    /// What the session was told since the last call.
+    QString told() { return std::exchange(camera.called, {}).join(u' '); }
+    void showFirst()
+    {
+        show();
+        answer(true);
+        QCOMPARE(told(), u"configure start"_s);
+    }
+};
+
+} // namespace
+
+/// The mirror by what it tells the camera's session.
+class MirrorModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void runsWhileItIsShown()
+    {
+        Stage stage;
+        stage.mirror.stop();
+        QCOMPARE(stage.told(), QString());
+        stage.showFirst();
+        QVERIFY(stage.mirror.running() && stage.mirror.state() == State::Picture);
+        stage.show();
+        stage.mirror.start();
+        QCOMPARE(stage.told(), QString());
+        // Every way to leave it; the input is kept.
+        for (const auto &leave : std::initializer_list<std::function<void()>>{
+                 [&] { stage.show(NotchTool::timer); }, [&] { stage.show({}); },
+                 [&] { stage.core.services.stop(); }, [&] { stage.mirror.stop(); }}) {
+            stage.core.services.start();
+            leave();
+            leave();
+            QVERIFY(!stage.mirror.running());
+            stage.show();
+            QCOMPARE(stage.told(), u"stop start"_s);
+        }
+    }
+
+    void asksForAccess_data()
+    {
+        QTest::addColumn<Authorization>("answer");
+        QTest::addColumn<QString>("told");
+        QTest::addColumn<State>("state");
+        QTest::newRow("allowed") << Authorization::authorized << u"configure"_s << State::Waiting;
+        QTest::newRow("denied") << Authorization::denied << QString() << State::NoAccess;
+        QTest::newRow("restricted") << Authorization::restricted << QString() << State::NoAccess;
+    }
+
+    void asksForAccess()
+    {
+        QFETCH(const Authorization, answer);
+        Stage stage;
+        stage.camera.status = Authorization::notDetermined;
+        stage.show();
+        stage.show();
+        QCOMPARE(stage.told(), u"access"_s);
+        QCOMPARE(stage.mirror.state(), State::Waiting);
+        stage.allow(answer);
+        QTEST(stage.told(), "told");
+        QTEST(stage.mirror.state(), "state");
+        // What the user changes elsewhere takes effect at the next showing.
+        stage.show({});
+        stage.camera.called.clear();
+        stage.camera.status = Authorization::authorized;
+        stage.show();
+        QCOMPARE(stage.told(), u"configure"_s);
+    }
+
+    void anAnswerAfterTheShowingStartsNothing()
+    {
+        Stage stage;
+        stage.camera.status = Authorization::notDetermined;
+        stage.show();
+        stage.show(NotchTool::timer);
+        stage.show(); // and the question still stands
+        stage.show({});
+        stage.allow(Authorization::authorized);
+        QCOMPARE(stage.told(), u"access"_s);
+        // The same while the camera is looked for.
+        stage.show();
+        stage.show({});
+        QVERIFY(stage.camera.questions.back().isCanceled());
+        stage.answer(true);
+        QCOMPARE(stage.told(), u"configure"_s);
+        stage.showFirst();
+    }
+
+    void noCamera()
+    {
+        Stage stage;
+        stage.show();
+        stage.answer(false);
+        QVERIFY(stage.mirror.noCamera() && stage.mirror.state() == State::NoCamera);
+        QCOMPARE(stage.told(), u"configure"_s);
+        // One that is plugged in later is shown, although it stays known that there was none.
+        stage.show({});
+        stage.showFirst();
+        QVERIFY(stage.mirror.noCamera() && stage.mirror.state() == State::Picture);
+    }
+
+    void aCameraThatIsPulledOut()
+    {
+        Stage stage;
+        stage.showFirst();
+        stage.camera.handlers.lost();
+        QVERIFY(!stage.mirror.running() && !stage.mirror.noCamera());
+        QCOMPARE(stage.mirror.state(), State::NoCamera);
+        QCOMPARE(stage.told(), u"stop"_s);
+        stage.show();
+        QCOMPARE(stage.told(), u"start"_s);
+        QCOMPARE(stage.mirror.state(), State::Picture);
+    }
+};
+
+REGISTER_TEST(MirrorModelTest);
+#include "MirrorModelTest.moc"
