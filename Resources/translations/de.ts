@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>More tools at fennivar.example</source>
-        <translation>Mehr Werkzeuge auf fennivar.example</translation>
+        <translation>Mehr auf fennivar.example</translation>
     </message>
     <message>
         <source>this app</source>
