@@ -24,6 +24,7 @@ Application::Application(const QDBusConnection &bus)
     , m_localServices(LocalServices::fromEnvironment(m_http))
     , m_players(bus)
     , m_camera(bus)
+    , m_calendars(bus, m_defaults)
     , m_panels(m_engine, m_desktop)
     , m_alert(m_engine)
 {
@@ -41,9 +42,9 @@ void Application::run(const LaunchRequest &request)
         m_defaults, m_suiteDefaults, m_applications, m_loginItem,
         [this](const QString &message, const QString &details) { m_alert.show(message, details); }};
     HttpClient &http = m_localServices ? *m_localServices : m_http;
-    const NotchPlatform tools{m_clock,    m_defaults, m_sounds,   m_workspace,  m_pasteboard,
-                              m_drags,    m_sharing,  m_captures, m_thumbnails, http,
-                              m_location, m_players,  m_scripts,  m_host,       m_camera};
+    const NotchPlatform tools{m_clock,   m_defaults, m_sounds,     m_workspace, m_pasteboard, m_drags,
+                              m_sharing, m_captures, m_thumbnails, http,        m_location,   m_players,
+                              m_scripts, m_host,     m_camera,     m_calendars};
     const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys, m_drags};
     m_state = std::make_unique<AppState>(app, tools, controller, request);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());

@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "ControlService.h"
+#include "Desktop/Calendars/DesktopCalendars.h"
 #include "Desktop/Camera/HelperCamera.h"
 #include "Desktop/Captures/FolderCaptureQuery.h"
 #include "Desktop/Captures/SharedThumbnails.h"
@@ -70,6 +71,7 @@ private:
     MprisExecutor m_scripts;
     LinuxStatistics m_host;
     HelperCamera m_camera;
+    DesktopCalendars m_calendars;
     QQmlEngine m_engine;
     PanelFactory m_panels;
     AlertWindow m_alert;

@@ -1,5 +1,6 @@
 #include "StandardSettings.h"
 
+#include "Desktop/Calendars/DesktopCalendars.h"
 #include "Desktop/X11/X11Displays.h"
 
 namespace Kestrune {
@@ -9,11 +10,29 @@ namespace {
 QString housings() { return QStringLiteral("cameraHousings"); }
 QString login() { return QStringLiteral("launchAtLogin"); }
 
+/// A text in the defaults, empty where there is none; read anew by whom it concerns.
+SettingsKeys::Extra textExtra(UserDefaults &defaults, const QString &key)
+{
+    return {[&defaults, key]() -> std::optional<DefaultsValue> {
+                return defaults.value<QString>(key).value_or(QString());
+            },
+            [&defaults, key](const std::optional<DefaultsValue> &value) {
+                if (value)
+                    defaults.setObject(key, *value);
+                else
+                    defaults.removeObject(key);
+            },
+            QString()};
+}
+
 } // namespace
 
 QString standardDomain() { return QStringLiteral("kestrune"); }
 
-QStringList standardExtraKeys() { return {housings(), login()}; }
+QStringList standardExtraKeys()
+{
+    return {housings(), login(), DesktopCalendars::sourceKey(), DesktopCalendars::folderKey()};
+}
 
 QMap<QString, SettingsKeys::Extra> standardExtras(UserDefaults &defaults, LoginItem &loginItem,
                                                   const std::function<void()> &housingsChanged,
@@ -43,7 +62,10 @@ QMap<QString, SettingsKeys::Extra> standardExtras(UserDefaults &defaults, LoginI
                 loginItem.setEnabled(on);
         },
         false};
-    return {{housings(), housing}, {login(), launch}};
+    QMap<QString, SettingsKeys::Extra> extras{{housings(), housing}, {login(), launch}};
+    for (const QString &text : {DesktopCalendars::sourceKey(), DesktopCalendars::folderKey()})
+        extras.insert(text, textExtra(defaults, text));
+    return extras;
 }
 
 } // namespace Kestrune

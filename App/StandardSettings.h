@@ -9,7 +9,8 @@ namespace Kestrune {
 QString standardDomain();
 
 /// The keys that the command line knows beside the notch's own settings: "cameraHousings", which describes
-/// the camera housing of an output, and "launchAtLogin".
+/// the camera housing of an output, "calendarSource" and
+/// "calendarFolder", where the calendars are, and "launchAtLogin".
 QStringList standardExtraKeys();
 
 /// Access to them. `defaults` and `loginItem` outlive the result. A running program passes what must

@@ -41,12 +41,19 @@ struct HubParts
     explicit HubParts(Kestrune::Clock &time)
         : clock(time)
     {}
-    Kestrune::NotchPlatform platform() { return make(pasteboard, players, scripts); }
-    Kestrune::NotchPlatform platform(Kestrune::Pasteboard &other) { return make(other, players, scripts); }
+    Kestrune::NotchPlatform platform() { return make(pasteboard, players, scripts, calendars); }
+    Kestrune::NotchPlatform platform(Kestrune::Pasteboard &other)
+    {
+        return make(other, players, scripts, calendars);
+    }
+    Kestrune::NotchPlatform platform(Kestrune::CalendarStore &store)
+    {
+        return make(pasteboard, players, scripts, store);
+    }
     Kestrune::NotchPlatform platform(Kestrune::RunningApplications &running,
                                      Kestrune::ScriptExecutor &executor)
     {
-        return make(pasteboard, running, executor);
+        return make(pasteboard, running, executor, calendars);
     }
 
     Kestrune::Clock &clock;
@@ -64,14 +71,15 @@ struct HubParts
     Kestrune::Fakes::FakeScripts scripts;
     Kestrune::Fakes::FakeHost host;
     Kestrune::Fakes::FakeCamera camera;
+    Kestrune::Fakes::FakeCalendars calendars;
     Kestrune::NotchSettings settings{defaults};
 
 private:
     Kestrune::NotchPlatform make(Kestrune::Pasteboard &copies, Kestrune::RunningApplications &running,
-                                 Kestrune::ScriptExecutor &executor)
+                                 Kestrune::ScriptExecutor &executor, Kestrune::CalendarStore &store)
     {
         return {clock,      defaults, sounds,   workspace, copies,   drags, sharing, captures,
-                thumbnails, http,     location, running,   executor, host,  camera};
+                thumbnails, http,     location, running,   executor, host,  camera,  calendars};
     }
 };
 

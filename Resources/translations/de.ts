@@ -531,5 +531,49 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <translation>Erlaube %@ den Zugriff auf die Kamera in
 Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
+    <message>
+        <source>Events</source>
+        <translation>Termine</translation>
+    </message>
+    <message>
+        <source>Allow Calendar</source>
+        <translation>Kalender erlauben</translation>
+    </message>
+    <message>
+        <source>Nothing else today or tomorrow.</source>
+        <translation>Heute und morgen steht nichts mehr an.</translation>
+    </message>
+    <message>
+        <source>Allow Reminders</source>
+        <translation>Erinnerungen erlauben</translation>
+    </message>
+    <message>
+        <source>All done</source>
+        <translation>Alles erledigt</translation>
+    </message>
+    <message>
+        <source>Nothing else today.</source>
+        <translation>Heute steht nichts mehr an.</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Erledigen</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Termin</translation>
+    </message>
+    <message>
+        <source>Tomorrow</source>
+        <translation>Morgen</translation>
+    </message>
+    <message>
+        <source>All day</source>
+        <translation>Ganztägig</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Gestern</translation>
+    </message>
 </context>
 </TS>

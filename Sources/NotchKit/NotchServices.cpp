@@ -3,6 +3,7 @@
 #include "AirDrop.h"
 #include "NotchKit/Platform/Workspace.h"
 #include "Tools/AIUsageModel.h"
+#include "Tools/CalendarModel.h"
 #include "Tools/CapturesModel.h"
 #include "Tools/ClipboardModel.h"
 #include "Tools/MirrorModel.h"
@@ -54,6 +55,7 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
     , m_system(add(std::make_unique<SystemModel>(settings, platform.host)))
     , m_prompter(add(std::make_unique<TeleprompterModel>(settings)))
     , m_mirror(add(std::make_unique<MirrorModel>(platform.camera)))
+    , m_calendar(add(std::make_unique<CalendarModel>(settings, platform.clock, platform.calendars)))
     , m_now(platform.clock.now())
 {
     m_activityTool.setBinding([this] { return computeActivityTool(); });

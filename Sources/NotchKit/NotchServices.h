@@ -16,6 +16,8 @@ namespace Kestrune {
 
 class AirDrop;
 class CameraSession;
+class CalendarModel;
+class CalendarStore;
 class CapturesModel;
 class ClipboardModel;
 class DragPasteboard;
@@ -59,6 +61,7 @@ struct NotchPlatform
     ScriptExecutor &scripts;
     HostStatistics &host;
     CameraSession &camera;
+    CalendarStore &calendars;
     QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
 };
 
@@ -69,6 +72,7 @@ class NotchServices : public QObject
 {
     Q_OBJECT
     Q_MOC_INCLUDE("NotchKit/AirDrop.h")
+    Q_MOC_INCLUDE("NotchKit/Tools/CalendarModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/CapturesModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/ClipboardModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/AIUsageModel.h")
@@ -81,6 +85,7 @@ class NotchServices : public QObject
     Q_MOC_INCLUDE("NotchKit/Tools/TimerModel.h")
     Q_MOC_INCLUDE("NotchKit/Tools/WeatherModel.h")
     Q_PROPERTY(Kestrune::NotchSettings *settings READ settings CONSTANT)
+    Q_PROPERTY(Kestrune::CalendarModel *calendar READ calendar CONSTANT)
     Q_PROPERTY(Kestrune::CapturesModel *captures READ captures CONSTANT)
     Q_PROPERTY(Kestrune::ClipboardModel *clipboard READ clipboard CONSTANT)
     Q_PROPERTY(Kestrune::ShelfModel *shelf READ shelf CONSTANT)
@@ -111,6 +116,7 @@ public:
 
     NotchSettings *settings() const { return &m_settings; }
     const NotchBranding &branding() const { return m_branding; }
+    CalendarModel *calendar() const { return m_calendar; }
     CapturesModel *captures() const { return m_captures; }
     ClipboardModel *clipboard() const { return m_clipboard; }
     NowPlayingModel *nowPlaying() const { return m_nowPlaying; }
@@ -193,6 +199,7 @@ private:
     SystemModel *m_system;
     TeleprompterModel *m_prompter;
     MirrorModel *m_mirror;
+    CalendarModel *m_calendar;
     std::optional<NotchTool> m_visibleTool;
     std::unique_ptr<RunningTimer> m_clockTimer;
     std::unique_ptr<RunningTimer> m_fastTimer;

@@ -32,6 +32,7 @@ struct Stage
     Fakes::FakeScripts scripts;
     Fakes::FakeHost host;
     Fakes::FakeCamera camera;
+    Fakes::FakeCalendars calendars;
     Fakes::FakeDisplays displays;
     Fakes::FakePointer pointer;
     Fakes::FakePanels panels;
@@ -54,7 +55,7 @@ struct Stage
         app = std::make_unique<AppState>(
             platform,
             NotchPlatform{clock, defaults, sounds, workspace, pasteboard, drags, sharing, captures,
-                          thumbnails, http, location, applications, scripts, host, camera},
+                          thumbnails, http, location, applications, scripts, host, camera, calendars},
             NotchControllerPlatform{clock, displays, pointer, panels, hotKeys, drags},
             LaunchRequest::parse(arguments));
     }
@@ -93,7 +94,6 @@ void AppStateTest::launchRequests_data()
     QTest::newRow("a tool") << "--open timer" << true << "timer";
     QTest::newRow("no tool") << "--open" << true << "home";
     QTest::newRow("unknown tool") << "--open sundial" << true << "home";
-    QTest::newRow("tool without a pane") << "--open calendar" << true << "home";
 }
 
 void AppStateTest::launchRequests()

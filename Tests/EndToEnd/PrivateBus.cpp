@@ -8,9 +8,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// No folders of services: nothing of the machine's own starts on this bus.
+// None of the machine's own folders of services: nothing starts on this bus unasked.
 constexpr auto busConfiguration = R"(<busconfig>
-  <type>session</type><listen>unix:tmpdir=/tmp</listen><auth>EXTERNAL</auth>
+  %1<type>session</type><listen>unix:tmpdir=/tmp</listen><auth>EXTERNAL</auth>
   <policy context="default">
     <allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/><allow own="*"/>
   </policy>
@@ -18,11 +18,13 @@ constexpr auto busConfiguration = R"(<busconfig>
 
 } // namespace
 
-PrivateBus::PrivateBus(QProcessEnvironment &environment, const QString &folder)
+PrivateBus::PrivateBus(QProcessEnvironment &environment, const QString &folder, const QString &services)
     : m_daemon(environment)
 {
     QFile configuration(folder + u"/bus.conf"_s);
-    if (!configuration.open(QFile::WriteOnly) || configuration.write(busConfiguration) < 0)
+    const QString started = services.isEmpty() ? QString() : u"<servicedir>%1</servicedir>"_s.arg(services);
+    const QByteArray text = QString::fromLatin1(busConfiguration).arg(started).toUtf8();
+    if (!configuration.open(QFile::WriteOnly) || configuration.write(text) < 0)
         qFatal("the bus could not be configured");
     configuration.close();
     m_daemon.launch(u"dbus-daemon"_s,

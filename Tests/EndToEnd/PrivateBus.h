@@ -4,12 +4,13 @@
 
 #include <QDBusConnection>
 
-/// A session bus of the test's own that starts no service by itself.
+/// A session bus of the test's own; it starts no service by itself but those described in `services`, a
+/// folder.
 class PrivateBus
 {
 public:
     /// Keeps its configuration in `folder` and adds its address to `environment`.
-    PrivateBus(QProcessEnvironment &environment, const QString &folder);
+    PrivateBus(QProcessEnvironment &environment, const QString &folder, const QString &services = {});
     ~PrivateBus();
     Q_DISABLE_COPY_MOVE(PrivateBus)
 

@@ -29,6 +29,7 @@ struct Core
     FakeScripts scripts;
     FakeHost host;
     FakeCamera camera;
+    FakeCalendars calendars;
     FakeDisplays displays;
     FakePointer pointer;
     FakePanels panels;
@@ -39,8 +40,8 @@ struct Core
 
     NotchPlatform platform(const QString &home = QDir::homePath())
     {
-        return {clock,      defaults, sounds,   workspace, pasteboard, drags, sharing, captures,
-                thumbnails, http,     location, players,   scripts,    host,  camera,  home};
+        return {clock, defaults, sounds,  workspace, pasteboard, drags,  sharing,   captures, thumbnails,
+                http,  location, players, scripts,   host,       camera, calendars, home};
     }
 
     NotchScreenModel &model(std::size_t index = 0) { return *controller.notches().at(index).model; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "NotchKit/Platform/CalendarStore.h"
 #include "NotchKit/Platform/CameraSession.h"
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/Displays.h"
@@ -29,6 +30,7 @@
 
 #include <algorithm>
 #include <list>
+#include <map>
 #include <vector>
 
 /// Stand-ins for the platform's ports, steered by the tests.
@@ -534,6 +536,51 @@ private:
         questions.emplace_back().start();
         return questions.back().future();
     }
+};
+
+/// Answers when the test does: a promise for each question, in their order.
+class FakeCalendars : public CalendarStore
+{
+public:
+    template <typename Result>
+    struct Questions
+    {
+        QFuture<Result> ask()
+        {
+            promises.emplace_back().start();
+            return promises.back().future();
+        }
+        void answer(std::size_t index, const Result &result)
+        {
+            promises.at(index).addResult(result);
+            promises.at(index).finish();
+        }
+        std::size_t count() const { return promises.size(); }
+
+        std::vector<QPromise<Result>> promises;
+    };
+
+    QFuture<CalendarAccess> access(CalendarEntity entity) override { return accesses[entity].ask(); }
+    QFuture<bool> requestAccess(CalendarEntity entity) override { return requests[entity].ask(); }
+    QFuture<std::optional<Events>> events(const QDateTime &from, const QDateTime &to) override
+    {
+        ranges.append({from, to});
+        return eventQuestions.ask();
+    }
+    QFuture<std::optional<Tasks>> incompleteReminders() override { return reminderQuestions.ask(); }
+    QFuture<bool> complete(const QString &id) override
+    {
+        completed.append(id);
+        return completions.ask();
+    }
+
+    std::map<CalendarEntity, Questions<CalendarAccess>> accesses;
+    std::map<CalendarEntity, Questions<bool>> requests;
+    Questions<std::optional<Events>> eventQuestions;
+    Questions<std::optional<Tasks>> reminderQuestions;
+    Questions<bool> completions;
+    QList<std::pair<QDateTime, QDateTime>> ranges;
+    QStringList completed;
 };
 
 class FakeLoginItem : public LoginItem

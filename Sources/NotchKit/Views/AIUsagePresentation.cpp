@@ -1,5 +1,7 @@
 #include "AIUsagePresentation.h"
 
+#include "Format.h"
+
 #include "NotchKit/NotchStrings.h"
 
 #include <QLocale>
@@ -26,13 +28,6 @@ QString wholePercent(double fraction)
     return QString::number(std::llround(std::clamp(fraction * 100, -1e15, 1e15)));
 }
 
-QString clockTime(const QTime &time, const QLocale &locale)
-{
-    // Where no language is set, even the short form has seconds.
-    QString format = locale.timeFormat(QLocale::ShortFormat);
-    return locale.toString(time, format.remove(QLatin1String(":ss")));
-}
-
 QString tokensText(qint64 tokens)
 {
     return filled(QT_TRANSLATE_NOOP("notch", "%@ tokens"), "%@", QLocale().toString(tokens));
@@ -44,7 +39,7 @@ QString AIUsagePresentation::timeText(const QDateTime &time, const QDateTime &no
 {
     const QDateTime local = time.toLocalTime();
     const qint64 days = std::abs(now.toLocalTime().date().daysTo(local.date()));
-    const QString clock = clockTime(local.time(), locale);
+    const QString clock = Format::clockTime(local.time(), locale);
     if (days == 0)
         return clock;
     const QString day = days <= kFarDays ? locale.dayName(local.date().dayOfWeek(), QLocale::ShortFormat)

@@ -11,6 +11,7 @@ T.AbstractButton {
     property bool active: false
     property bool plain: false
     property bool tipBelow: false
+    property Item tipAnchor: control // what the tip stands at
     property real radius: Theme.buttonRadius
 
     focusPolicy: Qt.TabFocus
@@ -37,7 +38,7 @@ T.AbstractButton {
         sourceComponent: HelpTip {
             text: control.help
             below: control.tipBelow
-            anchor: control
+            anchor: control.tipAnchor
         }
     }
 }

@@ -5,6 +5,7 @@
 #include "NotchKit/NotchServices.h"
 #include "NotchKit/NotchSettings.h"
 #include "NotchKit/Tools/AIUsageModel.h"
+#include "NotchKit/Tools/CalendarModel.h"
 #include "NotchKit/Tools/CapturesModel.h"
 #include "NotchKit/Tools/ClipboardModel.h"
 #include "NotchKit/Tools/MirrorModel.h"
@@ -31,6 +32,7 @@ namespace Kestrune {
     }
 
 KESTRUNE_VIEW_TYPE(AirDrop);
+KESTRUNE_VIEW_TYPE(CalendarModel);
 KESTRUNE_VIEW_TYPE(CapturesModel);
 KESTRUNE_VIEW_TYPE(ClipboardModel);
 KESTRUNE_VIEW_TYPE(AIUsageModel);

@@ -20,6 +20,9 @@ public:
     /// A place in a song: "3:05", or "1:00:00" from an hour on; only whole seconds count.
     Q_INVOKABLE static QString playTime(double seconds);
 
+    /// Hours and minutes, in the locale's way.
+    static QString clockTime(const QTime &time, const QLocale &locale);
+
     /// `text` with the program's own name in place of "%@".
     Q_INVOKABLE static QString namingHost(const QString &text);
 };

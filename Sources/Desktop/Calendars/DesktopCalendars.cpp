@@ -1,0 +1,60 @@
+#include "DesktopCalendars.h"
+
+#include "ChosenCalendars.h"
+#include "NotchKit/Platform/UserDefaults.h"
+
+#include <QPromise>
+
+namespace Kestrune {
+
+DesktopCalendars::DesktopCalendars(const QDBusConnection &bus, const UserDefaults &defaults)
+    : m_defaults(defaults)
+    , m_sources(std::make_shared<ChosenCalendars>(bus))
+{}
+
+DesktopCalendars::~DesktopCalendars() = default;
+
+template <typename Result, typename Ask>
+QFuture<Result> DesktopCalendars::ask(Ask ask)
+{
+    const auto promise = std::make_shared<QPromise<Result>>();
+    promise->start();
+    const ChosenCalendars::Choice choice{m_defaults.value<QString>(sourceKey()).value_or(QString()),
+                                         m_defaults.value<QString>(folderKey()).value_or(QString())};
+    QMetaObject::invokeMethod(m_loop.context(), [sources = m_sources, promise, choice, ask] {
+        if (!promise->isCanceled())
+            promise->addResult(ask(sources->source(choice)));
+        promise->finish();
+    });
+    return promise->future();
+}
+
+QFuture<CalendarAccess> DesktopCalendars::access(CalendarEntity)
+{
+    return ask<CalendarAccess>([](CalendarSource &source) { return source.access(); });
+}
+
+QFuture<bool> DesktopCalendars::requestAccess(CalendarEntity)
+{
+    return ask<bool>([](CalendarSource &source) { return source.requestAccess(); });
+}
+
+QFuture<std::optional<CalendarStore::Events>> DesktopCalendars::events(const QDateTime &from,
+                                                                       const QDateTime &to)
+{
+    return ask<std::optional<Events>>(
+        [range = IcalRange{from, to}](CalendarSource &source) { return source.events(range); });
+}
+
+QFuture<std::optional<CalendarStore::Tasks>> DesktopCalendars::incompleteReminders()
+{
+    return ask<std::optional<Tasks>>([](CalendarSource &source) { return source.openTasks(); });
+}
+
+QFuture<bool> DesktopCalendars::complete(const QString &id)
+{
+    return ask<bool>(
+        [task = IcalTaskId::parse(id)](CalendarSource &source) { return task && source.complete(*task); });
+}
+
+} // namespace Kestrune

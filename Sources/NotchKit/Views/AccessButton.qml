@@ -1,0 +1,18 @@
+import QtQuick
+import Kestrune.Views
+
+/// Asks for access to a calendar or, once that was refused, opens the desktop's privacy page.
+TextButton {
+    id: button
+
+    required property NotchServices services
+    required property int status
+    required property string allowTitle
+    required property string anchor
+
+    signal allowed
+
+    text: status === 0 ? allowTitle : qsTranslate("notch", "Open Settings")
+    prominent: true
+    onClicked: status === 0 ? button.allowed() : services.openPrivacy(anchor)
+}

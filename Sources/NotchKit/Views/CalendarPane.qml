@@ -1,0 +1,63 @@
+import QtQuick
+import Kestrune.Views
+
+/// What is left of today and tomorrow, and the reminders.
+///
+///   | events | reminders |
+Pane {
+    id: pane
+
+    readonly property CalendarModel calendar: services.calendar
+    readonly property date now: visible ? services.now : new Date(0)
+
+    CalendarSection {
+        id: events
+
+        width: (parent.width - Theme.gap) / 2
+        height: parent.height
+        services: pane.services
+        title: qsTranslate("notch", "Events")
+        symbol: "calendar"
+        status: pane.calendar.status
+        known: pane.calendar.eventsKnown
+        allowTitle: qsTranslate("notch", "Allow Calendar")
+        anchor: "Privacy_Calendars"
+        emptyText: qsTranslate("notch", "Nothing else today or tomorrow.")
+        listName: "items"
+        onAllowed: pane.calendar.requestAccess()
+        delegate: EventRow {
+            required property var modelData
+
+            x: 8
+            width: ListView.view.width - 20
+            item: modelData
+            now: pane.now
+        }
+    }
+    CalendarSection {
+        anchors { left: events.right; leftMargin: Theme.gap; right: parent.right }
+        height: parent.height
+        services: pane.services
+        title: qsTranslate("notch", "Reminders")
+        symbol: "checklist"
+        status: pane.calendar.reminderStatus
+        known: pane.calendar.remindersKnown
+        allowTitle: qsTranslate("notch", "Allow Reminders")
+        anchor: "Privacy_Reminders"
+        emptyText: qsTranslate("notch", "All done")
+        listName: "reminders"
+        onAllowed: pane.calendar.requestReminderAccess()
+        delegate: ReminderRow {
+            required property var modelData
+            required property int index
+
+            x: 8
+            width: ListView.view.width - 20
+            reminder: modelData
+            now: pane.now
+            tipBelow: y - ListView.view.contentY < height
+            onFocusedChanged: if (focused) ListView.view.positionViewAtIndex(index, ListView.Contain)
+            onCompleted: pane.calendar.complete(reminder)
+        }
+    }
+}

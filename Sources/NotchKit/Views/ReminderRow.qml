@@ -1,0 +1,69 @@
+import QtQuick
+import Kestrune.Views
+
+/// One reminder: a circle to complete it, its title, and when it is due.
+Item {
+    id: row
+
+    required property var reminder
+    required property date now
+    readonly property bool focused: complete.activeFocus
+    property alias tipBelow: complete.tipBelow
+
+    signal completed
+
+    implicitHeight: 26
+    z: tipBelow ? 1 : 0 // over the next row
+
+    // Wider than the circle, so that the tip does not begin outside the row, where lists cut it off.
+    Item {
+        id: tipPlace
+
+        anchors.verticalCenter: parent.verticalCenter
+        width: 84
+        height: complete.height
+    }
+
+    ButtonBase {
+        id: complete
+
+        anchors.verticalCenter: parent.verticalCenter
+        x: -5 // so that the circle stands below the title's symbol
+        width: 24
+        height: 24
+        help: qsTranslate("notch", "Complete")
+        plain: true
+        radius: 12
+        tipAnchor: tipPlace
+        Accessible.name: help + ": " + row.reminder.title
+        onClicked: row.completed()
+        contentItem: Symbol {
+            name: "circle"
+            size: 15
+            color: complete.hovered ? Theme.text : CalendarFormat.visible(row.reminder.color)
+        }
+    }
+    Text {
+        anchors {
+            left: complete.right
+            leftMargin: 3
+            right: due.left
+            rightMargin: due.text === "" ? 0 : 8
+            verticalCenter: parent.verticalCenter
+        }
+        text: row.reminder.title
+        textFormat: Text.PlainText
+        font.pixelSize: 12
+        color: Theme.text
+        elide: Text.ElideRight
+        maximumLineCount: 1
+    }
+    Text {
+        id: due
+
+        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        text: CalendarFormat.due(row.reminder.due, row.now)
+        font.pixelSize: 10
+        color: CalendarFormat.isOverdue(row.reminder.due, row.now) ? Theme.warning : Theme.dim
+    }
+}

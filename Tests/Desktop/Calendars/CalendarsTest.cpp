@@ -1,0 +1,412 @@
+#include "Desktop/Calendars/CalendarStage.h"
+#include "NotchKit/NotchSettings.h"
+#include "NotchKit/Tools/CalendarModel.h"
+#include "Support/TestRegistry.h"
+
+#include <QTest>
+
+#include <sys/stat.h>
+
+using namespace Kestrune;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray component(const QByteArray &kind, const QByteArray &uid, const QByteArray &lines)
+{
+    return "BEGIN:" + kind + "\nUID:" + uid + "\nDTSTAMP:20260101T000000Z\n" + lines + "\nEND:" + kind + '\n';
+}
+QByteArray vevent(const QByteArray &uid, const QByteArray &lines)
+{
+    return component("VEVENT", uid, "SUMMARY:" + uid + '\n' + lines);
+}
+QByteArray vtodo(const QByteArray &uid, const QByteArray &lines)
+{
+    return component("VTODO", uid, "SUMMARY:" + uid + '\n' + lines);
+}
+
+QDateTime utc(const QString &time) { return QDateTime::fromString(time + u'Z', Qt::ISODate); }
+
+/// "title start to end", times of UTC; in their order.
+QStringList described(const CalendarStore::Events &events)
+{
+    QStringList lines;
+    for (const CalendarEvent &event : events) {
+        const auto time = [](const QDateTime &when) { return when.toUTC().toString(u"dd'T'HH:mm"_s); };
+        lines.append(event.title + u' ' + time(event.start) + u' ' + time(event.end) +
+                     (event.allDay ? u" day"_s : QString()));
+    }
+    lines.sort();
+    return lines;
+}
+
+/// "title due".
+QStringList described(const CalendarStore::Tasks &tasks)
+{
+    QStringList lines;
+    for (const CalendarTask &task : tasks)
+        lines.append(task.title + u' ' + task.due.toUTC().toString(u"dd'T'HH:mm"_s));
+    lines.sort();
+    return lines;
+}
+
+// A zone that only this calendar knows, three hours behind UTC.
+constexpr auto kOwnZone = "BEGIN:VTIMEZONE\nTZID:Far Away\nBEGIN:STANDARD\nDTSTART:19700101T000000\n"
+                          "TZOFFSETFROM:-0300\nTZOFFSETTO:-0300\nEND:STANDARD\nEND:VTIMEZONE\n";
+
+} // namespace
+
+/// Both adapters against the same calendars. The user is in Berlin, and it is Saturday, 28 March 2026, 11:00;
+/// in the night to Sunday the clocks go forward.
+class CalendarsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        qputenv("TZ", "Europe/Berlin");
+        tzset();
+    }
+
+    void events_data()
+    {
+        both([this] { addCases(); });
+    }
+    void events()
+    {
+        QFETCH(const bool, evolution);
+        QFETCH(const QByteArray, components);
+        QFETCH(const QStringList, expected);
+        const auto stage = makeStage(evolution);
+        stage->create(u"Calendar"_s, components, u"#ff8000"_s);
+        const auto found = readEvents(*stage);
+        QCOMPARE(described(found), expected);
+        QSet<QString> ids;
+        for (const CalendarEvent &each : found) {
+            QCOMPARE(each.color, QColor(255, 128, 0));
+            ids.insert(each.id);
+        }
+        QCOMPARE(ids.size(), found.size());
+        const auto ordered = [](const CalendarStore::Events &events) {
+            QStringList all;
+            for (const CalendarEvent &each : events)
+                all.append(each.id);
+            all.sort();
+            return all;
+        };
+        QVERIFY2(ordered(readEvents(*stage)) == ordered(found), "an occurrence keeps its id");
+    }
+
+    void tasks_data() { adapters(); }
+    void tasks()
+    {
+        QFETCH(const bool, evolution);
+        const auto stage = makeStage(evolution);
+        const QString list = stage->create(
+            u"Task List"_s,
+            vtodo("undated", "X-MINE;X-P=1:kept") +
+                vtodo("overdue", "DUE:20260327T080000Z\nSTATUS:NEEDS-ACTION") +
+                vtodo("day", "DUE;VALUE=DATE:20260329") + vtodo("done", "STATUS:COMPLETED") +
+                vtodo("done too", "COMPLETED:20260301T080000Z") + vtodo("cancelled", "STATUS:CANCELLED") +
+                vtodo("daily", "DTSTART;TZID=Europe/Berlin:20260328T080000\n"
+                               "DUE;TZID=Europe/Berlin:20260328T090000\nRRULE:FREQ=DAILY;COUNT=2") +
+                vtodo("long", "DTSTART:20260328T080000Z\nDURATION:PT30M"),
+            u"#112233"_s);
+        QCOMPARE(titles(*stage), (QStringList{u"daily 28T08:00"_s, u"day 28T23:00"_s, u"long 28T08:30"_s,
+                                              u"overdue 27T08:00"_s, u"undated "_s}));
+        QCOMPARE(readTasks(*stage).first().color, QColor(0x11, 0x22, 0x33));
+
+        QVERIFY(complete(*stage, u"undated"_s));
+        QVERIFY(complete(*stage, u"overdue"_s));
+        // Sunday's nine o'clock is in summer time.
+        QVERIFY(complete(*stage, u"daily"_s));
+        QCOMPARE(titles(*stage), (QStringList{u"daily 29T07:00"_s, u"day 28T23:00"_s, u"long 28T08:30"_s}));
+        QVERIFY(complete(*stage, u"daily"_s));
+        QCOMPARE(titles(*stage), (QStringList{u"day 28T23:00"_s, u"long 28T08:30"_s}));
+        QVERIFY(!CalendarStage::wait(stage->store().complete(u"nobody"_s)));
+
+        const QByteArray seen = stage->texts(list);
+        QCOMPARE(seen.count("STATUS:COMPLETED"), 4);
+        QCOMPARE(seen.count("PERCENT-COMPLETE:100"), 3);
+        QVERIFY(seen.contains("X-MINE;X-P=1:kept"));
+    }
+
+    void whatCannotBeSavedStays_data() { adapters(); }
+    void whatCannotBeSavedStays()
+    {
+        QFETCH(const bool, evolution);
+        const auto stage = makeStage(evolution);
+        const QString list = stage->createReadOnly(vtodo("fixed", "PRIORITY:1"));
+        const QByteArray before = stage->texts(list);
+        QCOMPARE(titles(*stage), QStringList{u"fixed "_s});
+        QVERIFY(!complete(*stage, u"fixed"_s));
+        QCOMPARE(stage->texts(list), before);
+        QCOMPARE(titles(*stage), QStringList{u"fixed "_s});
+    }
+
+    void theNinthEventIsLeftOut_data() { adapters(); }
+    void theNinthEventIsLeftOut()
+    {
+        QFETCH(const bool, evolution);
+        const auto stage = makeStage(evolution);
+        Fakes::FakeClock clock;
+        Fakes::MemoryDefaults defaults;
+        NotchSettings settings(defaults);
+        QStringList expected;
+        for (int calendar = 0; calendar < 3; ++calendar) {
+            QByteArray all;
+            for (int i = 2; i >= 0; --i) {
+                const int minutes = calendar * 3 + i + 1;
+                const QByteArray start =
+                    clock.now().addSecs(minutes * 60).toUTC().toString(u"yyyyMMdd'T'HHmmss'Z'"_s).toLatin1();
+                all += vevent("e" + QByteArray::number(minutes), "DTSTART:" + start);
+            }
+            stage->create(u"Calendar"_s, all, u"#ff0000"_s);
+        }
+        CalendarModel model(settings, clock, stage->store());
+        model.refresh();
+        QTRY_COMPARE_WITH_TIMEOUT(model.items().size(), 8, 30'000);
+        for (int i = 0; i < 8; ++i)
+            QCOMPARE(model.items().at(i).title, u"e%1"_s.arg(i + 1));
+    }
+
+    void whatTheUserHidIsNotRead()
+    {
+        EvolutionStage stage;
+        const QString hidden = stage.create(u"Calendar"_s, vevent("a", "DTSTART:20260328T120000Z"), u"red"_s);
+        const QString off = stage.create(u"Calendar"_s, vevent("b", "DTSTART:20260328T120000Z"), u"red"_s);
+        QCOMPARE(readEvents(stage).size(), 2);
+        stage.ask(
+            {{u"do"_s, u"change"_s}, {u"uid"_s, hidden}, {u"group"_s, u"Calendar"_s}, {u"value"_s, false}});
+        QTRY_COMPARE(readEvents(stage).size(), 1);
+        stage.ask(
+            {{u"do"_s, u"change"_s}, {u"uid"_s, off}, {u"group"_s, u"Data Source"_s}, {u"value"_s, false}});
+        QTRY_COMPARE(readEvents(stage).size(), 0);
+    }
+
+    void damagedFilesAreSkipped()
+    {
+        FolderStage stage;
+        const QByteArray whole = CalendarStage::calendar(vevent("good", "DTSTART:20260328T120000Z"));
+        const QByteArray windows = QByteArray("\xEF\xBB\xBF") + QByteArray(whole).replace("\n", "\r\n");
+        const QMap<QString, QByteArray> damaged{
+            {u"half.ics"_s, whole.left(whole.size() / 2)},
+            {u"empty.ics"_s, {}},
+            {u"huge.ics"_s, QByteArray(17 * 1024 * 1024, 'x')},
+            {u"noise.ics"_s, QByteArray("\x00\xFF\x10 noise", 9)},
+            {u"knotted.ics"_s, QByteArray(whole).replace("END:VEVENT\n", "END:VTODO\n")},
+            {u"page.ics"_s, "<html>Please log in</html>"},
+        };
+        for (auto file = damaged.cbegin(); file != damaged.cend(); ++file) {
+            FolderStage::write(stage.path() + u'/' + file.key(), file.value());
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(u".*/%1 is no whole calendar.*"_s.arg(file.key())));
+        }
+        FolderStage::write(stage.path() + u"/good.ics"_s, windows);
+        FolderStage::write(stage.path() + u"/inner.ics"_s,
+                           CalendarStage::calendar(
+                               vevent("broken", "DTSTART:tomorrow\nRRULE:FREQ=SOMETIMES") +
+                               vevent("fine", "DTSTART:20260328T130000Z\nRRULE:NONSENSE") +
+                               // which crashes the library itself
+                               vevent("week", "DTSTART:20250615T113000Z\nRRULE:FREQ=YEARLY;BYWEEKNO=20")));
+        FolderStage::write(stage.path() + u"/.hidden.ics"_s, whole);
+        ::mkfifo(QFile::encodeName(stage.path() + u"/pipe.ics"_s).constData(), 0600);
+        const QStringList expected{u"fine 28T13:00 28T13:00"_s, u"good 28T12:00 28T12:00"_s};
+        QCOMPARE(described(readEvents(stage)), expected);
+        QTest::failOnWarning(QRegularExpression(u".*"_s)); // each is named once only
+        QCOMPARE(described(readEvents(stage)), expected);
+        FolderStage::write(stage.path() + u"/half.ics"_s, QByteArray(whole).replace("good", "later"));
+        QVERIFY(described(readEvents(stage)).contains(u"later 28T12:00 28T12:00"_s));
+        QFile::remove(stage.path() + u"/good.ics"_s);
+        QCOMPARE(readEvents(stage).size(), 2);
+    }
+
+    void completingKeepsTheRest()
+    {
+        FolderStage stage;
+        const QByteArray text =
+            "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nX-OWN;X-Q=\"a:b\":1\r\nBEGIN:VTODO\r\nUID:a\r\n"
+            "NEW-THING:odd\r\nSUMMARY:A long title that some program has folded in the middle of a w\r\n "
+            "ord\r\n"
+            "percent-complete:40\r\nBEGIN:VALARM\r\nACTION:DISPLAY\r\nSTATUS:X\r\nEND:VALARM\r\nEND:VTODO\r\n"
+            "BEGIN:VTODO\r\nUID:b\r\nSUMMARY:b\r\nEND:VTODO\r\nEND:VCALENDAR\r\n";
+        const QString path = stage.path() + u"/a.ics"_s;
+        FolderStage::write(path, text);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner);
+        QCOMPARE(readTasks(stage).size(), 2);
+        QVERIFY(complete(stage, u"A long title that some program has folded in the middle of a word"_s));
+        QByteArray now = stage.texts(path);
+        for (const char *property : {"LAST-MODIFIED", "DTSTAMP", "COMPLETED"}) {
+            const auto at = now.indexOf(QByteArray("\r\n") + property + ':');
+            QVERIFY2(at > 0, property);
+            now.remove(at, now.indexOf("\r\n", at + 2) - at);
+        }
+        QByteArray expected = text;
+        expected.replace("percent-complete:40", "percent-complete:100");
+        expected.replace("BEGIN:VTODO\r\nUID:a", "BEGIN:VTODO\r\nSTATUS:COMPLETED\r\nUID:a");
+        QCOMPARE(now, expected);
+        QCOMPARE(QFile::permissions(path) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+    }
+
+    void accessIsAskedFor()
+    {
+        QTemporaryDir home;
+        Fakes::MemoryDefaults defaults;
+        DesktopCalendars store(QDBusConnection(QString()), defaults);
+        const QString folder = home.filePath(u"new/calendars"_s);
+        const auto access = [&] { return CalendarStage::wait(store.access(CalendarEntity::events)); };
+        defaults.setObject(DesktopCalendars::folderKey(), folder);
+        QCOMPARE(access(), CalendarAccess::notDetermined);
+        QVERIFY(CalendarStage::wait(store.requestAccess(CalendarEntity::events)));
+        QCOMPARE(access(), CalendarAccess::full);
+        QCOMPARE(QFile::permissions(folder) & (QFile::ReadGroup | QFile::ReadOther), QFile::Permissions());
+        FolderStage::write(home.filePath(u"file"_s), {});
+        defaults.setObject(DesktopCalendars::folderKey(), home.filePath(u"file"_s));
+        QCOMPARE(access(), CalendarAccess::denied);
+        defaults.setObject(DesktopCalendars::sourceKey(), u"evolution"_s);
+        QCOMPARE(access(), CalendarAccess::denied);
+    }
+
+    void theServerIsUsedWhereItCanBeStarted()
+    {
+        EvolutionStage stage;
+        QTemporaryDir folder;
+        FolderStage::write(folder.filePath(u"a.ics"_s),
+                           CalendarStage::calendar(vevent("file", "DTSTART:20260328T120000Z")));
+        Fakes::MemoryDefaults defaults;
+        defaults.setObject(DesktopCalendars::folderKey(), folder.path());
+        DesktopCalendars store(stage.bus(), defaults);
+        const auto names = [&] {
+            return described(*CalendarStage::wait(
+                store.events(utc(u"2026-03-28T10:00:00"_s), utc(u"2026-03-29T22:00:00"_s))));
+        };
+        QCOMPARE(CalendarStage::wait(store.access(CalendarEntity::events)), CalendarAccess::full);
+        QCOMPARE(names(), QStringList());
+        defaults.setObject(DesktopCalendars::sourceKey(), u"folders"_s);
+        QCOMPARE(names(), QStringList{u"file 28T12:00 28T12:00"_s});
+    }
+
+private:
+    static std::unique_ptr<CalendarStage> makeStage(bool evolution)
+    {
+        if (evolution)
+            return std::make_unique<EvolutionStage>();
+        return std::make_unique<FolderStage>();
+    }
+
+    static CalendarStore::Events readEvents(CalendarStage &stage)
+    {
+        const auto found = CalendarStage::wait(
+            stage.store().events(utc(u"2026-03-28T10:00:00"_s), utc(u"2026-03-29T22:00:00"_s)));
+        return found ? *found : CalendarStore::Events{{{}, u"nothing was read"_s, {}, {}, false, {}}};
+    }
+    static CalendarStore::Tasks readTasks(CalendarStage &stage)
+    {
+        return CalendarStage::wait(stage.store().incompleteReminders()).value_or(CalendarStore::Tasks());
+    }
+    static QStringList titles(CalendarStage &stage) { return described(readTasks(stage)); }
+    static bool complete(CalendarStage &stage, const QString &title)
+    {
+        for (const CalendarTask &each : readTasks(stage)) {
+            if (each.title == title)
+                return CalendarStage::wait(stage.store().complete(each.id));
+        }
+        return false;
+    }
+
+    static void adapters()
+    {
+        QTest::addColumn<bool>("evolution");
+        QTest::newRow("folders") << false;
+        QTest::newRow("server") << true;
+    }
+
+    void both(const std::function<void()> &addAll)
+    {
+        QTest::addColumn<bool>("evolution");
+        QTest::addColumn<QByteArray>("components");
+        QTest::addColumn<QStringList>("expected");
+        for (const bool evolution : {false, true}) {
+            m_evolution = evolution;
+            addAll();
+        }
+    }
+    void add(const char *name, const QByteArray &components, const QStringList &expected) const
+    {
+        QTest::addRow("%s: %s", m_evolution ? "server" : "folders", name)
+            << m_evolution << components << expected;
+    }
+
+    void addCases() const
+    {
+        add("around now",
+            vevent("over", "DTSTART:20260328T080000Z\nDTEND:20260328T090000Z") +
+                vevent("just over", "DTSTART:20260328T080000Z\nDTEND:20260328T100000Z") +
+                vevent("under way", "DTSTART:20260327T100000Z\nDTEND:20260328T100001Z") +
+                vevent("soon", "DTSTART:20260328T100100Z\nDURATION:PT1H30M") +
+                vevent("last", "DTSTART:20260329T215959Z") + vevent("late", "DTSTART:20260329T220000Z") +
+                vevent("backwards", "DTSTART:20260328T120000Z\nDTEND:20260328T110000Z"),
+            {u"backwards 28T12:00 28T12:00"_s, u"last 29T21:59 29T21:59"_s, u"soon 28T10:01 28T11:31"_s,
+             u"under way 27T10:00 28T10:00"_s});
+        add("whole days",
+            vevent("today", "DTSTART;VALUE=DATE:20260328\nDTEND;VALUE=DATE:20260329") +
+                vevent("tomorrow", "DTSTART;VALUE=DATE:20260329") +
+                vevent("yesterday", "DTSTART;VALUE=DATE:20260327") +
+                vevent("after", "DTSTART;VALUE=DATE:20260330") +
+                vevent("trip", "DTSTART;VALUE=DATE:20260320\nDTEND;VALUE=DATE:20260331"),
+            {u"today 27T23:00 28T23:00 day"_s, u"tomorrow 28T23:00 29T22:00 day"_s,
+             u"trip 19T23:00 30T22:00 day"_s});
+        add("the clocks change",
+            vevent("run", "DTSTART;TZID=Europe/Berlin:20200101T193000\n"
+                          "DTEND;TZID=Europe/Berlin:20200101T203000\nRRULE:FREQ=DAILY"),
+            {u"run 28T18:30 28T19:30"_s, u"run 29T17:30 29T18:30"_s});
+        add("without some",
+            vevent("class", "DTSTART;TZID=America/New_York:20260320T090000\nRRULE:FREQ=DAILY\n"
+                            "EXDATE;TZID=America/New_York:20260328T090000") +
+                vevent("days", "DTSTART;VALUE=DATE:20260301\nRRULE:FREQ=DAILY\nEXDATE;VALUE=DATE:20260328"),
+            {u"class 29T13:00 29T13:00"_s, u"days 28T23:00 29T22:00 day"_s});
+        add("moved and cancelled",
+            vevent("out", "DTSTART:20260314T150000Z\nRRULE:FREQ=WEEKLY") +
+                vevent("out", "RECURRENCE-ID:20260328T150000Z\nDTSTART:20260406T150000Z") +
+                vevent("in", "DTSTART;TZID=Asia/Tokyo:20260306T120000\nRRULE:FREQ=WEEKLY") +
+                vevent("in", "RECURRENCE-ID;TZID=Asia/Tokyo:20260327T120000\nDTSTART:20260328T200000Z\n"
+                             "DTEND:20260328T210000Z") +
+                vevent("off", "DTSTART:20260328T110000Z\nRRULE:FREQ=DAILY") +
+                vevent("off", "RECURRENCE-ID:20260328T110000Z\nDTSTART:20260328T110000Z\nSTATUS:CANCELLED") +
+                vevent("gone", "DTSTART:20260328T110000Z\nSTATUS:CANCELLED"),
+            {u"in 28T20:00 28T21:00"_s, u"off 29T11:00 29T11:00"_s});
+        add("zones",
+            QByteArray(kOwnZone) + vevent("york", "DTSTART;TZID=America/New_York:20260328T090000") +
+                vevent("tokyo", "DTSTART;TZID=Asia/Tokyo:20260329T010000") +
+                vevent("far", "DTSTART;TZID=Far Away:20260328T120000") +
+                vevent("here", "DTSTART:20260328T200000") +
+                vevent("skipped", "DTSTART;TZID=Europe/Berlin:20260329T023000"),
+            {u"far 28T15:00 28T15:00"_s, u"here 28T19:00 28T19:00"_s, u"skipped 29T01:30 29T01:30"_s,
+             u"tokyo 28T16:00 28T16:00"_s, u"york 28T13:00 28T13:00"_s});
+        add("ends of series",
+            vevent("counted", "DTSTART:20260327T120000Z\nRRULE:FREQ=DAILY;COUNT=2") +
+                vevent("until", "DTSTART;TZID=Europe/Berlin:20260301T190000\n"
+                                "RRULE:FREQ=DAILY;UNTIL=20260328T180000Z") +
+                vevent("short", "DTSTART;TZID=Europe/Berlin:20260301T190000\n"
+                                "RRULE:FREQ=DAILY;UNTIL=20260328T175959Z") +
+                vevent("extra", "DTSTART:20260101T120000Z\nRDATE:20260328T130000Z,20260401T130000Z"),
+            {u"counted 28T12:00 28T12:00"_s, u"extra 28T13:00 28T13:00"_s, u"until 28T18:00 28T18:00"_s});
+        add("rules",
+            vevent("last Saturday", "DTSTART:20250125T160000Z\nRRULE:FREQ=MONTHLY;BYDAY=-1SA") +
+                vevent("born", "DTSTART;VALUE=DATE:19800329\nRRULE:FREQ=YEARLY") +
+                vevent("other week", "DTSTART:20260307T170000Z\nRRULE:FREQ=WEEKLY;INTERVAL=2") +
+                vevent("each fifth hour", "DTSTART:20240101T000000Z\nRRULE:FREQ=HOURLY;INTERVAL=5;"
+                                          "UNTIL=20260328T140000Z") +
+                vevent("third week", "DTSTART:20260307T180000Z\nRRULE:FREQ=WEEKLY;INTERVAL=3") +
+                vevent("long ago", "DTSTART:20100102T190000Z\nRRULE:FREQ=DAILY;INTERVAL=7"),
+            {u"born 28T23:00 29T22:00 day"_s, u"each fifth hour 28T12:00 28T12:00"_s,
+             u"last Saturday 28T16:00 28T16:00"_s, u"long ago 28T19:00 28T19:00"_s,
+             u"third week 28T18:00 28T18:00"_s});
+    }
+
+    bool m_evolution = false;
+};
+
+REGISTER_TEST(CalendarsTest);
+#include "CalendarsTest.moc"

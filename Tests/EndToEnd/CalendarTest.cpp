@@ -1,0 +1,93 @@
+#include "EndToEnd/Stage.h"
+#include "Support/TestRegistry.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QPoint firstCircle(663, 89); // that completes the first reminder
+constexpr QRect firstTitle(720, 81, 60, 16);
+constexpr QPoint allowCalendar(350, 96);
+
+} // namespace
+
+/// The calendar of the real program, over folders of files.
+class CalendarTest : public StageTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { setStage({}); }
+
+    void aClickCompletesAReminder()
+    {
+        write(u"first"_s, "DUE:20200101T080000Z\r\nX-KEPT:yes\r\n");
+        write(u"second"_s, "");
+        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"calendar"_s) &&
+                stage().openByHotKey());
+        QTRY_VERIFY(isWritten(firstTitle));
+        stage().input.click(firstCircle);
+        QTRY_VERIFY(read(u"first"_s).contains("\r\nSTATUS:COMPLETED\r\n"));
+        QVERIFY(read(u"first"_s).contains("\r\nX-KEPT:yes\r\n"));
+        QTest::qWait(500); // the second one takes its place
+        stage().input.click(firstCircle);
+        QTRY_VERIFY(read(u"second"_s).contains("STATUS:COMPLETED"));
+        QTRY_VERIFY(!isWritten(firstTitle));
+
+        // Another program adds one; the next opening shows it.
+        write(u"third"_s, "");
+        stage().input.hotKey();
+        QVERIFY(stage().waitClosed() && stage().openByHotKey());
+        QTRY_VERIFY(isWritten(firstTitle));
+        stage().input.click(firstCircle);
+        QTRY_VERIFY(read(u"third"_s).contains("STATUS:COMPLETED"));
+    }
+
+    void accessMakesTheFolder()
+    {
+        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"calendar"_s) &&
+                stage().openByHotKey());
+        QVERIFY(!QDir(folder()).exists());
+        QTest::qWait(500);
+        stage().input.click(allowCalendar);
+        QTRY_VERIFY(QDir(folder()).exists());
+    }
+
+private:
+    /// Whether there is anything bright in that place.
+    bool isWritten(QRect place)
+    {
+        const QImage image = stage().x.grab(place);
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixelColor(x, y).lightness() > 128)
+                    return true;
+            }
+        }
+        return false;
+    }
+
+    QString folder() { return stage().session.environment().value(u"XDG_DATA_HOME"_s) + u"/calendars"_s; }
+    QString path(const QString &name) { return folder() + u"/list/"_s + name + u".ics"_s; }
+
+    void write(const QString &name, const QByteArray &lines)
+    {
+        QDir().mkpath(folder() + u"/list"_s);
+        QFile file(path(name));
+        QVERIFY(file.open(QFile::WriteOnly));
+        const QByteArray title = name.toLatin1();
+        file.write("BEGIN:VCALENDAR\r\nVERSION:2.0\r\nBEGIN:VTODO\r\nUID:" + title + "\r\nSUMMARY:MMMMMMMM " +
+                   title + "\r\n" + lines + "END:VTODO\r\nEND:VCALENDAR\r\n");
+    }
+    QByteArray read(const QString &name)
+    {
+        QFile file(path(name));
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    }
+};
+
+REGISTER_TEST(CalendarTest);
+#include "CalendarTest.moc"
