@@ -79,7 +79,7 @@ private:
                                  Kestrune::ScriptExecutor &executor, Kestrune::CalendarStore &store)
     {
         return {clock,      defaults, sounds,   workspace, copies,   drags, sharing, captures,
-                thumbnails, http,     location, running,   executor, host,  camera,  calendars};
+                thumbnails, http,     location, running,   executor, host,  camera,  store};
     }
 };
 

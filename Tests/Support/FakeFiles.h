@@ -1,0 +1,159 @@
+#pragma once
+
+#include "NotchKit/Platform/FileSharing.h"
+#include "NotchKit/Platform/Pasteboard.h"
+#include "NotchKit/Platform/ScreenCaptureQuery.h"
+#include "NotchKit/Platform/Thumbnails.h"
+
+#include <QPromise>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// Stand-ins for the platform's ports, steered by the tests.
+namespace Kestrune::Fakes {
+
+/// Answers at once, or, while `held`, when `release` is called. Counts what it was asked for.
+class FakePasteboard : public Pasteboard
+{
+public:
+    qint64 changeCount() const override { return count; }
+    QFuture<QStringList> types() override { return answer(offered, QStringLiteral("types")); }
+    QFuture<QList<QUrl>> fileUrls() override { return answer(urls, QStringLiteral("urls")); }
+    QFuture<std::optional<EncodedPicture>> picture() override
+    {
+        return answer(encoded, QStringLiteral("picture"));
+    }
+    QFuture<std::optional<QString>> string() override { return answer(text, QStringLiteral("string")); }
+    qint64 write(const PasteboardContent &content) override
+    {
+        written = content;
+        return ++count;
+    }
+
+    /// Another program copies.
+    void offer(const QString &copied) { replace({QString::fromLatin1(kString)}).text = copied; }
+    void offer(const QList<QUrl> &copied) { replace({QString::fromLatin1(kFileUrls)}).urls = copied; }
+    void offer(const EncodedPicture &copied) { replace({copied.type}).encoded = copied; }
+    FakePasteboard &replace(const QStringList &types)
+    {
+        ++count;
+        offered = types;
+        urls.clear();
+        encoded.reset();
+        text.reset();
+        return *this;
+    }
+
+    void release()
+    {
+        held = false;
+        for (const auto &finish : std::exchange(waiting, {}))
+            finish();
+    }
+
+    qint64 count = 1;
+    QStringList offered;
+    QList<QUrl> urls;
+    std::optional<EncodedPicture> encoded;
+    std::optional<QString> text;
+    PasteboardContent written;
+    QStringList asked;
+    bool held = false;
+    std::vector<std::function<void()>> waiting;
+
+private:
+    template <typename Value>
+    QFuture<Value> answer(const Value &value, const QString &question)
+    {
+        asked.append(question);
+        auto promise = std::make_shared<QPromise<Value>>();
+        promise->start();
+        waiting.push_back([promise, value] {
+            promise->addResult(value);
+            promise->finish();
+        });
+        const auto future = promise->future();
+        if (!held)
+            release();
+        return future;
+    }
+};
+
+/// Reaches devices "id0", "Device 0" and so on. Answers at once, or, while `held`, when `release` is called.
+class FakeSharing : public FileSharing
+{
+public:
+    explicit FakeSharing(int count = 0)
+    {
+        for (int i = 0; i < count; ++i)
+            reachable.append({QStringLiteral("id%1").arg(i), QStringLiteral("Device %1").arg(i)});
+    }
+
+    QFuture<QList<SharingDevice>> devices() override
+    {
+        waiting.emplace_back().start();
+        const auto future = waiting.back().future();
+        if (!held)
+            release();
+        return future;
+    }
+    void send(const QString &device, const QList<QUrl> &files) override { sent.append({device, files}); }
+
+    void release()
+    {
+        held = false;
+        for (auto &promise : std::exchange(waiting, {})) {
+            promise.addResult(reachable);
+            promise.finish();
+        }
+    }
+
+    QList<SharingDevice> reachable;
+    QList<std::pair<QString, QList<QUrl>>> sent;
+    bool held = false;
+    std::vector<QPromise<QList<SharingDevice>>> waiting;
+};
+
+/// Finds what the test puts in `found`, when the test says so.
+class FakeCaptureQuery : public ScreenCaptureQuery
+{
+public:
+    void installHandler(Handler installed) override { handler = std::move(installed); }
+    void start() override { running = true; }
+    void stop() override { running = false; }
+    QList<ScreenCapture> results() const override { return found; }
+    bool isAccessMissing() const override { return accessMissing; }
+    void requestAccess() override { ++requests; }
+
+    Handler handler;
+    QList<ScreenCapture> found;
+    bool running = false;
+    bool accessMissing = false;
+    int requests = 0;
+};
+
+/// Answers when the test does: a promise for each request, in their order.
+class FakeThumbnails : public Thumbnails
+{
+public:
+    QFuture<QImage> thumbnail(const QString &path) override
+    {
+        asked.append(path);
+        answers.emplace_back().start();
+        return answers.back().future();
+    }
+    void answer(std::size_t index, const QImage &image)
+    {
+        answers.at(index).addResult(image);
+        answers.at(index).finish();
+    }
+
+    QStringList asked;
+    std::vector<QPromise<QImage>> answers;
+};
+
+} // namespace Kestrune::Fakes

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "NotchKit/Platform/Displays.h"
+#include "NotchKit/Platform/DragPasteboard.h"
+#include "NotchKit/Platform/HotKeys.h"
+#include "NotchKit/Platform/NotchPanels.h"
+#include "NotchKit/Platform/Pointer.h"
+
+#include <QPromise>
+#include <QUrl>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// Stand-ins for the platform's ports, steered by the tests.
+namespace Kestrune::Fakes {
+
+class FakeDisplays : public Displays
+{
+public:
+    QList<Display> all() const override { return displays; }
+    std::optional<Display> main() const override
+    {
+        return displays.isEmpty() ? std::nullopt : std::optional(displays.value(mainIndex));
+    }
+
+    QList<Display> displays;
+    int mainIndex = 0;
+};
+
+class FakePointer : public Pointer
+{
+public:
+    QPointF location() override { return now.location; }
+    PointerSample sample() override { return now; }
+
+    PointerSample now;
+};
+
+class FakePanels : public NotchPanels
+{
+public:
+    struct Panel : NotchPanel
+    {
+        explicit Panel(FakePanels &owner)
+            : panels(owner)
+        {
+            panels.alive.push_back(this);
+        }
+        ~Panel() override { std::erase(panels.alive, this); }
+        Panel(const Panel &) = delete;
+        Panel &operator=(const Panel &) = delete;
+
+        void setFrame(const QRectF &place) override { frame = place; }
+        void orderFront() override { shown = true; }
+        void orderOut() override { shown = false; }
+        void setHitArea(const QRectF &area) override { hitArea = area; }
+        void makeKey() override { key = true; }
+        void resignKey() override { key = false; }
+
+        FakePanels &panels;
+        QRectF frame;
+        QRectF hitArea;
+        bool shown = false;
+        bool key = false;
+    };
+
+    std::unique_ptr<NotchPanel> create(const QRectF &frame, NotchScreenModel &, NotchServices &) override
+    {
+        auto panel = std::make_unique<Panel>(*this);
+        panel->frame = frame;
+        return panel;
+    }
+
+    std::vector<Panel *> alive;
+};
+
+class FakeHotKeys : public HotKeys
+{
+public:
+    void installHandler(Handler installed) override { handler = std::move(installed); }
+    bool registerHotKey(quint32 keyCode, quint32 modifiers, HotKeyIdentity identity) override
+    {
+        if (taken)
+            return false;
+        registered.push_back(identity);
+        codes = {keyCode, modifiers};
+        return true;
+    }
+    void unregisterHotKey(HotKeyIdentity identity) override { std::erase(registered, identity); }
+
+    Handler handler;
+    std::vector<HotKeyIdentity> registered;
+    std::pair<quint32, quint32> codes;
+    bool taken = false;
+};
+
+class FakeDrags : public DragPasteboard
+{
+public:
+    bool holdsFileUrls() const override { return !files.isEmpty(); }
+    QFuture<QList<QUrl>> fileUrls() override
+    {
+        QPromise<QList<QUrl>> promise;
+        promise.start();
+        promise.addResult(files);
+        promise.finish();
+        return promise.future();
+    }
+
+    QList<QUrl> files;
+};
+
+} // namespace Kestrune::Fakes
