@@ -13,7 +13,7 @@ QNetworkRequest prepare(const HttpRequest &request)
 {
     using Qt = QNetworkRequest;
     Qt prepared(request.url);
-    prepared.setAttribute(Qt::RedirectPolicyAttribute, Qt::UserVerifiedRedirectPolicy);
+    prepared.setAttribute(Qt::RedirectPolicyAttribute, Qt::ManualRedirectPolicy);
     prepared.setAttribute(Qt::CookieLoadControlAttribute, Qt::Manual);
     prepared.setAttribute(Qt::CookieSaveControlAttribute, Qt::Manual);
     prepared.setAttribute(Qt::AuthenticationReuseAttribute, Qt::Manual);
@@ -37,28 +37,40 @@ QNetworkRequest prepare(const HttpRequest &request)
 
 HttpExchange::HttpExchange(QNetworkAccessManager &manager, const HttpRequest &request, Promise promise)
     : QObject(&manager)
+    , m_manager(manager)
     , m_promise(std::move(promise))
     , m_mostBytes(request.mostBytes)
-    , m_reply(manager.get(prepare(request)))
 {
-    m_reply->setParent(this);
-    m_reply->setReadBufferSize(m_mostBytes + 1);
-    connect(m_reply, &QNetworkReply::redirected, this, &HttpExchange::follow);
-    connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::read);
-    connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::conclude);
     connect(&m_watcher, &QFutureWatcherBase::canceled, this, &HttpExchange::giveUp);
     m_watcher.setFuture(m_promise->future());
     connect(&m_deadline, &QTimer::timeout, this, &HttpExchange::giveUp);
     m_deadline.setSingleShot(true);
     m_deadline.start(request.timeout);
+    ask(prepare(request));
 }
 
+void HttpExchange::ask(const QNetworkRequest &request)
+{
+    m_reply = m_manager.get(request);
+    m_reply->setParent(this);
+    m_reply->setReadBufferSize(m_mostBytes + 1);
+    connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::read);
+    connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::conclude);
+}
+
+/// By hand: left to the manager, each further redirection is asked for several times over.
 void HttpExchange::follow(const QUrl &url)
 {
-    if (url.scheme() == QLatin1String("https") && ++m_redirections <= kMostRedirections)
-        Q_EMIT m_reply->redirectAllowed();
-    else
+    if (url.scheme() != QLatin1String("https") || ++m_redirections > kMostRedirections) {
         giveUp();
+        return;
+    }
+    QNetworkRequest next = m_reply->request();
+    next.setUrl(url);
+    m_reply->disconnect(this);
+    m_reply->deleteLater();
+    m_body.clear();
+    ask(next);
 }
 
 void HttpExchange::read()
@@ -72,7 +84,14 @@ void HttpExchange::read()
 void HttpExchange::conclude()
 {
     read();
+    if (!m_promise) // It was too long.
+        return;
     const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
+    if (!target.isEmpty()) {
+        follow(m_reply->url().resolved(target));
+        return;
+    }
     // An error page is a reply, one that broke off is none.
     if (status >= 400 || (status >= 200 && m_reply->error() == QNetworkReply::NoError))
         finish({status, m_body});

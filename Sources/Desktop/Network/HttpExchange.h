@@ -10,6 +10,7 @@
 
 class QNetworkAccessManager;
 class QNetworkReply;
+class QNetworkRequest;
 
 namespace Kestrune {
 
@@ -27,19 +28,21 @@ public:
     HttpExchange(QNetworkAccessManager &manager, const HttpRequest &request, Promise promise);
 
 private:
+    void ask(const QNetworkRequest &request);
     void follow(const QUrl &url);
     void read();
     void conclude();
     void giveUp() { finish({}); }
     void finish(const HttpReply &reply);
 
+    QNetworkAccessManager &m_manager;
     Promise m_promise;
     qint64 m_mostBytes;
     int m_redirections = 0;
     QByteArray m_body;
     QFutureWatcher<HttpReply> m_watcher;
     QTimer m_deadline;
-    QNetworkReply *m_reply;
+    QNetworkReply *m_reply = nullptr;
 };
 
 } // namespace Kestrune
