@@ -8,7 +8,6 @@ ButtonBase {
     required property string symbol
     property bool selected: false
 
-    implicitWidth: 34
     implicitHeight: 28
     Accessible.role: Accessible.PageTab
     Accessible.selected: selected

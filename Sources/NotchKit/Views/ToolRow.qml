@@ -7,6 +7,9 @@ Item {
 
     required property NotchPresentation presentation
 
+    /// Small enough for all fourteen tools and the credit in one row.
+    readonly property int buttonWidth: 32
+
     implicitHeight: 36
 
     Row {
@@ -25,6 +28,7 @@ Item {
                 required property var modelData
                 required property int index
 
+                implicitWidth: row.buttonWidth
                 symbol: modelData.symbol
                 help: modelData.title
                 selected: index === row.presentation.selectedIndex
@@ -34,11 +38,11 @@ Item {
     }
 
     Rectangle {
-        readonly property real pitch: 34 + tools.spacing
+        readonly property real pitch: row.buttonWidth + tools.spacing
 
         x: tools.x + slide.value * pitch
         y: tools.y
-        width: 34
+        width: row.buttonWidth
         height: 28
         radius: Theme.buttonRadius
         color: Theme.highlighted
@@ -60,7 +64,7 @@ Item {
 
         anchors { right: parent.right; rightMargin: -8; verticalCenter: parent.verticalCenter }
         visible: text !== ""
-        width: Math.min(implicitWidth, row.width - tools.width - 16)
+        width: Math.min(implicitWidth, row.width - tools.width - 8)
         implicitWidth: line.implicitWidth
         implicitHeight: 28
         plain: true
