@@ -6,9 +6,9 @@ set(CPACK_PACKAGE_VENDOR "The Kestrune authors")
 set(CPACK_PACKAGE_CONTACT "The Kestrune authors <hello@kestrune.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "small tools at the top centre of each display")
 set(CPACK_PACKAGE_DESCRIPTION
-" Kestrune lives at the top centre of each display, around the camera housing.
- Closed, it is a black shape that shows the song that plays, a running timer or
- a new screenshot; it springs open into a panel of fourteen small tools.")
+"Kestrune lives at the top centre of each display, around the camera housing.
+Closed, it is a black shape that shows the song that plays, a running timer or
+a new screenshot; it springs open into a panel of fourteen small tools.")
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/package)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
