@@ -29,6 +29,7 @@ AppState::AppState(const AppPlatform &app, const NotchPlatform &tools,
     , m_controller(m_services, controller)
     , m_launchAtLogin(app.loginItem.isEnabled())
 {
+    m_services.openSettings = app.openSettings;
     followSettings();
     checkFennivar();
     m_watcher = m_clock.every(kSuiteCheck, [this] { checkFennivar(); });
@@ -95,6 +96,18 @@ void AppState::setLaunchAtLogin(bool on)
         std::fflush(stdout);
     }
     m_launchAtLogin = m_platform.loginItem.isEnabled();
+}
+
+void AppState::openSettings()
+{
+    if (m_platform.openSettings)
+        m_platform.openSettings();
+}
+
+void AppState::openSuitePage()
+{
+    if (const auto &page = m_services.branding().creditURL)
+        m_services.openUrl(*page);
 }
 
 } // namespace Kestrune

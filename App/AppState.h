@@ -21,6 +21,7 @@ struct AppPlatform
     RunningApplications &applications;
     LoginItem &loginItem;
     std::function<void(const QString &message, const QString &details)> showAlert;
+    std::function<void()> openSettings = {}; ///< Shows the settings window.
 };
 
 /// Owns the settings, the hub and the controller for the life of the process, and pauses the notch while
@@ -28,8 +29,8 @@ struct AppPlatform
 class AppState : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(
-        bool launchAtLogin READ launchAtLogin NOTIFY launchAtLoginChanged BINDABLE bindableLaunchAtLogin)
+    Q_PROPERTY(bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged
+                   BINDABLE bindableLaunchAtLogin)
     /// The suite's notch is on, so this program keeps its own stopped.
     Q_PROPERTY(bool yieldingToFennivar READ yieldingToFennivar NOTIFY yieldingToFennivarChanged BINDABLE
                    bindableYieldingToFennivar)
@@ -58,6 +59,12 @@ public:
 
     /// Registers or unregisters the login item; on failure the flag stays as the system reports it.
     void setLaunchAtLogin(bool on);
+
+    /// Shows the settings window.
+    void openSettings();
+
+    /// Opens the companion suite's page in the browser.
+    Q_INVOKABLE void openSuitePage();
 
 Q_SIGNALS:
     void launchAtLoginChanged();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AppMenu.h"
 #include "AppState.h"
 #include "ControlService.h"
 #include "Desktop/Calendars/DesktopCalendars.h"
@@ -14,10 +15,13 @@
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "Desktop/Session/BusApplications.h"
 #include "Desktop/Session/DesktopWorkspace.h"
+#include "Desktop/Session/PortalAppearance.h"
 #include "Desktop/Sharing/KdeConnectSharing.h"
 #include "Desktop/Sound/CanberraSounds.h"
 #include "Desktop/System/LinuxStatistics.h"
 #include "Desktop/Time/SystemClock.h"
+#include "Desktop/Tray/BusStatusItem.h"
+#include "Desktop/Updates/PackagedUpdater.h"
 #include "Desktop/X11/X11Desktop.h"
 #include "Desktop/X11/X11Displays.h"
 #include "Desktop/X11/X11DragPasteboard.h"
@@ -26,6 +30,7 @@
 #include "Desktop/X11/X11Pointer.h"
 #include "NotchKit/Views/AlertWindow.h"
 #include "PanelFactory.h"
+#include "SettingsWindow.h"
 
 #include <QDBusConnection>
 #include <QQmlEngine>
@@ -72,10 +77,15 @@ private:
     LinuxStatistics m_host;
     HelperCamera m_camera;
     DesktopCalendars m_calendars;
+    PackagedUpdater m_updater;
+    PortalAppearance m_appearance;
     QQmlEngine m_engine;
     PanelFactory m_panels;
     AlertWindow m_alert;
     std::unique_ptr<AppState> m_state;
+    std::unique_ptr<SettingsWindow> m_settingsWindow;
+    std::unique_ptr<BusStatusItem> m_statusItem;
+    std::unique_ptr<AppMenu> m_menu;
     std::unique_ptr<SettingsKeys> m_keys;
     std::unique_ptr<ControlService> m_control;
 };

@@ -47,11 +47,12 @@ CommandLine parseStatus(const QStringList &arguments)
 CommandLine parseSettings(const QStringList &arguments)
 {
     static const QMap<QString, qsizetype> counts{{QStringLiteral("list"), 1},
+                                                 {QStringLiteral("open"), 1},
                                                  {QStringLiteral("get"), 2},
                                                  {QStringLiteral("set"), 3},
                                                  {QStringLiteral("reset"), 2}};
     if (arguments.isEmpty() || counts.value(arguments.constFirst(), -1) != arguments.size())
-        return bad(QStringLiteral("settings takes list, get KEY, set KEY VALUE or reset KEY"));
+        return bad(QStringLiteral("settings takes open, list, get KEY, set KEY VALUE or reset KEY"));
     return {Verb::settings, arguments, {}};
 }
 
@@ -107,6 +108,7 @@ QString CommandLine::helpText()
   kestrune status [--json]        what it is doing
   kestrune usage [--json] [--home DIR] [--now TIME]
                                   what Codex and Claude Code logged of their use
+  kestrune settings open          show the settings window
   kestrune settings list          every setting
   kestrune settings get KEY
   kestrune settings set KEY VALUE

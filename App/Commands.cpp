@@ -144,8 +144,10 @@ private:
 
 int runSettings(const QStringList &arguments)
 {
-    Settings settings;
     const QString &verb = arguments.constFirst();
+    if (verb == QLatin1String("open"))
+        return outcome(call(QStringLiteral("OpenSettings")));
+    Settings settings;
     const QString key = arguments.value(1);
     if (verb == QLatin1String("get"))
         return settings.print(key);

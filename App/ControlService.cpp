@@ -20,6 +20,8 @@ void ControlService::Open(const QString &tool) { m_app.showNotch(fromRawValue<No
 
 void ControlService::Close() { m_app.controller().collapseAll(); }
 
+void ControlService::OpenSettings() { m_app.openSettings(); }
+
 void ControlService::Quit() { QCoreApplication::quit(); }
 
 void ControlService::Reopen(const QString &tool)

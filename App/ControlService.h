@@ -31,6 +31,8 @@ public Q_SLOTS:
     Q_SCRIPTABLE void Open(const QString &tool);
     /// Closes every notch.
     Q_SCRIPTABLE void Close();
+    /// Shows the settings window.
+    Q_SCRIPTABLE void OpenSettings();
     Q_SCRIPTABLE void Quit();
     /// The program was started again, with "--open" and a tool or without.
     Q_SCRIPTABLE void Reopen(const QString &tool);

@@ -575,5 +575,161 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <source>Yesterday</source>
         <translation>Gestern</translation>
     </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Want more? Meet Fennivar</source>
+        <translation>Lust auf mehr? Lern Fennivar kennen</translation>
+    </message>
+    <message>
+        <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
+        <translation>Kestrune ist ein Teil von Fennivar, der Rundum-App, mit der dein Mac so arbeitet, wie er soll.</translation>
+    </message>
+    <message>
+        <source>Snap windows into place with a key or a drag</source>
+        <translation>Rücke Fenster mit einer Taste oder einem Zug zurecht</translation>
+    </message>
+    <message>
+        <source>Find files, apps and settings from one field</source>
+        <translation>Finde Dateien, Apps und Einstellungen in einem Feld</translation>
+    </message>
+    <message>
+        <source>See what fills your disk and free it up</source>
+        <translation>Sieh, was die Festplatte füllt, und schaffe Platz</translation>
+    </message>
+    <message>
+        <source>Keep an eye on the battery and make it last</source>
+        <translation>Behalte den Akku im Blick und schone ihn</translation>
+    </message>
+    <message>
+        <source>Discover Fennivar ↗</source>
+        <translation>Fennivar entdecken ↗</translation>
+    </message>
+    <message>
+        <source>Opening</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open the notch</source>
+        <translation>Notch öffnen</translation>
+    </message>
+    <message>
+        <source>Hover delay</source>
+        <translation>Verzögerung beim Verweilen</translation>
+    </message>
+    <message>
+        <source>Open and close with ⌃⌥⌘N</source>
+        <translation>Mit ⌃⌥⌘N öffnen und schließen</translation>
+    </message>
+    <message>
+        <source>Show the song or timer beside the closed notch</source>
+        <translation>Titel oder Timer neben der geschlossenen Notch zeigen</translation>
+    </message>
+    <message>
+        <source>Show new screenshots beside the notch</source>
+        <translation>Neue Bildschirmfotos neben der Notch zeigen</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <translation>Bildschirme</translation>
+    </message>
+    <message>
+        <source>Show on every display</source>
+        <translation>Auf jedem Bildschirm zeigen</translation>
+    </message>
+    <message>
+        <source>Draw a notch on displays without one</source>
+        <translation>Auf Bildschirmen ohne Notch eine zeichnen</translation>
+    </message>
+    <message>
+        <source>Privacy</source>
+        <translation>Datenschutz</translation>
+    </message>
+    <message>
+        <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
+        <translation>Alles bleibt auf diesem Mac. Wetter fragt Open-Meteo nach der Vorhersage für deine Stadt und Aktien fragt Yahoo Finance nach Kursen; sonst geht nichts ins Netz.</translation>
+    </message>
+    <message>
+        <source>Keep a clipboard history</source>
+        <translation>Verlauf der Zwischenablage führen</translation>
+    </message>
+    <message>
+        <source>Read Codex usage (~/.codex)</source>
+        <translation>Codex-Nutzung lesen (~/.codex)</translation>
+    </message>
+    <message>
+        <source>Read Claude Code usage (~/.claude)</source>
+        <translation>Claude-Code-Nutzung lesen (~/.claude)</translation>
+    </message>
+    <message>
+        <source>Temperatures in °F</source>
+        <translation>Temperaturen in °F</translation>
+    </message>
+    <message>
+        <source>Home screen</source>
+        <translation>Startansicht</translation>
+    </message>
+    <message>
+        <source>Restore default layout</source>
+        <translation>Standardanordnung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Leave it at 0 to compare with your busiest block of the week. Anthropic does not publish limits in tokens, so set your own if you know it.</source>
+        <translation>Lass es bei 0, um mit deinem stärksten Block der Woche zu vergleichen. Anthropic veröffentlicht keine Grenzen in Tokens; trag deine ein, wenn du sie kennst.</translation>
+    </message>
+    <message>
+        <source>Claude 5-hour budget (tokens)</source>
+        <translation>Claude-Budget für 5 Stunden (Tokens)</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Kestrune Settings</source>
+        <translation>Kestrune-Einstellungen</translation>
+    </message>
+    <message>
+        <source>This copy gets its updates with its package, or from whoever built it.</source>
+        <translation>Diese Kopie wird mit ihrem Paket aktualisiert oder von dem, der sie gebaut hat.</translation>
+    </message>
+    <message>
+        <source>Open Kestrune at login</source>
+        <translation>Kestrune beim Anmelden öffnen</translation>
+    </message>
+    <message>
+        <source>Install updates automatically</source>
+        <translation>Updates automatisch installieren</translation>
+    </message>
+    <message>
+        <source>Open Notch</source>
+        <translation>Notch öffnen</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Nach Updates suchen …</translation>
+    </message>
+    <message>
+        <source>Get more tools: Fennivar ↗</source>
+        <translation>Mehr Werkzeuge: Fennivar ↗</translation>
+    </message>
+    <message>
+        <source>Quit Kestrune</source>
+        <translation>Kestrune beenden</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
 </context>
 </TS>

@@ -1,5 +1,4 @@
-#include "App/AppState.h"
-#include "Support/Fakes.h"
+#include "App/AppStage.h"
 #include "Support/TestRegistry.h"
 
 #include <QTest>
@@ -8,66 +7,7 @@ using namespace Kestrune;
 
 namespace {
 
-QString suite() { return NotchBranding::suiteIdentifier(); }
-QString flag() { return QStringLiteral("notch.enabled"); }
 QString welcomed() { return QStringLiteral("kestrune.welcomed"); }
-
-/// The application over fake ports; `launch` starts it.
-struct Stage
-{
-    Fakes::FakeClock clock;
-    Fakes::MemoryDefaults defaults;
-    Fakes::MemoryDefaults suiteDefaults;
-    Fakes::FakeApplications applications;
-    Fakes::FakeLoginItem loginItem;
-    Fakes::FakeSounds sounds;
-    Fakes::FakeWorkspace workspace;
-    Fakes::FakePasteboard pasteboard;
-    Fakes::FakeDrags drags;
-    Fakes::FakeSharing sharing;
-    Fakes::FakeCaptureQuery captures;
-    Fakes::FakeThumbnails thumbnails;
-    Fakes::FakeHttp http;
-    Fakes::FakeLocation location;
-    Fakes::FakeScripts scripts;
-    Fakes::FakeHost host;
-    Fakes::FakeCamera camera;
-    Fakes::FakeCalendars calendars;
-    Fakes::FakeDisplays displays;
-    Fakes::FakePointer pointer;
-    Fakes::FakePanels panels;
-    Fakes::FakeHotKeys hotKeys;
-    QStringList alerts;
-    std::unique_ptr<AppState> app;
-
-    explicit Stage(bool welcomedBefore = true)
-    {
-        displays.displays = {{QStringLiteral("HDMI-1"), QRectF(0, 0, 1920, 1080), 0, {}, {}}};
-        if (welcomedBefore)
-            defaults.setObject(welcomed(), true);
-    }
-
-    void launch(const QStringList &arguments = {})
-    {
-        const AppPlatform platform{
-            defaults, suiteDefaults, applications, loginItem,
-            [this](const QString &message, const QString &details) { alerts << message << details; }};
-        app = std::make_unique<AppState>(
-            platform,
-            NotchPlatform{clock, defaults, sounds, workspace, pasteboard, drags, sharing, captures,
-                          thumbnails, http, location, applications, scripts, host, camera, calendars},
-            NotchControllerPlatform{clock, displays, pointer, panels, hotKeys, drags},
-            LaunchRequest::parse(arguments));
-    }
-
-    void setSuite(bool running, bool notch)
-    {
-        applications.running = running ? QSet<QString>{suite()} : QSet<QString>();
-        suiteDefaults.setObject(flag(), notch);
-    }
-
-    const NotchScreenModel &model() const { return *app->controller().notches().at(0).model; }
-};
 
 } // namespace
 
@@ -101,7 +41,7 @@ void AppStateTest::launchRequests()
     QFETCH(const QString, arguments);
     QFETCH(const bool, opens);
     QFETCH(const QString, selected);
-    Stage stage;
+    AppStage stage;
     stage.launch(arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
     stage.clock.advance(std::chrono::milliseconds(999));
     QVERIFY(!stage.model().expanded());
@@ -113,7 +53,7 @@ void AppStateTest::launchRequests()
 
 void AppStateTest::firstRunOpensHome()
 {
-    Stage stage(false);
+    AppStage stage(false);
     stage.launch({QStringLiteral("--open"), QStringLiteral("timer")});
     QVERIFY(*stage.defaults.value<bool>(welcomed()));
     stage.clock.advance(std::chrono::seconds(1));
@@ -123,7 +63,7 @@ void AppStateTest::firstRunOpensHome()
 
 void AppStateTest::suitePausesTheNotch()
 {
-    Stage stage;
+    AppStage stage;
     stage.setSuite(true, true);
     stage.launch();
     QVERIFY(!stage.app->controller().isRunning() && stage.app->yieldingToFennivar());
@@ -143,7 +83,7 @@ void AppStateTest::suitePausesTheNotch()
 
 void AppStateTest::pausedNotchExplainsItself()
 {
-    Stage stage;
+    AppStage stage;
     stage.setSuite(true, true);
     stage.launch();
     stage.app->showNotch(NotchTool::home);
@@ -155,7 +95,7 @@ void AppStateTest::pausedNotchExplainsItself()
 
 void AppStateTest::loginItemSpringsBack()
 {
-    Stage stage;
+    AppStage stage;
     stage.launch();
     stage.app->setLaunchAtLogin(true);
     QVERIFY(stage.app->launchAtLogin());
@@ -166,7 +106,7 @@ void AppStateTest::loginItemSpringsBack()
 
 void AppStateTest::displaySettingsApplyAtOnce()
 {
-    Stage stage;
+    AppStage stage;
     stage.launch();
     stage.app->settings().setShowWithoutNotch(false);
     QVERIFY(stage.panels.alive.empty());

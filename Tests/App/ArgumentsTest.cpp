@@ -44,6 +44,7 @@ void ArgumentsTest::verbs_data()
     QTest::newRow("status as XML") << "status --xml" << Verb::bad;
     QTest::newRow("set") << "settings set hoverDelay 0.3" << Verb::settings;
     QTest::newRow("set without a value") << "settings set hoverDelay" << Verb::bad;
+    QTest::newRow("settings window") << "settings open" << Verb::settings;
     QTest::newRow("settings") << "settings" << Verb::bad;
     QTest::newRow("usage") << "usage --json --now 2026-03-10T12:00:00Z --home /" << Verb::usage;
     QTest::newRow("usage of no home") << "usage --home" << Verb::bad;

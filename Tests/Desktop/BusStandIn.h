@@ -33,6 +33,9 @@ public:
         return m_connection.registerService(m_service);
     }
 
+    /// It goes, and its name with it.
+    bool leave() { return m_connection.unregisterService(m_service); }
+
     void send(const QDBusMessage &signal) { m_connection.send(signal); }
 
     QString introspect(const QString &) const override { return {}; }

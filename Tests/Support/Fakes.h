@@ -3,10 +3,12 @@
 #include "FakeFiles.h"
 #include "FakeScreen.h"
 #include "FakeServices.h"
+#include "NotchKit/Platform/Appearance.h"
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/LoginItem.h"
 #include "NotchKit/Platform/RunningApplications.h"
 #include "NotchKit/Platform/SoundPlayer.h"
+#include "NotchKit/Platform/Updater.h"
 #include "NotchKit/Platform/UserDefaults.h"
 #include "NotchKit/Platform/Workspace.h"
 
@@ -166,6 +168,44 @@ public:
 
     bool enabled = false;
     std::optional<QString> failure;
+};
+
+class FakeUpdater : public Updater
+{
+public:
+    bool canCheckForUpdates() const override { return canCheck; }
+    void checkForUpdates() override { ++checks; }
+    bool automaticallyDownloadsUpdates() const override { return automatic; }
+    void setAutomaticallyDownloadsUpdates(bool automatically) override
+    {
+        automatic = automatically;
+        Q_EMIT changed();
+    }
+    bool isManaged() const override { return false; }
+
+    void setCanCheck(bool can)
+    {
+        canCheck = can;
+        Q_EMIT changed();
+    }
+
+    bool canCheck = false;
+    bool automatic = false;
+    int checks = 0;
+};
+
+class FakeAppearance : public Appearance
+{
+public:
+    bool isDark() const override { return m_dark; }
+    void setDark(bool dark)
+    {
+        m_dark = dark;
+        Q_EMIT darkChanged();
+    }
+
+private:
+    bool m_dark = true;
 };
 
 } // namespace Kestrune::Fakes

@@ -4,6 +4,8 @@
 #include "NotchKit/NotchScreenModel.h"
 #include "NotchKit/NotchServices.h"
 #include "NotchKit/NotchSettings.h"
+#include "NotchKit/Platform/Appearance.h"
+#include "NotchKit/Platform/Updater.h"
 #include "NotchKit/Tools/AIUsageModel.h"
 #include "NotchKit/Tools/CalendarModel.h"
 #include "NotchKit/Tools/CapturesModel.h"
@@ -32,6 +34,7 @@ namespace Kestrune {
     }
 
 KESTRUNE_VIEW_TYPE(AirDrop);
+KESTRUNE_VIEW_TYPE(Appearance);
 KESTRUNE_VIEW_TYPE(CalendarModel);
 KESTRUNE_VIEW_TYPE(CapturesModel);
 KESTRUNE_VIEW_TYPE(ClipboardModel);
@@ -46,6 +49,7 @@ KESTRUNE_VIEW_TYPE(StocksModel);
 KESTRUNE_VIEW_TYPE(SystemModel);
 KESTRUNE_VIEW_TYPE(TeleprompterModel);
 KESTRUNE_VIEW_TYPE(TimerModel);
+KESTRUNE_VIEW_TYPE(Updater);
 KESTRUNE_VIEW_TYPE(WeatherModel);
 
 #undef KESTRUNE_VIEW_TYPE

@@ -1,7 +1,7 @@
 import QtQuick
 import Kestrune.Views
 
-/// A help text beside a control, after a moment, kept inside the notch.
+/// A help text beside a control, after a moment, kept inside the notch or a smaller window.
 Rectangle {
     id: tip
 
@@ -9,12 +9,12 @@ Rectangle {
     required property string text
     property bool below: false
 
-    /// How far the tip must move to stay inside the open notch.
+    /// How far the tip must move to stay inside.
     function shift() {
         const scene = anchor.Window.window
         if (!scene)
             return 0
-        const margin = (scene.width - Theme.contentWidth) / 2
+        const margin = Math.max((scene.width - Theme.contentWidth) / 2, 4)
         const left = anchor.mapToItem(null, anchor.width / 2 - width / 2, 0).x
         return Math.max(margin - left, 0) - Math.max(left + width - (scene.width - margin), 0)
     }

@@ -1,0 +1,52 @@
+import QtQuick
+import Kestrune.Views
+
+/// A row of a group: its title, with a symbol before it where one is given, and its controls at the end.
+///
+///   | symbol  title         controls |
+Item {
+    id: row
+
+    required property string title
+    property string symbol: ""
+    property bool first: false // No hairline above.
+    default property alias controls: trailing.data
+
+    width: parent?.width ?? 0
+    implicitHeight: FormTheme.rowHeight
+
+    Rectangle {
+        visible: !row.first
+        anchors { left: parent.left; right: parent.right; top: parent.top; leftMargin: FormTheme.rowInset }
+        height: 1
+        color: FormTheme.divider
+    }
+    Symbol {
+        id: icon
+
+        visible: row.symbol !== ""
+        anchors { left: parent.left; leftMargin: FormTheme.rowInset; verticalCenter: parent.verticalCenter }
+        width: visible ? 20 : 0
+        name: row.symbol
+        size: 17
+        color: FormTheme.dim
+    }
+    FormLabel {
+        anchors {
+            left: icon.visible ? icon.right : parent.left
+            leftMargin: icon.visible ? 10 : FormTheme.rowInset
+            right: trailing.left
+            rightMargin: 12
+            verticalCenter: parent.verticalCenter
+        }
+        text: row.title
+        opacity: row.enabled ? 1 : FormTheme.disabledOpacity
+        Accessible.ignored: true // The controls bear the name.
+    }
+    Row {
+        id: trailing
+
+        anchors { right: parent.right; rightMargin: FormTheme.rowInset; verticalCenter: parent.verticalCenter }
+        spacing: 8
+    }
+}

@@ -1,0 +1,53 @@
+import QtQuick
+import Kestrune.Views
+
+/// A titled group of rows with hairlines between them, and a text of its own below.
+///
+///   Title
+///   ( row        )
+///   (------------)
+///   ( row        )
+///   footer
+Column {
+    id: section
+
+    property string title: ""
+    property string footer: ""
+    default property alias rows: column.data
+
+    spacing: 6
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title
+
+    FormLabel {
+        visible: section.title !== ""
+        leftPadding: FormTheme.rowInset
+        text: section.title
+        font.weight: Font.DemiBold
+        Accessible.role: Accessible.Heading
+    }
+    Rectangle {
+        width: section.width
+        height: column.height
+        radius: FormTheme.radius
+        color: FormTheme.group
+        border.color: FormTheme.outline
+
+        Column {
+            id: column
+
+            width: parent.width
+        }
+    }
+    FormLabel {
+        visible: section.footer !== ""
+        width: section.width
+        leftPadding: FormTheme.rowInset
+        rightPadding: FormTheme.rowInset
+        text: section.footer
+        font.pixelSize: FormTheme.smallFontSize
+        color: FormTheme.dim
+        wrapMode: Text.WordWrap
+        Accessible.role: Accessible.StaticText
+    }
+}

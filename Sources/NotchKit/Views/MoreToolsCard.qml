@@ -1,0 +1,84 @@
+import QtQuick
+import Kestrune.Views
+
+/// Presents the suite that this program is a piece of.
+Rectangle {
+    id: card
+
+    /// The user wants to see the suite's page.
+    signal discover()
+
+    implicitHeight: column.implicitHeight + 2 * FormTheme.rowInset
+    radius: FormTheme.radius
+    color: FormTheme.group
+    border.color: FormTheme.outline
+    Accessible.role: Accessible.Grouping
+    Accessible.name: heading.text
+
+    Column {
+        id: column
+
+        anchors { left: parent.left; right: parent.right; top: parent.top; margins: FormTheme.rowInset }
+        spacing: 12
+
+        FormLabel {
+            id: heading
+
+            width: parent.width
+            text: qsTranslate("notch", "Want more? Meet Fennivar")
+            font.pixelSize: 16
+            font.weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
+        }
+        FormLabel {
+            width: parent.width
+            text: qsTranslate("notch", "Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.")
+            color: FormTheme.dim
+            wrapMode: Text.WordWrap
+            lineHeight: 1.15
+        }
+        Column {
+            width: parent.width
+            spacing: 8
+            topPadding: 2
+            bottomPadding: 4
+
+            Repeater {
+                model: [
+                    { symbol: "square.grid.2x2", text: qsTranslate("notch", "Snap windows into place with a key or a drag") },
+                    { symbol: "magnifyingglass", text: qsTranslate("notch", "Find files, apps and settings from one field") },
+                    { symbol: "internaldrive", text: qsTranslate("notch", "See what fills your disk and free it up") },
+                    { symbol: "battery.75", text: qsTranslate("notch", "Keep an eye on the battery and make it last") }
+                ]
+
+                Item {
+                    id: tool
+
+                    required property var modelData
+
+                    width: parent.width
+                    height: 22
+
+                    Symbol {
+                        id: icon
+
+                        width: 22
+                        height: parent.height
+                        name: tool.modelData.symbol
+                        size: 17
+                        color: FormTheme.accent
+                    }
+                    FormLabel {
+                        anchors { left: icon.right; leftMargin: 10; right: parent.right; verticalCenter: parent.verticalCenter }
+                        text: tool.modelData.text
+                    }
+                }
+            }
+        }
+        FormButton {
+            prominent: true
+            text: qsTranslate("notch", "Discover Fennivar ↗")
+            onClicked: card.discover()
+        }
+    }
+}

@@ -1,0 +1,36 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrune.Views
+
+/// A title in a picker's list, with a dot before the chosen one.
+T.ItemDelegate {
+    id: entry
+
+    property bool chosen: false
+
+    implicitHeight: 26
+    hoverEnabled: true
+    Accessible.role: Accessible.ListItem
+    Accessible.name: text
+    Accessible.selected: chosen
+    background: Rectangle {
+        radius: FormTheme.controlRadius - 2
+        color: entry.highlighted ? FormTheme.accent : "transparent"
+    }
+    contentItem: FormLabel {
+        leftPadding: 20
+        text: entry.text
+        color: entry.highlighted ? FormTheme.accentText : FormTheme.text
+        Accessible.ignored: true
+
+        Rectangle {
+            visible: entry.chosen
+            x: 8
+            anchors.verticalCenter: parent.verticalCenter
+            width: 5
+            height: 5
+            radius: 2.5
+            color: parent.color
+        }
+    }
+}
