@@ -54,7 +54,7 @@ void Application::run(const LaunchRequest &request)
     const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys, m_drags};
     m_state = std::make_unique<AppState>(app, tools, controller, request);
     m_settingsWindow = std::make_unique<SettingsWindow>(m_engine, *m_state, m_updater, m_appearance);
-    m_statusItem = std::make_unique<BusStatusItem>(m_bus, NotchBranding::fennivar().name, trayIcon());
+    m_statusItem = std::make_unique<BusStatusItem>(m_bus, NotchBranding::fennivar().name, trayIcon);
     m_menu = std::make_unique<AppMenu>(*m_state, m_updater, *m_statusItem);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());
     m_control = std::make_unique<ControlService>(*m_state, *m_keys);

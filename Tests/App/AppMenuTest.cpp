@@ -28,7 +28,7 @@ struct Stage : AppStage
     Stage()
     {
         launch();
-        item = std::make_unique<BusStatusItem>(watcher.bus(), u"Kestrune"_s, trayIcon());
+        item = std::make_unique<BusStatusItem>(watcher.bus(), u"Kestrune"_s, trayIcon);
         menu = std::make_unique<AppMenu>(*app, updater, *item);
     }
     ~Stage() { QDBusConnection::disconnectFromBus(u"panel"_s); }

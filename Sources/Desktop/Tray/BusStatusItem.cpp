@@ -35,9 +35,10 @@ StatusItemFace::StatusItemFace(const QString &title, const QList<QImage> &icons)
 
 QDBusObjectPath StatusItemFace::menu() { return QDBusObjectPath(menuObject()); }
 
-BusStatusItem::BusStatusItem(const QDBusConnection &bus, const QString &title, const QList<QImage> &icons)
+BusStatusItem::BusStatusItem(const QDBusConnection &bus, const QString &title, Icons icons)
     : m_bus(bus)
-    , m_face(title, icons)
+    , m_title(title)
+    , m_icons(std::move(icons))
 {
     if (!m_bus.isConnected())
         return;
@@ -58,9 +59,11 @@ BusStatusItem::~BusStatusItem() { disappear(); }
 
 void BusStatusItem::appear()
 {
+    if (!m_face)
+        m_face = std::make_unique<StatusItemFace>(m_title, m_icons());
     constexpr auto kContents = QDBusConnection::ExportScriptableContents;
     m_bus.registerObject(menuObject(), &m_menu, kContents);
-    m_bus.registerObject(faceObject(), &m_face, kContents);
+    m_bus.registerObject(faceObject(), m_face.get(), kContents);
     QDBusMessage call =
         QDBusMessage::createMethodCall(watcher(), QStringLiteral("/StatusNotifierWatcher"), watcher(),
                                        QStringLiteral("RegisterStatusNotifierItem"));

@@ -7,6 +7,9 @@
 #include <QDBusServiceWatcher>
 #include <QImage>
 
+#include <functional>
+#include <memory>
+
 namespace Kestrune {
 
 /// What a panel shows of the item: the object on the bus that it reads. It has a menu and nothing else, so
@@ -47,7 +50,10 @@ private:
 class BusStatusItem : public StatusItem
 {
 public:
-    BusStatusItem(const QDBusConnection &bus, const QString &title, const QList<QImage> &icons);
+    using Icons = std::function<QList<QImage>()>;
+
+    /// `icons` is called once, when there is somebody to show them.
+    BusStatusItem(const QDBusConnection &bus, const QString &title, Icons icons);
     ~BusStatusItem() override;
     Q_DISABLE_COPY_MOVE(BusStatusItem)
 
@@ -58,8 +64,10 @@ private:
     void disappear();
 
     QDBusConnection m_bus;
+    QString m_title;
+    Icons m_icons;
     BusMenu m_menu;
-    StatusItemFace m_face;
+    std::unique_ptr<StatusItemFace> m_face;
     QDBusServiceWatcher m_watcher;
 };
 
