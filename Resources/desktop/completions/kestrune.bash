@@ -9,7 +9,7 @@ _kestrune() {
         usage:*:--home) compopt -o dirnames; return ;;
         usage:*:--now) return ;;
         usage:*) words='--json --home --now' ;;
-        settings:2:*) words='list get set reset' ;;
+        settings:2:*) words='open list get set reset' ;;
         settings:3:get | settings:3:set | settings:3:reset) words=$(kestrune settings list 2>/dev/null | cut -d ' ' -f 1) ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")

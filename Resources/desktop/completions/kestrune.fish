@@ -10,5 +10,5 @@ complete -c kestrune -n '__fish_seen_subcommand_from open' -a "$tools"
 complete -c kestrune -n '__fish_seen_subcommand_from status usage' -l json
 complete -c kestrune -n '__fish_seen_subcommand_from usage' -l home -xa '(__fish_complete_directories)'
 complete -c kestrune -n '__fish_seen_subcommand_from usage' -l now -x
-complete -c kestrune -n '__fish_seen_subcommand_from settings; and not __fish_seen_subcommand_from list get set reset' -a 'list get set reset'
+complete -c kestrune -n '__fish_seen_subcommand_from settings; and not __fish_seen_subcommand_from open list get set reset' -a 'open list get set reset'
 complete -c kestrune -n '__fish_seen_subcommand_from get set reset' -a "(kestrune settings list 2>/dev/null | string replace -r ' .*' '')"
