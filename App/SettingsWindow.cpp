@@ -19,7 +19,12 @@ SettingsWindow::SettingsWindow(QQmlEngine &engine, AppState &app, Updater &updat
     , m_appearance(appearance)
 {}
 
-SettingsWindow::~SettingsWindow() { delete m_window; }
+SettingsWindow::~SettingsWindow()
+{
+    if (m_window)
+        m_window->disconnect(); // It hides as it goes, when it is no window of ours any more.
+    delete m_window;
+}
 
 void SettingsWindow::open()
 {

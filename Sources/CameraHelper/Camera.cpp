@@ -82,6 +82,9 @@ bool Camera::open()
     if (!source)
         return false;
     m_pipeline.reset(gst_pipeline_new(nullptr));
+    // Else a camera that is pulled out takes the memory of a picture that is still read.
+    if (g_object_class_find_property(G_OBJECT_GET_CLASS(source), "always-copy"))
+        g_object_set(source, "always-copy", TRUE, nullptr);
     gst_bin_add(GST_BIN(m_pipeline.get()), source);
     const std::string rest = std::string("capsfilter name=format ! ") +
                              (isJpeg(format.get()) ? "jpegdec ! " : "") +

@@ -59,12 +59,13 @@ private Q_SLOTS:
         QFETCH(const QString, refused);
         QFETCH(const bool, found);
         QVERIFY(m_service->appear([&](const QDBusMessage &call) { return answer(call, refused); }));
-        GeoClueLocation location;
+        auto location = std::make_unique<GeoClueLocation>();
         for (int i = 0; i < 2; ++i) {
-            const auto fix = location.locate();
+            const auto fix = location->locate();
             QTRY_VERIFY(fix.isFinished());
             QCOMPARE(fix.result(), found ? std::optional(Coordinate{52.5, -13.25}) : std::nullopt);
         }
+        QVERIFY(destroyed(location));
     }
 
     void aSilentServiceIsGivenUp()
@@ -77,13 +78,18 @@ private Q_SLOTS:
         fix.cancel();
         QTRY_VERIFY(fix.isFinished());
         const auto left = location->locate();
-        // Aside, because the stand-in that it says goodbye to is this thread's.
-        const auto end = QtConcurrent::run([&] { location.reset(); });
-        QTRY_VERIFY(end.isFinished());
+        QVERIFY(destroyed(location));
         QVERIFY(left.isFinished() && left.isCanceled());
     }
 
 private:
+    /// Aside, because the stand-in that it says goodbye to is this thread's.
+    static bool destroyed(std::unique_ptr<GeoClueLocation> &location)
+    {
+        const auto end = QtConcurrent::run([&] { location.reset(); });
+        return QTest::qWaitFor([&] { return end.isFinished(); });
+    }
+
     std::optional<QDBusMessage> answer(const QDBusMessage &call, const QString &refused) const
     {
         if (call.member() == refused)
