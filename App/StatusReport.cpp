@@ -52,7 +52,7 @@ QByteArray statusReport(AppState &app)
         {QStringLiteral("visibleTool"), visible ? QJsonValue(rawValue(*visible)) : QJsonValue()},
         {QStringLiteral("anyExpanded"), services.anyExpanded()},
         {QStringLiteral("hasActivity"), services.hasActivity()},
-        {QStringLiteral("tools"), QJsonArray::fromStringList(rawValues(services.offeredTools()))},
+        {QStringLiteral("tools"), QJsonArray::fromStringList(rawValues(services.settings()->tools()))},
         {QStringLiteral("displays"), displays},
     };
     return QJsonDocument(report).toJson(QJsonDocument::Indented);

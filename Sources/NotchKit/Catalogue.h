@@ -60,7 +60,7 @@ struct CatalogueEntry
     const char *rawValue;         ///< What is stored.
     const char *title;            ///< English title, the key of its translation.
     const char *symbol = nullptr; ///< Symbol name (tools only).
-    const char *view = nullptr;   ///< Name of the pane or Home block that shows it; null while unbuilt.
+    const char *view = nullptr;   ///< Name of the pane or Home block that shows it (tools and widgets only).
 };
 
 template <typename Case>
@@ -137,12 +137,5 @@ QString title(Case value)
 
 /// The name of the tool's symbol.
 inline QString symbol(NotchTool tool) { return QString::fromLatin1(entry(tool).symbol); }
-
-/// Whether the tool's pane, or the widget's block, is part of this build.
-template <CatalogueCase Case>
-bool isBuilt(Case value)
-{
-    return entry(value).view != nullptr;
-}
 
 } // namespace Kestrune

@@ -150,7 +150,7 @@ void NotchController::addNotch(const Display &screen)
 
 NotchTool NotchController::firstTool() const
 {
-    const NotchTools tools = m_services.offeredTools();
+    const NotchTools tools = m_services.settings()->tools();
     return tools.isEmpty() ? NotchTool::note : tools.constFirst();
 }
 
@@ -205,7 +205,7 @@ void NotchController::open(std::optional<NotchTool> tool, bool takeKeyboard)
 
 void NotchController::select(NotchScreenModel &model, std::optional<NotchTool> tool)
 {
-    if (!tool || !m_services.offeredTools().contains(*tool) || model.selected() == *tool)
+    if (!tool || !m_services.settings()->tools().contains(*tool) || model.selected() == *tool)
         return;
     model.setSelected(*tool);
     if (model.expanded())
@@ -223,7 +223,7 @@ void NotchController::set(Notch &notch, bool expanded)
     NotchScreenModel &model = *notch.model;
     if (model.expanded() == expanded)
         return;
-    if (expanded && !m_services.offeredTools().contains(model.selected()))
+    if (expanded && !m_services.settings()->tools().contains(model.selected()))
         model.setSelected(firstTool());
     model.setExpanded(expanded);
     model.setPointerEntered(false);
@@ -303,7 +303,7 @@ void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool fre
 
 void NotchController::pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress)
 {
-    if (inside && pressed && !freshPress && m_services.offeredTools().contains(NotchTool::shelf) &&
+    if (inside && pressed && !freshPress && m_services.settings()->tools().contains(NotchTool::shelf) &&
         m_platform.drags.holdsFileUrls()) {
         notch.model->setSelected(NotchTool::shelf);
         set(notch, true);

@@ -94,13 +94,6 @@ void NotchServices::show(std::optional<NotchTool> tool)
         model->visibleToolChanged(tool);
 }
 
-NotchTools NotchServices::offeredTools() const
-{
-    NotchTools offered;
-    std::ranges::copy_if(m_settings.tools(), std::back_inserter(offered), isBuilt<NotchTool>);
-    return offered;
-}
-
 /// Reads the same properties in the same order each time: a binding that reads less, or in another order,
 /// than it did before is not safe in Qt 6.4 when it is one of those properties that has changed.
 std::optional<NotchTool> NotchServices::computeActivityTool() const

@@ -151,9 +151,6 @@ public:
     /// The pane that is on screen from now on; nothing when every notch is closed.
     void show(std::optional<NotchTool> tool);
 
-    /// The enabled tools that this build has a pane for, in catalogue order.
-    NotchTools offeredTools() const;
-
     /// Opens a web page.
     void openUrl(const QUrl &url);
 

@@ -12,7 +12,6 @@ class NotchServicesTest : public QObject
 
 private Q_SLOTS:
     void clocksRunBetweenStartAndStop();
-    void offeredToolsAreEnabledAndBuilt();
     void addressesGoToTheWorkspace();
 };
 
@@ -33,16 +32,6 @@ void NotchServicesTest::clocksRunBetweenStartAndStop()
     QCOMPARE(changes.count(), 10);
     core.services.start();
     QCOMPARE(core.services.now(), core.clock.now());
-}
-
-void NotchServicesTest::offeredToolsAreEnabledAndBuilt()
-{
-    Fakes::Core core;
-    for (const NotchTool tool : core.services.offeredTools())
-        QVERIFY(isBuilt(tool) && core.settings.isEnabled(tool));
-    QVERIFY(core.services.offeredTools().contains(NotchTool::note));
-    core.settings.setEnabled(NotchTool::note, false);
-    QVERIFY(!core.services.offeredTools().contains(NotchTool::note));
 }
 
 void NotchServicesTest::addressesGoToTheWorkspace()

@@ -59,12 +59,7 @@ FocusScope {
         focus: true
 
         function load() {
-            const file = content.presentation.paneFile
-            if (file === "") {
-                source = ""
-                return
-            }
-            setSource(file, {
+            setSource(content.presentation.paneFile, {
                 services: content.services,
                 screenModel: content.screenModel,
                 presentation: content.presentation

@@ -10,17 +10,19 @@ Tile {
     required property NotchPresentation presentation
     property bool shown: true
 
-    /// The raw value of the tool that a click opens, and what that is called; empty for none.
+    /// The raw value of the tool that a click opens while it is offered, and what that is called; empty for none.
     property string tool: ""
     property string title: ""
     default property alias content: body.data
+
+    readonly property bool opens: presentation.offeredTools.indexOf(tool) >= 0
 
     implicitHeight: body.childrenRect.height + 24
     color: opener.pressed ? Theme.pressed : opener.containsMouse ? Theme.hovered : Theme.faint
     border.width: activeFocus ? 2 : 0
     border.color: Theme.accent
-    activeFocusOnTab: tool !== ""
-    Accessible.role: tool === "" ? Accessible.Grouping : Accessible.Button
+    activeFocusOnTab: opens
+    Accessible.role: opens ? Accessible.Button : Accessible.Grouping
     Accessible.name: title
     Accessible.onPressAction: presentation.selectTool(tool)
     Keys.onReturnPressed: presentation.selectTool(tool)
@@ -30,7 +32,7 @@ Tile {
         id: opener
 
         anchors.fill: parent
-        enabled: block.tool !== ""
+        enabled: block.opens
         hoverEnabled: enabled
         cursorShape: enabled ? Qt.PointingHandCursor : Qt.ArrowCursor
         onClicked: block.presentation.selectTool(block.tool)

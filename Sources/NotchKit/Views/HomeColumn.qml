@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Kestrune.Views
 
-/// One column of Home blocks; it scrolls when they do not fit.
+/// One column of Home blocks, and the gap behind it, where its bar is while they do not fit.
 Flickable {
     id: column
 
@@ -15,12 +15,25 @@ Flickable {
     contentHeight: blocks.height
     boundsBehavior: Flickable.StopAtBounds
     interactive: contentHeight > height
-    T.ScrollBar.vertical: ScrollBar {}
+    T.ScrollBar.vertical: ScrollBar { rightPadding: 2 }
+
+    // More lies below.
+    Rectangle {
+        parent: column
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; rightMargin: Theme.gap }
+        height: 20
+        visible: !column.atYEnd
+        gradient: Gradient {
+            GradientStop { position: 0; color: "transparent" }
+            GradientStop { position: 1; color: "black" }
+        }
+    }
 
     Column {
         id: blocks
 
-        width: column.width
+        objectName: "blocks"
+        width: column.width - Theme.gap
         spacing: Theme.gap
 
         Repeater {

@@ -19,8 +19,7 @@ Pane {
     Row {
         id: row
 
-        anchors.fill: parent
-        spacing: Theme.gap
+        anchors { fill: parent; rightMargin: -Theme.gap }
 
         Repeater {
             model: pane.columns
@@ -28,7 +27,7 @@ Pane {
             HomeColumn {
                 required property var modelData
 
-                width: (row.width - row.spacing * (pane.columns.length - 1)) / pane.columns.length
+                width: row.width / pane.columns.length
                 height: row.height
                 files: modelData
                 services: pane.services

@@ -27,7 +27,7 @@ NotchPresentation::NotchPresentation(NotchScreenModel &model, NotchServices &ser
 QVariantList NotchPresentation::toolRow() const
 {
     QVariantList row;
-    for (const NotchTool tool : m_services.offeredTools()) {
+    for (const NotchTool tool : m_services.settings()->tools()) {
         row.append(
             QVariantMap{{QStringLiteral("title"), title(tool)}, {QStringLiteral("symbol"), symbol(tool)}});
     }
@@ -36,16 +36,12 @@ QVariantList NotchPresentation::toolRow() const
 
 int NotchPresentation::selectedIndex() const
 {
-    return static_cast<int>(m_services.offeredTools().indexOf(m_model.selected()));
+    return static_cast<int>(m_services.settings()->tools().indexOf(m_model.selected()));
 }
 
 QString NotchPresentation::paneTitle() const { return title(m_model.selected()); }
 
-QString NotchPresentation::paneFile() const
-{
-    const CatalogueEntry &tool = entry(m_model.selected());
-    return tool.view ? fileOf(tool.view) : QString();
-}
+QString NotchPresentation::paneFile() const { return fileOf(entry(m_model.selected()).view); }
 
 QString NotchPresentation::activityFile() const
 {
@@ -61,10 +57,8 @@ QList<QStringList> NotchPresentation::homeColumns() const
     QList<QStringList> columns;
     for (const HomeColumn column : {HomeColumn::left, HomeColumn::center, HomeColumn::right}) {
         QStringList files;
-        for (const HomeWidget widget : m_services.settings()->widgets(column)) {
-            if (isBuilt(widget))
-                files.append(fileOf(entry(widget).view));
-        }
+        for (const HomeWidget widget : m_services.settings()->widgets(column))
+            files.append(fileOf(entry(widget).view));
         columns.append(files);
     }
     return columns;
@@ -77,7 +71,7 @@ QString NotchPresentation::creditTitle() const
 
 void NotchPresentation::select(int index)
 {
-    const NotchTools tools = m_services.offeredTools();
+    const NotchTools tools = m_services.settings()->tools();
     if (index >= 0 && index < tools.size())
         select(tools.at(index));
 }
@@ -85,7 +79,7 @@ void NotchPresentation::select(int index)
 void NotchPresentation::selectTool(const QString &rawValue)
 {
     const auto tool = fromRawValue<NotchTool>(rawValue);
-    if (tool && m_services.offeredTools().contains(*tool))
+    if (tool && m_services.settings()->tools().contains(*tool))
         select(*tool);
 }
 

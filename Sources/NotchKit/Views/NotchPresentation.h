@@ -27,8 +27,8 @@ class NotchPresentation : public QObject
     Q_PROPERTY(QString activityFile READ activityFile NOTIFY activityFileChanged)
     /// The files of the Home blocks in the three visible columns, left to right.
     Q_PROPERTY(QList<QStringList> homeColumns READ homeColumns NOTIFY homeColumnsChanged)
-    /// The shelf is among the offered tools, so that files can be dropped.
-    Q_PROPERTY(bool offersShelf READ offersShelf NOTIFY toolRowChanged)
+    /// The raw values of the offered tools.
+    Q_PROPERTY(QStringList offeredTools READ offeredTools NOTIFY toolRowChanged)
     Q_PROPERTY(bool offersSettings READ offersSettings CONSTANT)
     Q_PROPERTY(QString creditTitle READ creditTitle CONSTANT)
 
@@ -41,7 +41,7 @@ public:
     QString paneFile() const;
     QString activityFile() const;
     QList<QStringList> homeColumns() const;
-    bool offersShelf() const { return m_services.offeredTools().contains(NotchTool::shelf); }
+    QStringList offeredTools() const { return rawValues(m_services.settings()->tools()); }
     bool offersSettings() const { return bool(m_services.openSettings); }
     QString creditTitle() const;
 

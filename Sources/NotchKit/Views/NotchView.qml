@@ -70,7 +70,7 @@ FocusScope {
 
     FileDropArea {
         anchors.fill: parent
-        enabled: view.presentation.offersShelf
+        enabled: view.presentation.offeredTools.indexOf("shelf") >= 0
         onTargetedChanged: view.screenModel.dropTargeted = targeted
         onFilesDropped: {
             view.services.shelf.loadURLs()

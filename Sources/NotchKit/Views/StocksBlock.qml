@@ -55,8 +55,8 @@ HomeBlock {
                 Sparkline {
                     id: line
 
-                    anchors { right: price.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
-                    width: 32
+                    anchors { right: price.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
+                    width: 24
                     height: 14
                     points: row.modelData.points
                     up: row.modelData.change >= 0

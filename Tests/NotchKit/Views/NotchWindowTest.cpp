@@ -41,7 +41,8 @@ private Q_SLOTS:
     void noFieldReadsTheClipboardUnasked();
     void noteIsBoundBothWays();
     void timerPaneFollowsItsModel();
-    void homeExplainsItsEmptiness();
+    void homeInAnyArrangement_data();
+    void homeInAnyArrangement();
 };
 
 void NotchWindowTest::symbolsHaveGlyphs()
@@ -99,7 +100,7 @@ void NotchWindowTest::everyPaneLoadsQuietly()
     const auto before = qInstallMessageHandler(collectWarnings);
     {
         Stage stage;
-        for (const NotchTool tool : stage.core.services.offeredTools()) {
+        for (const NotchTool tool : stage.core.settings.tools()) {
             stage.core.controller.open(tool);
             const QString pane = QString::fromLatin1(entry(tool).view);
             QTRY_VERIFY2(stage.find(pane), qPrintable(pane));
@@ -113,7 +114,7 @@ void NotchWindowTest::everyPaneLoadsQuietly()
 void NotchWindowTest::tabReachesEveryControl()
 {
     Stage stage;
-    for (const NotchTool tool : stage.core.services.offeredTools()) {
+    for (const NotchTool tool : stage.core.settings.tools()) {
         stage.core.controller.open(tool);
         QTRY_VERIFY(stage.find(QString::fromLatin1(entry(tool).view)));
         stage.window->requestActivate();
@@ -134,7 +135,7 @@ void NotchWindowTest::noFieldReadsTheClipboardUnasked()
 {
     Stage stage;
     int fields = 0;
-    for (const NotchTool tool : stage.core.services.offeredTools()) {
+    for (const NotchTool tool : stage.core.settings.tools()) {
         QGuiApplication::clipboard()->clear();
         stage.core.controller.open(tool);
         QTRY_VERIFY(stage.find(QString::fromLatin1(entry(tool).view)));
@@ -195,14 +196,67 @@ void NotchWindowTest::timerPaneFollowsItsModel()
     QCOMPARE(shown(), QStringLiteral("5:00"));
 }
 
-void NotchWindowTest::homeExplainsItsEmptiness()
+void NotchWindowTest::homeInAnyArrangement_data()
 {
+    QTest::addColumn<QList<int>>("counts"); // of the blocks in the left, center and right column
+    QTest::newRow("nothing") << QList<int>{0, 0, 0};
+    QTest::newRow("one") << QList<int>{0, 1, 0};
+    QTest::newRow("two columns") << QList<int>{5, 0, 7};
+    QTest::newRow("three columns") << QList<int>{4, 4, 4};
+    QTest::newRow("all in one") << QList<int>{0, 0, 12};
+}
+
+void NotchWindowTest::homeInAnyArrangement()
+{
+    QFETCH(const QList<int>, counts);
     Stage stage;
-    stage.core.controller.open(NotchTool::home);
-    QTRY_VERIFY(stage.find(QStringLiteral("NoteBlock")));
-    QVERIFY(!stage.find(QStringLiteral("PaneMessage")));
+    const auto widgets = allCases<HomeWidget>();
+    QStringList expected;
+    auto widget = widgets.cbegin();
     stage.core.settings.setHomeColumns({});
-    QTRY_VERIFY(stage.find(QStringLiteral("PaneMessage")));
+    for (std::size_t column = 0; column < 3; ++column) {
+        for (int i = 0; i < counts.at(static_cast<int>(column)); ++i, ++widget) {
+            stage.core.settings.setColumn(allCases<HomeColumn>().at(static_cast<int>(column) + 1), *widget);
+            expected.append(QString::fromLatin1(entry(*widget).view));
+        }
+    }
+    stage.core.controller.open(NotchTool::home);
+    QTRY_COMPARE(stage.find(QStringLiteral("PaneMessage")) != nullptr, expected.isEmpty());
+    QTRY_COMPARE(stage.all(QStringLiteral("HomeColumn")).size(), counts.size() - counts.count(0));
+    QStringList shown;
+    for (QQuickItem *column : stage.all(QStringLiteral("HomeColumn"))) {
+        double bottom = 0;
+        auto *const blocks = column->findChild<QQuickItem *>(QStringLiteral("blocks"));
+        for (QQuickItem *loader : blocks->childItems()) {
+            QQuickItem *const block = loader->childItems().value(0);
+            if (!block)
+                continue;
+            shown.append(QString::fromLatin1(block->metaObject()->className()).section(u'_', 0, 0));
+            const QString tool = block->property("tool").toString();
+            const QRectF place = block->mapRectToItem(blocks, block->boundingRect());
+            QVERIFY2(place.height() > 30 && place.top() >= bottom && place.right() < column->width() - 4,
+                     qPrintable(shown.last()));
+            bottom = place.bottom();
+            column->setProperty("contentY", std::max(0.0, bottom - column->height()));
+            QVERIFY2(block->mapRectToItem(column, block->boundingRect()).bottom() <= column->height() + 0.5,
+                     qPrintable(shown.last()));
+            if (tool.isEmpty())
+                continue;
+            QVERIFY(block->property("opens").toBool());
+            stage.core.settings.setEnabled(*fromRawValue<NotchTool>(tool), false);
+            QVERIFY2(!block->property("opens").toBool(), "it leads to a tool that is off");
+            stage.core.settings.setEnabled(*fromRawValue<NotchTool>(tool), true);
+        }
+    }
+    QCOMPARE(shown, expected);
+    if (expected.isEmpty())
+        return;
+    QTRY_COMPARE(stage.outline.height(), 330.0);
+    QQuickItem *const last = stage.find(expected.last());
+    const QString tool = last->property("tool").toString();
+    const QPointF corner = last->mapToScene({4, last->height() - 4});
+    QTest::mouseClick(stage.window.get(), Qt::LeftButton, {}, corner.toPoint());
+    QCOMPARE(rawValue(stage.core.model().selected()), tool.isEmpty() ? QStringLiteral("home") : tool);
 }
 
 REGISTER_TEST(NotchWindowTest);
