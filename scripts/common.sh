@@ -1,13 +1,16 @@
 # Shared by ./run and ./test: source it from the project's top folder.
 
-# install_packages [SECTION...]: installs what packages.txt lists and is missing, all of it without a section.
-install_packages() {
-    local wanted missing=()
-    wanted=$(awk -v sections="$(printf '%s|' "$@")" '
+# packages_of [SECTION...]: what packages.txt lists there, all of it without a section.
+packages_of() {
+    awk -v sections="$(printf '%s|' "$@")" '
         /^# / { section = substr($0, 3); next }
-        NF && (sections == "|" || index("|" sections, "|" section "|")) { print $1 }' packages.txt)
-    local package
-    for package in $wanted; do
+        NF && (sections == "|" || index("|" sections, "|" section "|")) { print $1 }' packages.txt
+}
+
+# install_packages [SECTION...]: installs what of them is missing.
+install_packages() {
+    local package missing=()
+    for package in $(packages_of "$@"); do
         dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
     done
     ((${#missing[@]})) || return 0

@@ -52,18 +52,23 @@ Kestrune::SqliteUserDefaults Session::read(const QString &domain) const
     return SqliteUserDefaults(defaultsFile(domain), SqliteUserDefaults::Access::ReadOnly);
 }
 
+QString Session::executable()
+{
+    return qEnvironmentVariable("KESTRUNE_PROGRAM", QStringLiteral(KESTRUNE_EXECUTABLE));
+}
+
 bool Session::start(const QStringList &arguments)
 {
     m_program = std::make_unique<ChildProcess>(m_environment);
     m_program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    return m_program->launch(QStringLiteral(KESTRUNE_EXECUTABLE), arguments) &&
+    return m_program->launch(executable(), arguments) &&
            waitUntil([this] { return !status().isEmpty() || !isRunning(); }, 10000) && isRunning();
 }
 
 Session::Result Session::command(const QStringList &arguments) const
 {
     ChildProcess process(m_environment);
-    if (!process.launch(QStringLiteral(KESTRUNE_EXECUTABLE), arguments) || !process.waitForFinished(15000))
+    if (!process.launch(executable(), arguments) || !process.waitForFinished(15000))
         return {};
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAllStandardOutput()),

@@ -58,6 +58,8 @@ public:
     qint64 ownMemory() const;
 
 private:
+    /// The program of this build, or the one that KESTRUNE_PROGRAM names, such as an installed one.
+    static QString executable();
     QString defaultsFile(const QString &domain) const;
     Kestrune::SqliteUserDefaults read(const QString &domain) const;
 

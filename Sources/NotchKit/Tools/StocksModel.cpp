@@ -11,7 +11,7 @@ namespace {
 
 constexpr auto kPause = 60s;
 constexpr std::chrono::milliseconds kTimeout = 60s;
-constexpr qint64 kMostBytes = 128 * 1024; // ten times what the service sends
+constexpr qint64 kMostBytes = qint64{128} * 1024; // ten times what the service sends
 
 HttpRequest chartRequest(const char *host, const QString &symbol)
 {

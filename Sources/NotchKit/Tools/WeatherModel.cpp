@@ -16,7 +16,7 @@ namespace {
 
 constexpr auto kPause = 15min;
 constexpr std::chrono::milliseconds kTimeout = 60s;
-constexpr qint64 kMostBytes = 64 * 1024; // twenty times what the services send
+constexpr qint64 kMostBytes = qint64{64} * 1024; // twenty times what the services send
 
 HttpRequest get(const char *host, const QByteArray &target)
 {
