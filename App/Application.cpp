@@ -4,6 +4,7 @@
 #include "NotchKit/Views/NotchWindow.h"
 #include "StandardSettings.h"
 #include "TrayIcon.h"
+#include "Updates.h"
 
 #include <QCoreApplication>
 
@@ -26,6 +27,7 @@ Application::Application(const QDBusConnection &bus)
     , m_players(bus)
     , m_camera(bus)
     , m_calendars(bus, m_defaults)
+    , m_updater(makeUpdater({m_http, m_clock, m_defaults, m_workspace}))
     , m_appearance(bus)
     , m_panels(m_engine, m_desktop)
     , m_alert(m_engine)
@@ -53,9 +55,10 @@ void Application::run(const LaunchRequest &request)
                               m_scripts, m_host,     m_camera,     m_calendars};
     const NotchControllerPlatform controller{m_clock, m_displays, m_pointer, m_panels, m_hotKeys, m_drags};
     m_state = std::make_unique<AppState>(app, tools, controller, request);
-    m_settingsWindow = std::make_unique<SettingsWindow>(m_engine, *m_state, m_updater, m_appearance);
+    m_settingsWindow = std::make_unique<SettingsWindow>(m_engine, *m_state, *m_updater, m_appearance);
+    m_updateWindow = std::make_unique<UpdateWindow>(m_engine, *m_updater, m_appearance);
     m_statusItem = std::make_unique<BusStatusItem>(m_bus, NotchBranding::fennivar().name, trayIcon);
-    m_menu = std::make_unique<AppMenu>(*m_state, m_updater, *m_statusItem);
+    m_menu = std::make_unique<AppMenu>(*m_state, *m_updater, *m_statusItem);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());
     m_control = std::make_unique<ControlService>(*m_state, *m_keys);
     m_bus.registerObject(ControlService::objectPath(), m_control.get(),

@@ -21,16 +21,17 @@
 #include "Desktop/System/LinuxStatistics.h"
 #include "Desktop/Time/SystemClock.h"
 #include "Desktop/Tray/BusStatusItem.h"
-#include "Desktop/Updates/PackagedUpdater.h"
 #include "Desktop/X11/X11Desktop.h"
 #include "Desktop/X11/X11Displays.h"
 #include "Desktop/X11/X11DragPasteboard.h"
 #include "Desktop/X11/X11HotKeys.h"
 #include "Desktop/X11/X11Pasteboard.h"
 #include "Desktop/X11/X11Pointer.h"
+#include "NotchKit/Platform/Updater.h"
 #include "NotchKit/Views/AlertWindow.h"
 #include "PanelFactory.h"
 #include "SettingsWindow.h"
+#include "UpdateWindow.h"
 
 #include <QDBusConnection>
 #include <QQmlEngine>
@@ -77,13 +78,14 @@ private:
     LinuxStatistics m_host;
     HelperCamera m_camera;
     DesktopCalendars m_calendars;
-    PackagedUpdater m_updater;
+    std::unique_ptr<Updater> m_updater;
     PortalAppearance m_appearance;
     QQmlEngine m_engine;
     PanelFactory m_panels;
     AlertWindow m_alert;
     std::unique_ptr<AppState> m_state;
     std::unique_ptr<SettingsWindow> m_settingsWindow;
+    std::unique_ptr<UpdateWindow> m_updateWindow;
     std::unique_ptr<BusStatusItem> m_statusItem;
     std::unique_ptr<AppMenu> m_menu;
     std::unique_ptr<SettingsKeys> m_keys;

@@ -1,6 +1,6 @@
 #include "LocalServices.h"
 
-#include "Desktop/Network/QtHttpClient.h"
+#include "Desktop/Network/Addresses.h"
 #include "NotchKit/Tools/WebServices.h"
 
 #include <algorithm>

@@ -731,5 +731,97 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
     </message>
+    <message>
+        <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>
+        <translation>Kestrune sucht dann einmal am Tag, lädt, was neu ist, und fragt, bevor es installiert wird.</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>Softwareupdate</translation>
+    </message>
+    <message>
+        <source>The list of releases is not signed by Kestrune’s makers, so it was ignored.</source>
+        <translation>Die Liste der Versionen ist nicht von den Machern von Kestrune signiert und wurde deshalb ignoriert.</translation>
+    </message>
+    <message>
+        <source>The list of releases could not be read. Are you online?</source>
+        <translation>Die Liste der Versionen ließ sich nicht lesen. Bist du online?</translation>
+    </message>
+    <message>
+        <source>The list of releases is older than one seen before, so it was ignored.</source>
+        <translation>Die Liste der Versionen ist älter als eine frühere und wurde deshalb ignoriert.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Are you online?</source>
+        <translation>Das Update ließ sich nicht laden. Bist du online?</translation>
+    </message>
+    <message>
+        <source>The update is not what Kestrune’s makers signed, so it was not kept.</source>
+        <translation>Das Update ist nicht das, was die Macher von Kestrune signiert haben, und wurde deshalb nicht behalten.</translation>
+    </message>
+    <message>
+        <source>The update could not be saved. Is the disk full?</source>
+        <translation>Das Update ließ sich nicht speichern. Ist der Datenträger voll?</translation>
+    </message>
+    <message>
+        <source>The downloaded update was changed or removed.</source>
+        <translation>Das geladene Update wurde verändert oder entfernt.</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Updates werden gesucht …</translation>
+    </message>
+    <message>
+        <source>Kestrune is up to date</source>
+        <translation>Kestrune ist auf dem neuesten Stand</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is available</source>
+        <translation>Kestrune %@ ist verfügbar</translation>
+    </message>
+    <message>
+        <source>Downloading Kestrune %@…</source>
+        <translation>Kestrune %@ wird geladen …</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is ready to install</source>
+        <translation>Kestrune %@ kann installiert werden</translation>
+    </message>
+    <message>
+        <source>Kestrune could not be updated</source>
+        <translation>Kestrune konnte nicht aktualisiert werden</translation>
+    </message>
+    <message>
+        <source>Version %@ is the newest one.</source>
+        <translation>Version %@ ist die neueste.</translation>
+    </message>
+    <message>
+        <source>You have version %@.</source>
+        <translation>Du hast Version %@.</translation>
+    </message>
+    <message>
+        <source>It was checked: it comes from Kestrune’s makers.</source>
+        <translation>Geprüft: Es kommt von den Machern von Kestrune.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Laden</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>Installieren …</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
 </context>
 </TS>

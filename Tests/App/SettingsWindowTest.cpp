@@ -1,5 +1,6 @@
 #include "App/SettingsWindow.h"
 #include "App/AppStage.h"
+#include "App/UpdateWindow.h"
 #include "NotchKit/Platform/Appearance.h"
 #include "NotchKit/Platform/Updater.h"
 #include "NotchKit/Views/WindowStage.h"
@@ -220,6 +221,12 @@ private Q_SLOTS:
         Stage stage;
         const auto corner = [&] { return stage.window()->grabWindow().pixelColor(2, 2).lightness(); };
         QVERIFY(corner() < 60);
+        // The other window shares the look, and takes nothing with it.
+        const UpdateWindow updates(stage.engine, stage.updater, stage.appearance);
+        Q_EMIT stage.updater.attentionWanted();
+        QVERIFY(updates.window() && updates.window()->isVisible());
+        updates.window()->close();
+        QTRY_VERIFY(!updates.window());
         stage.appearance.setDark(false);
         QVERIFY(corner() > 200);
         QCOMPARE(stage.window()->size(), QSize(560, 760));

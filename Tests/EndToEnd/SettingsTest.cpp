@@ -68,27 +68,11 @@ private:
     bool isActive()
     {
         m_window = stage().x.activeWindow();
-        const auto *name = xcb_get_property_reply(
-            stage().x.connection(),
-            xcb_get_property(stage().x.connection(), 0, m_window, XCB_ATOM_WM_NAME, XCB_ATOM_ANY, 0, 64),
-            nullptr);
-        const bool ours = name && QByteArray(static_cast<const char *>(xcb_get_property_value(name)),
-                                             xcb_get_property_value_length(name))
-                                      .contains("Settings");
-        std::free(const_cast<xcb_get_property_reply_t *>(name)); // NOLINT: the library allocates so.
-        return ours;
+        return stage().x.title(m_window).contains("Settings");
     }
 
     /// A place in the window on the screen.
-    QPoint place(QPoint inside)
-    {
-        auto *at = xcb_translate_coordinates_reply(
-            stage().x.connection(),
-            xcb_translate_coordinates(stage().x.connection(), m_window, stage().x.root(), 0, 0), nullptr);
-        const QPoint origin = at ? QPoint(at->dst_x, at->dst_y) : QPoint();
-        std::free(at); // NOLINT: the library allocates so.
-        return origin + inside;
-    }
+    QPoint place(QPoint inside) { return stage().x.geometry(m_window).topLeft() + inside; }
     QRect area() { return {place({}), QSize(540, 700)}; }
 
     /// Whether the switch of the hot key shows its colour where its knob is while it is off.

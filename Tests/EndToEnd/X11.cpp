@@ -120,6 +120,24 @@ xcb_window_t X11::focus() const
     return reply ? reply->focus : xcb_window_t{XCB_WINDOW_NONE};
 }
 
+QByteArray X11::title(xcb_window_t window) const
+{
+    const auto cookie = xcb_get_property(m_connection, 0, window, XCB_ATOM_WM_NAME, XCB_ATOM_ANY, 0, 64);
+    const auto reply = owned(xcb_get_property_reply(m_connection, cookie, nullptr));
+    return reply ? QByteArray(static_cast<const char *>(xcb_get_property_value(reply.get())),
+                              xcb_get_property_value_length(reply.get()))
+                 : QByteArray();
+}
+
+QRect X11::geometry(xcb_window_t window) const
+{
+    const auto shape =
+        owned(xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));
+    const auto place = owned(xcb_translate_coordinates_reply(
+        m_connection, xcb_translate_coordinates(m_connection, window, root(), 0, 0), nullptr));
+    return shape && place ? QRect(place->dst_x, place->dst_y, shape->width, shape->height) : QRect();
+}
+
 QList<xcb_window_t> X11::topWindows(QSize size) const
 {
     const auto tree =

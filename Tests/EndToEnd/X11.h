@@ -45,6 +45,11 @@ public:
     xcb_window_t focus() const;
     QList<quint32> clientWindows() const { return property(root(), "_NET_CLIENT_LIST"); }
 
+    QByteArray title(xcb_window_t window) const;
+
+    /// Where its inside is on the screen.
+    QRect geometry(xcb_window_t window) const;
+
     /// The windows right below the root that are on screen and are `size` large.
     QList<xcb_window_t> topWindows(QSize size) const;
 

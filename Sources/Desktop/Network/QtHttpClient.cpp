@@ -1,8 +1,8 @@
 #include "QtHttpClient.h"
 
+#include "Addresses.h"
 #include "HttpExchange.h"
 
-#include <QHostAddress>
 #include <QNetworkAccessManager>
 #include <QNetworkProxyFactory>
 
@@ -22,23 +22,14 @@ public:
     }
 };
 
-bool isAllowed(const QUrl &url)
-{
-    return url.isValid() && !url.host().isEmpty() &&
-           (url.scheme() == QLatin1String("https") ||
-            (url.scheme() == QLatin1String("http") && isLoopback(url)));
-}
-
 } // namespace
-
-bool isLoopback(const QUrl &url) { return QHostAddress(url.host()).isLoopback(); }
 
 QFuture<HttpReply> QtHttpClient::get(const HttpRequest &request)
 {
     const auto promise = std::make_shared<QPromise<HttpReply>>();
     promise->start();
     const QFuture<HttpReply> future = promise->future();
-    if (!isAllowed(request.url)) {
+    if (!isFetchable(request.url)) {
         promise->addResult(HttpReply());
         promise->finish();
         return future;

@@ -20,7 +20,4 @@ private:
     WorkLoop m_loop{QStringLiteral("network")};
 };
 
-/// Whether the address names this computer by number: 127.0.0.1, [::1] and the like.
-bool isLoopback(const QUrl &url);
-
 } // namespace Kestrune

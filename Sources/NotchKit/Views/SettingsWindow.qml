@@ -67,7 +67,9 @@ Window {
                 FormSection {
                     width: parent.width
                     title: "Kestrune"
-                    footer: window.updater.managed ? qsTranslate("notch", "This copy gets its updates with its package, or from whoever built it.") : ""
+                    footer: window.updater.managed
+                        ? qsTranslate("notch", "This copy gets its updates with its package, or from whoever built it.")
+                        : qsTranslate("notch", "Kestrune then looks once a day, downloads what is new and asks before it is installed.")
 
                     SwitchRow {
                         title: qsTranslate("notch", "Open Kestrune at login")

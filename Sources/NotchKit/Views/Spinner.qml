@@ -7,6 +7,7 @@ Item {
     id: spinner
 
     required property bool running
+    property color color: Theme.text
     property int step: 0
 
     implicitWidth: 16
@@ -30,7 +31,7 @@ Item {
             width: 3
             height: 3
             radius: 1.5
-            color: Theme.text
+            color: spinner.color
             opacity: 1 - ((spinner.step - index + 8) % 8) * 0.12
         }
     }

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Desktop/Updates/FeedUpdater.h"
+
+#include <memory>
+
+namespace Kestrune {
+
+/// The updater that fits this copy. One that was built with the address of a release feed and the key that
+/// signs it follows that feed; every other belongs to a package manager, or to whoever built it.
+///
+/// For tests, the variables KESTRUNE_FEED and KESTRUNE_FEED_KEY name another feed and key; only an address of
+/// this machine is taken.
+std::unique_ptr<Updater> makeUpdater(const FeedUpdater::Ports &ports);
+
+} // namespace Kestrune

@@ -1,0 +1,102 @@
+#include "ReleaseFeed.h"
+
+#include "Desktop/Network/Addresses.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <sodium.h>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr double kLargestPackage = 256.0 * 1024 * 1024;
+
+/// Nothing for anything but whole, plain base64.
+std::optional<QByteArray> fromBase64(const QByteArray &text)
+{
+    const auto decoded = QByteArray::fromBase64Encoding(text, QByteArray::AbortOnBase64DecodingErrors);
+    return decoded ? std::optional(*decoded) : std::nullopt;
+}
+
+std::optional<QByteArray> bytesOf(const QJsonValue &value)
+{
+    return value.isString() ? fromBase64(value.toString().toLatin1()) : std::nullopt;
+}
+
+std::optional<Release> readEntry(const QByteArray &bytes)
+{
+    const QJsonObject entry = QJsonDocument::fromJson(bytes).object();
+    Release release;
+    release.text = entry[QLatin1String("version")].toString();
+    const auto version = SemanticVersion::parse(release.text);
+    release.package = QUrl(entry[QLatin1String("package")].toString(), QUrl::StrictMode);
+    const double size = entry[QLatin1String("size")].toDouble();
+    const auto signature = bytesOf(entry[QLatin1String("signature")]);
+    const QString name = release.fileName();
+    const bool hasPlace = !name.isEmpty() && !name.startsWith(u'.') && isFetchable(release.package);
+    if (!version || !signature || !hasPlace || !(size >= 1 && size <= kLargestPackage))
+        return std::nullopt;
+    release.version = *version;
+    release.size = static_cast<qint64>(size);
+    release.packageSignature = *signature;
+    const QJsonObject notes = entry[QLatin1String("notes")].toObject();
+    for (auto note = notes.begin(); note != notes.end(); ++note)
+        release.notes.insert(note.key(), note.value().toString());
+    return release;
+}
+
+} // namespace
+
+std::optional<ReleaseKey> ReleaseKey::fromBase64(const QByteArray &text)
+{
+    const auto bytes = Kestrune::fromBase64(text);
+    if (!bytes || bytes->size() != crypto_sign_PUBLICKEYBYTES || sodium_init() < 0)
+        return std::nullopt;
+    ReleaseKey key;
+    key.m_bytes = *bytes;
+    return key;
+}
+
+bool ReleaseKey::hasSigned(const QByteArray &message, const QByteArray &signature) const
+{
+    const auto bytes = [](const QByteArray &data) {
+        return reinterpret_cast<const unsigned char *>(data.constData());
+    };
+    return signature.size() == crypto_sign_BYTES &&
+           crypto_sign_verify_detached(bytes(signature), bytes(message),
+                                       static_cast<unsigned long long>(message.size()), bytes(m_bytes)) == 0;
+}
+
+QString Release::fileName() const
+{
+    // A name may hold an encoded slash.
+    return package.fileName(QUrl::FullyDecoded).section(u'/', -1);
+}
+
+QString Release::notesIn(const QString &tag) const
+{
+    for (const QString &language : {tag, tag.section(u'-', 0, 0), QStringLiteral("en")}) {
+        if (const auto found = notes.constFind(language); found != notes.cend())
+            return *found;
+    }
+    return {};
+}
+
+std::variant<Release, FeedFault> readReleaseFeed(const QByteArray &feed, const ReleaseKey &key)
+{
+    const QJsonObject object = QJsonDocument::fromJson(feed).object();
+    const auto entry = bytesOf(object[QLatin1String("entry")]);
+    const auto signature = bytesOf(object[QLatin1String("signature")]);
+    if (!entry || !signature)
+        return FeedFault::unreadable;
+    if (!key.hasSigned(*entry, *signature))
+        return FeedFault::notSigned;
+    const auto release = readEntry(*entry);
+    if (!release)
+        return FeedFault::unreadable;
+    return *release;
+}
+
+} // namespace Kestrune

@@ -1,0 +1,294 @@
+#include "Desktop/Updates/FeedUpdater.h"
+#include "Desktop/Network/QtHttpClient.h"
+#include "Support/Fakes.h"
+#include "Support/ReleaseSigner.h"
+#include "Support/TestRegistry.h"
+#include "Support/WebStandIn.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+#include <sys/resource.h>
+
+using namespace Kestrune;
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+using Phase = UpdateStatus::Phase;
+using Reply = WebStandIn::Answer;
+
+const QByteArray kPackage = "a package";
+
+/// The updater of version 1.2.0, with a server of the makers' that gives what the test says.
+struct Stage
+{
+    QJsonObject entry(const QString &version) const
+    {
+        return signer.entry(version, server.url(u"/kestrune.deb"_s), kPackage);
+    }
+    Phase check(const Reply &reply)
+    {
+        feed = reply;
+        updater.checkForUpdates();
+        return settled();
+    }
+    Phase check(const QString &version) { return check(page(entry(version))); }
+    Reply page(const QJsonObject &entry) const { return WebStandIn::page(200, signer.feed(entry)); }
+
+    /// Once what is under way is over.
+    Phase settled()
+    {
+        const auto phase = [this] { return updater.status().phase; };
+        if (!QTest::qWaitFor([&] { return phase() != Phase::checking && phase() != Phase::fetching; }))
+            qWarning("it goes on and on");
+        return phase();
+    }
+
+    ReleaseSigner signer;
+    Reply feed; ///< Changed between requests only.
+    Reply package = WebStandIn::page(200, kPackage);
+    WebStandIn server{[this](const auto &request) { return request.target == "/feed" ? feed : package; }};
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"updates/kestrune.deb"_s);
+    Fakes::FakeClock clock;
+    QtHttpClient http;
+    Fakes::MemoryDefaults defaults;
+    Fakes::FakeWorkspace workspace;
+    FeedUpdater updater{{server.url(u"/feed"_s), *ReleaseKey::fromBase64(signer.publicHalf()),
+                         *SemanticVersion::parse(u"1.2.0"_s), 700ms},
+                        {http, clock, defaults, workspace},
+                        folder.filePath(u"updates"_s)};
+    QSignalSpy attention{&updater, &Updater::attentionWanted};
+};
+
+/// As long as it lives, no file can grow beyond a few bytes.
+class FullDisk
+{
+public:
+    FullDisk()
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit tight{4, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &tight);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    Q_DISABLE_COPY_MOVE(FullDisk)
+
+private:
+    rlimit m_before{};
+};
+
+} // namespace
+
+Q_DECLARE_METATYPE(WebStandIn::Answer)
+
+/// What the updater makes of feeds and packages, right and wrong, over a real connection.
+class FeedUpdaterTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void versionsInTheirOrder()
+    {
+        const QStringList ascending{
+            u"0.9.9"_s,      u"1.0.0-alpha"_s,  u"1.0.0-alpha.1"_s, u"1.0.0-alpha.beta"_s,
+            u"1.0.0-beta"_s, u"1.0.0-beta.2"_s, u"1.0.0-beta.11"_s, u"1.0.0-rc.1"_s,
+            u"1.0.0"_s,      u"1.0.9"_s,        u"1.0.10"_s,        u"1.10.0"_s,
+            u"2.0.0"_s};
+        for (qsizetype i = 0; i < ascending.size(); ++i) {
+            for (qsizetype j = 0; j < ascending.size(); ++j)
+                QVERIFY2((*SemanticVersion::parse(ascending[i]) <=> *SemanticVersion::parse(ascending[j])) ==
+                             (i <=> j),
+                         qPrintable(ascending[i] + u" and "_s + ascending[j]));
+        }
+        QVERIFY(*SemanticVersion::parse(u"1.0.0+5"_s) == *SemanticVersion::parse(u"1.0.0"_s));
+        for (const QString &wrong :
+             {u""_s, u"1"_s, u"1.2"_s, u"1.2.3.4"_s, u"v1.2.3"_s, u"1.2.3-"_s, u"1.2.x"_s, u"1.2.3\n"_s})
+            QVERIFY2(!SemanticVersion::parse(wrong), qPrintable(wrong));
+    }
+
+    void feeds_data()
+    {
+        QTest::addColumn<std::function<Reply(const Stage &)>>("reply");
+        QTest::addColumn<UpdateStatus::Phase>("phase");
+        const auto row = [](const char *name, Phase phase, const std::function<Reply(const Stage &)> &reply) {
+            QTest::newRow(name) << reply << phase;
+        };
+        const auto of = [](const QString &version) {
+            return [version](const Stage &stage) { return stage.page(stage.entry(version)); };
+        };
+        const auto raw = [](const Reply &reply) { return [reply](const Stage &) { return reply; }; };
+        const auto with = [](const QString &key, const QJsonValue &value) {
+            return [key, value](const Stage &stage) {
+                QJsonObject entry = stage.entry(u"9.0.0"_s);
+                entry[key] = value;
+                return stage.page(entry);
+            };
+        };
+        row("newer", Phase::available, of(u"1.3.0"_s));
+        row("same", Phase::current, of(u"1.2.0"_s));
+        row("older", Phase::current, of(u"1.1.9"_s));
+        row("test version", Phase::current, of(u"1.2.0-rc.1"_s));
+        row("altered", Phase::failed, [](const Stage &stage) {
+            const auto text = [&](const QString &version) {
+                return ReleaseSigner::json(stage.entry(version)).toBase64();
+            };
+            QByteArray feed = stage.signer.feed(stage.entry(u"1.3.0"_s));
+            return WebStandIn::page(200, feed.replace(text(u"1.3.0"_s), text(u"1.4.0"_s)));
+        });
+        row("wrong key", Phase::failed, [](const Stage &stage) {
+            return WebStandIn::page(200, ReleaseSigner().feed(stage.entry(u"1.3.0"_s)));
+        });
+        row("to plain http", Phase::failed, [](const Stage &stage) {
+            return WebStandIn::page(302, {},
+                                    "Location: " + stage.server.url(u"/kestrune.deb"_s).toEncoded() + "\r\n");
+        });
+        row("slow", Phase::failed, [](const Stage &stage) {
+            Reply reply = stage.page(stage.entry(u"1.3.0"_s));
+            reply.piece = 1;
+            reply.pause = 20ms;
+            return reply;
+        });
+        row("gone", Phase::failed, raw({{}, 0, 0ms, Reply::End::reset}));
+        row("not found", Phase::failed, raw(WebStandIn::page(404, "no")));
+        row("no feed", Phase::failed, raw(WebStandIn::page(200, "<html>")));
+        row("endless", Phase::failed, raw(WebStandIn::page(200, QByteArray(300'000, ' '))));
+        row("package over plain http", Phase::failed, with(u"package"_s, u"http://host/kestrune.deb"_s));
+        row("package without a name", Phase::failed, with(u"package"_s, u"https://host/a%2F..%2F.."_s));
+        row("no version", Phase::failed, with(u"version"_s, 9));
+        row("no size", Phase::failed, with(u"size"_s, -1));
+        row("no signature", Phase::failed, with(u"signature"_s, u"?"_s));
+    }
+    void feeds()
+    {
+        QFETCH(const std::function<Reply(const Stage &)>, reply);
+        QFETCH(const UpdateStatus::Phase, phase);
+        Stage stage;
+        QCOMPARE(stage.check(reply(stage)), phase);
+        QCOMPARE(stage.updater.status().message.isEmpty(), phase != Phase::failed);
+        QCOMPARE(stage.updater.status().notes, phase == Phase::available ? u"New in 1.3.0"_s : QString());
+        QCOMPARE(stage.attention.count(), 1);
+        QVERIFY(!stage.server.targets().contains("/kestrune.deb")); // nothing is fetched unasked
+    }
+
+    void anOldFeedIsNotPlayedBack()
+    {
+        Stage stage;
+        QCOMPARE(stage.check(u"1.4.0"_s), Phase::available);
+        QCOMPARE(stage.check(u"1.3.0"_s), Phase::failed);
+        QCOMPARE(stage.check(u"1.4.0"_s), Phase::available);
+    }
+
+    void packages_data()
+    {
+        QTest::addColumn<WebStandIn::Answer>("reply");
+        QTest::addColumn<int>("told"); // of its size, beyond the truth
+        QTest::addColumn<UpdateStatus::Phase>("phase");
+        const Reply whole = WebStandIn::page(200, kPackage);
+        QTest::newRow("whole") << whole << 0 << Phase::ready;
+        QTest::newRow("truncated") << WebStandIn::page(200, kPackage.chopped(1)) << 0 << Phase::failed;
+        QTest::newRow("broken off") << Reply{whole.bytes.chopped(1), 0, 0ms, Reply::End::close} << 0
+                                    << Phase::failed;
+        QTest::newRow("altered") << WebStandIn::page(200, "b package") << 0 << Phase::failed;
+        QTest::newRow("longer than told") << whole << -1 << Phase::failed;
+        QTest::newRow("shorter than told") << whole << 1 << Phase::failed;
+        QTest::newRow("gone") << WebStandIn::page(410, {}) << 0 << Phase::failed;
+    }
+    void packages()
+    {
+        QFETCH(const WebStandIn::Answer, reply);
+        QFETCH(const int, told);
+        QFETCH(const UpdateStatus::Phase, phase);
+        Stage stage;
+        stage.package = reply;
+        QJsonObject entry = stage.entry(u"1.3.0"_s);
+        entry[u"size"_s] = kPackage.size() + told;
+        QCOMPARE(stage.check(stage.page(entry)), Phase::available);
+        stage.updater.fetchUpdate();
+        QCOMPARE(stage.updater.status().phase, Phase::fetching);
+        QCOMPARE(stage.settled(), phase);
+        QCOMPARE(stage.attention.count(), 2);
+        QCOMPARE(QFile::exists(stage.path), phase == Phase::ready);
+    }
+
+    void aDiskThatTakesNothing_data()
+    {
+        QTest::addColumn<bool>("full");
+        QTest::newRow("full") << true;
+        QTest::newRow("unwritable") << false;
+    }
+    void aDiskThatTakesNothing()
+    {
+        QFETCH(const bool, full);
+        Stage stage;
+        QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
+        QFile blocking(stage.folder.filePath(u"updates"_s));
+        QVERIFY(full || blocking.open(QFile::WriteOnly));
+        {
+            const std::optional<FullDisk> disk = full ? std::make_optional<FullDisk>() : std::nullopt;
+            stage.updater.fetchUpdate();
+            QCOMPARE(stage.settled(), Phase::failed);
+        }
+        QVERIFY(stage.updater.status().message.contains(u"disk"_s));
+        QVERIFY(!QFile::exists(stage.path));
+    }
+
+    /// It is fetched once, and opened only as it was signed.
+    void aKeptPackage()
+    {
+        Stage stage;
+        QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
+        stage.updater.installUpdate();
+        stage.updater.fetchUpdate();
+        QCOMPARE(stage.settled(), Phase::ready);
+        QCOMPARE(stage.check(u"1.3.0"_s), Phase::ready);
+        QCOMPARE(stage.server.targets().count("/kestrune.deb"), 1);
+        QVERIFY(stage.workspace.opened.isEmpty());
+        stage.updater.installUpdate();
+        QTRY_COMPARE(stage.workspace.opened, QList{QUrl::fromLocalFile(stage.path)});
+
+        QFile file(stage.path);
+        QVERIFY(file.open(QFile::ReadWrite) && file.write("b") == 1);
+        file.close();
+        stage.updater.installUpdate();
+        QTRY_COMPARE(stage.updater.status().phase, Phase::failed);
+        QCOMPARE(stage.workspace.opened.size(), 1);
+        QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
+    }
+
+    void looksByItselfOnlyWhereAllowed()
+    {
+        Stage stage;
+        stage.feed = stage.page(stage.entry(u"1.3.0"_s));
+        stage.clock.advance(72h);
+        stage.updater.setAutomaticallyDownloadsUpdates(true);
+        stage.clock.advance(59s);
+        QCOMPARE(stage.updater.status().phase, Phase::idle);
+        stage.clock.advance(1s);
+        QTRY_COMPARE(stage.updater.status().phase, Phase::ready);
+        QCOMPARE(stage.attention.count(), 1);
+        stage.clock.advance(24h);
+        QCOMPARE(stage.updater.status().phase, Phase::checking);
+        QCOMPARE(stage.settled(), Phase::ready);
+        QCOMPARE(stage.attention.count(), 1); // once is enough
+        QCOMPARE(stage.server.targets(), (QList<QByteArray>{"/feed", "/kestrune.deb", "/feed"}));
+        stage.feed = WebStandIn::page(503, "busy");
+        stage.clock.advance(24h);
+        QCOMPARE(stage.settled(), Phase::failed);
+        QCOMPARE(stage.attention.count(), 1);
+        QVERIFY(stage.workspace.opened.isEmpty());
+        stage.updater.setAutomaticallyDownloadsUpdates(false);
+        stage.clock.advance(72h);
+        QCOMPARE(stage.updater.status().phase, Phase::failed);
+        QCOMPARE(stage.server.log().size(), 4);
+    }
+};
+
+REGISTER_TEST(FeedUpdaterTest);
+#include "FeedUpdaterTest.moc"
