@@ -2,10 +2,13 @@
 #include "CommandLine.h"
 #include "Desktop/X11/X11Connection.h"
 #include "LocalServices.h"
+#include "NotchKit/NotchStrings.h"
 #include "SingleInstance.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QHash>
+#include <QLocale>
 #include <QQuickWindow>
 
 #include <cstdio>
@@ -70,10 +73,23 @@ void setUpFont()
     const QString inter = QStringLiteral("Inter");
     if (!QFontDatabase::hasFamily(inter))
         return;
+    // Scripts that it lacks: one letter may look different in each language that has it.
+    static const QHash<QString, QString> scripts{
+        {QStringLiteral("ar"), QStringLiteral("Noto Sans Arabic")},
+        {QStringLiteral("ja"), QStringLiteral("Noto Sans CJK JP")},
+        {QStringLiteral("ko"), QStringLiteral("Noto Sans CJK KR")},
+        {QStringLiteral("zh-CN"), QStringLiteral("Noto Sans CJK SC")}};
+    QStringList families{inter};
+    const QString script = scripts.value(notchLanguage());
+    if (!script.isEmpty())
+        families.append(script);
     QFont font = QGuiApplication::font();
-    font.setFamily(inter);
+    font.setFamilies(families);
     QGuiApplication::setFont(font);
 }
+
+/// The views are turned around where the language is written from right to left.
+void setUpDirection() { QGuiApplication::setLayoutDirection(QLocale(notchLanguage()).textDirection()); }
 
 int runProgram(int argc, char *argv[], const QStringList &arguments)
 {
@@ -92,6 +108,7 @@ int runProgram(int argc, char *argv[], const QStringList &arguments)
     environment.restore();
     QGuiApplication::setQuitOnLastWindowClosed(false);
     setUpFont();
+    setUpDirection();
 
     const LaunchRequest request = LaunchRequest::parse(arguments);
     const QDBusConnection bus = QDBusConnection::sessionBus();

@@ -257,7 +257,7 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Last 7 days</source>
-        <translation>آخر 7 أيام</translation>
+        <translation>آخر سبعة أيام</translation>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
@@ -293,7 +293,7 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>5-hour window</source>
-        <translation>نافذة 5 ساعات</translation>
+        <translation>نافذة خمس ساعات</translation>
     </message>
     <message>
         <source>Weekly</source>
@@ -313,7 +313,7 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>This 5-hour block</source>
-        <translation>الفترة الحالية (5 ساعات)</translation>
+        <translation>فترة الخمس ساعات الحالية</translation>
     </message>
     <message>
         <source>Resets: %@</source>
@@ -609,7 +609,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Discover Fennivar ↗</source>
-        <translation>اكتشف Fennivar ↗</translation>
+        <translation>اكتشف Fennivar ↖</translation>
     </message>
     <message>
         <source>Opening</source>
@@ -685,7 +685,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Claude 5-hour budget (tokens)</source>
-        <translation>ميزانية Claude لكل 5 ساعات (رموز مميزة)</translation>
+        <translation>ميزانية Claude لكل خمس ساعات (رموز مميزة)</translation>
     </message>
     <message>
         <source>Tools</source>

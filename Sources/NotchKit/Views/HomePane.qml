@@ -20,6 +20,7 @@ Pane {
         id: row
 
         anchors.fill: parent
+        LayoutMirroring.enabled: false // The settings name the columns left, center and right.
         spacing: Theme.gap
 
         Repeater {

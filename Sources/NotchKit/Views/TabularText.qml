@@ -10,6 +10,8 @@ Row {
     property int weight: Font.Normal
     property color color: Theme.text
 
+    LayoutMirroring.enabled: false // The digits of a number are not turned around.
+    LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.StaticText
     Accessible.name: text
 
@@ -18,7 +20,7 @@ Row {
 
         font.pixelSize: line.size
         font.weight: line.weight
-        text: "0"
+        text: Format.digits("0")
     }
 
     Repeater {
@@ -27,9 +29,9 @@ Row {
         Text {
             required property int index
 
-            readonly property string character: line.text.charAt(index)
+            readonly property string character: Format.digits(line.text.charAt(index))
 
-            width: character >= "0" && character <= "9" ? Math.ceil(widest.advanceWidth) : implicitWidth
+            width: character !== ":" ? Math.ceil(widest.advanceWidth) : implicitWidth
             text: character
             font: widest.font
             color: line.color
