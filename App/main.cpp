@@ -73,9 +73,10 @@ void setUpFont()
     const QString inter = QStringLiteral("Inter");
     if (!QFontDatabase::hasFamily(inter))
         return;
-    // Scripts that it lacks: one letter may look different in each language that has it.
+    // Scripts that it lacks. One Chinese character looks different in each language that has it, and only the
+    // interface's Arabic has lines as high as the others'.
     static const QHash<QString, QString> scripts{
-        {QStringLiteral("ar"), QStringLiteral("Noto Sans Arabic")},
+        {QStringLiteral("ar"), QStringLiteral("Noto Sans Arabic UI")},
         {QStringLiteral("ja"), QStringLiteral("Noto Sans CJK JP")},
         {QStringLiteral("ko"), QStringLiteral("Noto Sans CJK KR")},
         {QStringLiteral("zh-CN"), QStringLiteral("Noto Sans CJK SC")}};

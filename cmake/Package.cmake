@@ -24,5 +24,5 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "fonts-inter, geoclue-2.0, gstreamer1.0-pipewire, libcanberra-pulse, libqt6positioning6-plugins, \
 qt6-image-formats-plugins")
 # The interface font has Latin letters only; a desktop in another script brings a font for it.
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "evolution-data-server, fonts-noto-cjk, fonts-noto-core, kdeconnect")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "evolution-data-server, fonts-noto-cjk, fonts-noto-ui-core, kdeconnect")
 include(CPack)

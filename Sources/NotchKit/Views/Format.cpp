@@ -4,6 +4,7 @@
 #include "NotchKit/RelativeTime.h"
 #include "NotchKit/Tools/TimerModel.h"
 
+#include <QFontMetricsF>
 #include <QLocale>
 
 #include <algorithm>
@@ -26,6 +27,15 @@ QString Format::digits(QString text)
             character = QChar(static_cast<char16_t>(zero.at(0).unicode() + character.unicode() - u'0'));
     }
     return text;
+}
+
+double Format::digitWidth(const QFont &font)
+{
+    const QFontMetricsF metrics(font);
+    double widest = 0;
+    for (const QChar digit : digits(QStringLiteral("0123456789")))
+        widest = std::max(widest, metrics.horizontalAdvance(digit));
+    return widest;
 }
 
 QString Format::playTime(double seconds)

@@ -16,11 +16,12 @@ Row {
     Accessible.name: text
 
     TextMetrics {
-        id: widest
+        id: metrics
+
+        readonly property real digitWidth: Math.ceil(Format.digitWidth(font))
 
         font.pixelSize: line.size
         font.weight: line.weight
-        text: Format.digits("0")
     }
 
     Repeater {
@@ -31,9 +32,9 @@ Row {
 
             readonly property string character: Format.digits(line.text.charAt(index))
 
-            width: character !== ":" ? Math.ceil(widest.advanceWidth) : implicitWidth
+            width: character !== ":" ? metrics.digitWidth : implicitWidth
             text: character
-            font: widest.font
+            font: metrics.font
             color: line.color
             horizontalAlignment: Text.AlignHCenter
             Accessible.ignored: true

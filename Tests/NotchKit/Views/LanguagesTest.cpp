@@ -288,9 +288,9 @@ class LanguagesTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        for (const auto *family : {"Inter", "Noto Sans Arabic", "Noto Sans CJK JP"})
+        for (const auto *family : {"Inter", "Noto Sans Arabic UI", "Noto Sans CJK JP"})
             QVERIFY2(QFontDatabase::hasFamily(QLatin1String(family)), family);
-        QGuiApplication::setFont(QFont(u"Inter"_s));
+        QGuiApplication::setFont(QFont({u"Inter"_s, u"Noto Sans Arabic UI"_s, u"Noto Sans CJK JP"_s}));
         qputenv("HOME", m_home.path().toUtf8());
         writeLogs(m_home.path());
         registerViews();
