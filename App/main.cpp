@@ -2,10 +2,13 @@
 #include "CommandLine.h"
 #include "Desktop/X11/X11Connection.h"
 #include "LocalServices.h"
+#include "NotchKit/NotchStrings.h"
 #include "SingleInstance.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QHash>
+#include <QLocale>
 #include <QQuickWindow>
 
 #include <cstdio>
@@ -70,10 +73,24 @@ void setUpFont()
     const QString inter = QStringLiteral("Inter");
     if (!QFontDatabase::hasFamily(inter))
         return;
+    // Scripts that it lacks. One Chinese character looks different in each language that has it, and only the
+    // interface's Arabic has lines as high as the others'.
+    static const QHash<QString, QString> scripts{
+        {QStringLiteral("ar"), QStringLiteral("Noto Sans Arabic UI")},
+        {QStringLiteral("ja"), QStringLiteral("Noto Sans CJK JP")},
+        {QStringLiteral("ko"), QStringLiteral("Noto Sans CJK KR")},
+        {QStringLiteral("zh-CN"), QStringLiteral("Noto Sans CJK SC")}};
+    QStringList families{inter};
+    const QString script = scripts.value(notchLanguage());
+    if (!script.isEmpty())
+        families.append(script);
     QFont font = QGuiApplication::font();
-    font.setFamily(inter);
+    font.setFamilies(families);
     QGuiApplication::setFont(font);
 }
+
+/// The views are turned around where the language is written from right to left.
+void setUpDirection() { QGuiApplication::setLayoutDirection(QLocale(notchLanguage()).textDirection()); }
 
 int runProgram(int argc, char *argv[], const QStringList &arguments)
 {
@@ -92,6 +109,7 @@ int runProgram(int argc, char *argv[], const QStringList &arguments)
     environment.restore();
     QGuiApplication::setQuitOnLastWindowClosed(false);
     setUpFont();
+    setUpDirection();
 
     const LaunchRequest request = LaunchRequest::parse(arguments);
     const QDBusConnection bus = QDBusConnection::sessionBus();

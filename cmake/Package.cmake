@@ -23,5 +23,6 @@ qml6-module-qtquick-window, gstreamer1.0-plugins-base, gstreamer1.0-plugins-good
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "fonts-inter, geoclue-2.0, gstreamer1.0-pipewire, libcanberra-pulse, libqt6positioning6-plugins, \
 qt6-image-formats-plugins")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "evolution-data-server, kdeconnect")
+# The interface font has Latin letters only; a desktop in another script brings a font for it.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "evolution-data-server, fonts-noto-cjk, fonts-noto-ui-core, kdeconnect")
 include(CPack)

@@ -511,7 +511,7 @@ und es erscheint hier.</translation>
     </message>
     <message>
         <source>Memory</source>
-        <translation>Arbeitsspeicher</translation>
+        <translation>Speicher</translation>
     </message>
     <message>
         <source>Disk</source>

@@ -5,6 +5,8 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <algorithm>
+
 namespace Kestrune {
 
 namespace {
@@ -14,27 +16,16 @@ constexpr auto kContext = "notch";
 
 QString primarySubtag(const QString &tag) { return tag.section(QLatin1Char('-'), 0, 0); }
 
-QString serving(const QString &preference, const QStringList &available)
+/// Written in one script too: Traditional Chinese is not served by Simplified Chinese.
+bool serves(const QString &candidate, const QString &preference)
 {
-    if (available.contains(preference))
-        return preference;
-    const QString language = primarySubtag(preference);
-    if (available.contains(language))
-        return language;
-    for (const QString &candidate : available) {
-        if (primarySubtag(candidate) == language)
-            return candidate;
-    }
-    return {};
+    return primarySubtag(candidate) == primarySubtag(preference) &&
+           QLocale(candidate).script() == QLocale(preference).script();
 }
 
-QStringList availableLocalizations()
+QString fileName(const QString &language)
 {
-    QStringList languages{QStringLiteral("en")};
-    const auto files = QDir(QString::fromLatin1(kTranslations)).entryList({QStringLiteral("*.qm")});
-    for (const QString &file : files)
-        languages.append(file.chopped(3));
-    return languages;
+    return QString(language).replace(QLatin1Char('-'), QLatin1Char('_'));
 }
 
 /// Chooses the language and installs it, so that the views' own look-ups follow it too.
@@ -44,7 +35,7 @@ public:
     Translation()
         : m_language(chooseLocalization(availableLocalizations(), QLocale::system().uiLanguages()))
     {
-        if (m_translator.load(m_language, QString::fromLatin1(kTranslations)))
+        if (m_translator.load(fileName(m_language), QString::fromLatin1(kTranslations)))
             QCoreApplication::installTranslator(&m_translator);
     }
 
@@ -63,12 +54,24 @@ private:
 
 } // namespace
 
+QStringList availableLocalizations()
+{
+    QStringList languages{QStringLiteral("en")};
+    const auto files = QDir(QString::fromLatin1(kTranslations)).entryList({QStringLiteral("*.qm")});
+    for (const QString &file : files)
+        languages.append(file.chopped(3).replace(QLatin1Char('_'), QLatin1Char('-')));
+    return languages;
+}
+
 QString chooseLocalization(const QStringList &available, const QStringList &preferences)
 {
     for (const QString &preference : preferences) {
-        const QString found = serving(preference, available);
-        if (!found.isEmpty())
-            return found;
+        if (available.contains(preference))
+            return preference;
+        const auto found = std::ranges::find_if(
+            available, [&](const QString &candidate) { return serves(candidate, preference); });
+        if (found != available.cend())
+            return *found;
     }
     return QStringLiteral("en");
 }

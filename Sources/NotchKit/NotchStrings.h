@@ -12,8 +12,12 @@ QString notchStrings(const char *english);
 /// The language that notchStrings speaks, a BCP 47 tag.
 QString notchLanguage();
 
+/// The languages that the program speaks, BCP 47 tags; English is the first.
+QStringList availableLocalizations();
+
 /// The first of the user's `preferences` (BCP 47 tags, best first) that one of the `available`
-/// translations serves; "en" when none does. "de-AT" is served by "de"; "pt" by "pt-BR".
+/// translations serves; "en" when none does. "de-AT" is served by "de", "pt" by
+/// "pt-BR", but "zh-TW", which is written in another script, is not served by "zh-CN".
 QString chooseLocalization(const QStringList &available, const QStringList &preferences);
 
 /// The program's own name for use in messages; the last fallback is "this app".

@@ -29,8 +29,8 @@ class Formatter
 public:
     explicit Formatter(const QString &language)
         : m_language(language)
-        , m_formatter(icu::Locale(language.toLatin1().constData()), nullptr, UDAT_STYLE_NARROW,
-                      UDISPCTX_CAPITALIZATION_NONE, m_status)
+        , m_formatter(icu::Locale((language + QStringLiteral("@numbers=latn")).toLatin1().constData()),
+                      nullptr, UDAT_STYLE_NARROW, UDISPCTX_CAPITALIZATION_NONE, m_status)
     {}
 
     const QString &language() const { return m_language; }

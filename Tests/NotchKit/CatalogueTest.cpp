@@ -53,14 +53,26 @@ void CatalogueTest::localizationFollowsPreference_data()
                                        << "de";
     QTest::newRow("English before German") << "en,de"
                                            << "en";
-    QTest::newRow("a region is served by its language") << "de-AT"
+    QTest::newRow("a region is served by its language") << "de-AT,de-Latn-AT"
                                                         << "de";
     QTest::newRow("a language is served by a region") << "pt"
                                                       << "pt-BR";
-    QTest::newRow("unserved ones are passed over") << "cy,fr-CA,de-CH,en"
+    QTest::newRow("a region is served by another") << "pt-PT,pt-Latn-PT,en"
+                                                   << "pt-BR";
+    QTest::newRow("a region by its own") << "zh-CN,zh-Hans-CN,zh"
+                                         << "zh-CN";
+    QTest::newRow("Simplified elsewhere") << "zh-Hans-SG,zh-SG"
+                                          << "zh-CN";
+    QTest::newRow("Traditional is another script") << "zh-TW,zh-Hant-TW"
+                                                   << "en";
+    QTest::newRow("Traditional before English") << "zh-HK,zh-Hant-HK,en,de"
+                                                << "en";
+    QTest::newRow("unserved ones are passed over") << "cy,el-GR,de-CH,en"
                                                    << "de";
-    QTest::newRow("none served") << "cy,fr"
+    QTest::newRow("none served") << "cy,el"
                                  << "en";
+    QTest::newRow("no locale") << "C"
+                               << "en";
     QTest::newRow("no preference") << ""
                                    << "en";
 }
@@ -69,8 +81,10 @@ void CatalogueTest::localizationFollowsPreference()
 {
     QFETCH(const QString, preferences);
     QFETCH(const QString, chosen);
-    const QStringList available{QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("pt-BR")};
-    QCOMPARE(chooseLocalization(available, preferences.split(QLatin1Char(','), Qt::SkipEmptyParts)), chosen);
+    QVERIFY(availableLocalizations().contains(chosen));
+    QCOMPARE(
+        chooseLocalization(availableLocalizations(), preferences.split(QLatin1Char(','), Qt::SkipEmptyParts)),
+        chosen);
 }
 
 REGISTER_TEST(CatalogueTest);

@@ -28,6 +28,7 @@ HomeBlock {
             text: qsTranslate("notch", "Connect Codex or Claude Code to see your limits.")
             font.pixelSize: 12
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
         }
         UsageBrief {

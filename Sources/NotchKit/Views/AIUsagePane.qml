@@ -47,6 +47,7 @@ Pane {
                 text: figures.codexUpdated
                 font.pixelSize: 11
                 color: Theme.dim
+                horizontalAlignment: Text.AlignLeft
                 elide: Text.ElideRight
             }
         }
@@ -70,6 +71,7 @@ Pane {
                     text: figures.claudeBlock.title
                     font.pixelSize: 12
                     color: Theme.dim
+                    horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
                 }
                 Text {
@@ -101,6 +103,7 @@ Pane {
                         text: figures.claudeBlock.text
                         font.pixelSize: 11
                         color: Theme.dim
+                        horizontalAlignment: Text.AlignLeft
                         elide: Text.ElideRight
                     }
                     Text {
@@ -118,6 +121,7 @@ Pane {
                 spacing: 6
 
                 Text {
+                    anchors.left: parent.left
                     text: qsTranslate("notch", "Last 7 days")
                     font.pixelSize: 12
                     color: Theme.dim
@@ -141,6 +145,7 @@ Pane {
             text: qsTranslate("notch", "Nothing leaves your Mac.")
             font.pixelSize: 11
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
         HeaderButton {

@@ -25,7 +25,7 @@ QString filled(const char *english, const char *place, const QString &value)
 /// Any fraction, however absurd, as a number that can be written.
 QString wholePercent(double fraction)
 {
-    return QString::number(std::llround(std::clamp(fraction * 100, -1e15, 1e15)));
+    return Format::digits(QString::number(std::llround(std::clamp(fraction * 100, -1e15, 1e15))));
 }
 
 QString tokensText(qint64 tokens)
@@ -50,7 +50,7 @@ QString AIUsagePresentation::timeText(const QDateTime &time, const QDateTime &no
 QString AIUsagePresentation::leftText(double usedPercent)
 {
     const double left = std::clamp(std::floor(100 - usedPercent), 0.0, 100.0);
-    return filled(QT_TRANSLATE_NOOP("notch", "%d%% left"), "%d", QString::number(left));
+    return filled(QT_TRANSLATE_NOOP("notch", "%d%% left"), "%d", Format::digits(QString::number(left)));
 }
 
 void AIUsagePresentation::setServices(NotchServices *services)
@@ -146,10 +146,10 @@ QVariantList AIUsagePresentation::dayBars(const AIUsageModel::Claude &claude) co
     QVariantList days;
     for (const qint64 ofDay : claude.dailyTokens) {
         const QString name = locale.standaloneDayName(day.dayOfWeek());
-        days.append(
-            QVariantMap{{QStringLiteral("fraction"), static_cast<double>(ofDay) / static_cast<double>(most)},
-                        {QStringLiteral("letter"), name.left(1)},
-                        {QStringLiteral("help"), name + QLatin1String(": ") + tokensText(ofDay)}});
+        days.append(QVariantMap{
+            {QStringLiteral("fraction"), static_cast<double>(ofDay) / static_cast<double>(most)},
+            {QStringLiteral("letter"), locale.standaloneDayName(day.dayOfWeek(), QLocale::NarrowFormat)},
+            {QStringLiteral("help"), name + QLatin1String(": ") + tokensText(ofDay)}});
         day = day.addDays(1);
     }
     return days;

@@ -12,6 +12,7 @@ TextButton {
 
     signal allowed
 
+    anchors.left: parent.left
     text: status === 0 ? allowTitle : qsTranslate("notch", "Open Settings")
     prominent: true
     onClicked: status === 0 ? button.allowed() : services.openPrivacy(anchor)

@@ -13,6 +13,7 @@ Pane {
     CalendarSection {
         id: events
 
+        anchors.left: parent.left
         width: (parent.width - Theme.gap) / 2
         height: parent.height
         services: pane.services
@@ -28,7 +29,7 @@ Pane {
         delegate: EventRow {
             required property var modelData
 
-            x: 8
+            x: Theme.mirrored ? 12 : 8
             width: ListView.view.width - 20
             item: modelData
             now: pane.now
@@ -51,7 +52,7 @@ Pane {
             required property var modelData
             required property int index
 
-            x: 8
+            x: Theme.mirrored ? 12 : 8
             width: ListView.view.width - 20
             reminder: modelData
             now: pane.now

@@ -23,7 +23,7 @@ Tile {
     SectionLabel {
         id: label
 
-        x: 12
+        anchors.leftMargin: 12
         y: 12
         title: section.title
         symbol: section.symbol
@@ -55,10 +55,11 @@ Tile {
         text: section.emptyText
         font.pixelSize: 12
         color: Theme.dim
+        horizontalAlignment: Text.AlignLeft
         wrapMode: Text.WordWrap
     }
     AccessButton {
-        x: 12
+        anchors.leftMargin: 12
         y: 42
         visible: section.known && section.status !== 3
         services: section.services

@@ -51,6 +51,7 @@ ButtonBase {
                     textFormat: Text.PlainText
                     font.pixelSize: 10
                     color: Theme.text
+                    horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideMiddle
                     maximumLineCount: 1
                     Accessible.ignored: true
@@ -60,6 +61,7 @@ ButtonBase {
                     text: Format.relativeTime(thumb.item.date, thumb.services.now)
                     font.pixelSize: 10
                     color: Theme.dim
+                    horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
                     Accessible.ignored: true
                 }

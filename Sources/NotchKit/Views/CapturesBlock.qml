@@ -27,6 +27,7 @@ HomeBlock {
                 : qsTranslate("notch", "Take a screenshot (⇧⌘4) and it appears here.\nDrag it into any app, or right-click for more.")
             font.pixelSize: 12
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
         }
         Row {

@@ -29,6 +29,7 @@ HomeBlock {
                 : qsTranslate("notch", "Clipboard history is off.\nTurn it on in Settings.")
             font.pixelSize: 12
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
         }
         Repeater {

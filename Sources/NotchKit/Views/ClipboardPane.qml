@@ -24,7 +24,7 @@ Pane {
         z: 1 // so that its tips lie over the list
 
         Row {
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter }
             spacing: 6
 
             Repeater {
@@ -126,6 +126,7 @@ Pane {
             required property var modelData
             required property int index
 
+            x: Theme.mirrored ? 10 : 0 // beside the bar
             width: ListView.view.width - 10
             item: modelData
             services: pane.services

@@ -23,7 +23,7 @@ T.Popup {
     }
 
     // Bound, because the size of entries that came with the opening is known only after it.
-    x: Math.max(0, Math.min(place.x, parent.width - width))
+    x: Math.max(0, Math.min(place.x - (Theme.mirrored ? width : 0), parent.width - width))
     y: place.y + height > parent.height ? Math.max(0, place.y - height) : place.y
     width: column.implicitWidth + 8
     height: column.implicitHeight + 8
@@ -73,7 +73,9 @@ T.Popup {
                     id: label
 
                     leftPadding: 8
+                    rightPadding: 8
                     text: button.modelData
+                    horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideMiddle
                     font.pixelSize: 12
                     color: Theme.text

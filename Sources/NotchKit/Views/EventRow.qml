@@ -18,7 +18,7 @@ Item {
     Rectangle {
         id: bar
 
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         width: 3
         height: 26
         radius: 2
@@ -34,6 +34,7 @@ Item {
             textFormat: Text.PlainText
             font.pixelSize: 12
             color: Theme.text
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
             maximumLineCount: 1
             Accessible.ignored: true
@@ -45,6 +46,7 @@ Item {
             text: CalendarFormat.when(row.item.start, row.item.allDay, row.now)
             font.pixelSize: 10
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
             Accessible.ignored: true
         }

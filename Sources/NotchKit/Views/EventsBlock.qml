@@ -32,6 +32,7 @@ HomeBlock {
             text: qsTranslate("notch", "Nothing else today.")
             font.pixelSize: 12
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
         }
         AccessButton {

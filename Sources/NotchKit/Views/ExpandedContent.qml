@@ -29,6 +29,7 @@ FocusScope {
             font.pixelSize: 14
             font.weight: Font.DemiBold
             color: Theme.text
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
         Row {

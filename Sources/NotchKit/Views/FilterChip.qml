@@ -7,7 +7,7 @@ ButtonBase {
 
     help: text
     implicitWidth: label.implicitWidth + 20
-    implicitHeight: label.implicitHeight + 8
+    implicitHeight: 24 // whatever script the text is in
     radius: height / 2
     Accessible.role: Accessible.RadioButton
 

@@ -6,6 +6,7 @@ Text {
     font.pixelSize: FormTheme.fontSize
     color: FormTheme.text
     textFormat: Text.PlainText
+    horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter
     elide: Text.ElideRight
     Accessible.role: Accessible.StaticText

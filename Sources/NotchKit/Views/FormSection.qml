@@ -21,7 +21,9 @@ Column {
 
     FormLabel {
         visible: section.title !== ""
+        width: section.width
         leftPadding: FormTheme.rowInset
+        rightPadding: FormTheme.rowInset
         text: section.title
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading

@@ -4,6 +4,7 @@
 #include "NotchKit/RelativeTime.h"
 #include "NotchKit/Tools/TimerModel.h"
 
+#include <QFontMetricsF>
 #include <QLocale>
 
 #include <algorithm>
@@ -13,7 +14,28 @@ namespace Kestrune {
 
 QString Format::relativeTime(const QDateTime &date, const QDateTime &now)
 {
-    return Kestrune::relativeTime(date, now, notchLanguage());
+    return digits(Kestrune::relativeTime(date, now, notchLanguage()));
+}
+
+QString Format::digits(QString text)
+{
+    const QString zero = QLocale().zeroDigit();
+    if (zero.size() != 1 || zero == QLatin1String("0"))
+        return text;
+    for (QChar &character : text) {
+        if (character >= u'0' && character <= u'9')
+            character = QChar(static_cast<char16_t>(zero.at(0).unicode() + character.unicode() - u'0'));
+    }
+    return text;
+}
+
+double Format::digitWidth(const QFont &font)
+{
+    const QFontMetricsF metrics(font);
+    double widest = 0;
+    for (const QChar digit : digits(QStringLiteral("0123456789")))
+        widest = std::max(widest, metrics.horizontalAdvance(digit));
+    return widest;
 }
 
 QString Format::playTime(double seconds)

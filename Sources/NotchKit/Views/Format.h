@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QFont>
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
 
@@ -16,6 +17,12 @@ class Format : public QObject
 public:
     /// How long ago `date` was: "5m ago".
     Q_INVOKABLE static QString relativeTime(const QDateTime &date, const QDateTime &now);
+
+    /// `text` with the digits of the locale: "٢٥" for "25" in Egypt.
+    Q_INVOKABLE static QString digits(QString text);
+
+    /// The width of the widest digit of the locale.
+    Q_INVOKABLE static double digitWidth(const QFont &font);
 
     /// A place in a song: "3:05", or "1:00:00" from an hour on; only whole seconds count.
     Q_INVOKABLE static QString playTime(double seconds);

@@ -25,6 +25,7 @@ HomeBlock {
             font.pixelSize: 18
             font.weight: Font.DemiBold
             color: Theme.text
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
         Text {
@@ -32,6 +33,7 @@ HomeBlock {
             text: block.now.toLocaleDateString(Qt.locale(), Locale.LongFormat)
             font.pixelSize: 12
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
         }
     }

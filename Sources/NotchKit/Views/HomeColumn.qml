@@ -33,6 +33,7 @@ Flickable {
         id: blocks
 
         objectName: "blocks"
+        x: Theme.mirrored ? Theme.gap : 0
         width: column.width - Theme.gap
         spacing: Theme.gap
 

@@ -19,7 +19,9 @@ Pane {
     Row {
         id: row
 
-        anchors { fill: parent; rightMargin: -Theme.gap }
+        // A column's gap lies behind it: the last one's outside.
+        anchors { fill: parent; leftMargin: Theme.mirrored ? -Theme.gap : 0; rightMargin: Theme.mirrored ? 0 : -Theme.gap }
+        LayoutMirroring.enabled: false // The settings name the columns left, center and right.
 
         Repeater {
             model: pane.columns

@@ -16,6 +16,7 @@ T.TextField {
     color: Theme.text
     selectionColor: Theme.accent
     selectedTextColor: "black"
+    horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     selectByMouse: true
     Accessible.role: Accessible.EditableText
@@ -35,6 +36,7 @@ T.TextField {
         text: field.placeholderText
         font: field.font
         color: Qt.rgba(1, 1, 1, 0.35)
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
         Accessible.ignored: true

@@ -62,6 +62,7 @@ Rectangle {
                     Symbol {
                         id: icon
 
+                        anchors.left: parent.left
                         width: 22
                         height: parent.height
                         name: tool.modelData.symbol
@@ -76,6 +77,7 @@ Rectangle {
             }
         }
         FormButton {
+            anchors.left: parent.left
             prominent: true
             text: qsTranslate("notch", "Discover Fennivar ↗")
             onClicked: card.discover()

@@ -20,6 +20,8 @@ FocusScope {
     readonly property real damping: expanded ? 0.8 : 0.92
 
     focus: true
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     Keys.onEscapePressed: screenModel.closeWanted()
 
     component NotchSpring: SpringValue {

@@ -55,6 +55,7 @@ Pane {
             text: (pane.model.permissionDenied ? pane.allowText : pane.emptyText).replace("\n", " ")
             font.pixelSize: 12
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
         }
     }

@@ -32,13 +32,13 @@ T.ComboBox {
         border { width: control.visualFocus ? 2 : 0; color: FormTheme.accent }
     }
     contentItem: FormLabel {
-        leftPadding: 10
-        rightPadding: 26
+        leftPadding: Theme.mirrored ? 26 : 10
+        rightPadding: Theme.mirrored ? 10 : 26
         text: control.displayText
         Accessible.ignored: true
     }
     indicator: Column {
-        x: control.width - width - 8
+        x: Theme.mirrored ? 8 : control.width - width - 8
         anchors.verticalCenter: parent.verticalCenter
         spacing: -6
 

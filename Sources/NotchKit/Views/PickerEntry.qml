@@ -18,15 +18,15 @@ T.ItemDelegate {
         color: entry.highlighted ? FormTheme.accent : "transparent"
     }
     contentItem: FormLabel {
-        leftPadding: 20
+        leftPadding: Theme.mirrored ? 0 : 20
+        rightPadding: Theme.mirrored ? 20 : 0
         text: entry.text
         color: entry.highlighted ? FormTheme.accentText : FormTheme.text
         Accessible.ignored: true
 
         Rectangle {
             visible: entry.chosen
-            x: 8
-            anchors.verticalCenter: parent.verticalCenter
+            anchors { left: parent.left; leftMargin: 8; verticalCenter: parent.verticalCenter }
             width: 5
             height: 5
             radius: 2.5

@@ -19,6 +19,8 @@ Row {
     spacing: compact ? 12 : 24
 
     Rectangle {
+        id: cover
+
         width: view.compact ? 78 : 130
         height: width
         radius: view.compact ? 12 : 18
@@ -39,7 +41,7 @@ Row {
     }
 
     Column {
-        width: parent.width - x
+        width: parent.width - cover.width - parent.spacing
         anchors.verticalCenter: parent.verticalCenter
         spacing: 5
 
@@ -50,6 +52,7 @@ Row {
             font.pixelSize: view.compact ? 13 : 20
             font.weight: Font.DemiBold
             color: Theme.text
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
             wrapMode: view.compact ? Text.NoWrap : Text.Wrap
             maximumLineCount: view.compact ? 1 : 2
@@ -61,6 +64,7 @@ Row {
             textFormat: Text.PlainText
             font.pixelSize: view.compact ? 12 : 14
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
             maximumLineCount: 1
         }
@@ -71,7 +75,10 @@ Row {
             track: view.track
         }
         Row {
-            x: -(skip.width - 17) / 2
+            readonly property real overhang: (skip.width - 17) / 2
+
+            x: Theme.mirrored ? parent.width - width + overhang : -overhang
+            LayoutMirroring.enabled: false
             spacing: view.compact ? 0 : 8
 
             TransportButton {

@@ -8,6 +8,9 @@ Item {
     required property var track
     required property bool timed
 
+    // Time runs to the right in every language, as the arrows of the controls do.
+    LayoutMirroring.enabled: false
+    LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.ProgressBar
     Accessible.name: elapsed.text
 

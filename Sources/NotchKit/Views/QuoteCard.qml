@@ -24,6 +24,7 @@ Tile {
             font.pixelSize: 13
             font.weight: Font.DemiBold
             color: Theme.text
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
             Accessible.ignored: true
         }
@@ -33,6 +34,7 @@ Tile {
             text: card.quote.name
             font.pixelSize: 11
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
             Accessible.ignored: true
         }
@@ -72,7 +74,7 @@ Tile {
     Sparkline {
         id: line
 
-        x: card.tall ? 12 : figures.x - width - 8
+        x: card.tall ? 12 : Theme.mirrored ? figures.x + figures.width + 8 : figures.x - width - 8
         y: card.tall ? 48 : (parent.height - height) / 2
         width: card.tall ? parent.width - 24 : 40
         height: card.tall ? parent.height - 58 : 22

@@ -43,7 +43,7 @@ QString QuoteFormat::change(double fraction)
 {
     const double percent = std::round(std::clamp(fraction, -1e6, 1e6) * 10'000) / 100;
     const QLocale locale;
-    const QString sign = percent > 0 ? locale.positiveSign() : percent < 0 ? QStringLiteral("−") : QString();
+    const QString sign = percent > 0 ? QStringLiteral("+") : percent < 0 ? QStringLiteral("−") : QString();
     return sign + notchStrings(QT_TRANSLATE_NOOP("notch", "%d%%"))
                       .replace(QLatin1String("%d"), locale.toString(std::abs(percent), 'f', 2))
                       .replace(QLatin1String("%%"), QLatin1String("%"));

@@ -19,7 +19,7 @@ Item {
     Item {
         id: tipPlace
 
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         width: 84
         height: complete.height
     }
@@ -27,8 +27,8 @@ Item {
     ButtonBase {
         id: complete
 
-        anchors.verticalCenter: parent.verticalCenter
-        x: -5 // so that the circle stands below the title's symbol
+        // so that the circle stands below the title's symbol
+        anchors { left: parent.left; leftMargin: -5; verticalCenter: parent.verticalCenter }
         width: 24
         height: 24
         help: qsTranslate("notch", "Complete")
@@ -55,6 +55,7 @@ Item {
         textFormat: Text.PlainText
         font.pixelSize: 12
         color: Theme.text
+        horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight
         maximumLineCount: 1
     }

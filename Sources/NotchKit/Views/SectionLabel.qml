@@ -8,6 +8,7 @@ Row {
     required property string title
     required property string symbol
 
+    anchors.left: parent.left // Also in a column, whose children do not turn around by themselves.
     spacing: 6
     Accessible.role: Accessible.Heading
     Accessible.name: title

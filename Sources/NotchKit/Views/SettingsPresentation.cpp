@@ -1,5 +1,6 @@
 #include "SettingsPresentation.h"
 
+#include "Format.h"
 #include "NotchKit/NotchStrings.h"
 
 #include <QCoreApplication>
@@ -57,7 +58,7 @@ QString SettingsPresentation::hoverDelayText() const
     if (!m_settings)
         return {};
     return notchStrings(QT_TRANSLATE_NOOP("notch", "%1 ms"))
-        .arg(std::round(m_settings->hoverDelay() * kMillisecondsPerSecond));
+        .arg(Format::digits(QString::number(std::lround(m_settings->hoverDelay() * kMillisecondsPerSecond))));
 }
 
 void SettingsPresentation::setHoverDelay(double seconds)

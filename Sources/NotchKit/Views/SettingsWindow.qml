@@ -19,6 +19,8 @@ Window {
     minimumHeight: height
     maximumHeight: height
     color: FormTheme.window
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
     title: qsTranslate("notch", "Kestrune Settings")
 
     /// Scrolls to what got the keyboard.

@@ -33,6 +33,7 @@ Pane {
         boundsBehavior: Flickable.StopAtBounds
         // Where they leave room, the tiles stand in the middle.
         leftMargin: Math.max(0, (width - contentWidth) / 2)
+        rightMargin: leftMargin
         T.ScrollBar.horizontal: ScrollBar {}
         Accessible.role: Accessible.List
         Accessible.name: qsTranslate("notch", "Shelf")
@@ -73,7 +74,7 @@ Pane {
             symbol: "airplayaudio"
             text: qsTranslate("notch", "AirDrop")
             onClicked: {
-                const at = mapToItem(pane, 0, 0)
+                const at = mapToItem(pane, Theme.mirrored ? width : 0, 0)
                 devices.placeAt(at.x, at.y)
                 devices.request = pane.shelf.airDrop()
             }

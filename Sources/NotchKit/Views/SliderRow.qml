@@ -41,7 +41,8 @@ FormRow {
                 color: slider.hovered ? FormTheme.track : FormTheme.pressed
 
                 Rectangle {
-                    width: slider.handle.x + slider.handle.width / 2
+                    anchors.left: parent.left
+                    width: slider.handle.width / 2 + slider.position * (slider.availableWidth - slider.handle.width)
                     height: parent.height
                     radius: parent.radius
                     color: FormTheme.accent
@@ -68,7 +69,7 @@ FormRow {
     }
     FormLabel {
         anchors.verticalCenter: parent.verticalCenter
-        width: 56
+        width: 72
         text: row.valueText
         color: FormTheme.dim
         horizontalAlignment: Text.AlignRight

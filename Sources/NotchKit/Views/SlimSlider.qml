@@ -29,7 +29,8 @@ T.Slider {
             color: control.hovered ? Theme.highlighted : Theme.hovered
 
             Rectangle {
-                width: control.handle.x + control.handle.width / 2 - control.leftPadding
+                anchors.left: parent.left
+                width: control.handle.width / 2 + control.position * (control.availableWidth - control.handle.width)
                 height: parent.height
                 radius: parent.radius
                 color: Theme.accent

@@ -33,9 +33,9 @@ FocusScope {
     Accessible.onIncreaseAction: step(1)
     Accessible.onDecreaseAction: step(-1)
     Keys.onUpPressed: step(1)
-    Keys.onRightPressed: step(1)
+    Keys.onRightPressed: step(Theme.mirrored ? -1 : 1)
     Keys.onDownPressed: step(-1)
-    Keys.onLeftPressed: step(-1)
+    Keys.onLeftPressed: step(Theme.mirrored ? 1 : -1)
 
     Text {
         id: label

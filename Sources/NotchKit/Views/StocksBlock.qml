@@ -29,6 +29,7 @@ HomeBlock {
                 : "–"
             font.pixelSize: 12
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
             maximumLineCount: 3
             elide: Text.ElideRight
@@ -50,6 +51,7 @@ HomeBlock {
                     font.pixelSize: 12
                     font.weight: Font.DemiBold
                     color: Theme.text
+                    horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
                 }
                 Sparkline {

@@ -99,6 +99,7 @@ Pane {
         text: QuoteFormat.notFound(pane.stocks.failed)
         font.pixelSize: 11
         color: Theme.warning
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
     }
@@ -114,6 +115,7 @@ Pane {
             text: qsTranslate("notch", "Delayed quotes from Yahoo Finance.")
             font.pixelSize: 11
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
         Spinner {

@@ -50,7 +50,7 @@ T.AbstractButton {
             Rectangle {
                 readonly property real wide: control.down ? 21 : 18
 
-                x: control.on ? track.width - width - 2 : 2
+                x: control.on !== Theme.mirrored ? track.width - width - 2 : 2
                 y: 2
                 width: wide
                 height: 18

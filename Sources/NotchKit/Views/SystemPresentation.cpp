@@ -1,5 +1,6 @@
 #include "SystemPresentation.h"
 
+#include "Format.h"
 #include "NotchKit/NotchStrings.h"
 #include "UsageGauge.h"
 
@@ -21,7 +22,7 @@ QString bytes(double amount, const QLocale &locale)
 
 SystemLine battery(int percent, bool charging)
 {
-    QString value = QString::number(percent) + QLatin1Char('%');
+    QString value = Format::digits(QString::number(percent)) + QLatin1Char('%');
     if (charging)
         value += QStringLiteral(" · ") + notchStrings(QT_TRANSLATE_NOOP("notch", "charging"));
     return {notchStrings(QT_TRANSLATE_NOOP("notch", "Battery")),

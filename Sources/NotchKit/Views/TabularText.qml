@@ -10,15 +10,18 @@ Row {
     property int weight: Font.Normal
     property color color: Theme.text
 
+    LayoutMirroring.enabled: false // The digits of a number are not turned around.
+    LayoutMirroring.childrenInherit: true
     Accessible.role: Accessible.StaticText
     Accessible.name: text
 
     TextMetrics {
-        id: widest
+        id: metrics
+
+        readonly property real digitWidth: Math.ceil(Format.digitWidth(font))
 
         font.pixelSize: line.size
         font.weight: line.weight
-        text: "0"
     }
 
     Repeater {
@@ -27,11 +30,11 @@ Row {
         Text {
             required property int index
 
-            readonly property string character: line.text.charAt(index)
+            readonly property string character: Format.digits(line.text.charAt(index))
 
-            width: character >= "0" && character <= "9" ? Math.ceil(widest.advanceWidth) : implicitWidth
+            width: character !== ":" ? metrics.digitWidth : implicitWidth
             text: character
-            font: widest.font
+            font: metrics.font
             color: line.color
             horizontalAlignment: Text.AlignHCenter
             Accessible.ignored: true

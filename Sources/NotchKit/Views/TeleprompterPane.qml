@@ -137,7 +137,7 @@ Pane {
 
             Stepper {
                 anchors.verticalCenter: parent.verticalCenter
-                text: qsTranslate("notch", "Text %d").replace("%d", Math.round(value))
+                text: qsTranslate("notch", "Text %d").replace("%d", Format.digits(Math.round(value)))
                 lowerHelp: qsTranslate("notch", "Smaller text")
                 raiseHelp: qsTranslate("notch", "Larger text")
                 from: 14

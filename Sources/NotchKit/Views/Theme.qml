@@ -4,6 +4,9 @@ import QtQuick
 
 /// The look: one accent on black, quiet white for the rest, spacing in steps of four.
 QtObject {
+    /// The language is written from right to left, and so the views are turned around.
+    readonly property bool mirrored: Application.layoutDirection === Qt.RightToLeft
+
     readonly property color accent: "#4da3ff"
     readonly property color text: Qt.rgba(1, 1, 1, 0.92)
     readonly property color good: "#3dcf64"

@@ -29,7 +29,7 @@ Pane {
                     required property real modelData
 
                     width: Math.max(implicitWidth, 72)
-                    text: qsTranslate("notch", "%d min").replace("%d", modelData / 60)
+                    text: qsTranslate("notch", "%d min").replace("%d", Format.digits(modelData / 60))
                     onClicked: pane.timer.start(modelData)
                 }
             }

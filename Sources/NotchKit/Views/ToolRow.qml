@@ -40,7 +40,7 @@ Item {
     Rectangle {
         readonly property real pitch: row.buttonWidth + tools.spacing
 
-        x: tools.x + slide.value * pitch
+        x: Theme.mirrored ? tools.x + tools.width - width - slide.value * pitch : tools.x + slide.value * pitch
         y: tools.y
         width: row.buttonWidth
         height: 28
@@ -81,6 +81,7 @@ Item {
             font.pixelSize: 11
             font.underline: credit.hovered
             color: credit.hovered ? Theme.text : Theme.dim
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
             verticalAlignment: Text.AlignVCenter
             Accessible.ignored: true

@@ -16,6 +16,7 @@ Rectangle {
     Accessible.name: UsageGauge.percent(fraction)
 
     Rectangle {
+        anchors.left: parent.left
         width: UsageGauge.filled(bar.fraction, bar.width)
         height: parent.height
         radius: parent.radius

@@ -21,6 +21,7 @@ Column {
             text: brief.title
             font.pixelSize: 12
             color: Theme.text
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
         Text {
@@ -28,6 +29,7 @@ Column {
             text: brief.hint
             font.pixelSize: 11
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
             maximumLineCount: 3
             elide: Text.ElideRight
@@ -55,6 +57,7 @@ Column {
                     text: line.index === 0 ? brief.title : line.modelData.title
                     font.pixelSize: 12
                     color: line.index === 0 ? Theme.text : Theme.dim
+                    horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
                 }
                 Text {

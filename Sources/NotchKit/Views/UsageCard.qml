@@ -20,7 +20,7 @@ Tile {
     SectionLabel {
         id: heading
 
-        x: 12
+        anchors.leftMargin: 12
         y: 12
         symbol: card.symbol
         title: card.title

@@ -1,5 +1,6 @@
 #include "UsageGauge.h"
 
+#include "Format.h"
 #include "Palette.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ QColor UsageGauge::color(double fraction)
 
 QString UsageGauge::percent(double fraction)
 {
-    return QString::number(std::lround(clamped(fraction) * 100)) + QLatin1Char('%');
+    return Format::digits(QString::number(std::lround(clamped(fraction) * 100))) + QLatin1Char('%');
 }
 
 } // namespace Kestrune

@@ -22,6 +22,7 @@ Column {
             text: limit.line.title
             font.pixelSize: 12
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
         Text {
@@ -32,6 +33,7 @@ Column {
             text: limit.line.text
             font.pixelSize: 12
             color: Theme.text
+            horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
     }
@@ -45,6 +47,7 @@ Column {
         text: limit.line.resets
         font.pixelSize: 11
         color: Theme.dim
+        horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight
     }
 }

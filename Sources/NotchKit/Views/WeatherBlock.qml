@@ -30,6 +30,7 @@ HomeBlock {
             text: qsTranslate("notch", "Choose a city to see its weather.")
             font.pixelSize: 12
             color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
         }
         Item {
@@ -40,7 +41,7 @@ HomeBlock {
             Symbol {
                 id: sky
 
-                anchors.verticalCenter: parent.verticalCenter
+                anchors { left: parent.left; verticalCenter: parent.verticalCenter }
                 name: figures.symbol
                 size: 26
                 color: figures.symbol === "sun.max.fill" ? Theme.sun : Theme.text
@@ -80,6 +81,7 @@ HomeBlock {
             text: block.weather.error
             font.pixelSize: 11
             color: Theme.warning
+            horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
         }
     }

@@ -2,6 +2,7 @@
 
 #include "NotchKit/NotchStrings.h"
 
+#include <QGuiApplication>
 #include <QLocale>
 
 #include <cmath>
@@ -19,6 +20,14 @@ QString whole(double value)
 }
 
 QString dash() { return QStringLiteral("–"); }
+
+/// Each temperature keeps its own order; the two follow the direction of the language.
+QString spanText(const WeatherDayFigures &day)
+{
+    if (QGuiApplication::layoutDirection() == Qt::LeftToRight)
+        return day.high + QStringLiteral(" / ") + day.low;
+    return QStringLiteral(u"\u200f\u2066%1\u2069 / \u2066%2\u2069").arg(day.high, day.low);
+}
 
 QString windText(double speed, bool miles)
 {
@@ -67,7 +76,7 @@ void WeatherFigures::update()
             shown.days.append(figures(day));
     }
     if (!shown.days.isEmpty())
-        shown.range = shown.days.first().high + QStringLiteral(" / ") + shown.days.first().low;
+        shown.range = spanText(shown.days.first());
     if (shown == m_shown)
         return;
     m_shown = shown;
@@ -86,7 +95,7 @@ WeatherDayFigures WeatherFigures::figures(const WeatherDay &day) const
                             degrees(day.low),
                             {}};
     const QString name = today ? shown.label : QLocale().standaloneDayName(weekday);
-    shown.help = name + QStringLiteral(": ") + shown.high + QStringLiteral(" / ") + shown.low;
+    shown.help = name + QStringLiteral(": ") + spanText(shown);
     return shown;
 }
 

@@ -102,6 +102,7 @@ Pane {
                 spacing: 2
 
                 Row {
+                    anchors.left: parent.left
                     spacing: 4
 
                     Text {
@@ -111,6 +112,7 @@ Pane {
                         font.pixelSize: 16
                         font.weight: Font.DemiBold
                         color: Theme.text
+                        horizontalAlignment: Text.AlignLeft
                         elide: Text.ElideRight
                     }
                     HeaderButton {
@@ -126,6 +128,7 @@ Pane {
                     text: figures.wind
                     font.pixelSize: 12
                     color: Theme.dim
+                    horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
                 }
             }
@@ -159,6 +162,7 @@ Pane {
         text: qsTranslate("notch", "Forecast by Open-Meteo. Only the city's coordinates are sent.")
         font.pixelSize: 11
         color: Theme.dim
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
     }

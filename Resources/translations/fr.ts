@@ -1,0 +1,735 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>notch</name>
+    <message>
+        <source>Unpin</source>
+        <translation>Détacher</translation>
+    </message>
+    <message>
+        <source>Keep open</source>
+        <translation>Garder ouvert</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Good night</source>
+        <translation>Bonne nuit</translation>
+    </message>
+    <message>
+        <source>Good morning</source>
+        <translation>Bonjour</translation>
+    </message>
+    <message>
+        <source>Good afternoon</source>
+        <translation>Bonjour</translation>
+    </message>
+    <message>
+        <source>Good evening</source>
+        <translation>Bonsoir</translation>
+    </message>
+    <message>
+        <source>Choose what Home shows in Settings › Home screen.</source>
+        <translation>Choisissez ce qu’affiche Accueil dans Paramètres › Écran d’accueil.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Quick note… it saves as you type.</source>
+        <translation>Note rapide… enregistrée au fil de la frappe.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <translation>Minuteur</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Terminé</translation>
+    </message>
+    <message>
+        <source>%d min</source>
+        <translation>%d&#x202f;min</translation>
+    </message>
+    <message>
+        <source>The time stays visible beside the closed notch.</source>
+        <translation>Le temps reste visible à côté de l’encoche fermée.</translation>
+    </message>
+    <message>
+        <source>Fennivar’s notch is on, so Kestrune is paused.</source>
+        <translation>L’encoche de Fennivar est activée, Kestrune est donc en pause.</translation>
+    </message>
+    <message>
+        <source>Turn off Notch in Fennivar to use Kestrune.</source>
+        <translation>Désactivez l’encoche dans Fennivar pour utiliser Kestrune.</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <source>Now Playing</source>
+        <translation>À l’écoute</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Presse-papiers</translation>
+    </message>
+    <message>
+        <source>Screenshots</source>
+        <translation>Captures</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendrier</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Étagère</translation>
+    </message>
+    <message>
+        <source>AI Usage</source>
+        <translation>Usage de l’IA</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Météo</translation>
+    </message>
+    <message>
+        <source>Stocks</source>
+        <translation>Bourse</translation>
+    </message>
+    <message>
+        <source>Teleprompter</source>
+        <translation>Prompteur</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>Miroir</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>Système</translation>
+    </message>
+    <message>
+        <source>Greeting and date</source>
+        <translation>Salutation et date</translation>
+    </message>
+    <message>
+        <source>Today&apos;s events</source>
+        <translation>Événements du jour</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <translation>Rappels</translation>
+    </message>
+    <message>
+        <source>Latest copies</source>
+        <translation>Dernières copies</translation>
+    </message>
+    <message>
+        <source>Latest screenshots</source>
+        <translation>Dernières captures</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Masqué</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centre</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>On hover</source>
+        <translation>Au survol</translation>
+    </message>
+    <message>
+        <source>On click</source>
+        <translation>Au clic</translation>
+    </message>
+    <message>
+        <source>More tools at fennivar.example</source>
+        <translation>Plus sur fennivar.example</translation>
+    </message>
+    <message>
+        <source>this app</source>
+        <translation>cette app</translation>
+    </message>
+    <message>
+        <source>Copy something and it appears here.
+Passwords from password managers are never saved.</source>
+        <translation>Ce que vous copiez apparaît ici.
+Les mots de passe issus d’un gestionnaire ne sont jamais enregistrés.</translation>
+    </message>
+    <message>
+        <source>Clipboard history is off.
+Turn it on in Settings.</source>
+        <translation>L’historique du presse-papiers est désactivé.
+Activez-le dans les paramètres.</translation>
+    </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Effacer l’historique</translation>
+    </message>
+    <message>
+        <source>Nothing matches.</source>
+        <translation>Aucun résultat.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Liens</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>PDFs</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Connect Codex or Claude Code to see your limits.</source>
+        <translation>Connectez Codex ou Claude Code pour voir vos limites.</translation>
+    </message>
+    <message>
+        <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
+        <translation>Lit les limites de votre forfait que Codex CLI enregistre dans ~/.codex sur ce Mac.</translation>
+    </message>
+    <message>
+        <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
+        <translation>Additionne les tokens que Claude Code consigne dans ~/.claude sur ce Mac. Anthropic n’enregistre pas en local ce qu’il vous reste.</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>7 derniers jours</translation>
+    </message>
+    <message>
+        <source>Nothing leaves your Mac.</source>
+        <translation>Rien ne quitte votre Mac.</translation>
+    </message>
+    <message>
+        <source>Read again</source>
+        <translation>Relire</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connecter</translation>
+    </message>
+    <message>
+        <source>%@ tokens</source>
+        <translation>%@ tokens</translation>
+    </message>
+    <message>
+        <source>%d%% left</source>
+        <translation>%d&#x202f;%% restants</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Lecture en cours…</translation>
+    </message>
+    <message>
+        <source>No Codex activity found yet. Use Codex once and it appears here.</source>
+        <translation>Aucune activité de Codex pour l’instant. Utilisez Codex une fois et elle apparaîtra ici.</translation>
+    </message>
+    <message>
+        <source>Updated %@</source>
+        <translation>Actualisé&#x202f;: %@</translation>
+    </message>
+    <message>
+        <source>5-hour window</source>
+        <translation>Période de 5&#x202f;h</translation>
+    </message>
+    <message>
+        <source>Weekly</source>
+        <translation>Semaine</translation>
+    </message>
+    <message>
+        <source>No Claude Code activity found.</source>
+        <translation>Aucune activité de Claude Code.</translation>
+    </message>
+    <message>
+        <source>%d%% of your budget</source>
+        <translation>%d&#x202f;%% de votre budget</translation>
+    </message>
+    <message>
+        <source>%d%% of your busiest block this week</source>
+        <translation>%d&#x202f;%% du plus gros bloc de la semaine</translation>
+    </message>
+    <message>
+        <source>This 5-hour block</source>
+        <translation>Ce bloc de 5&#x202f;h</translation>
+    </message>
+    <message>
+        <source>Resets: %@</source>
+        <translation>Réinit.&#x202f;: %@</translation>
+    </message>
+    <message>
+        <source>%d%%</source>
+        <translation>%d&#x202f;%%</translation>
+    </message>
+    <message>
+        <source>Drop files here to keep them handy.
+Drag them out anywhere, or AirDrop them.</source>
+        <translation>Déposez des fichiers ici pour les garder sous la main.
+Glissez-les où vous voulez ou envoyez-les avec AirDrop.</translation>
+    </message>
+    <message>
+        <source>Allow %@ to read your screenshots folder in
+System Settings › Privacy &amp; Security › Files and Folders.</source>
+        <translation>Autorisez %@ à lire votre dossier de captures d’écran dans
+Paramètres système › Confidentialité et sécurité › Fichiers et dossiers.</translation>
+    </message>
+    <message>
+        <source>Take a screenshot (⇧⌘4) and it appears here.
+Drag it into any app, or right-click for more.</source>
+        <translation>Prenez une capture d’écran (⇧⌘4) et elle apparaît ici.
+Glissez-la dans une app ou faites un clic droit pour plus d’options.</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>Aller aux paramètres</translation>
+    </message>
+    <message>
+        <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
+        <translation>Clic&#x202f;: ouvrir · glisser dans une app · clic droit&#x202f;: copier, AirDrop ou Étagère</translation>
+    </message>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Afficher dans le dossier</translation>
+    </message>
+    <message>
+        <source>AirDrop</source>
+        <translation>AirDrop</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vider</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Paste your script here. It scrolls right under the camera so you keep eye contact.</source>
+        <translation>Collez votre texte ici. Il défile juste sous la caméra pour que vous gardiez le contact visuel.</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Texte à lire</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Recommencer</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Text %d</source>
+        <translation>Texte %d</translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation>Texte plus petit</translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation>Texte plus grand</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Add to Shelf</source>
+        <translation>Ajouter à l’étagère</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Type the symbols that you want to follow.</source>
+        <translation>Saisissez les symboles que vous voulez suivre.</translation>
+    </message>
+    <message>
+        <source>Symbols, separated by commas (AAPL, TSLA, ^GSPC, BTC-USD)</source>
+        <translation>Symboles séparés par des virgules (AAPL, TSLA, ^GSPC, BTC-USD)</translation>
+    </message>
+    <message>
+        <source>Delayed quotes from Yahoo Finance.</source>
+        <translation>Cours différés de Yahoo Finance.</translation>
+    </message>
+    <message>
+        <source>Edit symbols</source>
+        <translation>Modifier la liste</translation>
+    </message>
+    <message>
+        <source>Choose a city to see its weather.</source>
+        <translation>Choisissez une ville pour voir sa météo.</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Ville</translation>
+    </message>
+    <message>
+        <source>Use my location</source>
+        <translation>Utiliser ma position</translation>
+    </message>
+    <message>
+        <source>Change city</source>
+        <translation>Changer de ville</translation>
+    </message>
+    <message>
+        <source>Forecast by Open-Meteo. Only the city&apos;s coordinates are sent.</source>
+        <translation>Prévisions d’Open-Meteo. Seules les coordonnées de la ville sont envoyées.</translation>
+    </message>
+    <message>
+        <source>Weather is not available right now.</source>
+        <translation>La météo n’est pas disponible pour le moment.</translation>
+    </message>
+    <message>
+        <source>City not found.</source>
+        <translation>Ville introuvable.</translation>
+    </message>
+    <message>
+        <source>My location</source>
+        <translation>Ma position</translation>
+    </message>
+    <message>
+        <source>Location not available. Type a city instead.</source>
+        <translation>Position indisponible. Saisissez plutôt une ville.</translation>
+    </message>
+    <message>
+        <source>Not found: %@</source>
+        <translation>Introuvable&#x202f;: %@</translation>
+    </message>
+    <message>
+        <source>Wind %@ mph</source>
+        <translation>Vent %@&#x202f;mph</translation>
+    </message>
+    <message>
+        <source>Wind %@ km/h</source>
+        <translation>Vent %@&#x202f;km/h</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>Allow %@ to control Music or Spotify in
+System Settings › Privacy &amp; Security › Automation.</source>
+        <translation>Autorisez %@ à contrôler Music ou Spotify dans
+Paramètres système › Confidentialité et sécurité › Automatisation.</translation>
+    </message>
+    <message>
+        <source>Play something in Music or Spotify
+and it shows up here.</source>
+        <translation>Lancez un titre dans Music ou Spotify
+et il apparaît ici.</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>charging</source>
+        <translation>en charge</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>Batterie</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>%@ free</source>
+        <translation>%@ libres</translation>
+    </message>
+    <message>
+        <source>No camera found.</source>
+        <translation>Aucune caméra trouvée.</translation>
+    </message>
+    <message>
+        <source>Allow %@ to use the camera in
+System Settings › Privacy &amp; Security › Camera.</source>
+        <translation>Autorisez %@ à utiliser la caméra dans
+Paramètres système › Confidentialité et sécurité › Caméra.</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Événements</translation>
+    </message>
+    <message>
+        <source>Allow Calendar</source>
+        <translation>Autoriser l’accès</translation>
+    </message>
+    <message>
+        <source>Nothing else today or tomorrow.</source>
+        <translation>Plus rien aujourd’hui ni demain.</translation>
+    </message>
+    <message>
+        <source>Allow Reminders</source>
+        <translation>Autoriser l’accès</translation>
+    </message>
+    <message>
+        <source>All done</source>
+        <translation>Tout est fait</translation>
+    </message>
+    <message>
+        <source>Nothing else today.</source>
+        <translation>Plus rien aujourd’hui.</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Terminer</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Événement</translation>
+    </message>
+    <message>
+        <source>Tomorrow</source>
+        <translation>Demain</translation>
+    </message>
+    <message>
+        <source>All day</source>
+        <translation>Toute la journée</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Hier</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Want more? Meet Fennivar</source>
+        <translation>Envie de plus&#x202f;? Découvrez Fennivar</translation>
+    </message>
+    <message>
+        <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
+        <translation>Kestrune est un élément de Fennivar, l’app tout-en-un qui fait fonctionner votre Mac comme il se doit.</translation>
+    </message>
+    <message>
+        <source>Snap windows into place with a key or a drag</source>
+        <translation>Placez les fenêtres avec une touche ou en glissant</translation>
+    </message>
+    <message>
+        <source>Find files, apps and settings from one field</source>
+        <translation>Trouvez fichiers, apps et paramètres depuis un seul champ</translation>
+    </message>
+    <message>
+        <source>See what fills your disk and free it up</source>
+        <translation>Voyez ce qui remplit votre disque et libérez de la place</translation>
+    </message>
+    <message>
+        <source>Keep an eye on the battery and make it last</source>
+        <translation>Surveillez la batterie et faites-la durer</translation>
+    </message>
+    <message>
+        <source>Discover Fennivar ↗</source>
+        <translation>Découvrir Fennivar ↗</translation>
+    </message>
+    <message>
+        <source>Opening</source>
+        <translation>Ouverture</translation>
+    </message>
+    <message>
+        <source>Open the notch</source>
+        <translation>Ouvrir l’encoche</translation>
+    </message>
+    <message>
+        <source>Hover delay</source>
+        <translation>Délai de survol</translation>
+    </message>
+    <message>
+        <source>Open and close with ⌃⌥⌘N</source>
+        <translation>Ouvrir et fermer avec ⌃⌥⌘N</translation>
+    </message>
+    <message>
+        <source>Show the song or timer beside the closed notch</source>
+        <translation>Afficher le titre ou le minuteur à côté de l’encoche fermée</translation>
+    </message>
+    <message>
+        <source>Show new screenshots beside the notch</source>
+        <translation>Afficher les nouvelles captures à côté de l’encoche</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <translation>Écrans</translation>
+    </message>
+    <message>
+        <source>Show on every display</source>
+        <translation>Afficher sur chaque écran</translation>
+    </message>
+    <message>
+        <source>Draw a notch on displays without one</source>
+        <translation>Dessiner une encoche sur les écrans qui n’en ont pas</translation>
+    </message>
+    <message>
+        <source>Privacy</source>
+        <translation>Confidentialité</translation>
+    </message>
+    <message>
+        <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
+        <translation>Tout reste sur ce Mac. Météo demande à Open-Meteo les prévisions pour votre ville et Bourse demande les cours à Yahoo Finance&#x202f;; rien d’autre ne part en ligne.</translation>
+    </message>
+    <message>
+        <source>Keep a clipboard history</source>
+        <translation>Conserver l’historique du presse-papiers</translation>
+    </message>
+    <message>
+        <source>Read Codex usage (~/.codex)</source>
+        <translation>Lire l’usage de Codex (~/.codex)</translation>
+    </message>
+    <message>
+        <source>Read Claude Code usage (~/.claude)</source>
+        <translation>Lire l’usage de Claude Code (~/.claude)</translation>
+    </message>
+    <message>
+        <source>Temperatures in °F</source>
+        <translation>Températures en °F</translation>
+    </message>
+    <message>
+        <source>Home screen</source>
+        <translation>Écran d’accueil</translation>
+    </message>
+    <message>
+        <source>Restore default layout</source>
+        <translation>Rétablir la disposition par défaut</translation>
+    </message>
+    <message>
+        <source>Leave it at 0 to compare with your busiest block of the week. Anthropic does not publish limits in tokens, so set your own if you know it.</source>
+        <translation>Laissez 0 pour comparer avec votre plus gros bloc de la semaine. Anthropic ne publie pas de limites en tokens&#x202f;; indiquez la vôtre si vous la connaissez.</translation>
+    </message>
+    <message>
+        <source>Claude 5-hour budget (tokens)</source>
+        <translation>Budget Claude pour 5&#x202f;h (tokens)</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Kestrune Settings</source>
+        <translation>Paramètres de Kestrune</translation>
+    </message>
+    <message>
+        <source>This copy gets its updates with its package, or from whoever built it.</source>
+        <translation>Cette copie est mise à jour avec son paquet ou par la personne qui l’a compilée.</translation>
+    </message>
+    <message>
+        <source>Open Kestrune at login</source>
+        <translation>Lancer Kestrune à l’ouverture de session</translation>
+    </message>
+    <message>
+        <source>Install updates automatically</source>
+        <translation>Installer les mises à jour automatiquement</translation>
+    </message>
+    <message>
+        <source>Open Notch</source>
+        <translation>Ouvrir l’encoche</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Paramètres…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Rechercher des mises à jour…</translation>
+    </message>
+    <message>
+        <source>Get more tools: Fennivar ↗</source>
+        <translation>Plus d’outils&#x202f;: Fennivar ↗</translation>
+    </message>
+    <message>
+        <source>Quit Kestrune</source>
+        <translation>Quitter Kestrune</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1&#x202f;ms</translation>
+    </message>
+</context>
+</TS>

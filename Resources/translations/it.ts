@@ -1,0 +1,735 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it" sourcelanguage="en">
+<context>
+    <name>notch</name>
+    <message>
+        <source>Unpin</source>
+        <translation>Sblocca</translation>
+    </message>
+    <message>
+        <source>Keep open</source>
+        <translation>Tieni aperto</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Good night</source>
+        <translation>Buonanotte</translation>
+    </message>
+    <message>
+        <source>Good morning</source>
+        <translation>Buongiorno</translation>
+    </message>
+    <message>
+        <source>Good afternoon</source>
+        <translation>Buon pomeriggio</translation>
+    </message>
+    <message>
+        <source>Good evening</source>
+        <translation>Buonasera</translation>
+    </message>
+    <message>
+        <source>Choose what Home shows in Settings › Home screen.</source>
+        <translation>Scegli cosa mostra Home in Impostazioni › Schermata Home.</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Quick note… it saves as you type.</source>
+        <translation>Nota rapida… si salva mentre scrivi.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <translation>Timer</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Riprendi</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Azzera</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>%d min</source>
+        <translation>%d min</translation>
+    </message>
+    <message>
+        <source>The time stays visible beside the closed notch.</source>
+        <translation>Il tempo resta visibile accanto al notch chiuso.</translation>
+    </message>
+    <message>
+        <source>Fennivar’s notch is on, so Kestrune is paused.</source>
+        <translation>Il notch di Fennivar è attivo, quindi Kestrune è in pausa.</translation>
+    </message>
+    <message>
+        <source>Turn off Notch in Fennivar to use Kestrune.</source>
+        <translation>Disattiva il notch in Fennivar per usare Kestrune.</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Now Playing</source>
+        <translation>In riproduzione</translation>
+    </message>
+    <message>
+        <source>Clipboard</source>
+        <translation>Appunti</translation>
+    </message>
+    <message>
+        <source>Screenshots</source>
+        <translation>Screenshot</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Calendario</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Mensola</translation>
+    </message>
+    <message>
+        <source>AI Usage</source>
+        <translation>Uso dell’IA</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Meteo</translation>
+    </message>
+    <message>
+        <source>Stocks</source>
+        <translation>Borsa</translation>
+    </message>
+    <message>
+        <source>Teleprompter</source>
+        <translation>Teleprompter</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation>Specchio</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>Sistema</translation>
+    </message>
+    <message>
+        <source>Greeting and date</source>
+        <translation>Saluto e data</translation>
+    </message>
+    <message>
+        <source>Today&apos;s events</source>
+        <translation>Eventi di oggi</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <translation>Promemoria</translation>
+    </message>
+    <message>
+        <source>Latest copies</source>
+        <translation>Ultime copie</translation>
+    </message>
+    <message>
+        <source>Latest screenshots</source>
+        <translation>Ultimi screenshot</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Nascosto</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Sinistra</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Destra</translation>
+    </message>
+    <message>
+        <source>On hover</source>
+        <translation>Al passaggio</translation>
+    </message>
+    <message>
+        <source>On click</source>
+        <translation>Al clic</translation>
+    </message>
+    <message>
+        <source>More tools at fennivar.example</source>
+        <translation>Altro su fennivar.example</translation>
+    </message>
+    <message>
+        <source>this app</source>
+        <translation>questa app</translation>
+    </message>
+    <message>
+        <source>Copy something and it appears here.
+Passwords from password managers are never saved.</source>
+        <translation>Copia qualcosa e apparirà qui.
+Le password dei gestori di password non vengono mai salvate.</translation>
+    </message>
+    <message>
+        <source>Clipboard history is off.
+Turn it on in Settings.</source>
+        <translation>La cronologia degli appunti è disattivata.
+Attivala in Impostazioni.</translation>
+    </message>
+    <message>
+        <source>Clear history</source>
+        <translation>Cancella cronologia</translation>
+    </message>
+    <message>
+        <source>Nothing matches.</source>
+        <translation>Nessun risultato.</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copiato</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutto</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>Images</source>
+        <translation>Immagini</translation>
+    </message>
+    <message>
+        <source>PDFs</source>
+        <translation>PDF</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Immagine</translation>
+    </message>
+    <message>
+        <source>Connect Codex or Claude Code to see your limits.</source>
+        <translation>Connetti Codex o Claude Code per vedere i tuoi limiti.</translation>
+    </message>
+    <message>
+        <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
+        <translation>Legge i limiti del tuo piano che Codex CLI salva in ~/.codex su questo Mac.</translation>
+    </message>
+    <message>
+        <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
+        <translation>Somma i token che Claude Code registra in ~/.claude su questo Mac. Anthropic non salva in locale il limite che ti resta.</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>Ultimi 7 giorni</translation>
+    </message>
+    <message>
+        <source>Nothing leaves your Mac.</source>
+        <translation>Nulla lascia il tuo Mac.</translation>
+    </message>
+    <message>
+        <source>Read again</source>
+        <translation>Rileggi</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connetti</translation>
+    </message>
+    <message>
+        <source>%@ tokens</source>
+        <translation>%@ token</translation>
+    </message>
+    <message>
+        <source>%d%% left</source>
+        <translation>%d%% residuo</translation>
+    </message>
+    <message>
+        <source>Reading…</source>
+        <translation>Lettura…</translation>
+    </message>
+    <message>
+        <source>No Codex activity found yet. Use Codex once and it appears here.</source>
+        <translation>Ancora nessuna attività di Codex. Usa Codex una volta e apparirà qui.</translation>
+    </message>
+    <message>
+        <source>Updated %@</source>
+        <translation>Aggiornato: %@</translation>
+    </message>
+    <message>
+        <source>5-hour window</source>
+        <translation>Periodo di 5 ore</translation>
+    </message>
+    <message>
+        <source>Weekly</source>
+        <translation>Settimanale</translation>
+    </message>
+    <message>
+        <source>No Claude Code activity found.</source>
+        <translation>Nessuna attività di Claude Code.</translation>
+    </message>
+    <message>
+        <source>%d%% of your budget</source>
+        <translation>%d%% del tuo budget</translation>
+    </message>
+    <message>
+        <source>%d%% of your busiest block this week</source>
+        <translation>%d%% del blocco di picco settimanale</translation>
+    </message>
+    <message>
+        <source>This 5-hour block</source>
+        <translation>Questo blocco di 5 ore</translation>
+    </message>
+    <message>
+        <source>Resets: %@</source>
+        <translation>Rinnovo: %@</translation>
+    </message>
+    <message>
+        <source>%d%%</source>
+        <translation>%d%%</translation>
+    </message>
+    <message>
+        <source>Drop files here to keep them handy.
+Drag them out anywhere, or AirDrop them.</source>
+        <translation>Trascina qui i file per averli a portata di mano.
+Poi trascinali dove vuoi o inviali con AirDrop.</translation>
+    </message>
+    <message>
+        <source>Allow %@ to read your screenshots folder in
+System Settings › Privacy &amp; Security › Files and Folders.</source>
+        <translation>Consenti a %@ di leggere la cartella degli screenshot in
+Impostazioni di sistema › Privacy e sicurezza › File e cartelle.</translation>
+    </message>
+    <message>
+        <source>Take a screenshot (⇧⌘4) and it appears here.
+Drag it into any app, or right-click for more.</source>
+        <translation>Fai uno screenshot (⇧⌘4) e apparirà qui.
+Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation>Apri impostazioni</translation>
+    </message>
+    <message>
+        <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
+        <translation>Clic: apri · trascina in un’app · clic destro: copia, AirDrop o Mensola</translation>
+    </message>
+    <message>
+        <source>Show in Finder</source>
+        <translation>Mostra nella cartella</translation>
+    </message>
+    <message>
+        <source>AirDrop</source>
+        <translation>AirDrop</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Svuota</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Paste your script here. It scrolls right under the camera so you keep eye contact.</source>
+        <translation>Incolla qui il tuo copione. Scorre proprio sotto la fotocamera, così mantieni il contatto visivo.</translation>
+    </message>
+    <message>
+        <source>Script</source>
+        <translation>Copione</translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation>Riproduci</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Ricomincia</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Text %d</source>
+        <translation>Testo %d</translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation>Testo più piccolo</translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation>Testo più grande</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Add to Shelf</source>
+        <translation>Metti sulla mensola</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Type the symbols that you want to follow.</source>
+        <translation>Scrivi i simboli che vuoi seguire.</translation>
+    </message>
+    <message>
+        <source>Symbols, separated by commas (AAPL, TSLA, ^GSPC, BTC-USD)</source>
+        <translation>Simboli separati da virgole (AAPL, TSLA, ^GSPC, BTC-USD)</translation>
+    </message>
+    <message>
+        <source>Delayed quotes from Yahoo Finance.</source>
+        <translation>Quotazioni differite di Yahoo Finance.</translation>
+    </message>
+    <message>
+        <source>Edit symbols</source>
+        <translation>Modifica simboli</translation>
+    </message>
+    <message>
+        <source>Choose a city to see its weather.</source>
+        <translation>Scegli una città per vederne il meteo.</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>Città</translation>
+    </message>
+    <message>
+        <source>Use my location</source>
+        <translation>Usa la mia posizione</translation>
+    </message>
+    <message>
+        <source>Change city</source>
+        <translation>Cambia città</translation>
+    </message>
+    <message>
+        <source>Forecast by Open-Meteo. Only the city&apos;s coordinates are sent.</source>
+        <translation>Previsioni di Open-Meteo. Vengono inviate solo le coordinate della città.</translation>
+    </message>
+    <message>
+        <source>Weather is not available right now.</source>
+        <translation>Il meteo non è disponibile al momento.</translation>
+    </message>
+    <message>
+        <source>City not found.</source>
+        <translation>Città non trovata.</translation>
+    </message>
+    <message>
+        <source>My location</source>
+        <translation>La mia posizione</translation>
+    </message>
+    <message>
+        <source>Location not available. Type a city instead.</source>
+        <translation>Posizione non disponibile. Scrivi una città.</translation>
+    </message>
+    <message>
+        <source>Not found: %@</source>
+        <translation>Non trovato: %@</translation>
+    </message>
+    <message>
+        <source>Wind %@ mph</source>
+        <translation>Vento %@ mph</translation>
+    </message>
+    <message>
+        <source>Wind %@ km/h</source>
+        <translation>Vento %@ km/h</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Oggi</translation>
+    </message>
+    <message>
+        <source>Allow %@ to control Music or Spotify in
+System Settings › Privacy &amp; Security › Automation.</source>
+        <translation>Consenti a %@ di controllare Music o Spotify in
+Impostazioni di sistema › Privacy e sicurezza › Automazione.</translation>
+    </message>
+    <message>
+        <source>Play something in Music or Spotify
+and it shows up here.</source>
+        <translation>Riproduci qualcosa in Music o Spotify
+e apparirà qui.</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Precedente</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Successivo</translation>
+    </message>
+    <message>
+        <source>charging</source>
+        <translation>in carica</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>Batteria</translation>
+    </message>
+    <message>
+        <source>CPU</source>
+        <translation>CPU</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Memoria</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Disco</translation>
+    </message>
+    <message>
+        <source>%@ free</source>
+        <translation>%@ liberi</translation>
+    </message>
+    <message>
+        <source>No camera found.</source>
+        <translation>Nessuna fotocamera trovata.</translation>
+    </message>
+    <message>
+        <source>Allow %@ to use the camera in
+System Settings › Privacy &amp; Security › Camera.</source>
+        <translation>Consenti a %@ di usare la fotocamera in
+Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Eventi</translation>
+    </message>
+    <message>
+        <source>Allow Calendar</source>
+        <translation>Consenti accesso</translation>
+    </message>
+    <message>
+        <source>Nothing else today or tomorrow.</source>
+        <translation>Nient’altro oggi né domani.</translation>
+    </message>
+    <message>
+        <source>Allow Reminders</source>
+        <translation>Consenti accesso</translation>
+    </message>
+    <message>
+        <source>All done</source>
+        <translation>Tutto fatto</translation>
+    </message>
+    <message>
+        <source>Nothing else today.</source>
+        <translation>Nient’altro oggi.</translation>
+    </message>
+    <message>
+        <source>Complete</source>
+        <translation>Completa</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Tomorrow</source>
+        <translation>Domani</translation>
+    </message>
+    <message>
+        <source>All day</source>
+        <translation>Tutto il giorno</translation>
+    </message>
+    <message>
+        <source>Yesterday</source>
+        <translation>Ieri</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Sposta su</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Sposta giù</translation>
+    </message>
+    <message>
+        <source>Want more? Meet Fennivar</source>
+        <translation>Vuoi di più? Scopri Fennivar</translation>
+    </message>
+    <message>
+        <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
+        <translation>Kestrune è una parte di Fennivar, l’app tutto in uno che fa funzionare il tuo Mac come dovrebbe.</translation>
+    </message>
+    <message>
+        <source>Snap windows into place with a key or a drag</source>
+        <translation>Disponi le finestre con un tasto o trascinandole</translation>
+    </message>
+    <message>
+        <source>Find files, apps and settings from one field</source>
+        <translation>Trova file, app e impostazioni da un solo campo</translation>
+    </message>
+    <message>
+        <source>See what fills your disk and free it up</source>
+        <translation>Scopri cosa riempie il disco e libera spazio</translation>
+    </message>
+    <message>
+        <source>Keep an eye on the battery and make it last</source>
+        <translation>Tieni d’occhio la batteria e falla durare</translation>
+    </message>
+    <message>
+        <source>Discover Fennivar ↗</source>
+        <translation>Scopri Fennivar ↗</translation>
+    </message>
+    <message>
+        <source>Opening</source>
+        <translation>Apertura</translation>
+    </message>
+    <message>
+        <source>Open the notch</source>
+        <translation>Apri il notch</translation>
+    </message>
+    <message>
+        <source>Hover delay</source>
+        <translation>Ritardo al passaggio</translation>
+    </message>
+    <message>
+        <source>Open and close with ⌃⌥⌘N</source>
+        <translation>Apri e chiudi con ⌃⌥⌘N</translation>
+    </message>
+    <message>
+        <source>Show the song or timer beside the closed notch</source>
+        <translation>Mostra il brano o il timer accanto al notch chiuso</translation>
+    </message>
+    <message>
+        <source>Show new screenshots beside the notch</source>
+        <translation>Mostra i nuovi screenshot accanto al notch</translation>
+    </message>
+    <message>
+        <source>Displays</source>
+        <translation>Schermi</translation>
+    </message>
+    <message>
+        <source>Show on every display</source>
+        <translation>Mostra su ogni schermo</translation>
+    </message>
+    <message>
+        <source>Draw a notch on displays without one</source>
+        <translation>Disegna un notch sugli schermi che ne sono privi</translation>
+    </message>
+    <message>
+        <source>Privacy</source>
+        <translation>Privacy</translation>
+    </message>
+    <message>
+        <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
+        <translation>Tutto resta su questo Mac. Meteo chiede a Open-Meteo le previsioni per la tua città e Borsa chiede le quotazioni a Yahoo Finance; nient’altro va online.</translation>
+    </message>
+    <message>
+        <source>Keep a clipboard history</source>
+        <translation>Conserva la cronologia degli appunti</translation>
+    </message>
+    <message>
+        <source>Read Codex usage (~/.codex)</source>
+        <translation>Leggi l’uso di Codex (~/.codex)</translation>
+    </message>
+    <message>
+        <source>Read Claude Code usage (~/.claude)</source>
+        <translation>Leggi l’uso di Claude Code (~/.claude)</translation>
+    </message>
+    <message>
+        <source>Temperatures in °F</source>
+        <translation>Temperature in °F</translation>
+    </message>
+    <message>
+        <source>Home screen</source>
+        <translation>Schermata Home</translation>
+    </message>
+    <message>
+        <source>Restore default layout</source>
+        <translation>Ripristina layout predefinito</translation>
+    </message>
+    <message>
+        <source>Leave it at 0 to compare with your busiest block of the week. Anthropic does not publish limits in tokens, so set your own if you know it.</source>
+        <translation>Lascia 0 per confrontare con il tuo blocco di picco della settimana. Anthropic non pubblica i limiti in token; imposta il tuo se lo conosci.</translation>
+    </message>
+    <message>
+        <source>Claude 5-hour budget (tokens)</source>
+        <translation>Budget Claude per 5 ore (token)</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Strumenti</translation>
+    </message>
+    <message>
+        <source>Kestrune Settings</source>
+        <translation>Impostazioni di Kestrune</translation>
+    </message>
+    <message>
+        <source>This copy gets its updates with its package, or from whoever built it.</source>
+        <translation>Questa copia si aggiorna con il suo pacchetto o tramite chi l’ha compilata.</translation>
+    </message>
+    <message>
+        <source>Open Kestrune at login</source>
+        <translation>Apri Kestrune all’accesso</translation>
+    </message>
+    <message>
+        <source>Install updates automatically</source>
+        <translation>Installa gli aggiornamenti automaticamente</translation>
+    </message>
+    <message>
+        <source>Open Notch</source>
+        <translation>Apri il notch</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Impostazioni…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Cerca aggiornamenti…</translation>
+    </message>
+    <message>
+        <source>Get more tools: Fennivar ↗</source>
+        <translation>Altri strumenti: Fennivar ↗</translation>
+    </message>
+    <message>
+        <source>Quit Kestrune</source>
+        <translation>Esci da Kestrune</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+</TS>
