@@ -731,5 +731,97 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>%1 ms</source>
         <translation>%1 ملي ث</translation>
     </message>
+    <message>
+        <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>
+        <translation>يبحث Kestrune حينها مرة كل يوم، وينزّل الجديد ويسأل قبل تثبيته.</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>تحديث البرنامج</translation>
+    </message>
+    <message>
+        <source>The list of releases is not signed by Kestrune’s makers, so it was ignored.</source>
+        <translation>قائمة الإصدارات غير موقَّعة من صانعي Kestrune، لذا تم تجاهلها.</translation>
+    </message>
+    <message>
+        <source>The list of releases could not be read. Are you online?</source>
+        <translation>تعذّرت قراءة قائمة الإصدارات. هل أنت متصل بالإنترنت؟</translation>
+    </message>
+    <message>
+        <source>The list of releases is older than one seen before, so it was ignored.</source>
+        <translation>قائمة الإصدارات أقدم من قائمة سابقة، لذا تم تجاهلها.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Are you online?</source>
+        <translation>تعذّر تنزيل التحديث. هل أنت متصل بالإنترنت؟</translation>
+    </message>
+    <message>
+        <source>The update is not what Kestrune’s makers signed, so it was not kept.</source>
+        <translation>التحديث ليس ما وقّعه صانعو Kestrune، لذا لم يُحتفظ به.</translation>
+    </message>
+    <message>
+        <source>The update could not be saved. Is the disk full?</source>
+        <translation>تعذّر حفظ التحديث. هل القرص ممتلئ؟</translation>
+    </message>
+    <message>
+        <source>The downloaded update was changed or removed.</source>
+        <translation>تم تغيير التحديث الذي نُزِّل أو حذفه.</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>جارٍ البحث عن تحديثات…</translation>
+    </message>
+    <message>
+        <source>Kestrune is up to date</source>
+        <translation>‏Kestrune محدَّث</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is available</source>
+        <translation>يتوفر Kestrune %@</translation>
+    </message>
+    <message>
+        <source>Downloading Kestrune %@…</source>
+        <translation>جارٍ تنزيل Kestrune %@…</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is ready to install</source>
+        <translation>‏Kestrune %@ جاهز للتثبيت</translation>
+    </message>
+    <message>
+        <source>Kestrune could not be updated</source>
+        <translation>تعذّر تحديث Kestrune</translation>
+    </message>
+    <message>
+        <source>Version %@ is the newest one.</source>
+        <translation>الإصدار %@ هو الأحدث.</translation>
+    </message>
+    <message>
+        <source>You have version %@.</source>
+        <translation>لديك الإصدار %@.</translation>
+    </message>
+    <message>
+        <source>It was checked: it comes from Kestrune’s makers.</source>
+        <translation>تم التحقق: مصدره صانعو Kestrune.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>تنزيل</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>تثبيت…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>لاحقًا</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
 </context>
 </TS>

@@ -731,5 +731,97 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
         <source>%1 ms</source>
         <translation>%1&#xa0;ms</translation>
     </message>
+    <message>
+        <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>
+        <translation>Kestrune busca entonces una vez al día, descarga lo nuevo y pregunta antes de instalarlo.</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>Actualización de software</translation>
+    </message>
+    <message>
+        <source>The list of releases is not signed by Kestrune’s makers, so it was ignored.</source>
+        <translation>La lista de versiones no está firmada por los creadores de Kestrune, así que se ha ignorado.</translation>
+    </message>
+    <message>
+        <source>The list of releases could not be read. Are you online?</source>
+        <translation>No se ha podido leer la lista de versiones. ¿Tienes conexión?</translation>
+    </message>
+    <message>
+        <source>The list of releases is older than one seen before, so it was ignored.</source>
+        <translation>La lista de versiones es anterior a otra ya vista, así que se ha ignorado.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Are you online?</source>
+        <translation>No se ha podido descargar la actualización. ¿Tienes conexión?</translation>
+    </message>
+    <message>
+        <source>The update is not what Kestrune’s makers signed, so it was not kept.</source>
+        <translation>La actualización no es la que firmaron los creadores de Kestrune, así que no se ha conservado.</translation>
+    </message>
+    <message>
+        <source>The update could not be saved. Is the disk full?</source>
+        <translation>No se ha podido guardar la actualización. ¿Está lleno el disco?</translation>
+    </message>
+    <message>
+        <source>The downloaded update was changed or removed.</source>
+        <translation>La actualización descargada se ha modificado o eliminado.</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Buscando actualizaciones…</translation>
+    </message>
+    <message>
+        <source>Kestrune is up to date</source>
+        <translation>Kestrune está actualizado</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is available</source>
+        <translation>Kestrune %@ está disponible</translation>
+    </message>
+    <message>
+        <source>Downloading Kestrune %@…</source>
+        <translation>Descargando Kestrune %@…</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is ready to install</source>
+        <translation>Kestrune %@ está listo para instalarse</translation>
+    </message>
+    <message>
+        <source>Kestrune could not be updated</source>
+        <translation>No se ha podido actualizar Kestrune</translation>
+    </message>
+    <message>
+        <source>Version %@ is the newest one.</source>
+        <translation>La versión %@ es la más reciente.</translation>
+    </message>
+    <message>
+        <source>You have version %@.</source>
+        <translation>Tienes la versión %@.</translation>
+    </message>
+    <message>
+        <source>It was checked: it comes from Kestrune’s makers.</source>
+        <translation>Comprobado: procede de los creadores de Kestrune.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Descargar</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>Instalar…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
 </context>
 </TS>

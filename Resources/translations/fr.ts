@@ -731,5 +731,97 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <source>%1 ms</source>
         <translation>%1&#x202f;ms</translation>
     </message>
+    <message>
+        <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>
+        <translation>Kestrune cherche alors une fois par jour, télécharge les nouveautés et demande avant de les installer.</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>Mise à jour logicielle</translation>
+    </message>
+    <message>
+        <source>The list of releases is not signed by Kestrune’s makers, so it was ignored.</source>
+        <translation>La liste des versions n’est pas signée par les auteurs de Kestrune&#x202f;; elle a été ignorée.</translation>
+    </message>
+    <message>
+        <source>The list of releases could not be read. Are you online?</source>
+        <translation>La liste des versions n’a pas pu être lue. Êtes-vous en ligne&#x202f;?</translation>
+    </message>
+    <message>
+        <source>The list of releases is older than one seen before, so it was ignored.</source>
+        <translation>La liste des versions est plus ancienne qu’une liste déjà vue&#x202f;; elle a été ignorée.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Are you online?</source>
+        <translation>La mise à jour n’a pas pu être téléchargée. Êtes-vous en ligne&#x202f;?</translation>
+    </message>
+    <message>
+        <source>The update is not what Kestrune’s makers signed, so it was not kept.</source>
+        <translation>La mise à jour n’est pas celle que les auteurs de Kestrune ont signée&#x202f;; elle n’a pas été conservée.</translation>
+    </message>
+    <message>
+        <source>The update could not be saved. Is the disk full?</source>
+        <translation>La mise à jour n’a pas pu être enregistrée. Le disque est-il plein&#x202f;?</translation>
+    </message>
+    <message>
+        <source>The downloaded update was changed or removed.</source>
+        <translation>La mise à jour téléchargée a été modifiée ou supprimée.</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Recherche de mises à jour…</translation>
+    </message>
+    <message>
+        <source>Kestrune is up to date</source>
+        <translation>Kestrune est à jour</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is available</source>
+        <translation>Kestrune %@ est disponible</translation>
+    </message>
+    <message>
+        <source>Downloading Kestrune %@…</source>
+        <translation>Téléchargement de Kestrune %@…</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is ready to install</source>
+        <translation>Kestrune %@ est prêt à être installé</translation>
+    </message>
+    <message>
+        <source>Kestrune could not be updated</source>
+        <translation>Kestrune n’a pas pu être mis à jour</translation>
+    </message>
+    <message>
+        <source>Version %@ is the newest one.</source>
+        <translation>La version %@ est la plus récente.</translation>
+    </message>
+    <message>
+        <source>You have version %@.</source>
+        <translation>Vous avez la version %@.</translation>
+    </message>
+    <message>
+        <source>It was checked: it comes from Kestrune’s makers.</source>
+        <translation>Vérifié&#x202f;: vient bien des auteurs de Kestrune.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Télécharger</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>Installer…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
 </context>
 </TS>

@@ -731,5 +731,97 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
     </message>
+    <message>
+        <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>
+        <translation>Kestrune cerca allora una volta al giorno, scarica le novità e chiede prima di installarle.</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>Aggiornamento software</translation>
+    </message>
+    <message>
+        <source>The list of releases is not signed by Kestrune’s makers, so it was ignored.</source>
+        <translation>L’elenco delle versioni non è firmato dagli autori di Kestrune, quindi è stato ignorato.</translation>
+    </message>
+    <message>
+        <source>The list of releases could not be read. Are you online?</source>
+        <translation>Impossibile leggere l’elenco delle versioni. Sei online?</translation>
+    </message>
+    <message>
+        <source>The list of releases is older than one seen before, so it was ignored.</source>
+        <translation>L’elenco delle versioni è più vecchio di uno già visto, quindi è stato ignorato.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Are you online?</source>
+        <translation>Impossibile scaricare l’aggiornamento. Sei online?</translation>
+    </message>
+    <message>
+        <source>The update is not what Kestrune’s makers signed, so it was not kept.</source>
+        <translation>L’aggiornamento non è quello firmato dagli autori di Kestrune, quindi non è stato conservato.</translation>
+    </message>
+    <message>
+        <source>The update could not be saved. Is the disk full?</source>
+        <translation>Impossibile salvare l’aggiornamento. Il disco è pieno?</translation>
+    </message>
+    <message>
+        <source>The downloaded update was changed or removed.</source>
+        <translation>L’aggiornamento scaricato è stato modificato o rimosso.</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Ricerca di aggiornamenti…</translation>
+    </message>
+    <message>
+        <source>Kestrune is up to date</source>
+        <translation>Kestrune è aggiornato</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is available</source>
+        <translation>Kestrune %@ è disponibile</translation>
+    </message>
+    <message>
+        <source>Downloading Kestrune %@…</source>
+        <translation>Download di Kestrune %@…</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is ready to install</source>
+        <translation>Kestrune %@ è pronto per l’installazione</translation>
+    </message>
+    <message>
+        <source>Kestrune could not be updated</source>
+        <translation>Impossibile aggiornare Kestrune</translation>
+    </message>
+    <message>
+        <source>Version %@ is the newest one.</source>
+        <translation>La versione %@ è la più recente.</translation>
+    </message>
+    <message>
+        <source>You have version %@.</source>
+        <translation>Hai la versione %@.</translation>
+    </message>
+    <message>
+        <source>It was checked: it comes from Kestrune’s makers.</source>
+        <translation>Verificato: proviene dagli autori di Kestrune.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Scarica</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>Installa…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Più tardi</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
 </context>
 </TS>

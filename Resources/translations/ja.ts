@@ -731,5 +731,97 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
     </message>
+    <message>
+        <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>
+        <translation>オンにすると、Kestruneは1日に1回確認して新しいものをダウンロードし、インストール前に確認します。</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>ソフトウェア・アップデート</translation>
+    </message>
+    <message>
+        <source>The list of releases is not signed by Kestrune’s makers, so it was ignored.</source>
+        <translation>リリースの一覧にKestruneの作者の署名がないため、無視されました。</translation>
+    </message>
+    <message>
+        <source>The list of releases could not be read. Are you online?</source>
+        <translation>リリースの一覧を読み込めませんでした。オンラインですか？</translation>
+    </message>
+    <message>
+        <source>The list of releases is older than one seen before, so it was ignored.</source>
+        <translation>リリースの一覧が以前のものより古いため、無視されました。</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Are you online?</source>
+        <translation>アップデートをダウンロードできませんでした。オンラインですか？</translation>
+    </message>
+    <message>
+        <source>The update is not what Kestrune’s makers signed, so it was not kept.</source>
+        <translation>アップデートがKestruneの作者の署名したものではないため、保存されませんでした。</translation>
+    </message>
+    <message>
+        <source>The update could not be saved. Is the disk full?</source>
+        <translation>アップデートを保存できませんでした。ディスクがいっぱいではありませんか？</translation>
+    </message>
+    <message>
+        <source>The downloaded update was changed or removed.</source>
+        <translation>ダウンロードしたアップデートが変更されたか、削除されました。</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>アップデートを確認中…</translation>
+    </message>
+    <message>
+        <source>Kestrune is up to date</source>
+        <translation>Kestruneは最新です</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is available</source>
+        <translation>Kestrune %@を利用できます</translation>
+    </message>
+    <message>
+        <source>Downloading Kestrune %@…</source>
+        <translation>Kestrune %@をダウンロード中…</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is ready to install</source>
+        <translation>Kestrune %@をインストールできます</translation>
+    </message>
+    <message>
+        <source>Kestrune could not be updated</source>
+        <translation>Kestruneをアップデートできませんでした</translation>
+    </message>
+    <message>
+        <source>Version %@ is the newest one.</source>
+        <translation>バージョン%@が最新です。</translation>
+    </message>
+    <message>
+        <source>You have version %@.</source>
+        <translation>現在のバージョンは%@です。</translation>
+    </message>
+    <message>
+        <source>It was checked: it comes from Kestrune’s makers.</source>
+        <translation>確認済み：Kestruneの作者が提供したものです。</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>ダウンロード</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>インストール…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>あとで</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
 </context>
 </TS>

@@ -731,5 +731,97 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
     </message>
+    <message>
+        <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>
+        <translation>켜면 Kestrune이 하루에 한 번 확인하고 새 버전을 다운로드한 뒤 설치 전에 묻습니다.</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>소프트웨어 업데이트</translation>
+    </message>
+    <message>
+        <source>The list of releases is not signed by Kestrune’s makers, so it was ignored.</source>
+        <translation>버전 목록에 Kestrune 제작자의 서명이 없어 무시했습니다.</translation>
+    </message>
+    <message>
+        <source>The list of releases could not be read. Are you online?</source>
+        <translation>버전 목록을 읽을 수 없습니다. 온라인 상태인가요?</translation>
+    </message>
+    <message>
+        <source>The list of releases is older than one seen before, so it was ignored.</source>
+        <translation>버전 목록이 이전 것보다 오래되어 무시했습니다.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Are you online?</source>
+        <translation>업데이트를 다운로드할 수 없습니다. 온라인 상태인가요?</translation>
+    </message>
+    <message>
+        <source>The update is not what Kestrune’s makers signed, so it was not kept.</source>
+        <translation>업데이트가 Kestrune 제작자가 서명한 것과 달라 보관하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The update could not be saved. Is the disk full?</source>
+        <translation>업데이트를 저장할 수 없습니다. 디스크가 가득 찼나요?</translation>
+    </message>
+    <message>
+        <source>The downloaded update was changed or removed.</source>
+        <translation>다운로드한 업데이트가 변경되었거나 제거되었습니다.</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>업데이트 확인 중…</translation>
+    </message>
+    <message>
+        <source>Kestrune is up to date</source>
+        <translation>Kestrune이 최신 버전입니다</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is available</source>
+        <translation>Kestrune %@ 버전을 사용할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>Downloading Kestrune %@…</source>
+        <translation>Kestrune %@ 다운로드 중…</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is ready to install</source>
+        <translation>Kestrune %@ 버전을 설치할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>Kestrune could not be updated</source>
+        <translation>Kestrune을 업데이트할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Version %@ is the newest one.</source>
+        <translation>%@ 버전이 최신입니다.</translation>
+    </message>
+    <message>
+        <source>You have version %@.</source>
+        <translation>현재 버전은 %@입니다.</translation>
+    </message>
+    <message>
+        <source>It was checked: it comes from Kestrune’s makers.</source>
+        <translation>확인됨: Kestrune 제작자가 만든 것입니다.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>다운로드</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>설치…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>다시 시도</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>나중에</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
 </context>
 </TS>

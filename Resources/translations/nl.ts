@@ -731,5 +731,97 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
     </message>
+    <message>
+        <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>
+        <translation>Kestrune zoekt dan één keer per dag, downloadt wat nieuw is en vraagt het voor de installatie.</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>Software-update</translation>
+    </message>
+    <message>
+        <source>The list of releases is not signed by Kestrune’s makers, so it was ignored.</source>
+        <translation>De lijst met versies is niet ondertekend door de makers van Kestrune en is daarom genegeerd.</translation>
+    </message>
+    <message>
+        <source>The list of releases could not be read. Are you online?</source>
+        <translation>De lijst met versies kon niet worden gelezen. Ben je online?</translation>
+    </message>
+    <message>
+        <source>The list of releases is older than one seen before, so it was ignored.</source>
+        <translation>De lijst met versies is ouder dan een eerdere en is daarom genegeerd.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Are you online?</source>
+        <translation>De update kon niet worden gedownload. Ben je online?</translation>
+    </message>
+    <message>
+        <source>The update is not what Kestrune’s makers signed, so it was not kept.</source>
+        <translation>De update is niet wat de makers van Kestrune hebben ondertekend en is daarom niet bewaard.</translation>
+    </message>
+    <message>
+        <source>The update could not be saved. Is the disk full?</source>
+        <translation>De update kon niet worden opgeslagen. Is de schijf vol?</translation>
+    </message>
+    <message>
+        <source>The downloaded update was changed or removed.</source>
+        <translation>De gedownloade update is gewijzigd of verwijderd.</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Zoeken naar updates…</translation>
+    </message>
+    <message>
+        <source>Kestrune is up to date</source>
+        <translation>Kestrune is up-to-date</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is available</source>
+        <translation>Kestrune %@ is beschikbaar</translation>
+    </message>
+    <message>
+        <source>Downloading Kestrune %@…</source>
+        <translation>Kestrune %@ downloaden…</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is ready to install</source>
+        <translation>Kestrune %@ is klaar om te installeren</translation>
+    </message>
+    <message>
+        <source>Kestrune could not be updated</source>
+        <translation>Kestrune kon niet worden bijgewerkt</translation>
+    </message>
+    <message>
+        <source>Version %@ is the newest one.</source>
+        <translation>Versie %@ is de nieuwste.</translation>
+    </message>
+    <message>
+        <source>You have version %@.</source>
+        <translation>Je hebt versie %@.</translation>
+    </message>
+    <message>
+        <source>It was checked: it comes from Kestrune’s makers.</source>
+        <translation>Gecontroleerd: afkomstig van de makers van Kestrune.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Downloaden</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>Installeren…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
 </context>
 </TS>

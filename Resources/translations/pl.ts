@@ -731,5 +731,97 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
         <source>%1 ms</source>
         <translation>%1 ms</translation>
     </message>
+    <message>
+        <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>
+        <translation>Kestrune sprawdza wtedy raz dziennie, pobiera nowości i pyta przed ich instalacją.</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>Aktualizacja oprogramowania</translation>
+    </message>
+    <message>
+        <source>The list of releases is not signed by Kestrune’s makers, so it was ignored.</source>
+        <translation>Lista wersji nie jest podpisana przez twórców Kestrune, więc została zignorowana.</translation>
+    </message>
+    <message>
+        <source>The list of releases could not be read. Are you online?</source>
+        <translation>Nie udało się odczytać listy wersji. Czy masz połączenie z internetem?</translation>
+    </message>
+    <message>
+        <source>The list of releases is older than one seen before, so it was ignored.</source>
+        <translation>Lista wersji jest starsza niż jedna z poprzednich, więc została zignorowana.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Are you online?</source>
+        <translation>Nie udało się pobrać aktualizacji. Czy masz połączenie z internetem?</translation>
+    </message>
+    <message>
+        <source>The update is not what Kestrune’s makers signed, so it was not kept.</source>
+        <translation>Aktualizacja nie jest tym, co podpisali twórcy Kestrune, więc jej nie zachowano.</translation>
+    </message>
+    <message>
+        <source>The update could not be saved. Is the disk full?</source>
+        <translation>Nie udało się zapisać aktualizacji. Czy dysk jest pełny?</translation>
+    </message>
+    <message>
+        <source>The downloaded update was changed or removed.</source>
+        <translation>Pobrana aktualizacja została zmieniona lub usunięta.</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Sprawdzanie aktualizacji…</translation>
+    </message>
+    <message>
+        <source>Kestrune is up to date</source>
+        <translation>Kestrune jest aktualny</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is available</source>
+        <translation>Dostępny jest Kestrune %@</translation>
+    </message>
+    <message>
+        <source>Downloading Kestrune %@…</source>
+        <translation>Pobieranie Kestrune %@…</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is ready to install</source>
+        <translation>Kestrune %@ jest gotowy do instalacji</translation>
+    </message>
+    <message>
+        <source>Kestrune could not be updated</source>
+        <translation>Nie udało się zaktualizować Kestrune</translation>
+    </message>
+    <message>
+        <source>Version %@ is the newest one.</source>
+        <translation>Wersja %@ jest najnowsza.</translation>
+    </message>
+    <message>
+        <source>You have version %@.</source>
+        <translation>Masz wersję %@.</translation>
+    </message>
+    <message>
+        <source>It was checked: it comes from Kestrune’s makers.</source>
+        <translation>Sprawdzono: pochodzi od twórców Kestrune.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Pobierz</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>Zainstaluj…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Spróbuj ponownie</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Później</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
 </context>
 </TS>

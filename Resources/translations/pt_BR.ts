@@ -731,5 +731,97 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
         <source>%1 ms</source>
         <translation>%1 ms</translation>
     </message>
+    <message>
+        <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>
+        <translation>O Kestrune então busca uma vez por dia, baixa o que há de novo e pergunta antes de instalar.</translation>
+    </message>
+    <message>
+        <source>Software Update</source>
+        <translation>Atualização de software</translation>
+    </message>
+    <message>
+        <source>The list of releases is not signed by Kestrune’s makers, so it was ignored.</source>
+        <translation>A lista de versões não está assinada pelos criadores do Kestrune e foi ignorada.</translation>
+    </message>
+    <message>
+        <source>The list of releases could not be read. Are you online?</source>
+        <translation>Não foi possível ler a lista de versões. Você está online?</translation>
+    </message>
+    <message>
+        <source>The list of releases is older than one seen before, so it was ignored.</source>
+        <translation>A lista de versões é mais antiga que outra já vista e foi ignorada.</translation>
+    </message>
+    <message>
+        <source>The update could not be downloaded. Are you online?</source>
+        <translation>Não foi possível baixar a atualização. Você está online?</translation>
+    </message>
+    <message>
+        <source>The update is not what Kestrune’s makers signed, so it was not kept.</source>
+        <translation>A atualização não é a que os criadores do Kestrune assinaram e não foi mantida.</translation>
+    </message>
+    <message>
+        <source>The update could not be saved. Is the disk full?</source>
+        <translation>Não foi possível salvar a atualização. O disco está cheio?</translation>
+    </message>
+    <message>
+        <source>The downloaded update was changed or removed.</source>
+        <translation>A atualização baixada foi alterada ou removida.</translation>
+    </message>
+    <message>
+        <source>Checking for updates…</source>
+        <translation>Buscando atualizações…</translation>
+    </message>
+    <message>
+        <source>Kestrune is up to date</source>
+        <translation>O Kestrune está atualizado</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is available</source>
+        <translation>O Kestrune %@ está disponível</translation>
+    </message>
+    <message>
+        <source>Downloading Kestrune %@…</source>
+        <translation>Baixando o Kestrune %@…</translation>
+    </message>
+    <message>
+        <source>Kestrune %@ is ready to install</source>
+        <translation>O Kestrune %@ está pronto para instalar</translation>
+    </message>
+    <message>
+        <source>Kestrune could not be updated</source>
+        <translation>Não foi possível atualizar o Kestrune</translation>
+    </message>
+    <message>
+        <source>Version %@ is the newest one.</source>
+        <translation>A versão %@ é a mais recente.</translation>
+    </message>
+    <message>
+        <source>You have version %@.</source>
+        <translation>Você tem a versão %@.</translation>
+    </message>
+    <message>
+        <source>It was checked: it comes from Kestrune’s makers.</source>
+        <translation>Verificado: vem dos criadores do Kestrune.</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Baixar</translation>
+    </message>
+    <message>
+        <source>Install…</source>
+        <translation>Instalar…</translation>
+    </message>
+    <message>
+        <source>Try Again</source>
+        <translation>Tentar novamente</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Mais tarde</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
 </context>
 </TS>
