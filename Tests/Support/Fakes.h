@@ -182,6 +182,7 @@ public:
         Q_EMIT changed();
     }
     bool isManaged() const override { return false; }
+    UpdateStatus status() const override { return shown; }
 
     void setCanCheck(bool can)
     {
@@ -192,6 +193,7 @@ public:
     bool canCheck = false;
     bool automatic = false;
     int checks = 0;
+    UpdateStatus shown;
 };
 
 class FakeAppearance : public Appearance

@@ -198,7 +198,8 @@ bool FolderCalendars::complete(const IcalTaskId &task)
         data ? completeTask(*data, task.uid, task.instance, QDateTime::currentDateTimeUtc(), m_reader)
              : std::nullopt;
     QSaveFile file(task.origin);
-    if (!done || !file.open(QFile::WriteOnly) || file.write(done->text) != done->text.size())
+    // What only the flush says of a full disk is forgotten by the commit.
+    if (!done || !file.open(QFile::WriteOnly) || file.write(done->text) != done->text.size() || !file.flush())
         return false;
     // Another program may have saved it meanwhile; its change must not be lost.
     return readFile(path) == data && file.commit();

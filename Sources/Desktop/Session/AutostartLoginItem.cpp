@@ -60,7 +60,7 @@ std::optional<QString> AutostartLoginItem::setEnabled(bool enabled)
         return file.errorString();
     file.write("[Desktop Entry]\nType=Application\nName=Kestrune\nIcon=kestrune\nExec=" +
                quotedForExec(m_executable).toUtf8() + "\n");
-    return file.commit() ? std::nullopt : std::optional(file.errorString());
+    return file.flush() && file.commit() ? std::nullopt : std::optional(file.errorString());
 }
 
 } // namespace Kestrune

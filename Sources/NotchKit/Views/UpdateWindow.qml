@@ -25,6 +25,8 @@ Window {
     maximumHeight: wanted
     color: FormTheme.window
     title: qsTranslate("notch", "Software Update")
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
 
     UpdatePresentation {
         id: words
@@ -45,6 +47,7 @@ Window {
         Symbol {
             id: symbol
 
+            anchors.left: parent.left
             width: 36
             height: 36
             name: words.symbol

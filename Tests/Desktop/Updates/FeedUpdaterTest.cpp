@@ -278,15 +278,17 @@ private Q_SLOTS:
         QCOMPARE(stage.settled(), Phase::ready);
         QCOMPARE(stage.attention.count(), 1); // once is enough
         QCOMPARE(stage.server.targets(), (QList<QByteArray>{"/feed", "/kestrune.deb", "/feed"}));
-        stage.feed = WebStandIn::page(503, "busy");
+        stage.feed =
+            stage.page(stage.signer.entry(u"1.4.0"_s, stage.server.url(u"/kestrune-1.4.0.deb"_s), kPackage));
+        stage.package = WebStandIn::page(410, {});
         stage.clock.advance(24h);
         QCOMPARE(stage.settled(), Phase::failed);
-        QCOMPARE(stage.attention.count(), 1);
+        QCOMPARE(stage.attention.count(), 1); // what nobody asked for may fail unseen
         QVERIFY(stage.workspace.opened.isEmpty());
         stage.updater.setAutomaticallyDownloadsUpdates(false);
         stage.clock.advance(72h);
         QCOMPARE(stage.updater.status().phase, Phase::failed);
-        QCOMPARE(stage.server.log().size(), 4);
+        QCOMPARE(stage.server.log().size(), 5);
     }
 };
 

@@ -1,5 +1,6 @@
 #include "App/AppStage.h"
 #include "App/SettingsWindow.h"
+#include "App/UpdateWindow.h"
 #include "NotchKit/NotchStrings.h"
 #include "NotchKit/Tools/AIUsageModel.h"
 #include "NotchKit/Tools/ScriptBridge.h"
@@ -325,7 +326,7 @@ private Q_SLOTS:
             Stage stage(content);
             stage.settle();
             look("closed", stage.window.get());
-            for (const NotchTool tool : stage.core.services.offeredTools()) {
+            for (const NotchTool tool : stage.core.settings.tools()) {
                 stage.core.controller.open(tool);
                 QTRY_VERIFY(stage.find(QString::fromLatin1(entry(tool).view)));
                 stage.settle();
@@ -340,7 +341,7 @@ private Q_SLOTS:
     {
         const Speaking speaking(u"ar"_s);
         Stage stage(Content::Nothing);
-        const auto tools = stage.core.services.offeredTools();
+        const auto tools = stage.core.settings.tools();
         for (const NotchTool tool : {tools.constLast(), tools.constFirst(), NotchTool::weather}) {
             stage.core.controller.open(NotchTool::note);
             QTRY_COMPARE(stage.outline, QRectF(60, 0, 760, 330));
@@ -368,6 +369,30 @@ private Q_SLOTS:
         QVERIFY(QTest::qWaitForWindowExposed(holder.window()));
         holder.window()->grabWindow();
         report(misfits(holder.window()->contentItem()));
+    }
+
+    void updatesFit_data() { languages(); }
+    void updatesFit()
+    {
+        QFETCH(const QString, language);
+        const Speaking speaking(language);
+        QQmlEngine engine;
+        Fakes::FakeUpdater updater;
+        Fakes::FakeAppearance appearance;
+        const QString failure =
+            notchStrings("The list of releases is older than one seen before, so it was ignored.");
+        QStringList found;
+        using Phase = UpdateStatus::Phase;
+        for (const Phase phase : {Phase::checking, Phase::current, Phase::available, Phase::fetching,
+                                  Phase::ready, Phase::failed}) {
+            updater.shown = {phase, u"10.20.30"_s, u"Notes"_s, failure};
+            UpdateWindow holder(engine, updater, appearance);
+            holder.open();
+            QVERIFY(QTest::qWaitForWindowExposed(holder.window()));
+            holder.window()->grabWindow();
+            found += misfits(holder.window()->contentItem());
+        }
+        report(found);
     }
 };
 
