@@ -729,7 +729,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation>%1 ملي ث</translation>
+        <translation>%1 م.ث</translation>
     </message>
     <message>
         <source>Kestrune then looks once a day, downloads what is new and asks before it is installed.</source>

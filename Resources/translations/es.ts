@@ -309,7 +309,7 @@ Actívalo en Ajustes.</translation>
     </message>
     <message>
         <source>%d%% of your busiest block this week</source>
-        <translation>%d&#xa0;%% de tu mayor bloque de la semana</translation>
+        <translation>%d&#xa0;%% de tu mayor bloque semanal</translation>
     </message>
     <message>
         <source>This 5-hour block</source>

@@ -309,7 +309,7 @@ Włącz ją w ustawieniach.</translation>
     </message>
     <message>
         <source>%d%% of your busiest block this week</source>
-        <translation>%d%% najaktywniejszego bloku tygodnia</translation>
+        <translation>%d%% szczytu tygodnia</translation>
     </message>
     <message>
         <source>This 5-hour block</source>

@@ -69,7 +69,7 @@ FormRow {
     }
     FormLabel {
         anchors.verticalCenter: parent.verticalCenter
-        width: 72
+        width: 56
         text: row.valueText
         color: FormTheme.dim
         horizontalAlignment: Text.AlignRight

@@ -226,7 +226,7 @@ void writeLogs(const QString &home)
     const auto write = [&](const QString &folder, const QString &text) {
         QVERIFY(QDir(home).mkpath(folder));
         QFile file(home + u'/' + folder + u"/log.jsonl"_s);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text.toUtf8()) > 0 && file.flush());
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text.toUtf8() + "\n") > 0 && file.flush());
         QVERIFY(file.setFileTime(Fakes::FakeClock().now(), QFileDevice::FileModificationTime));
     };
     write(u".claude/projects/p"_s,
@@ -293,6 +293,7 @@ private Q_SLOTS:
             QVERIFY2(QFontDatabase::hasFamily(QLatin1String(family)), family);
         QGuiApplication::setFont(QFont({u"Inter"_s, u"Noto Sans Arabic UI"_s, u"Noto Sans CJK JP"_s}));
         qputenv("HOME", m_home.path().toUtf8());
+        qputenv("TZ", "Pacific/Auckland"); // Where the 5-hour block ends tomorrow.
         writeLogs(m_home.path());
         registerViews();
     }
@@ -330,6 +331,8 @@ private Q_SLOTS:
                 stage.core.controller.open(tool);
                 QTRY_VERIFY(stage.find(QString::fromLatin1(entry(tool).view)));
                 stage.settle();
+                QVERIFY(content != Content::Figures || tool != NotchTool::aiUsage ||
+                        stage.core.services.aiUsage()->claude());
                 look(entry(tool).view, stage.window.get());
             }
         }
