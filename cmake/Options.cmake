@@ -12,6 +12,13 @@ if(KESTRUNE_SANITIZE)
     add_link_options(-fsanitize=${KESTRUNE_SANITIZE})
 endif()
 
+# Relocations are read at each start; packed, they take a hundredth of the memory.
+include(CheckLinkerFlag)
+check_linker_flag(CXX -Wl,-z,pack-relative-relocs KESTRUNE_PACKS_RELOCATIONS)
+if(KESTRUNE_PACKS_RELOCATIONS)
+    add_link_options(-Wl,-z,pack-relative-relocs)
+endif()
+
 # A static library of one layer: kestrune_layer(NAME source...). Link what the layer may see afterwards.
 function(kestrune_layer name)
     add_library(${name} STATIC ${ARGN})
