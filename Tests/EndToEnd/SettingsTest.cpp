@@ -64,7 +64,71 @@ private Q_SLOTS:
         QTRY_COMPARE(windows(), before + 1);
     }
 
+    /// Down the whole window with the keyboard: each row changes its own setting, and nothing else.
+    void everyRowByKeyboard()
+    {
+        setStage({});
+        Session &session = stage().session;
+        QVERIFY(stage().run());
+        QCOMPARE(session.command({u"settings"_s, u"open"_s}).status, 0);
+        QVERIFY(waitUntil([&] { return isActive(); }));
+        QTRY_VERIFY(looksOn());
+        stage().input.click(place(sliderMiddle));
+        QTRY_COMPARE(session.setting(u"hoverDelay"_s), u"0.4"_s);
+        for (const auto *name :
+             {"shortcutEnabled", "liveActivities", "announceScreenshots", "allDisplays", "showWithoutNotch",
+              "clipboardHistory", "readCodexUsage", "readClaudeUsage", "useFahrenheit"}) {
+            QCOMPARE(changedBy({XK_Tab, XK_space}), QStringList(QLatin1String(name)));
+            QCOMPARE(changedBy({XK_space}), QStringList(QLatin1String(name)));
+        }
+        const QString order = session.setting(u"homeOrder"_s);
+        const QString columns = session.setting(u"homeColumns"_s);
+        for (int row = 0; row < 12; ++row) {
+            QCOMPARE(changedBy({XK_Tab, xcb_keysym_t(row < 5 ? XK_Up : XK_Down)}),
+                     QStringList(u"homeColumns"_s));
+            stage().input.tap(XK_Tab);
+            if (row == 11)
+                QCOMPARE(changedBy({XK_space}), QStringList(u"homeOrder"_s));
+            stage().input.tap(XK_Tab);
+        }
+        for (int i = 0; i < 3; ++i) // The last row has moved up: once more over the one below it.
+            stage().input.tap(XK_Tab);
+        QCOMPARE(changedBy({XK_Tab, XK_space}), QStringList({u"homeColumns"_s, u"homeOrder"_s}));
+        QCOMPARE(session.setting(u"homeOrder"_s), order);
+        QCOMPARE(session.setting(u"homeColumns"_s), columns);
+        QCOMPARE(changedBy({XK_Tab, XK_5}), QStringList(u"claudeBlockBudget"_s));
+        QStringList tools = session.tools();
+        QCOMPARE(tools.size(), 14);
+        while (!tools.isEmpty()) {
+            QCOMPARE(changedBy({XK_Tab, XK_space}), QStringList(u"tools"_s));
+            tools.removeFirst();
+            QCOMPARE(session.tools(), tools);
+        }
+        QCOMPARE(changedBy({XK_Tab, XK_space}), QStringList(u"launchAtLogin"_s));
+        QCOMPARE(changedBy({XK_space}), QStringList(u"launchAtLogin"_s));
+    }
+
 private:
+    /// The names of the settings that differ after these keys.
+    QStringList changedBy(const QList<xcb_keysym_t> &keys)
+    {
+        const auto all = [&] {
+            return stage().session.command({u"settings"_s, u"list"_s}).output.split(u'\n');
+        };
+        const QStringList before = all();
+        for (const xcb_keysym_t key : keys)
+            stage().input.tap(key);
+        QStringList after;
+        (void)waitUntil([&] { return (after = all()) != before; }, 3000);
+        QStringList changed;
+        for (qsizetype i = 0; i < std::min(before.size(), after.size()); ++i) {
+            if (before.at(i) != after.at(i))
+                changed.append(before.at(i).section(u' ', 0, 0));
+        }
+        changed.sort();
+        return changed;
+    }
+
     bool isActive()
     {
         m_window = stage().x.activeWindow();
