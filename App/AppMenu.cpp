@@ -2,7 +2,7 @@
 
 #include "AppState.h"
 #include "NotchKit/NotchStrings.h"
-#include "NotchKit/Platform/Updater.h"
+#include "NotchKit/Updates/Updater.h"
 
 #include <QCoreApplication>
 

@@ -1,6 +1,9 @@
 #include "AppState.h"
 
 #include "NotchKit/NotchStrings.h"
+#include "NotchKit/Platform/LoginItem.h"
+#include "NotchKit/Platform/RunningApplications.h"
+#include "NotchKit/Platform/UserDefaults.h"
 
 #include <QCoreApplication>
 
@@ -19,20 +22,20 @@ QString welcomedKey() { return QStringLiteral("kestrune.welcomed"); }
 
 } // namespace
 
-AppState::AppState(const AppPlatform &app, const NotchPlatform &tools,
-                   const NotchControllerPlatform &controller, const LaunchRequest &request, QObject *parent)
+AppState::AppState(const Platform &platform, const AppWindows &windows, const LaunchRequest &request,
+                   QObject *parent)
     : QObject(parent)
-    , m_platform(app)
-    , m_clock(tools.clock)
-    , m_settings(app.defaults)
-    , m_services(m_settings, NotchBranding::fennivar(), tools)
-    , m_controller(m_services, controller)
-    , m_launchAtLogin(app.loginItem.isEnabled())
+    , m_platform(platform)
+    , m_windows(windows)
+    , m_settings(platform.defaults)
+    , m_services(m_settings, NotchBranding::fennivar(), platform)
+    , m_controller(m_services, platform, windows.panels)
+    , m_launchAtLogin(platform.loginItem.isEnabled())
 {
-    m_services.openSettings = app.openSettings;
+    m_services.openSettings = windows.openSettings;
     followSettings();
     checkFennivar();
-    m_watcher = m_clock.every(kSuiteCheck, [this] { checkFennivar(); });
+    m_watcher = m_platform.clock.every(kSuiteCheck, [this] { checkFennivar(); });
     schedule(request);
 }
 
@@ -52,7 +55,7 @@ void AppState::schedule(LaunchRequest request)
         request = {true, NotchTool::home};
     }
     if (request.open)
-        m_launch = m_clock.after(kLaunchDelay, [this, tool = request.tool] { showNotch(tool); });
+        m_launch = m_platform.clock.after(kLaunchDelay, [this, tool = request.tool] { showNotch(tool); });
 }
 
 void AppState::checkFennivar()
@@ -84,7 +87,7 @@ void AppState::toggle()
 
 void AppState::showPausedAlert()
 {
-    m_platform.showAlert(
+    m_windows.showAlert(
         notchStrings(QT_TRANSLATE_NOOP("notch", "Fennivar’s notch is on, so Kestrune is paused.")),
         notchStrings(QT_TRANSLATE_NOOP("notch", "Turn off Notch in Fennivar to use Kestrune.")));
 }
@@ -100,14 +103,14 @@ void AppState::setLaunchAtLogin(bool on)
 
 void AppState::openSettings()
 {
-    if (m_platform.openSettings)
-        m_platform.openSettings();
+    if (m_windows.openSettings)
+        m_windows.openSettings();
 }
 
 void AppState::openSuitePage()
 {
     if (const auto &page = m_services.branding().creditURL)
-        m_services.openUrl(*page);
+        m_services.surroundings()->openUrl(*page);
 }
 
 } // namespace Kestrune

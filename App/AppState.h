@@ -3,8 +3,6 @@
 #include "LaunchRequest.h"
 #include "NotchKit/NotchController.h"
 #include "NotchKit/NotchSettings.h"
-#include "NotchKit/Platform/LoginItem.h"
-#include "NotchKit/Platform/RunningApplications.h"
 
 #include <QObject>
 #include <QProperty>
@@ -13,13 +11,12 @@
 
 namespace Kestrune {
 
-/// The ports that the application itself calls.
-struct AppPlatform
+class NotchPanels;
+
+/// The windows that the application shows.
+struct AppWindows
 {
-    UserDefaults &defaults;      ///< The standard store.
-    UserDefaults &suiteDefaults; ///< The companion suite's own domain, read only.
-    RunningApplications &applications;
-    LoginItem &loginItem;
+    NotchPanels &panels;
     std::function<void(const QString &message, const QString &details)> showAlert;
     std::function<void()> openSettings = {}; ///< Shows the settings window.
 };
@@ -38,8 +35,8 @@ class AppState : public QObject
 public:
     /// Starts the notch unless the suite's is on, and opens it a second later if `request` asks for it or
     /// this is the very first start.
-    AppState(const AppPlatform &app, const NotchPlatform &tools, const NotchControllerPlatform &controller,
-             const LaunchRequest &request, QObject *parent = nullptr);
+    AppState(const Platform &platform, const AppWindows &windows, const LaunchRequest &request,
+             QObject *parent = nullptr);
     ~AppState() override;
 
     NotchSettings &settings() { return m_settings; }
@@ -76,8 +73,8 @@ private:
     void showPausedAlert();
     void followSettings();
 
-    AppPlatform m_platform;
-    Clock &m_clock;
+    Platform m_platform;
+    AppWindows m_windows;
     NotchSettings m_settings;
     NotchServices m_services;
     NotchController m_controller;

@@ -3,32 +3,11 @@
 #include "AppMenu.h"
 #include "AppState.h"
 #include "ControlService.h"
-#include "Desktop/Calendars/DesktopCalendars.h"
-#include "Desktop/Camera/HelperCamera.h"
-#include "Desktop/Captures/FolderCaptureQuery.h"
-#include "Desktop/Captures/SharedThumbnails.h"
-#include "Desktop/Defaults/SqliteUserDefaults.h"
-#include "Desktop/Location/GeoClueLocation.h"
-#include "Desktop/Media/MprisApplications.h"
-#include "Desktop/Media/MprisExecutor.h"
-#include "Desktop/Network/QtHttpClient.h"
-#include "Desktop/Session/AutostartLoginItem.h"
-#include "Desktop/Session/BusApplications.h"
-#include "Desktop/Session/DesktopWorkspace.h"
 #include "Desktop/Session/PortalAppearance.h"
-#include "Desktop/Sharing/KdeConnectSharing.h"
-#include "Desktop/Sound/CanberraSounds.h"
-#include "Desktop/System/LinuxStatistics.h"
-#include "Desktop/Time/SystemClock.h"
 #include "Desktop/Tray/BusStatusItem.h"
-#include "Desktop/X11/X11Desktop.h"
-#include "Desktop/X11/X11Displays.h"
-#include "Desktop/X11/X11DragPasteboard.h"
-#include "Desktop/X11/X11HotKeys.h"
-#include "Desktop/X11/X11Pasteboard.h"
-#include "Desktop/X11/X11Pointer.h"
-#include "NotchKit/Platform/Updater.h"
-#include "NotchKit/Views/AlertWindow.h"
+#include "DesktopPlatform.h"
+#include "NotchKit/Shell/AlertWindow.h"
+#include "NotchKit/Updates/Updater.h"
 #include "PanelFactory.h"
 #include "SettingsWindow.h"
 #include "UpdateWindow.h"
@@ -38,12 +17,12 @@
 
 namespace Kestrune {
 
-/// The whole running program: every adapter, put together. The only place that knows them all.
+/// The whole running program: the platform, the application's state and its windows, put together.
 class Application
 {
 public:
-    /// Builds the adapters; nothing is on screen yet.
-    explicit Application(const QDBusConnection &bus);
+    /// Nothing is on screen yet.
+    Application(const QDBusConnection &bus, const WindowSystemChoice &windows);
 
     /// Starts the program proper once it is known which other applications run.
     void start(const LaunchRequest &request);
@@ -53,31 +32,8 @@ private:
     SettingsKeys makeKeys();
 
     QDBusConnection m_bus;
-    SqliteUserDefaults m_defaults;
-    SqliteUserDefaults m_suiteDefaults;
-    SqliteUserDefaults m_capturePreferences;
-    SystemClock m_clock;
-    CanberraSounds m_sounds;
-    DesktopWorkspace m_workspace;
-    KdeConnectSharing m_sharing;
-    AutostartLoginItem m_loginItem;
-    BusApplications m_applications;
-    X11Desktop m_desktop;
-    X11Displays m_displays;
-    X11Pointer m_pointer;
-    X11HotKeys m_hotKeys;
-    X11DragPasteboard m_drags;
-    X11Pasteboard m_pasteboard;
-    FolderCaptureQuery m_captures;
-    SharedThumbnails m_thumbnails;
-    QtHttpClient m_http;
-    std::unique_ptr<HttpClient> m_localServices; ///< In place of the web services, in tests.
-    GeoClueLocation m_location;
-    MprisApplications m_players;
-    MprisExecutor m_scripts;
-    LinuxStatistics m_host;
-    HelperCamera m_camera;
-    DesktopCalendars m_calendars;
+    DesktopPlatform m_desktop;
+    const Platform &m_platform;
     std::unique_ptr<Updater> m_updater;
     PortalAppearance m_appearance;
     QQmlEngine m_engine;

@@ -5,6 +5,7 @@
 #include "NotchKit/NotchSettings.h"
 #include "StandardSettings.h"
 #include "UsageReport.h"
+#include "Watchdog.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -23,7 +24,8 @@ namespace {
 
 using Verb = CommandLine::Verb;
 
-constexpr int kTimeout = 5000; // ms
+constexpr int kTimeout = 5000;                  // ms
+constexpr std::chrono::seconds kBusTimeout(10); // To reach the bus, and through it the program.
 
 int fail(int status, const QString &fault)
 {
@@ -37,7 +39,10 @@ QDBusMessage call(const QString &method, const QVariantList &arguments = {})
         ControlService::busName(), ControlService::objectPath(), ControlService::interfaceName(), method);
     message.setArguments(arguments);
     message.setAutoStartService(false);
-    return QDBusConnection::sessionBus().call(message, QDBus::Block, kTimeout);
+    Watchdog watchdog(kBusTimeout, 1, "Kestrune: the session bus does not answer\n");
+    QDBusMessage reply = QDBusConnection::sessionBus().call(message, QDBus::Block, kTimeout);
+    watchdog.callOff();
+    return reply;
 }
 
 bool nothingRuns(const QDBusMessage &reply)
@@ -47,6 +52,12 @@ bool nothingRuns(const QDBusMessage &reply)
            reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner");
 }
 
+bool hangs(const QDBusMessage &reply)
+{
+    return reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NoReply") ||
+           reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.Timeout");
+}
+
 /// What went wrong with a call, or nothing and 0.
 int outcome(const QDBusMessage &reply)
 {
@@ -54,6 +65,8 @@ int outcome(const QDBusMessage &reply)
         return 0;
     if (nothingRuns(reply))
         return fail(1, QStringLiteral("it is not running"));
+    if (hangs(reply))
+        return fail(1, QStringLiteral("it is running, but does not answer"));
     const bool badArguments = reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.InvalidArgs");
     return fail(badArguments ? 2 : 1, reply.errorMessage());
 }
@@ -87,8 +100,9 @@ int printStatus(bool json)
 class Settings
 {
 public:
-    Settings()
-        : m_running(!nothingRuns(call(QStringLiteral("Status"))))
+    /// `reply` is the running program's to a question for its status.
+    explicit Settings(const QDBusMessage &reply)
+        : m_running(!nothingRuns(reply))
     {
         if (m_running)
             return;
@@ -147,7 +161,10 @@ int runSettings(const QStringList &arguments)
     const QString &verb = arguments.constFirst();
     if (verb == QLatin1String("open"))
         return outcome(call(QStringLiteral("OpenSettings")));
-    Settings settings;
+    const QDBusMessage reply = call(QStringLiteral("Status"));
+    if (hangs(reply))
+        return outcome(reply);
+    Settings settings(reply);
     const QString key = arguments.value(1);
     if (verb == QLatin1String("get"))
         return settings.print(key);

@@ -1,7 +1,7 @@
 #include "LocalServices.h"
 
-#include "Desktop/Network/Addresses.h"
-#include "NotchKit/Tools/WebServices.h"
+#include "NotchKit/Platform/Addresses.h"
+#include "NotchKit/WebServices.h"
 
 #include <algorithm>
 

@@ -1,22 +1,28 @@
 #include "PanelFactory.h"
 
-#include "Desktop/X11/X11Panel.h"
-#include "NotchKit/Views/NotchWindow.h"
+#include "NotchKit/Platform/WindowSystem.h"
+#include "NotchKit/Shell/NotchWindow.h"
 
 namespace Kestrune {
 
-PanelFactory::PanelFactory(QQmlEngine &engine, const X11Desktop &desktop)
+PanelFactory::PanelFactory(QQmlEngine &engine, WindowSystem &windows)
     : m_engine(engine)
-    , m_desktop(desktop)
+    , m_windows(windows)
 {}
 
 std::unique_ptr<NotchPanel> PanelFactory::create(const QRectF &frame, NotchScreenModel &model,
                                                  NotchServices &services)
 {
     auto window = std::make_unique<NotchWindow>(m_engine, model, services);
-    const auto *view = window.get();
-    auto panel = std::make_unique<X11Panel>(std::move(window), m_desktop, frame);
-    QObject::connect(view, &NotchWindow::outlineChanged, panel.get(), &X11Panel::setOutline);
+    auto *view = window.get();
+    auto panel = m_windows.makePanel(std::move(window), frame);
+    // The window goes with its panel.
+    QObject::connect(view, &NotchWindow::outlineChanged, view,
+                     [host = panel.get()](const QPainterPath &outline) { host->setOutline(outline); });
+    // With the software renderer a frame is drawn in this thread, and put on the screen right after this
+    // signal.
+    QObject::connect(view, &QQuickWindow::afterRendering, view,
+                     [host = panel.get()] { host->announceFrame(); });
     return panel;
 }
 

@@ -1,26 +1,26 @@
 #pragma once
 
-#include "NotchKit/Platform/NotchPanels.h"
+#include "NotchKit/NotchPanels.h"
 
 class QQmlEngine;
 
 namespace Kestrune {
 
-class X11Desktop;
+class WindowSystem;
 
-/// Makes notch panels of the Qt Quick views on X11.
+/// Makes notch panels of the Qt Quick views.
 class PanelFactory : public NotchPanels
 {
 public:
     /// Both outlive the factory and its panels.
-    PanelFactory(QQmlEngine &engine, const X11Desktop &desktop);
+    PanelFactory(QQmlEngine &engine, WindowSystem &windows);
 
     std::unique_ptr<NotchPanel> create(const QRectF &frame, NotchScreenModel &model,
                                        NotchServices &services) override;
 
 private:
     QQmlEngine &m_engine;
-    const X11Desktop &m_desktop;
+    WindowSystem &m_windows;
 };
 
 } // namespace Kestrune

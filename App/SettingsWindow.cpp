@@ -2,7 +2,7 @@
 
 #include "AppState.h"
 #include "NotchKit/Platform/Appearance.h"
-#include "NotchKit/Platform/Updater.h"
+#include "NotchKit/Updates/Updater.h"
 
 namespace Kestrune {
 

@@ -1,7 +1,7 @@
 #include "SingleInstance.h"
 
 #include "ControlService.h"
-#include "Desktop/Session/BusDaemon.h"
+#include "Desktop/Bus/BusDaemon.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -14,7 +14,7 @@ namespace {
 constexpr uint kDoNotQueue = 4;
 constexpr uint kPrimaryOwner = 1;
 constexpr uint kAlreadyOwner = 4;
-constexpr int kTimeout = 5000; // ms
+constexpr int kHandOverTimeout = 5000; // ms
 
 } // namespace
 
@@ -41,13 +41,20 @@ void SingleInstance::claim(std::function<void(Outcome)> done)
                     });
 }
 
+void SingleInstance::release()
+{
+    if (m_bus.isConnected())
+        BusDaemon::call(m_bus, QStringLiteral("ReleaseName"), {ControlService::busName()}, this,
+                        [](const QVariant &) {});
+}
+
 void SingleInstance::handOver(const QString &tool, std::function<void(bool)> done)
 {
     QDBusMessage message =
         QDBusMessage::createMethodCall(ControlService::busName(), ControlService::objectPath(),
                                        ControlService::interfaceName(), QStringLiteral("Reopen"));
     message.setArguments({tool});
-    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, kTimeout), this);
+    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, kHandOverTimeout), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, done = std::move(done)] {
         done(!watcher->isError());
         watcher->deleteLater();

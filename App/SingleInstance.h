@@ -24,7 +24,11 @@ public:
     /// Asks for the name without waiting; `done` is called once.
     void claim(std::function<void(Outcome)> done);
 
-    /// Hands a start's request to the first process; `done` is called when it has taken it.
+    /// Gives the name up: the next start is a first one. Waits for nothing.
+    void release();
+
+    /// Hands a start's request to the first process; `done` is called with whether it has taken
+    /// it, which it does within seconds unless it hangs.
     void handOver(const QString &tool, std::function<void(bool)> done);
 
 private:

@@ -1,7 +1,7 @@
 #include "StandardSettings.h"
 
 #include "Desktop/Calendars/DesktopCalendars.h"
-#include "Desktop/X11/X11Displays.h"
+#include "NotchKit/Platform/CameraHousings.h"
 
 namespace Kestrune {
 
@@ -38,7 +38,7 @@ QMap<QString, SettingsKeys::Extra> standardExtras(UserDefaults &defaults, LoginI
                                                   const std::function<void()> &housingsChanged,
                                                   const std::function<void(bool)> &setLaunchAtLogin)
 {
-    const QString key = QString::fromLatin1(X11Displays::housingsKey);
+    const QString key = QString::fromLatin1(CameraHousings::key);
     const SettingsKeys::Extra housing{
         [&defaults, key]() -> std::optional<DefaultsValue> {
             return defaults.value<StringMap>(key).value_or(StringMap());

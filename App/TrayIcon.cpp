@@ -1,6 +1,6 @@
 #include "TrayIcon.h"
 
-#include "NotchKit/Views/Symbols.h"
+#include "NotchKit/Kit/Symbols.h"
 
 #include <QFont>
 #include <QPainter>

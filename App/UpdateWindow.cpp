@@ -1,7 +1,7 @@
 #include "UpdateWindow.h"
 
 #include "NotchKit/Platform/Appearance.h"
-#include "NotchKit/Platform/Updater.h"
+#include "NotchKit/Updates/Updater.h"
 
 #include <QQmlEngine>
 

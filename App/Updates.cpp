@@ -1,7 +1,9 @@
 #include "Updates.h"
 
-#include "Desktop/Network/Addresses.h"
-#include "Desktop/Updates/PackagedUpdater.h"
+#include "Desktop/Updates/SignedReleases.h"
+#include "NotchKit/Platform/Addresses.h"
+#include "NotchKit/Updates/FeedUpdater.h"
+#include "NotchKit/Updates/PackagedUpdater.h"
 
 #include <QStandardPaths>
 
@@ -31,7 +33,7 @@ Feed findFeed()
 
 } // namespace
 
-std::unique_ptr<Updater> makeUpdater(const FeedUpdater::Ports &ports)
+std::unique_ptr<Updater> makeUpdater(const Platform &platform)
 {
     const Feed feed = findFeed();
     const auto version = SemanticVersion::parse(QStringLiteral(KESTRUNE_VERSION));
@@ -39,8 +41,8 @@ std::unique_ptr<Updater> makeUpdater(const FeedUpdater::Ports &ports)
         return std::make_unique<PackagedUpdater>();
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
                           QStringLiteral("/kestrune/updates");
-    return std::make_unique<FeedUpdater>(FeedUpdater::Source{feed.address, *feed.key, *version}, ports,
-                                         cache);
+    return std::make_unique<FeedUpdater>(FeedUpdater::Source{feed.address, *version},
+                                         std::make_unique<SignedReleases>(*feed.key, cache), platform);
 }
 
 } // namespace Kestrune

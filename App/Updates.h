@@ -1,6 +1,7 @@
 #pragma once
 
-#include "Desktop/Updates/FeedUpdater.h"
+#include "NotchKit/Platform/Platform.h"
+#include "NotchKit/Updates/Updater.h"
 
 #include <memory>
 
@@ -11,6 +12,6 @@ namespace Kestrune {
 ///
 /// For tests, the variables KESTRUNE_FEED and KESTRUNE_FEED_KEY name another feed and key; only an address of
 /// this machine is taken.
-std::unique_ptr<Updater> makeUpdater(const FeedUpdater::Ports &ports);
+std::unique_ptr<Updater> makeUpdater(const Platform &platform);
 
 } // namespace Kestrune

@@ -1,9 +1,9 @@
 #include "UsageReport.h"
 
-#include "NotchKit/Tools/AIUsageModel.h"
-#include "NotchKit/Tools/ClaudeLogReader.h"
-#include "NotchKit/Tools/CodexReader.h"
-#include "NotchKit/Views/AIUsagePresentation.h"
+#include "NotchKit/Tools/AIUsage/AIUsageModel.h"
+#include "NotchKit/Tools/AIUsage/AIUsagePresentation.h"
+#include "NotchKit/Tools/AIUsage/ClaudeLogReader.h"
+#include "NotchKit/Tools/AIUsage/CodexReader.h"
 
 #include <QDir>
 #include <QJsonArray>

@@ -1,9 +1,11 @@
 #include "Application.h"
+#include "Async/Threads.h"
 #include "CommandLine.h"
-#include "Desktop/X11/X11Connection.h"
 #include "LocalServices.h"
 #include "NotchKit/NotchStrings.h"
 #include "SingleInstance.h"
+#include "Watchdog.h"
+#include "WindowSystems.h"
 
 #include <QFontDatabase>
 #include <QGuiApplication>
@@ -21,6 +23,11 @@
 namespace {
 
 using namespace Kestrune;
+using namespace std::chrono_literals;
+
+constexpr auto kLongestEnd = 1500ms;
+constexpr auto kLongestWait =
+    500ms; // For other threads: one that hangs must not be there when the rest is taken down.
 
 /// Environment variables that are set for a while only: programs that this one starts do not inherit them.
 class TemporaryEnvironment
@@ -47,7 +54,7 @@ private:
 };
 
 /// What must be decided before the application object is made.
-TemporaryEnvironment setUpPlatform()
+TemporaryEnvironment setUpPlatform(const WindowSystemChoice &windows)
 {
     // The notch is small and still: drawing it in memory starts faster and takes a fraction of the memory
     // of a graphics driver.
@@ -55,8 +62,7 @@ TemporaryEnvironment setUpPlatform()
     TemporaryEnvironment environment;
     environment.set("QT_XCB_GL_INTEGRATION", "none");
     environment.set("QT_NO_GLIB", "1");
-    // Under Wayland too, where X programs run as guests: the panel needs what only X11 offers so far.
-    environment.set("QT_QPA_PLATFORM", "xcb");
+    environment.set("QT_QPA_PLATFORM", windows.qtPlatform);
     return environment;
 }
 
@@ -100,11 +106,12 @@ int runProgram(int argc, char *argv[], const QStringList &arguments)
                      LocalServices::kVariable);
         return 2;
     }
-    TemporaryEnvironment environment = setUpPlatform();
-    if (!X11::canConnect()) {
-        std::fputs("Kestrune: it needs an X11 display\n", stderr);
+    const WindowSystemChoice *windows = chooseWindowSystem();
+    if (!windows) {
+        std::fputs("Kestrune: it needs a display; an X server, or the one of a Wayland session\n", stderr);
         return 1;
     }
+    TemporaryEnvironment environment = setUpPlatform(*windows);
     QGuiApplication application(argc, argv);
     environment.restore();
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -118,16 +125,29 @@ int runProgram(int argc, char *argv[], const QStringList &arguments)
     instance.claim([&](SingleInstance::Outcome outcome) {
         if (outcome == SingleInstance::Outcome::second) {
             const QString tool = request.tool ? rawValue(*request.tool) : QString();
-            instance.handOver(tool, [](bool taken) { QCoreApplication::exit(taken ? 0 : 1); });
+            instance.handOver(tool, [](bool taken) {
+                if (!taken)
+                    std::fputs("Kestrune: it is running already, but does not answer\n", stderr);
+                QCoreApplication::exit(taken ? 0 : 1);
+            });
             return;
         }
         if (outcome == SingleInstance::Outcome::noBus)
             std::fputs("Kestrune: there is no session bus; commands and a second start cannot reach it\n",
                        stderr);
-        program = std::make_unique<Application>(bus);
+        program = std::make_unique<Application>(bus, *windows);
         program->start(request);
     });
-    return QGuiApplication::exec();
+    const int status = QGuiApplication::exec();
+
+    // Everything was saved when it was changed. The next start must not meet this one, however long its end
+    // takes.
+    instance.release();
+    const Watchdog watchdog(kLongestEnd, status); // Until the very end: what is static is taken down too.
+    program.reset();
+    if (!Threads::waitForAll(kLongestWait))
+        endProcess(status);
+    return status;
 }
 
 } // namespace

@@ -1,9 +1,10 @@
 // Opens and closes a real notch many times, drawn in software at scale 1, and looks at each frame.
 
 #include "App/PanelFactory.h"
+#include "App/WindowSystems.h"
 #include "Desktop/Time/SystemClock.h"
-#include "Desktop/X11/X11Desktop.h"
-#include "NotchKit/Views/NotchWindow.h"
+#include "NotchKit/Platform/WindowSystem.h"
+#include "NotchKit/Shell/NotchWindow.h"
 #include "Surroundings.h"
 #include "Table.h"
 #include "Timing.h"
@@ -100,8 +101,8 @@ int main(int argc, char *argv[])
     HubParts parts(clock);
     NotchServices services(parts.settings, NotchBranding::fennivar(), parts.platform());
     QQmlEngine engine;
-    const X11Desktop desktop;
-    PanelFactory panels(engine, desktop);
+    const auto windows = chooseWindowSystem()->make(parts.defaults);
+    PanelFactory panels(engine, *windows);
     const NotchGeometry geometry(twoDisplays().constFirst());
     NotchScreenModel model(geometry);
     const auto panel = panels.create(geometry.panelFrame(), model, services);

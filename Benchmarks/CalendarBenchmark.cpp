@@ -4,7 +4,7 @@
 #include "Desktop/Calendars/DesktopCalendars.h"
 #include "Desktop/Time/SystemClock.h"
 #include "NotchKit/NotchController.h"
-#include "NotchKit/Tools/CalendarModel.h"
+#include "NotchKit/Tools/Calendar/CalendarModel.h"
 #include "Surroundings.h"
 #include "Table.h"
 #include "Timing.h"
@@ -113,17 +113,15 @@ int main(int argc, char *argv[])
     parts.defaults.setObject(DesktopCalendars::folderKey(), root.path());
     DesktopCalendars desktop(QDBusConnection(QString()), parts.defaults);
     WatchedStore store(desktop);
-    NotchServices services(parts.settings, NotchBranding::fennivar(), parts.platform(store));
+    NotchServices services(parts.settings, NotchBranding::fennivar(), parts.platform({.calendars = &store}));
     WatchedPointer pointer;
-    Fakes::FakeDisplays displays;
-    displays.displays = twoDisplays();
-    Fakes::FakePanels panels;
-    Fakes::FakeHotKeys hotKeys;
-    NotchController controller(services, {clock, displays, pointer, panels, hotKeys, parts.drags});
+    Fakes::Platform around;
+    around.displays.displays = twoDisplays();
+    NotchController controller(services, around.ports({.clock = &clock, .pointer = &pointer}), around.panels);
     controller.start();
     pass(1s);
 
-    CalendarModel &model = *services.calendar();
+    CalendarModel &model = *services.model<CalendarModel>();
     pointer.takeLongest();
     const double first = refresh(model, store);
     std::vector<double> times;

@@ -62,21 +62,17 @@ double roundTrip()
 void pollPointer(benchmark::State &state)
 {
     Fakes::FakeClock hubTime; // stands still: only the poll is measured
-    Fakes::FakeClock pollTime;
     HubParts parts(hubTime);
     parts.settings.setAllDisplays(true);
     NotchServices services(parts.settings, NotchBranding::fennivar(), parts.platform());
-    Fakes::FakeDisplays displays;
-    displays.displays = twoDisplays();
+    Fakes::Platform around;
+    around.displays.displays = twoDisplays();
     X11Pointer pointer;
-    Fakes::FakePanels panels;
-    Fakes::FakeHotKeys hotKeys;
-    Fakes::FakeDrags drags;
-    NotchController controller(services, {pollTime, displays, pointer, panels, hotKeys, drags});
+    NotchController controller(services, around.ports({.pointer = &pointer}), around.panels);
     controller.start();
     if (controller.notches().size() != 2)
         state.SkipWithError("there are not two notches");
-    measure(state, 60, 0ms, [&] { pollTime.advance(33ms); });
+    measure(state, 60, 0ms, [&] { around.clock.advance(33ms); });
     state.counters["peer"] = roundTrip();
 }
 

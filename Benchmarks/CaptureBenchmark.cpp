@@ -4,7 +4,7 @@
 #include "Desktop/Captures/FolderCaptureQuery.h"
 #include "Desktop/Captures/SharedThumbnails.h"
 #include "Desktop/Time/SystemClock.h"
-#include "NotchKit/Tools/CapturesModel.h"
+#include "NotchKit/Tools/Captures/CapturesModel.h"
 #include "Surroundings.h"
 #include "Table.h"
 

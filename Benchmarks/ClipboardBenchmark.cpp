@@ -2,13 +2,14 @@
 // and then hangs or sends far too much.
 
 #include "App/PanelFactory.h"
+#include "App/WindowSystems.h"
 #include "Desktop/Defaults/SqliteUserDefaults.h"
 #include "Desktop/Time/SystemClock.h"
-#include "Desktop/X11/X11Desktop.h"
 #include "Desktop/X11/X11Pasteboard.h"
 #include "NotchKit/NotchController.h"
-#include "NotchKit/Tools/ClipboardModel.h"
-#include "NotchKit/Views/NotchWindow.h"
+#include "NotchKit/Platform/WindowSystem.h"
+#include "NotchKit/Shell/NotchWindow.h"
+#include "NotchKit/Tools/Clipboard/ClipboardModel.h"
 #include "Surroundings.h"
 #include "Table.h"
 #include "WatchedPointer.h"
@@ -158,7 +159,8 @@ void measureCaptures(NotchServices &services, NotchScreenModel &model, QQuickWin
     QElapsedTimer time;
     bool recorded = false;
     bool drawn = false;
-    QObject::connect(services.clipboard(), &ClipboardModel::itemsChanged, &window, [&] { recorded = true; });
+    QObject::connect(services.model<ClipboardModel>(), &ClipboardModel::itemsChanged, &window,
+                     [&] { recorded = true; });
     const auto swapped = [&] { drawn = recorded; };
     QObject::connect(&window, &QQuickWindow::frameSwapped, &window, swapped, Qt::DirectConnection);
     for (int i = 0; i < kCopies; ++i) {
@@ -198,12 +200,9 @@ private:
 void measureGaps(NotchServices &services, Clock &clock)
 {
     WatchedPointer pointer;
-    Fakes::FakeDisplays displays;
-    displays.displays = twoDisplays();
-    Fakes::FakePanels panels;
-    Fakes::FakeHotKeys hotKeys;
-    Fakes::FakeDrags drags;
-    NotchController controller(services, {clock, displays, pointer, panels, hotKeys, drags});
+    Fakes::Platform around;
+    around.displays.displays = twoDisplays();
+    NotchController controller(services, around.ports({.clock = &clock, .pointer = &pointer}), around.panels);
     controller.start();
     pass(4s);
     pointer.takeLongest();
@@ -240,10 +239,11 @@ int main(int argc, char *argv[])
         SystemClock clock;
         X11Pasteboard pasteboard;
         HubParts parts(clock);
-        NotchServices services(parts.settings, NotchBranding::fennivar(), parts.platform(pasteboard));
+        NotchServices services(parts.settings, NotchBranding::fennivar(),
+                               parts.platform({.pasteboard = &pasteboard}));
         QQmlEngine engine;
-        const X11Desktop desktop;
-        PanelFactory panels(engine, desktop);
+        const auto windows = chooseWindowSystem()->make(parts.defaults);
+        PanelFactory panels(engine, *windows);
         const NotchGeometry geometry(twoDisplays().constFirst());
         NotchScreenModel model(geometry);
         const auto panel = panels.create(geometry.panelFrame(), model, services);

@@ -1,7 +1,7 @@
 // Measures how fast the logs of Claude Code are read, next to grep over the same files, and what memory it
 // takes. The logs are made up: 300 MB in 1,000 files, half of their lines with token figures.
 
-#include "NotchKit/Tools/ClaudeLogReader.h"
+#include "NotchKit/Tools/AIUsage/ClaudeLogReader.h"
 #include "Table.h"
 
 #include <QCoreApplication>

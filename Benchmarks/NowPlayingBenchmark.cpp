@@ -2,13 +2,14 @@
 // between two polls of the pointer while a player hangs.
 
 #include "App/PanelFactory.h"
+#include "App/WindowSystems.h"
 #include "Desktop/Media/MprisApplications.h"
 #include "Desktop/Media/MprisExecutor.h"
 #include "Desktop/Time/SystemClock.h"
-#include "Desktop/X11/X11Desktop.h"
 #include "NotchKit/NotchController.h"
-#include "NotchKit/Tools/NowPlayingModel.h"
-#include "NotchKit/Views/NotchWindow.h"
+#include "NotchKit/Platform/WindowSystem.h"
+#include "NotchKit/Shell/NotchWindow.h"
+#include "NotchKit/Tools/NowPlaying/NowPlayingModel.h"
 #include "Surroundings.h"
 #include "Table.h"
 #include "Timing.h"
@@ -91,12 +92,9 @@ void measureWings(Table &table, Player &player)
 void measureGaps(NotchServices &services, Clock &clock, Player &music, Player &spotify)
 {
     WatchedPointer pointer;
-    Fakes::FakeDisplays displays;
-    displays.displays = twoDisplays();
-    Fakes::FakePanels panels;
-    Fakes::FakeHotKeys hotKeys;
-    Fakes::FakeDrags drags;
-    NotchController controller(services, {clock, displays, pointer, panels, hotKeys, drags});
+    Fakes::Platform around;
+    around.displays.displays = twoDisplays();
+    NotchController controller(services, around.ports({.clock = &clock, .pointer = &pointer}), around.panels);
     controller.start();
     pass(4s);
     pointer.takeLongest();
@@ -121,11 +119,11 @@ int main(int argc, char *argv[])
     HubParts parts(clock);
     MprisApplications players(QDBusConnection::sessionBus());
     MprisExecutor scripts;
-    NotchPlatform platform = parts.platform(players, scripts);
+    const Platform platform = parts.platform({.players = &players, .scripts = &scripts});
     NotchServices services(parts.settings, NotchBranding::fennivar(), platform);
     QQmlEngine engine;
-    const X11Desktop desktop;
-    PanelFactory panels(engine, desktop);
+    const auto windows = chooseWindowSystem()->make(parts.defaults);
+    PanelFactory panels(engine, *windows);
     const NotchGeometry geometry(twoDisplays().constFirst());
     NotchScreenModel model(geometry);
     const auto panel = panels.create(geometry.panelFrame(), model, services);

@@ -1,10 +1,11 @@
 // Scrolls scripts of several lengths in a real notch, drawn in software at scale 1, and looks at each frame.
 
 #include "App/PanelFactory.h"
+#include "App/WindowSystems.h"
 #include "Desktop/Time/SystemClock.h"
-#include "Desktop/X11/X11Desktop.h"
-#include "NotchKit/Tools/TeleprompterModel.h"
-#include "NotchKit/Views/NotchWindow.h"
+#include "NotchKit/Platform/WindowSystem.h"
+#include "NotchKit/Shell/NotchWindow.h"
+#include "NotchKit/Tools/Teleprompter/TeleprompterModel.h"
 #include "Surroundings.h"
 #include "Table.h"
 #include "Timing.h"
@@ -36,10 +37,10 @@ struct Notch
     SystemClock clock;
     HubParts parts{clock};
     NotchServices services{parts.settings, NotchBranding::fennivar(), parts.platform()};
-    TeleprompterModel &prompter = *services.prompter();
+    TeleprompterModel &prompter = *services.model<TeleprompterModel>();
     QQmlEngine engine;
-    X11Desktop desktop;
-    PanelFactory panels{engine, desktop};
+    std::unique_ptr<WindowSystem> windows = chooseWindowSystem()->make(parts.defaults);
+    PanelFactory panels{engine, *windows};
     NotchGeometry geometry{twoDisplays().constFirst()};
     NotchScreenModel model{geometry};
     std::unique_ptr<NotchPanel> panel = panels.create(geometry.panelFrame(), model, services);

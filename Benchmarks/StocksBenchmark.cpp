@@ -3,7 +3,7 @@
 
 #include "Desktop/Network/QtHttpClient.h"
 #include "Desktop/Time/SystemClock.h"
-#include "NotchKit/Tools/StocksModel.h"
+#include "NotchKit/Tools/Stocks/StocksModel.h"
 #include "Support/WebStandIn.h"
 #include "Surroundings.h"
 #include "Table.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Fakes.h"
 #include "NotchKit/NotchServices.h"
 #include "NotchKit/NotchSettings.h"
+#include "Support/FakePlatform.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -36,51 +36,19 @@ private:
 };
 
 /// What the hub is made of, with nothing behind it.
-struct HubParts
+struct HubParts : Kestrune::Fakes::Platform
 {
-    explicit HubParts(Kestrune::Clock &time)
-        : clock(time)
+    explicit HubParts(Kestrune::Clock &running)
+        : time(running)
     {}
-    Kestrune::NotchPlatform platform() { return make(pasteboard, players, scripts, calendars); }
-    Kestrune::NotchPlatform platform(Kestrune::Pasteboard &other)
+    Kestrune::Platform platform(Kestrune::Fakes::RealPorts real = {})
     {
-        return make(other, players, scripts, calendars);
-    }
-    Kestrune::NotchPlatform platform(Kestrune::CalendarStore &store)
-    {
-        return make(pasteboard, players, scripts, store);
-    }
-    Kestrune::NotchPlatform platform(Kestrune::RunningApplications &running,
-                                     Kestrune::ScriptExecutor &executor)
-    {
-        return make(pasteboard, running, executor, calendars);
+        real.clock = &time;
+        return ports(real);
     }
 
-    Kestrune::Clock &clock;
-    Kestrune::Fakes::MemoryDefaults defaults;
-    Kestrune::Fakes::FakeSounds sounds;
-    Kestrune::Fakes::FakeWorkspace workspace;
-    Kestrune::Fakes::FakePasteboard pasteboard;
-    Kestrune::Fakes::FakeDrags drags;
-    Kestrune::Fakes::FakeSharing sharing;
-    Kestrune::Fakes::FakeCaptureQuery captures;
-    Kestrune::Fakes::FakeThumbnails thumbnails;
-    Kestrune::Fakes::FakeHttp http;
-    Kestrune::Fakes::FakeLocation location;
-    Kestrune::Fakes::FakeApplications players;
-    Kestrune::Fakes::FakeScripts scripts;
-    Kestrune::Fakes::FakeHost host;
-    Kestrune::Fakes::FakeCamera camera;
-    Kestrune::Fakes::FakeCalendars calendars;
+    Kestrune::Clock &time;
     Kestrune::NotchSettings settings{defaults};
-
-private:
-    Kestrune::NotchPlatform make(Kestrune::Pasteboard &copies, Kestrune::RunningApplications &running,
-                                 Kestrune::ScriptExecutor &executor, Kestrune::CalendarStore &store)
-    {
-        return {clock,      defaults, sounds,   workspace, copies,   drags, sharing, captures,
-                thumbnails, http,     location, running,   executor, host,  camera,  store};
-    }
 };
 
 /// Two displays side by side; the first is the virtual display that the benchmarks run on.

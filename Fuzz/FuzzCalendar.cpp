@@ -4,6 +4,7 @@
 #include "Desktop/Calendars/IcalOccurrences.h"
 #include "Desktop/Calendars/IcalReader.h"
 #include "Desktop/Calendars/TaskCompletion.h"
+#include "NotchKit/Platform/Utc.h"
 
 #include <cstdlib>
 
@@ -23,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static IcalReader reader;
     const QByteArray text(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    const QDateTime now(QDate(2026, 3, 28), QTime(10, 0), Qt::UTC);
+    const QDateTime now(QDate(2026, 3, 28), QTime(10, 0), kUtc);
     const IcalRange range{now, now.addDays(2)};
     if (text.endsWith('\n'))
         require(IcalLines(text).text() == text);

@@ -1,6 +1,6 @@
 // The reply of the chart service, and what a user may type as symbols.
 
-#include "NotchKit/Tools/StockQuote.h"
+#include "NotchKit/Tools/Stocks/StockQuote.h"
 
 #include <algorithm>
 #include <cmath>

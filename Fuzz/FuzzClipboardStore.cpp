@@ -1,7 +1,7 @@
 // The stored clipboard history, as another program or a damaged disk may leave it: it is read as a whole or
 // not at all, and what was read is stored so that it reads the same.
 
-#include "NotchKit/Tools/ClipboardItem.h"
+#include "NotchKit/Tools/Clipboard/ClipboardItem.h"
 
 #include <cstdlib>
 

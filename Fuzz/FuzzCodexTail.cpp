@@ -1,6 +1,7 @@
 // The end of a Codex session log.
 
-#include "NotchKit/Tools/CodexReader.h"
+#include "NotchKit/Platform/Utc.h"
+#include "NotchKit/Tools/AIUsage/CodexReader.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -9,7 +10,7 @@ using namespace Kestrune;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const QDateTime now = QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC);
+    static const QDateTime now = QDateTime::fromSecsSinceEpoch(1'800'000'000, kUtc);
     const QByteArray tail(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     const auto limits = CodexReader::lastRateLimits(tail, now);
     if (!limits)

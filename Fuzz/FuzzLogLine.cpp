@@ -1,8 +1,8 @@
 // A stretch of a Claude Code log, as the reader gets it from a file: the word is found, the lines around it
 // are read, nothing else matters.
 
-#include "NotchKit/Tools/ClaudeLogLine.h"
-#include "NotchKit/Tools/UsageLines.h"
+#include "NotchKit/Tools/AIUsage/ClaudeLogLine.h"
+#include "NotchKit/Tools/AIUsage/UsageLines.h"
 
 #include <algorithm>
 #include <cstdlib>

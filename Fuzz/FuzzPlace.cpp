@@ -1,6 +1,6 @@
 // The reply of the geocoding service.
 
-#include "NotchKit/Tools/Forecast.h"
+#include "NotchKit/Tools/Weather/Forecast.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 // What a media player answered to the status script.
 
-#include "NotchKit/Tools/PlayerStatus.h"
+#include "NotchKit/Tools/NowPlaying/PlayerStatus.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -1,8 +1,13 @@
+# A newer compiler knows more warnings; they are for the checks to fail on, not for who wants to use the program.
+option(KESTRUNE_WARNINGS_AS_ERRORS "Fail on a warning" OFF)
+
 # What every target of this project is compiled with.
 add_library(KestruneOptions INTERFACE)
 target_compile_options(KestruneOptions INTERFACE
-    -Wall -Wextra -Wpedantic -Werror -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
-    -Wconversion -Wno-sign-conversion)
+    -Wall -Wextra -Wpedantic $<$<BOOL:${KESTRUNE_WARNINGS_AS_ERRORS}>:-Werror> -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wconversion -Wno-sign-conversion
+    # A source within a large unit is no header, whatever the compiler takes it for.
+    $<$<AND:$<BOOL:${CMAKE_UNITY_BUILD}>,$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
 target_compile_definitions(KestruneOptions INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH QT_NO_KEYWORDS
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
@@ -19,8 +24,24 @@ if(KESTRUNE_PACKS_RELOCATIONS)
     add_link_options(-Wl,-z,pack-relative-relocs)
 endif()
 
-# A static library of one layer: kestrune_layer(NAME source...). Link what the layer may see afterwards.
-function(kestrune_layer name)
-    add_library(${name} STATIC ${ARGN})
-    target_link_libraries(${name} PRIVATE KestruneOptions)
+# kestrune_unite(TARGET SOURCES COUNT): puts COUNT each of the sources listed in SOURCES into one, for options of their
+# own, with which CMake leaves sources out of its unity builds. SOURCES names the new ones afterwards.
+function(kestrune_unite target sources count)
+    set(united)
+    set(lines)
+    set(left ${${sources}})
+    while(left)
+        list(SUBLIST left 0 ${count} some)
+        list(REMOVE_ITEM left ${some})
+        list(LENGTH united number)
+        list(TRANSFORM some PREPEND "#include \"" OUTPUT_VARIABLE lines)
+        list(TRANSFORM lines APPEND "\"")
+        list(JOIN lines "\n" lines)
+        set(file ${CMAKE_CURRENT_BINARY_DIR}/united_${number}.cpp)
+        file(CONFIGURE OUTPUT ${file} CONTENT "${lines}\n" @ONLY)
+        list(APPEND united ${file})
+    endwhile()
+    set_source_files_properties(${${sources}} PROPERTIES HEADER_FILE_ONLY ON)
+    target_sources(${target} PRIVATE ${united})
+    set(${sources} ${united} PARENT_SCOPE)
 endfunction()

@@ -1,7 +1,5 @@
 #include "AirDrop.h"
 
-#include <QFutureWatcher>
-
 namespace Kestrune {
 
 AirDrop::AirDrop(FileSharing &sharing, QObject *parent)
@@ -15,20 +13,15 @@ int AirDrop::send(const QList<QUrl> &files)
     m_files = files;
     m_files.removeIf([](const QUrl &file) { return !file.isLocalFile(); });
     if (!m_files.isEmpty())
-        askForDevices();
+        m_search.start(&AirDrop::askForDevices, this);
     return m_request;
 }
 
-void AirDrop::askForDevices()
+QCoro::Task<> AirDrop::askForDevices()
 {
-    // No then(): its answer must not outlive this object.
-    auto *answer = new QFutureWatcher<QList<SharingDevice>>(this);
-    connect(answer, &QFutureWatcherBase::finished, this, [this, answer, request = m_request.value()] {
-        if (request == m_request)
-            found(answer->result());
-        answer->deleteLater();
-    });
-    answer->setFuture(m_sharing.devices());
+    const QFuture<QList<SharingDevice>> asked = m_sharing.devices();
+    const QList<SharingDevice> devices = co_await until(asked);
+    found(devices);
 }
 
 void AirDrop::choose(int index)
@@ -42,7 +35,8 @@ void AirDrop::choose(int index)
 
 void AirDrop::cancel()
 {
-    m_request = m_request + 1; // What a device list is still asked for, it is asked for in vain.
+    m_request = m_request + 1;
+    m_search.end();
     m_files.clear();
     m_devices.clear();
     m_choices = QStringList();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Async/Scope.h"
 #include "NotchKit/Platform/FileSharing.h"
 
 #include <QObject>
@@ -41,12 +42,13 @@ Q_SIGNALS:
     void requestChanged();
 
 private:
-    void askForDevices();
+    QCoro::Task<> askForDevices();
     void found(const QList<SharingDevice> &devices);
 
     FileSharing &m_sharing;
     QList<QUrl> m_files;            ///< What waits for the devices or for the user's choice.
     QList<SharingDevice> m_devices; ///< Those of the choices.
+    Scope m_search;
     Q_OBJECT_BINDABLE_PROPERTY(AirDrop, QStringList, m_choices, &AirDrop::choicesChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AirDrop, int, m_request, 0, &AirDrop::requestChanged)
 };

@@ -1,46 +1,193 @@
 #include "Catalogue.h"
 
+#include "NotchKit/Platform/Platform.h"
+#include "NotchKit/Platform/WindowSystem.h"
+#include "NotchKit/Tools/AIUsage/AIUsageModel.h"
+#include "NotchKit/Tools/Calendar/CalendarModel.h"
+#include "NotchKit/Tools/Captures/CapturesModel.h"
+#include "NotchKit/Tools/Clipboard/ClipboardModel.h"
+#include "NotchKit/Tools/Mirror/MirrorModel.h"
+#include "NotchKit/Tools/NowPlaying/NowPlayingModel.h"
+#include "NotchKit/Tools/Shelf/ShelfModel.h"
+#include "NotchKit/Tools/Stocks/StocksModel.h"
+#include "NotchKit/Tools/System/SystemModel.h"
+#include "NotchKit/Tools/Teleprompter/TeleprompterModel.h"
+#include "NotchKit/Tools/Timer/TimerModel.h"
+#include "NotchKit/Tools/Weather/WeatherModel.h"
 #include "NotchStrings.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Kestrune {
 
 namespace {
 
+/// `Model`, made of what `parts` takes from the context.
+template <typename Model, typename... Parts>
+std::unique_ptr<ToolModel> made(Parts &&...parts)
+{
+    return std::make_unique<Model>(std::forward<Parts>(parts)...);
+}
+
+using Context = const ToolContext &;
+
 constexpr std::array kTools{
-    CatalogueEntry{"home", QT_TRANSLATE_NOOP("notch", "Home"), "square.grid.2x2.fill", "HomePane"},
-    CatalogueEntry{"nowPlaying", QT_TRANSLATE_NOOP("notch", "Now Playing"), "music.note", "NowPlayingPane"},
-    CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Clipboard"), "doc.on.clipboard", "ClipboardPane"},
-    CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Screenshots"), "camera.viewfinder",
-                   "CapturesPane"},
-    CatalogueEntry{"calendar", QT_TRANSLATE_NOOP("notch", "Calendar"), "calendar", "CalendarPane"},
-    CatalogueEntry{"shelf", QT_TRANSLATE_NOOP("notch", "Shelf"), "tray.and.arrow.down", "ShelfPane"},
-    CatalogueEntry{"aiUsage", QT_TRANSLATE_NOOP("notch", "AI Usage"), "sparkles", "AIUsagePane"},
-    CatalogueEntry{"weather", QT_TRANSLATE_NOOP("notch", "Weather"), "cloud.sun", "WeatherPane"},
-    CatalogueEntry{"stocks", QT_TRANSLATE_NOOP("notch", "Stocks"), "chart.xyaxis.line", "StocksPane"},
-    CatalogueEntry{"timer", QT_TRANSLATE_NOOP("notch", "Timer"), "timer", "TimerPane"},
-    CatalogueEntry{"teleprompter", QT_TRANSLATE_NOOP("notch", "Teleprompter"), "text.alignleft",
-                   "TeleprompterPane"},
-    CatalogueEntry{"mirror", QT_TRANSLATE_NOOP("notch", "Mirror"), "camera", "MirrorPane"},
-    CatalogueEntry{"note", QT_TRANSLATE_NOOP("notch", "Note"), "note.text", "NotePane"},
-    CatalogueEntry{"system", QT_TRANSLATE_NOOP("notch", "System"), "gauge.with.dots.needle.33percent",
-                   "SystemPane"},
+    CatalogueEntry{.rawValue = "home",
+                   .title = QT_TRANSLATE_NOOP("notch", "Home"),
+                   .symbol = "square.grid.2x2.fill",
+                   .view = "HomePane"},
+    CatalogueEntry{.rawValue = "nowPlaying",
+                   .title = QT_TRANSLATE_NOOP("notch", "Now Playing"),
+                   .symbol = "music.note",
+                   .view = "NowPlayingPane",
+                   .makeModel =
+                       [](Context c) {
+                           return made<NowPlayingModel>(c.settings, c.platform.clock, c.platform.players,
+                                                        c.platform.scripts, c.platform.http);
+                       },
+                   .wings = "NowPlayingActivity",
+                   .wingsRank = 3},
+    CatalogueEntry{.rawValue = "clipboard",
+                   .title = QT_TRANSLATE_NOOP("notch", "Clipboard"),
+                   .symbol = "doc.on.clipboard",
+                   .view = "ClipboardPane",
+                   .makeModel =
+                       [](Context c) {
+                           return made<ClipboardModel>(c.settings, c.platform.defaults, c.platform.clock,
+                                                       c.platform.windows.pasteboard());
+                       }},
+    CatalogueEntry{.rawValue = "captures",
+                   .title = QT_TRANSLATE_NOOP("notch", "Screenshots"),
+                   .symbol = "camera.viewfinder",
+                   .view = "CapturesPane",
+                   .makeModel =
+                       [](Context c) {
+                           return made<CapturesModel>(c.settings, c.platform.clock, c.platform.captures,
+                                                      c.platform.thumbnails, c.platform.windows.pasteboard(),
+                                                      c.platform.workspace);
+                       },
+                   .wings = "CapturesActivity",
+                   .wingsRank = 1},
+    CatalogueEntry{.rawValue = "calendar",
+                   .title = QT_TRANSLATE_NOOP("notch", "Calendar"),
+                   .symbol = "calendar",
+                   .view = "CalendarPane",
+                   .makeModel =
+                       [](Context c) {
+                           return made<CalendarModel>(c.settings, c.platform.clock, c.platform.calendars);
+                       }},
+    CatalogueEntry{.rawValue = "shelf",
+                   .title = QT_TRANSLATE_NOOP("notch", "Shelf"),
+                   .symbol = "tray.and.arrow.down",
+                   .view = "ShelfPane",
+                   .makeModel =
+                       [](Context c) {
+                           return made<ShelfModel>(c.settings, c.platform.workspace, c.airDrop,
+                                                   c.platform.windows.drags());
+                       }},
+    CatalogueEntry{.rawValue = "aiUsage",
+                   .title = QT_TRANSLATE_NOOP("notch", "AI Usage"),
+                   .symbol = "sparkles",
+                   .view = "AIUsagePane",
+                   .makeModel =
+                       [](Context c) {
+                           return made<AIUsageModel>(c.settings, c.platform.clock,
+                                                     AIUsageHomes::below(c.platform.home));
+                       }},
+    CatalogueEntry{.rawValue = "weather",
+                   .title = QT_TRANSLATE_NOOP("notch", "Weather"),
+                   .symbol = "cloud.sun",
+                   .view = "WeatherPane",
+                   .makeModel =
+                       [](Context c) {
+                           return made<WeatherModel>(c.settings, c.platform.clock, c.platform.http,
+                                                     c.platform.location);
+                       }},
+    CatalogueEntry{
+        .rawValue = "stocks",
+        .title = QT_TRANSLATE_NOOP("notch", "Stocks"),
+        .symbol = "chart.xyaxis.line",
+        .view = "StocksPane",
+        .makeModel =
+            [](Context c) { return made<StocksModel>(c.settings, c.platform.clock, c.platform.http); }},
+    CatalogueEntry{
+        .rawValue = "timer",
+        .title = QT_TRANSLATE_NOOP("notch", "Timer"),
+        .symbol = "timer",
+        .view = "TimerPane",
+        .makeModel = [](Context c) { return made<TimerModel>(c.platform.clock, c.platform.sounds); },
+        .wings = "TimerActivity",
+        .wingsRank = 2},
+    CatalogueEntry{.rawValue = "teleprompter",
+                   .title = QT_TRANSLATE_NOOP("notch", "Teleprompter"),
+                   .symbol = "text.alignleft",
+                   .view = "TeleprompterPane",
+                   .makeModel = [](Context c) { return made<TeleprompterModel>(c.settings); }},
+    CatalogueEntry{.rawValue = "mirror",
+                   .title = QT_TRANSLATE_NOOP("notch", "Mirror"),
+                   .symbol = "camera",
+                   .view = "MirrorPane",
+                   .makeModel = [](Context c) { return made<MirrorModel>(c.platform.camera); }},
+    CatalogueEntry{.rawValue = "note",
+                   .title = QT_TRANSLATE_NOOP("notch", "Note"),
+                   .symbol = "note.text",
+                   .view = "NotePane"},
+    CatalogueEntry{.rawValue = "system",
+                   .title = QT_TRANSLATE_NOOP("notch", "System"),
+                   .symbol = "gauge.with.dots.needle.33percent",
+                   .view = "SystemPane",
+                   .makeModel = [](Context c) { return made<SystemModel>(c.settings, c.platform.host); }},
 };
 
 constexpr std::array kWidgets{
-    CatalogueEntry{"greeting", QT_TRANSLATE_NOOP("notch", "Greeting and date"), nullptr, "GreetingBlock"},
-    CatalogueEntry{"weather", QT_TRANSLATE_NOOP("notch", "Weather"), nullptr, "WeatherBlock"},
-    CatalogueEntry{"nowPlaying", QT_TRANSLATE_NOOP("notch", "Now Playing"), nullptr, "NowPlayingBlock"},
-    CatalogueEntry{"events", QT_TRANSLATE_NOOP("notch", "Today's events"), nullptr, "EventsBlock"},
-    CatalogueEntry{"reminders", QT_TRANSLATE_NOOP("notch", "Reminders"), nullptr, "RemindersBlock"},
-    CatalogueEntry{"aiUsage", QT_TRANSLATE_NOOP("notch", "AI Usage"), nullptr, "AIUsageBlock"},
-    CatalogueEntry{"timer", QT_TRANSLATE_NOOP("notch", "Timer"), nullptr, "TimerBlock"},
-    CatalogueEntry{"stocks", QT_TRANSLATE_NOOP("notch", "Stocks"), nullptr, "StocksBlock"},
-    CatalogueEntry{"system", QT_TRANSLATE_NOOP("notch", "System"), nullptr, "SystemBlock"},
-    CatalogueEntry{"clipboard", QT_TRANSLATE_NOOP("notch", "Latest copies"), nullptr, "ClipboardBlock"},
-    CatalogueEntry{"captures", QT_TRANSLATE_NOOP("notch", "Latest screenshots"), nullptr, "CapturesBlock"},
-    CatalogueEntry{"note", QT_TRANSLATE_NOOP("notch", "Note"), nullptr, "NoteBlock"},
+    CatalogueEntry{.rawValue = "greeting",
+                   .title = QT_TRANSLATE_NOOP("notch", "Greeting and date"),
+                   .view = "GreetingBlock"},
+    CatalogueEntry{.rawValue = "weather",
+                   .title = QT_TRANSLATE_NOOP("notch", "Weather"),
+                   .view = "WeatherBlock",
+                   .tool = NotchTool::weather},
+    CatalogueEntry{.rawValue = "nowPlaying",
+                   .title = QT_TRANSLATE_NOOP("notch", "Now Playing"),
+                   .view = "NowPlayingBlock",
+                   .tool = NotchTool::nowPlaying},
+    CatalogueEntry{.rawValue = "events",
+                   .title = QT_TRANSLATE_NOOP("notch", "Today's events"),
+                   .view = "EventsBlock",
+                   .tool = NotchTool::calendar},
+    CatalogueEntry{.rawValue = "reminders",
+                   .title = QT_TRANSLATE_NOOP("notch", "Reminders"),
+                   .view = "RemindersBlock",
+                   .tool = NotchTool::calendar},
+    CatalogueEntry{.rawValue = "aiUsage",
+                   .title = QT_TRANSLATE_NOOP("notch", "AI Usage"),
+                   .view = "AIUsageBlock",
+                   .tool = NotchTool::aiUsage},
+    CatalogueEntry{.rawValue = "timer",
+                   .title = QT_TRANSLATE_NOOP("notch", "Timer"),
+                   .view = "TimerBlock",
+                   .tool = NotchTool::timer},
+    CatalogueEntry{.rawValue = "stocks",
+                   .title = QT_TRANSLATE_NOOP("notch", "Stocks"),
+                   .view = "StocksBlock",
+                   .tool = NotchTool::stocks},
+    CatalogueEntry{.rawValue = "system",
+                   .title = QT_TRANSLATE_NOOP("notch", "System"),
+                   .view = "SystemBlock",
+                   .tool = NotchTool::system},
+    CatalogueEntry{.rawValue = "clipboard",
+                   .title = QT_TRANSLATE_NOOP("notch", "Latest copies"),
+                   .view = "ClipboardBlock",
+                   .tool = NotchTool::clipboard},
+    CatalogueEntry{.rawValue = "captures",
+                   .title = QT_TRANSLATE_NOOP("notch", "Latest screenshots"),
+                   .view = "CapturesBlock",
+                   .tool = NotchTool::captures},
+    CatalogueEntry{.rawValue = "note",
+                   .title = QT_TRANSLATE_NOOP("notch", "Note"),
+                   .view = "NoteBlock",
+                   .tool = NotchTool::note},
 };
 
 constexpr std::array kColumns{
@@ -84,6 +231,14 @@ template <>
 std::span<const CatalogueEntry> catalogue<NotchOpenMode>()
 {
     return kOpenModes;
+}
+
+QList<NotchTool> toolsWithWings()
+{
+    QList<NotchTool> tools = allCases<NotchTool>();
+    tools.removeIf([](NotchTool tool) { return !entry(tool).wings; });
+    std::ranges::sort(tools, {}, [](NotchTool tool) { return entry(tool).wingsRank; });
+    return tools;
 }
 
 QString title(const CatalogueEntry &entry) { return notchStrings(entry.title); }

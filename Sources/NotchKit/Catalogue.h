@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <span>
 
@@ -54,6 +55,19 @@ Q_ENUM_NS(HomeColumn)
 enum class NotchOpenMode { hover, click };
 Q_ENUM_NS(NotchOpenMode)
 
+class AirDrop;
+class NotchSettings;
+class ToolModel;
+struct Platform;
+
+/// What a tool's model is made of. All outlive the models.
+struct ToolContext
+{
+    NotchSettings &settings;
+    const Platform &platform; ///< The ports outlive the models; the value itself does not.
+    AirDrop &airDrop;
+};
+
 /// One case of a catalogue enumeration.
 struct CatalogueEntry
 {
@@ -61,6 +75,11 @@ struct CatalogueEntry
     const char *title;            ///< English title, the key of its translation.
     const char *symbol = nullptr; ///< Symbol name (tools only).
     const char *view = nullptr;   ///< Name of the pane or Home block that shows it (tools and widgets only).
+    /// Makes the state holder of a tool that has one.
+    std::unique_ptr<ToolModel> (*makeModel)(const ToolContext &context) = nullptr;
+    const char *wings = nullptr; ///< Name of the view beside the closed notch, for tools that have one.
+    int wingsRank = 0;           ///< Of two tools with something for the wings, the lower rank shows it.
+    std::optional<NotchTool> tool = std::nullopt; ///< What a Home block belongs to.
 };
 
 template <typename Case>
@@ -134,6 +153,9 @@ QString title(Case value)
 {
     return title(entry(value));
 }
+
+/// The tools that have something for the wings, by their rank.
+QList<NotchTool> toolsWithWings();
 
 /// The name of the tool's symbol.
 inline QString symbol(NotchTool tool) { return QString::fromLatin1(entry(tool).symbol); }

@@ -1,6 +1,10 @@
 #include "NotchController.h"
 
 #include "GlobalHotkey.h"
+#include "NotchKit/Platform/DragPasteboard.h"
+#include "NotchKit/Platform/Pointer.h"
+#include "NotchKit/Platform/WindowSystem.h"
+#include "NotchPanels.h"
 
 #include <algorithm>
 
@@ -24,30 +28,32 @@ bool holds(const QRectF &rect, const QPointF &point)
 
 } // namespace
 
-NotchController::NotchController(NotchServices &services, const NotchControllerPlatform &platform,
+NotchController::NotchController(NotchServices &services, const Platform &platform, NotchPanels &panels,
                                  QObject *parent)
     : QObject(parent)
     , m_services(services)
-    , m_platform(platform)
+    , m_windows(platform.windows)
+    , m_clock(platform.clock)
+    , m_panels(panels)
 {
-    m_services.collapseAll = [this] { collapseAll(); };
+    m_services.surroundings()->collapseAll = [this] { collapseAll(); };
 }
 
 NotchController::~NotchController()
 {
     stop();
-    m_services.collapseAll = nullptr;
+    m_services.surroundings()->collapseAll = nullptr;
 }
 
 void NotchController::start()
 {
     if (isRunning())
         return;
-    m_poller = m_platform.clock.every(kPollInterval, [this] { poll(); });
+    m_poller = m_clock.every(kPollInterval, [this] { poll(); });
     rebuildPanels();
     m_services.start();
     m_screenObserver =
-        connect(&m_platform.displays, &Displays::changed, this, &NotchController::rebuildPanels);
+        connect(&m_windows.displays(), &Displays::changed, this, &NotchController::rebuildPanels);
     applyShortcut();
 }
 
@@ -80,20 +86,20 @@ void NotchController::applyShortcut()
     m_hotkey.reset();
     if (m_services.settings()->shortcutEnabled()) {
         m_hotkey =
-            GlobalHotkey::make(m_platform.hotKeys, kShortcutKey, kShortcutModifiers, [this] { toggle(); });
+            GlobalHotkey::make(m_windows.hotKeys(), kShortcutKey, kShortcutModifiers, [this] { toggle(); });
     }
 }
 
 QList<Display> NotchController::wantedScreens() const
 {
-    const QList<Display> all = m_platform.displays.all();
+    const QList<Display> all = m_windows.displays().all();
     const auto hasHousing = [](const Display &display) { return display.safeAreaTop > 0; };
     QList<Display> candidates;
     if (m_services.settings()->allDisplays()) {
         candidates = all;
     } else if (const auto builtIn = std::ranges::find_if(all, hasHousing); builtIn != all.end()) {
         candidates = {*builtIn};
-    } else if (const auto main = m_platform.displays.main()) {
+    } else if (const auto main = m_windows.displays().main()) {
         candidates = {*main};
     }
     if (!m_services.settings()->showWithoutNotch())
@@ -136,7 +142,7 @@ void NotchController::addNotch(const Display &screen)
 {
     auto model = std::make_unique<NotchScreenModel>(NotchGeometry(screen));
     model->setSelected(firstTool());
-    auto panel = m_platform.panels.create(model->geometry().panelFrame(), *model, m_services);
+    auto panel = m_panels.create(model->geometry().panelFrame(), *model, m_services);
     connect(model.get(), &NotchScreenModel::keyboardWanted, this,
             [panel = panel.get()] { panel->makeKey(); });
     connect(model.get(), &NotchScreenModel::closeWanted, this, [this, name = screen.name] {
@@ -163,7 +169,7 @@ NotchController::Notch *NotchController::find(const QString &name)
 
 NotchController::Notch *NotchController::mainNotch()
 {
-    const auto main = m_platform.displays.main();
+    const auto main = m_windows.displays().main();
     Notch *notch = main ? find(main->name) : nullptr;
     if (notch || m_notches.empty())
         return notch;
@@ -172,8 +178,8 @@ NotchController::Notch *NotchController::mainNotch()
 
 NotchController::Notch *NotchController::notchUnderPointer()
 {
-    const QPointF location = m_platform.pointer.location();
-    for (const Display &screen : m_platform.displays.all()) {
+    const QPointF location = m_windows.pointer().location();
+    for (const Display &screen : m_windows.displays().all()) {
         if (!holds(screen.frame, location))
             continue;
         if (Notch *notch = find(screen.name))
@@ -260,7 +266,7 @@ void NotchController::updateHitArea(Notch &notch)
 
 void NotchController::poll()
 {
-    const PointerSample pointer = m_platform.pointer.sample();
+    const PointerSample pointer = m_windows.pointer().sample();
     const bool pressed = pointer.primaryDown;
     const bool freshPress = pressed && !m_wasPressed;
     m_wasPressed = pressed;
@@ -291,7 +297,7 @@ void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool fre
         m_leaveStart.remove(key);
         return;
     }
-    const Moment now = m_platform.clock.uptime();
+    const Moment now = m_clock.uptime();
     const auto left = m_leaveStart.constFind(key);
     if (left == m_leaveStart.cend()) {
         m_leaveStart.insert(key, now);
@@ -304,7 +310,7 @@ void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool fre
 void NotchController::pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress)
 {
     if (inside && pressed && !freshPress && m_services.settings()->tools().contains(NotchTool::shelf) &&
-        m_platform.drags.holdsFileUrls()) {
+        m_windows.drags().holdsFileUrls()) {
         notch.model->setSelected(NotchTool::shelf);
         set(notch, true);
         return;
@@ -322,7 +328,7 @@ void NotchController::pollResting(Notch &notch, bool resting)
         m_hoverStart.remove(key);
         return;
     }
-    const Moment now = m_platform.clock.uptime();
+    const Moment now = m_clock.uptime();
     const auto rested = m_hoverStart.constFind(key);
     const Moment since = rested == m_hoverStart.cend() ? now : *rested;
     if (rested == m_hoverStart.cend())

@@ -2,9 +2,7 @@
 
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/Displays.h"
-#include "NotchKit/Platform/DragPasteboard.h"
-#include "NotchKit/Platform/NotchPanels.h"
-#include "NotchKit/Platform/Pointer.h"
+#include "NotchKit/Platform/NotchPanel.h"
 #include "NotchScreenModel.h"
 #include "NotchServices.h"
 
@@ -18,18 +16,8 @@
 namespace Kestrune {
 
 class GlobalHotkey;
-class HotKeys;
-
-/// The ports that the controller itself calls.
-struct NotchControllerPlatform
-{
-    Clock &clock;
-    Displays &displays;
-    Pointer &pointer;
-    NotchPanels &panels;
-    HotKeys &hotKeys;
-    DragPasteboard &drags;
-};
+class NotchPanels;
+class WindowSystem;
 
 /// Keeps one panel and one screen model per wanted display, and opens and closes them: it polls the
 /// pointer thirty times a second and owns the hot key. Main thread only.
@@ -48,8 +36,8 @@ public:
     };
     using Notches = std::vector<Notch>;
 
-    /// Nothing starts yet. The services and the ports outlive the controller.
-    NotchController(NotchServices &services, const NotchControllerPlatform &platform,
+    /// Nothing starts yet. The services, the ports and the panels' maker outlive the controller.
+    NotchController(NotchServices &services, const Platform &platform, NotchPanels &panels,
                     QObject *parent = nullptr);
     ~NotchController() override;
 
@@ -97,7 +85,9 @@ private:
     void pollResting(Notch &notch, bool resting);
 
     NotchServices &m_services;
-    NotchControllerPlatform m_platform;
+    WindowSystem &m_windows;
+    Clock &m_clock;
+    NotchPanels &m_panels;
     Notches m_notches;
     std::unique_ptr<RunningTimer> m_poller;
     QHash<QString, Moment> m_hoverStart; ///< When the pointer began to rest over a closed notch.

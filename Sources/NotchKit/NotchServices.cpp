@@ -1,19 +1,6 @@
 #include "NotchServices.h"
 
 #include "AirDrop.h"
-#include "NotchKit/Platform/Workspace.h"
-#include "Tools/AIUsageModel.h"
-#include "Tools/CalendarModel.h"
-#include "Tools/CapturesModel.h"
-#include "Tools/ClipboardModel.h"
-#include "Tools/MirrorModel.h"
-#include "Tools/NowPlayingModel.h"
-#include "Tools/ShelfModel.h"
-#include "Tools/StocksModel.h"
-#include "Tools/SystemModel.h"
-#include "Tools/TeleprompterModel.h"
-#include "Tools/TimerModel.h"
-#include "Tools/WeatherModel.h"
 
 #include <algorithm>
 
@@ -21,47 +8,33 @@ namespace Kestrune {
 
 using namespace std::chrono_literals;
 
-template <typename Model>
-Model *NotchServices::add(std::unique_ptr<Model> model)
-{
-    Model *added = model.get();
-    m_models.push_back(std::move(model));
-    return added;
-}
-
-NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &branding,
-                             const NotchPlatform &platform, QObject *parent)
+NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &branding, const Platform &platform,
+                             QObject *parent)
     : QObject(parent)
     , m_settings(settings)
     , m_branding(branding)
     , m_clock(platform.clock)
-    , m_workspace(platform.workspace)
-    , m_thumbnails(platform.thumbnails)
     , m_airDrop(std::make_unique<AirDrop>(platform.sharing))
-    , m_captures(
-          add(std::make_unique<CapturesModel>(settings, platform.clock, platform.captures,
-                                              platform.thumbnails, platform.pasteboard, platform.workspace)))
-    , m_timer(add(std::make_unique<TimerModel>(platform.clock, platform.sounds)))
-    , m_nowPlaying(add(std::make_unique<NowPlayingModel>(settings, platform.clock, platform.players,
-                                                         platform.scripts, platform.http)))
-    , m_clipboard(add(
-          std::make_unique<ClipboardModel>(settings, platform.defaults, platform.clock, platform.pasteboard)))
-    , m_aiUsage(
-          add(std::make_unique<AIUsageModel>(settings, platform.clock, AIUsageHomes::below(platform.home))))
-    , m_shelf(add(std::make_unique<ShelfModel>(settings, platform.workspace, *m_airDrop, platform.drags)))
-    , m_weather(
-          add(std::make_unique<WeatherModel>(settings, platform.clock, platform.http, platform.location)))
-    , m_stocks(add(std::make_unique<StocksModel>(settings, platform.clock, platform.http)))
-    , m_system(add(std::make_unique<SystemModel>(settings, platform.host)))
-    , m_prompter(add(std::make_unique<TeleprompterModel>(settings)))
-    , m_mirror(add(std::make_unique<MirrorModel>(platform.camera)))
-    , m_calendar(add(std::make_unique<CalendarModel>(settings, platform.clock, platform.calendars)))
-    , m_now(platform.clock.now())
+    , m_surroundings(std::make_unique<NotchSurroundings>(settings, platform, *m_airDrop))
 {
+    const ToolContext context{settings, platform, *m_airDrop};
+    for (const NotchTool tool : allCases<NotchTool>()) {
+        if (const auto make = entry(tool).makeModel)
+            m_models.push_back(make(context));
+    }
+    for (const NotchTool tool : toolsWithWings())
+        m_wings.push_back(model(tool));
     m_activityTool.setBinding([this] { return computeActivityTool(); });
     m_hasActivity.setBinding([this] { return m_activityTool.value().has_value(); });
-    // A countdown that starts between two ticks would otherwise show one second too many.
-    connect(m_timer, &TimerModel::endDateChanged, this, &NotchServices::refreshNow);
+    // What is timed from now on would otherwise show a second too many until the next tick.
+    for (const auto &model : m_models)
+        connect(model.get(), &ToolModel::timeWanted, m_surroundings.get(), &NotchSurroundings::refreshNow);
+}
+
+ToolModel *NotchServices::model(NotchTool tool) const
+{
+    const auto found = std::ranges::find(m_models, tool, &ToolModel::tool);
+    return found == m_models.end() ? nullptr : found->get();
 }
 
 NotchServices::~NotchServices() { stop(); }
@@ -70,7 +43,7 @@ void NotchServices::start()
 {
     if (m_clockTimer)
         return;
-    refreshNow();
+    m_surroundings->refreshNow();
     m_clockTimer = m_clock.every(1s, [this] { tick(); });
     m_fastTimer = m_clock.every(50ms, [this] { fastTick(); });
     for (const auto &model : m_models)
@@ -104,7 +77,7 @@ std::optional<NotchTool> NotchServices::computeActivityTool() const
     const bool showsLive = m_settings.liveActivities();
     std::optional<NotchTool> shown;
     bool opened = false;
-    for (const auto &model : m_models) {
+    for (const ToolModel *model : m_wings) {
         const Activity activity = model->activity();
         if (!enabled.contains(model->tool()))
             continue;
@@ -118,29 +91,11 @@ std::optional<NotchTool> NotchServices::computeActivityTool() const
     return opened ? shown : std::nullopt;
 }
 
-void NotchServices::openUrl(const QUrl &url) { m_workspace.open(url); }
-
-void NotchServices::openPrivacy(const QString &anchor)
-{
-    const QUrl url(QStringLiteral("x-apple.systempreferences:com.apple.preference.security?") + anchor,
-                   QUrl::StrictMode);
-    if (!url.isValid())
-        qFatal("%s is no privacy page", qPrintable(anchor));
-    m_workspace.open(url);
-}
-
-void NotchServices::collapse() const
-{
-    if (collapseAll)
-        collapseAll();
-}
-
-void NotchServices::refreshNow() { m_now = m_clock.now(); }
-
 void NotchServices::tick()
 {
-    refreshNow();
-    const ClockTick tick{now(), now().toSecsSinceEpoch(), anyExpanded(), visibleTool()};
+    m_surroundings->refreshNow();
+    const QDateTime now = m_surroundings->now();
+    const ClockTick tick{now, now.toSecsSinceEpoch(), anyExpanded(), visibleTool()};
     for (const auto &model : m_models)
         model->tick(tick);
 }

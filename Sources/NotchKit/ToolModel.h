@@ -52,6 +52,10 @@ public:
     /// Twenty times a second, `count` ticks after the hub was made.
     virtual void fastTick(qint64 /*count*/) {}
 
+Q_SIGNALS:
+    /// The time should be read anew at once, not at the next tick.
+    void timeWanted();
+
 private:
     NotchTool m_tool;
 };

@@ -142,7 +142,7 @@ private Q_SLOTS:
         stage.choose(open); // Of the menu before.
         QVERIFY(stage.model().expanded());
         QCOMPARE(stage.askMenu(u"GetLayout"_s, {open, -1, QStringList()}).type(), QDBusMessage::ErrorMessage);
-        QTimer::singleShot(5s, qApp, [] { QCoreApplication::exit(1); });
+        QTimer::singleShot(60s, qApp, [] { QCoreApplication::exit(1); });
         QTimer::singleShot(0ms, qApp, [&] { stage.choose(stage.idOf(u"Quit Kestrune"_s)); });
         QCOMPARE(QCoreApplication::exec(), 0);
     }

@@ -1,33 +1,11 @@
 #pragma once
 
 #include "App/AppState.h"
-#include "Support/Fakes.h"
+#include "Support/FakePlatform.h"
 
 /// The application over fake ports; `launch` starts it.
-struct AppStage
+struct AppStage : Kestrune::Fakes::Platform
 {
-    Kestrune::Fakes::FakeClock clock;
-    Kestrune::Fakes::MemoryDefaults defaults;
-    Kestrune::Fakes::MemoryDefaults suiteDefaults;
-    Kestrune::Fakes::FakeApplications applications;
-    Kestrune::Fakes::FakeLoginItem loginItem;
-    Kestrune::Fakes::FakeSounds sounds;
-    Kestrune::Fakes::FakeWorkspace workspace;
-    Kestrune::Fakes::FakePasteboard pasteboard;
-    Kestrune::Fakes::FakeDrags drags;
-    Kestrune::Fakes::FakeSharing sharing;
-    Kestrune::Fakes::FakeCaptureQuery captures;
-    Kestrune::Fakes::FakeThumbnails thumbnails;
-    Kestrune::Fakes::FakeHttp http;
-    Kestrune::Fakes::FakeLocation location;
-    Kestrune::Fakes::FakeScripts scripts;
-    Kestrune::Fakes::FakeHost host;
-    Kestrune::Fakes::FakeCamera camera;
-    Kestrune::Fakes::FakeCalendars calendars;
-    Kestrune::Fakes::FakeDisplays displays;
-    Kestrune::Fakes::FakePointer pointer;
-    Kestrune::Fakes::FakePanels panels;
-    Kestrune::Fakes::FakeHotKeys hotKeys;
     QStringList alerts;
     int settingsOpened = 0;
     std::unique_ptr<Kestrune::AppState> app;
@@ -41,20 +19,12 @@ struct AppStage
 
     void launch(const QStringList &arguments = {})
     {
-        const Kestrune::AppPlatform platform{
-            defaults,
-            suiteDefaults,
-            applications,
-            loginItem,
-            [this](const QString &message, const QString &details) { alerts << message << details; },
-            [this] { ++settingsOpened; }};
-        app = std::make_unique<Kestrune::AppState>(
-            platform,
-            Kestrune::NotchPlatform{clock, defaults, sounds, workspace, pasteboard, drags, sharing, captures,
-                                    thumbnails, http, location, applications, scripts, host, camera,
-                                    calendars},
-            Kestrune::NotchControllerPlatform{clock, displays, pointer, panels, hotKeys, drags},
-            Kestrune::LaunchRequest::parse(arguments));
+        const Kestrune::AppWindows shown{
+            .panels = panels,
+            .showAlert = [this](const QString &message,
+                                const QString &details) { alerts << message << details; },
+            .openSettings = [this] { ++settingsOpened; }};
+        app = std::make_unique<Kestrune::AppState>(ports(), shown, Kestrune::LaunchRequest::parse(arguments));
     }
 
     void setSuite(bool running, bool notch)

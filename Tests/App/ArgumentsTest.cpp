@@ -1,6 +1,7 @@
 #include "App/CommandLine.h"
 #include "App/SettingsText.h"
 #include "App/UsageReport.h"
+#include "NotchKit/Platform/Utc.h"
 #include "Support/TestRegistry.h"
 
 #include <QDir>
@@ -97,7 +98,7 @@ void ArgumentsTest::usageAsJson()
         QVERIFY(QDir(home.path()).mkpath(folder));
         QFile file(home.filePath(folder) + QLatin1String("/a.jsonl"));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush());
-        const QDateTime time = QDateTime::fromMSecsSinceEpoch(1773144000500, Qt::UTC);
+        const QDateTime time = QDateTime::fromMSecsSinceEpoch(1773144000500, kUtc);
         QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
     };
     const auto report = [&] {

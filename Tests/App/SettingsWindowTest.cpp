@@ -2,7 +2,7 @@
 #include "App/AppStage.h"
 #include "App/UpdateWindow.h"
 #include "NotchKit/Platform/Appearance.h"
-#include "NotchKit/Platform/Updater.h"
+#include "NotchKit/Updates/Updater.h"
 #include "NotchKit/Views/WindowStage.h"
 #include "Support/TestRegistry.h"
 

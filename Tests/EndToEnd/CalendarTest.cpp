@@ -32,9 +32,9 @@ private Q_SLOTS:
         stage().input.click(firstCircle);
         QTRY_VERIFY(read(u"first"_s).contains("\r\nSTATUS:COMPLETED\r\n"));
         QVERIFY(read(u"first"_s).contains("\r\nX-KEPT:yes\r\n"));
-        QTest::qWait(500); // the second one takes its place
-        stage().input.click(firstCircle);
-        QTRY_VERIFY(read(u"second"_s).contains("STATUS:COMPLETED"));
+        const auto second = [&] { return read(u"second"_s).contains("STATUS:COMPLETED"); };
+        // Once it has taken the place of the first.
+        QVERIFY(waitUntil([&] { return stage().input.click(firstCircle), waitUntil(second, 1000); }));
         QTRY_VERIFY(!isWritten(firstTitle));
 
         // Another program adds one; the next opening shows it.
@@ -51,9 +51,8 @@ private Q_SLOTS:
         QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"calendar"_s) &&
                 stage().openByHotKey());
         QVERIFY(!QDir(folder()).exists());
-        QTest::qWait(500);
-        stage().input.click(allowCalendar);
-        QTRY_VERIFY(QDir(folder()).exists());
+        const auto made = [&] { return QDir(folder()).exists(); };
+        QVERIFY(waitUntil([&] { return stage().input.click(allowCalendar), waitUntil(made, 1000); }));
     }
 
 private:

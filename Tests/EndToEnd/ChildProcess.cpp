@@ -28,7 +28,7 @@ void ChildProcess::stop()
     if (state() == NotRunning)
         return;
     terminate();
-    if (!waitForFinished(2000))
+    if (!waitForFinished(10000))
         killNow();
 }
 

@@ -1,5 +1,5 @@
 #include "EndToEnd/Stage.h"
-#include "NotchKit/Tools/ClipboardItem.h"
+#include "NotchKit/Tools/Clipboard/ClipboardItem.h"
 #include "Support/TestRegistry.h"
 
 #include <QBuffer>
@@ -35,11 +35,11 @@ private Q_SLOTS:
         QCOMPARE(texts(), QStringList({u"plan b.pdf"_s, u"hay"_s, u"a needle: ü, שלום, 🚀"_s}));
         QVERIFY(stage().openByHotKey());
         stage().input.type("needle");
-        QTRY_COMPARE(chosen(u"UTF8_STRING"_s), "a needle: ü, שלום, 🚀"_qba);
+        QTRY_COMPARE(chosen(u"UTF8_STRING"_s), "a needle: ü, שלום, 🚀"_ba);
         for (int i = 0; i < 6; ++i)
             stage().input.tap(XK_BackSpace);
         stage().input.type("pdf");
-        QTRY_COMPARE(chosen(u"text/uri-list"_s).trimmed(), "file:///tmp/plan%20b.pdf"_qba);
+        QTRY_COMPARE(chosen(u"text/uri-list"_s).trimmed(), "file:///tmp/plan%20b.pdf"_ba);
         QTRY_COMPARE(texts().first(), u"plan b.pdf"_s);
     }
 
@@ -51,7 +51,7 @@ private Q_SLOTS:
         manager.launch(QStringLiteral(KESTRUNE_ROGUE_OWNER),
                        {u"honest"_s, u"UTF8_STRING"_s, u"x-kde-passwordManagerHint"_s});
         QByteArray asked;
-        QTRY_COMPARE(asked += manager.readAllStandardOutput(), "ready\nTARGETS\n"_qba);
+        QTRY_COMPARE(asked += manager.readAllStandardOutput(), "ready\nTARGETS\n"_ba);
         QVERIFY(copied(u"UTF8_STRING"_s, "harmless"));
         QCOMPARE(texts(), QStringList{u"harmless"_s});
         QCOMPARE(manager.readAllStandardOutput(), QByteArray());

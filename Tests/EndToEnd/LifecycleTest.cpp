@@ -92,8 +92,7 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return !notchIsGone(); }, promised + 500));
 
         stage().session.setFlag(m_suite, m_suiteFlag, true);
-        const qint64 paused = timeUntil([&] { return notchIsGone(); }, 2 * promised);
-        QVERIFY2(paused >= 0 && paused < promised + 500, qPrintable(QString::number(paused)));
+        QVERIFY(waitUntil([&] { return notchIsGone(); }));
         QVERIFY(stage().session.status().value("yielding"_L1).toBool());
         stage().input.hotKey();
         stage().input.move(Place::notch);
@@ -104,8 +103,7 @@ private Q_SLOTS:
             QVERIFY(stage().session.bus().unregisterService(m_suite));
         else
             stage().session.setFlag(m_suite, m_suiteFlag, false);
-        const qint64 back = timeUntil([&] { return !notchIsGone(); }, 2 * promised);
-        QVERIFY2(back >= 0 && back < promised + 500, qPrintable(QString::number(back)));
+        QVERIFY(waitUntil([&] { return !notchIsGone(); }));
         QVERIFY(!stage().session.status().value("yielding"_L1).toBool());
         QVERIFY(stage().openByHotKey());
     }

@@ -24,7 +24,7 @@ private Q_SLOTS:
                             u"--script=/usr/lib/mpv-mpris/mpris.so"_s, song(u"one"_s), song(u"two"_s)}));
         QVERIFY(waitUntil([&] { return hasActivity(); }));
         QTRY_VERIFY(stage().covered(wing));
-        QVERIFY2(wingsMove(), "the song plays");
+        QVERIFY2(waitUntil([&] { return wingsMove(); }), "the song plays");
         QVERIFY(stage().openByHotKey());
         QTRY_COMPARE(stage().x.pixel(cover), QColor(Qt::red));
         const int played = progress();
@@ -32,9 +32,11 @@ private Q_SLOTS:
 
         stage().input.click(middle);
         QTRY_COMPARE(ask(u"mpv"_s, u"status"_s), u"Paused"_s);
-        QTest::qWait(600); // the pane has looked again
-        const int paused = progress();
-        QVERIFY(holdsFor([&] { return progress() == paused; }, 2500));
+        const auto stands = [&] {
+            const int paused = progress();
+            return holdsFor([&] { return progress() == paused; }, 2500);
+        };
+        QVERIFY(waitUntil(stands)); // once the pane has looked again
         stage().input.click(middle);
         QTRY_COMPARE(ask(u"mpv"_s, u"status"_s), u"Playing"_s);
         stage().input.click(forward);
@@ -56,8 +58,7 @@ private Q_SLOTS:
         stage().input.move(Place::away);
         QCOMPARE(stage().session.command({u"close"_s}).status, 0);
         QVERIFY(stage().waitClosed());
-        QTest::qWait(700); // the spring comes to rest
-        QVERIFY2(!wingsMove() && stage().covered(wing), "it is paused");
+        QVERIFY2(waitUntil([&] { return !wingsMove() && stage().covered(wing); }), "it is paused");
 
         ask(u"mpv"_s, u"stop"_s);
         QVERIFY(holdsFor([&] { return hasActivity(); }, 2500)); // the other one is paused

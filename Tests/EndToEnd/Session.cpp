@@ -61,14 +61,15 @@ bool Session::start(const QStringList &arguments)
 {
     m_program = std::make_unique<ChildProcess>(m_environment);
     m_program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    return m_program->launch(executable(), arguments) &&
-           waitUntil([this] { return !status().isEmpty() || !isRunning(); }, 10000) && isRunning();
+    const QStringList line = m_launcher + QStringList{executable()} + arguments;
+    return m_program->launch(line.first(), line.mid(1)) &&
+           waitUntil([this] { return !status().isEmpty() || !isRunning(); }) && isRunning();
 }
 
 Session::Result Session::command(const QStringList &arguments) const
 {
     ChildProcess process(m_environment);
-    if (!process.launch(executable(), arguments) || !process.waitForFinished(15000))
+    if (!process.launch(executable(), arguments) || !process.waitForFinished(120000))
         return {};
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAllStandardOutput()),

@@ -35,6 +35,9 @@ public:
     /// Data that the program keeps in its own defaults.
     QByteArray data(const QString &key) const;
 
+    /// Has the program started by another, which gets its file and arguments behind its own.
+    void setLauncher(const QStringList &launcher) { m_launcher = launcher; }
+
     /// Starts the program and waits until it answers on the bus.
     bool start(const QStringList &arguments = {});
     bool isRunning() const { return m_program && m_program->state() == QProcess::Running; }
@@ -64,6 +67,7 @@ private:
     Kestrune::SqliteUserDefaults read(const QString &domain) const;
 
     QTemporaryDir m_home;
+    QStringList m_launcher;
     QProcessEnvironment m_environment;
     std::unique_ptr<PrivateBus> m_bus;
     std::unique_ptr<ChildProcess> m_program;

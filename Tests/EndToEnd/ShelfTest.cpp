@@ -72,13 +72,13 @@ private Q_SLOTS:
             many += QUrl::fromLocalFile(file.fileName()).toEncoded() + "\r\n";
             all.append(file.fileName());
         }
-        QTest::newRow("files") << "text/uri-list"_qba << files << true
+        QTest::newRow("files") << "text/uri-list"_ba << files << true
                                << QStringList{u"/etc/passwd"_s, u"/etc/group"_s};
-        QTest::newRow("a list in parts") << "text/uri-list"_qba << many << true << all;
-        QTest::newRow("web links") << "text/uri-list"_qba
-                                   << "https://example.org/\r\n"_qba << true << QStringList();
-        QTest::newRow("text") << "text/plain"_qba << files << true << QStringList();
-        QTest::newRow("a source that hangs") << "text/uri-list"_qba << files << false << QStringList();
+        QTest::newRow("a list in parts") << "text/uri-list"_ba << many << true << all;
+        QTest::newRow("web links") << "text/uri-list"_ba
+                                   << "https://example.org/\r\n"_ba << true << QStringList();
+        QTest::newRow("text") << "text/plain"_ba << files << true << QStringList();
+        QTest::newRow("a source that hangs") << "text/uri-list"_ba << files << false << QStringList();
     }
     void onlyFilesOpenTheNotch()
     {
@@ -94,7 +94,8 @@ private Q_SLOTS:
             if (answers)
                 source.answer();
         };
-        QCOMPARE(waitUntil([&] { return serve(), stage().session.isOpen(); }, 3000), !kept.isEmpty());
+        const qint64 limit = kept.isEmpty() ? 3000 : 60'000;
+        QCOMPARE(waitUntil([&] { return serve(), stage().session.isOpen(); }, limit), !kept.isEmpty());
         if (kept.isEmpty()) {
             stage().input.releaseButton();
             QCOMPARE(shelved(), QStringList());

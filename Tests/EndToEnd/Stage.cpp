@@ -63,7 +63,14 @@ bool Stage::clickReachesBeneath(QPoint place)
     beneath.forget();
     input.click(place);
     // A window manager may hold a click back for a moment to decide which window becomes active.
-    return waitUntil([this] { return beneath.clicks() == 1; }, 500);
+    return waitUntil([this] { return beneath.clicks() == 1; });
+}
+
+bool Stage::clickIsKept(QPoint place)
+{
+    beneath.forget();
+    input.click(place);
+    return holdsFor([this] { return beneath.clicks() == 0; }, 500);
 }
 
 bool Stage::choose(const QString &tool)

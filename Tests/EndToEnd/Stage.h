@@ -59,6 +59,9 @@ public:
     /// Clicks there and says whether the window beneath got the click.
     bool clickReachesBeneath(QPoint place);
 
+    /// Whether a click there does not reach the window beneath within half a second.
+    bool clickIsKept(QPoint place);
+
     /// Shows the tool's pane without opening the notch for the keyboard: the next opening finds it.
     bool choose(const QString &tool);
 

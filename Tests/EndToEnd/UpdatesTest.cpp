@@ -61,7 +61,8 @@ private Q_SLOTS:
         QVERIFY(chooseCheck() && waitUntil([this] { return findWindow(); }));
         QTRY_VERIFY(coloured(kSymbol) > 200); // Not the dots of something under way.
         QTRY_COMPARE(geometry().height() > kWithoutNews, isNews);
-        QCOMPARE(coloured(actionButton()) > 200, offers);
+        QTRY_COMPARE(coloured(actionButton()) > 200, offers); // A frame after the window has its size.
+        QVERIFY(offers || holdsFor([this] { return coloured(actionButton()) == 0; }, 500));
         QCOMPARE(m_server.targets(), QList<QByteArray>{"/feed"});
 
         stage().input.tap(XK_Escape);
@@ -89,7 +90,7 @@ private Q_SLOTS:
         m_feed = release(m_newer, u"key"_s);
         QVERIFY(stage().run());
         QVERIFY(holdsFor([this] { return m_server.log().isEmpty(); }, 5000));
-        QTRY_VERIFY_WITH_TIMEOUT(findWindow(), 65'000);
+        QTRY_VERIFY_WITH_TIMEOUT(findWindow(), 180'000);
         QTRY_VERIFY(offersSomething());
         QCOMPARE(m_server.targets(), (QList<QByteArray>{"/feed", "/kestrune.deb"}));
         QCOMPARE(read(kept()), m_package);

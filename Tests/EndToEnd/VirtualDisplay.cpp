@@ -36,7 +36,7 @@ Section "Screen"
     Modes "%1x%2"
   EndSubSection
 EndSection
-)"_qba.replace("%1", QByteArray::number(size.width()))
+)"_ba.replace("%1", QByteArray::number(size.width()))
         .replace("%2", QByteArray::number(size.height()));
 }
 
@@ -63,7 +63,7 @@ VirtualDisplay::VirtualDisplay(Server server, QSize size, const QProcessEnvironm
                             {u"-displayfd"_s, u"1"_s, u"-config"_s, configuration.fileName(), u"-logfile"_s,
                              m_folder.filePath(u"log"_s), u"-noreset"_s, u"-nolisten"_s, u"tcp"_s});
     }
-    if (!launched || !waitUntil([this] { return m_server.canReadLine(); }, 20000))
+    if (!launched || !waitUntil([this] { return m_server.canReadLine(); }))
         return;
     m_name = u':' + QString::fromLatin1(m_server.readLine().trimmed());
     m_environment.insert(u"DISPLAY"_s, m_name);
@@ -82,13 +82,13 @@ bool VirtualDisplay::startWindowManager(const QString &program)
     QObject::connect(&m_wake, &QTimer::timeout, [this] { m_x->wakeWindowManager(); });
     m_wake.start(20);
     return launch(program, xfwm4 ? QStringList{u"--compositor=off"_s} : QStringList()) &&
-           waitUntil([&] { return m_x->hasWindowManager(); }, 20000);
+           waitUntil([&] { return m_x->hasWindowManager(); });
 }
 
 bool VirtualDisplay::startCompositor()
 {
     return launch(u"picom"_s, {u"--config"_s, u"/dev/null"_s, u"--backend"_s, u"xrender"_s}) &&
-           waitUntil([&] { return m_x->hasCompositor(); }, 20000);
+           waitUntil([&] { return m_x->hasCompositor(); });
 }
 
 bool VirtualDisplay::plugSecond(bool plugged)

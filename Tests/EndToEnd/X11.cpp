@@ -72,7 +72,15 @@ void X11::paintDesktop(QRgb colour) const
     const quint32 pixel = colour & RGB_MASK;
     xcb_change_window_attributes(m_connection, root(), XCB_CW_BACK_PIXEL, &pixel);
     xcb_clear_area(m_connection, 0, root(), 0, 0, 0, 0);
-    sync();
+    // A compositor does not see what the root window shows, and looks for a pixmap.
+    const xcb_pixmap_t pixmap = xcb_generate_id(m_connection);
+    const xcb_gcontext_t context = xcb_generate_id(m_connection);
+    const xcb_rectangle_t all{0, 0, 1, 1};
+    xcb_create_pixmap(m_connection, m_screen->root_depth, pixmap, root(), 1, 1);
+    xcb_create_gc(m_connection, context, pixmap, XCB_GC_FOREGROUND, &pixel);
+    xcb_poly_fill_rectangle(m_connection, pixmap, context, 1, &all);
+    xcb_free_gc(m_connection, context);
+    setProperty(root(), "_XROOTPMAP_ID", XCB_ATOM_PIXMAP, {pixmap});
 }
 
 void X11::ask(xcb_window_t window, const char *message, const QList<quint32> &arguments) const

@@ -1,7 +1,8 @@
-#include "NotchKit/Tools/AIUsageModel.h"
-#include "NotchKit/Tools/CodexReader.h"
-#include "NotchKit/Views/AIUsagePresentation.h"
-#include "NotchKit/Views/UsageGauge.h"
+#include "NotchKit/Tools/AIUsage/AIUsageModel.h"
+#include "NotchKit/Platform/Utc.h"
+#include "NotchKit/Tools/AIUsage/AIUsagePresentation.h"
+#include "NotchKit/Tools/AIUsage/CodexReader.h"
+#include "NotchKit/Tools/AIUsage/UsageGauge.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -11,13 +12,12 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QThreadPool>
 
 using namespace Kestrune;
 
 namespace {
 
-const QDateTime now = QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC);
+const QDateTime now = QDateTime::fromSecsSinceEpoch(1'800'000'000, kUtc);
 
 QByteArray limits(const QByteArray &primary) { return "{\"rate_limits\":{\"primary\":" + primary + "}}\n"; }
 
@@ -27,12 +27,12 @@ QByteArray used(int percent) { return limits("{\"used_percent\":" + QByteArray::
 struct Home
 {
     QTemporaryDir folder;
-    Fakes::Core core;
-    NotchServices services{core.settings, NotchBranding::none(), core.platform(folder.path())};
-    AIUsageModel &model = *services.aiUsage();
+    Fakes::Core core{{}, folder.path()};
+    NotchServices &services = core.services;
+    AIUsageModel &model = *services.model<AIUsageModel>();
     AIUsagePresentation shown;
 
-    Home() { shown.setServices(&services); }
+    Home() { shown.follow(model, *services.surroundings()); }
 
     void write(const char *place, const QByteArray &text, int age = 0) const
     {
@@ -224,7 +224,7 @@ void AIUsageModelTest::endsWhileReading()
         home.model.refresh(true);
         QTest::qWait(i);
     }
-    QVERIFY(QThreadPool::globalInstance()->waitForDone(5000));
+    QVERIFY(Threads::waitForAll(std::chrono::seconds(60)));
 }
 
 void AIUsageModelTest::cardTexts()

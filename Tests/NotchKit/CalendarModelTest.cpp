@@ -1,5 +1,5 @@
-#include "NotchKit/Tools/CalendarModel.h"
-#include "NotchKit/Views/CalendarFormat.h"
+#include "NotchKit/Tools/Calendar/CalendarModel.h"
+#include "NotchKit/Tools/Calendar/CalendarFormat.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -16,7 +16,7 @@ using Entity = CalendarEntity;
 /// The core, with a calendar on screen whose store answers when the test does.
 struct Stage : Fakes::Core
 {
-    CalendarModel &model = *services.calendar();
+    CalendarModel &model = *services.model<CalendarModel>();
 
     explicit Stage(bool shown = true)
     {
@@ -42,17 +42,16 @@ struct Stage : Fakes::Core
     /// The last questions about access are answered so.
     void grant(Access events, Access reminders)
     {
-        calendars.accesses[Entity::events].answer(calendars.accesses[Entity::events].count() - 1, events);
-        calendars.accesses[Entity::reminders].answer(calendars.accesses[Entity::reminders].count() - 1,
-                                                     reminders);
+        calendars.accesses[Entity::events].answerLast(events);
+        calendars.accesses[Entity::reminders].answerLast(reminders);
         settle();
     }
     void answer(const std::optional<CalendarStore::Events> &events,
                 const std::optional<CalendarStore::Tasks> &tasks)
     {
         grant(Access::full, Access::full);
-        calendars.eventQuestions.answer(calendars.eventQuestions.count() - 1, events);
-        calendars.reminderQuestions.answer(calendars.reminderQuestions.count() - 1, tasks);
+        calendars.eventQuestions.answerLast(events);
+        calendars.reminderQuestions.answerLast(tasks);
         settle();
     }
 
@@ -148,7 +147,7 @@ private Q_SLOTS:
         stage.calendars.reminderQuestions.answer(0, CalendarStore::Tasks{stage.task(u"stale"_s)});
         stage.settle();
         QVERIFY(stage.items().isEmpty() && stage.reminders().isEmpty());
-        QVERIFY(stage.calendars.eventQuestions.promises.at(0).isCanceled());
+        QVERIFY(stage.calendars.eventQuestions.isGivenUp(0));
         stage.answer(CalendarStore::Events{stage.event(u"new"_s, 1)},
                      CalendarStore::Tasks{stage.task(u"new"_s)});
         QCOMPARE(stage.items() + stage.reminders(), (QStringList{u"new"_s, u"new"_s}));

@@ -1,5 +1,6 @@
-#include "NotchKit/Tools/CapturesModel.h"
-#include "NotchKit/Tools/TimerModel.h"
+#include "NotchKit/Tools/Captures/CapturesModel.h"
+#include "NotchKit/Platform/Utc.h"
+#include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -14,7 +15,7 @@ QString pathOf(int minute) { return QStringLiteral("/shots/%1 ü#.png").arg(minu
 /// The core over a disk with screenshots, each named for the minute it was made in.
 struct Stage : Fakes::Core
 {
-    CapturesModel &model = *services.captures();
+    CapturesModel &model = *services.model<CapturesModel>();
 
     explicit Stage(const QList<int> &minutes = {}, bool running = true)
     {
@@ -26,7 +27,7 @@ struct Stage : Fakes::Core
 
     ScreenCapture capture(int minute) const
     {
-        const QDateTime date = QDateTime::fromSecsSinceEpoch(1'700'000'000 + minute * 60, Qt::UTC);
+        const QDateTime date = QDateTime::fromSecsSinceEpoch(1'700'000'000 + minute * 60, kUtc);
         return {pathOf(minute), date, date};
     }
     void lay(const QList<int> &minutes)
@@ -135,7 +136,7 @@ void CapturesModelTest::announcesWhatIsNew()
 void CapturesModelTest::announcementEnds()
 {
     Stage stage({1});
-    stage.services.timer()->start(600);
+    stage.services.model<TimerModel>()->start(600);
     QCOMPARE(stage.services.activityTool(), NotchTool::timer);
     stage.find({2, 1});
     QCOMPARE(stage.services.activityTool(), NotchTool::captures);
@@ -185,8 +186,8 @@ void CapturesModelTest::thumbnails()
         return stage.model.thumbnails().value(pathOf(minute)).value<QImage>();
     };
     const QImage red(4, 3, QImage::Format_RGB32);
-    stage.thumbnails.answer(2, red);
-    stage.thumbnails.answer(1, {});
+    stage.thumbnails.questions.answer(2, red);
+    stage.thumbnails.questions.answer(1, {});
     stage.pass(1);
     QCOMPARE(shown(3), red);
     QCOMPARE(stage.model.thumbnails().size(), 1);
@@ -197,16 +198,16 @@ void CapturesModelTest::thumbnails()
     stage.captures.handler();
     QCOMPARE(stage.thumbnails.asked.mid(3), paths({3}));
     const QImage blue(5, 5, QImage::Format_RGB32);
-    stage.thumbnails.answer(3, blue);
+    stage.thumbnails.questions.answer(3, blue);
     stage.pass(1);
     QCOMPARE(shown(3), blue);
 
     stage.find({2});
-    QVERIFY(stage.model.thumbnails().isEmpty() && stage.thumbnails.answers.at(0).isCanceled());
+    QVERIFY(stage.model.thumbnails().isEmpty() && stage.thumbnails.questions.isGivenUp(0));
     stage.find({2, 1});
     stage.services.stop();
-    QVERIFY(stage.thumbnails.answers.back().isCanceled());
-    stage.thumbnails.answer(4, red);
+    QVERIFY(stage.thumbnails.questions.isGivenUp(stage.thumbnails.questions.count() - 1));
+    stage.thumbnails.questions.answer(4, red);
     stage.pass(1);
     QVERIFY(stage.model.thumbnails().isEmpty());
 }

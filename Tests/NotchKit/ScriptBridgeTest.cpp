@@ -1,5 +1,6 @@
-#include "NotchKit/Tools/ScriptBridge.h"
-#include "NotchKit/Tools/CoverImage.h"
+#include "NotchKit/Tools/NowPlaying/ScriptBridge.h"
+#include "Async/Scope.h"
+#include "NotchKit/Tools/NowPlaying/CoverImage.h"
 #include "Support/Fakes.h"
 #include "Support/TestRegistry.h"
 
@@ -40,6 +41,30 @@ QByteArray bomb()
     return encoded(image);
 }
 
+/// What a task gives that `start` starts.
+template <typename Value>
+class Outcome
+{
+public:
+    template <typename Start>
+    explicit Outcome(Start start)
+    {
+        m_scope.start(&Outcome::keep<Start>, this, start);
+    }
+
+    std::optional<Value> value;
+
+private:
+    template <typename Start>
+    QCoro::Task<> keep(Start start)
+    {
+        const Value given = co_await start();
+        value = given;
+    }
+
+    Scope m_scope;
+};
+
 } // namespace
 
 class ScriptBridgeTest : public QObject
@@ -52,13 +77,12 @@ private Q_SLOTS:
     void answers();
     void covers_data();
     void covers();
-    void oneAtATimeInTheirOrder();
 };
 
 void ScriptBridgeTest::scripts()
 {
     using Command = ScriptBridge::Command;
-    QCOMPARE(ScriptBridge::statusScript(MediaPlayer::music),
+    QCOMPARE(PlayerScripts::status(MediaPlayer::music),
              u"tell application \"Music\"\n"
              "  if player state is stopped then return \"\"\n"
              "  set t to current track\n"
@@ -66,17 +90,17 @@ void ScriptBridgeTest::scripts()
              "  return (player state as text) & \"\\n\" & (name of t) & \"\\n\" & (artist of t) & \"\\n\" & "
              "(d as text) & \"\\n\" & (player position as text)\n"
              "end tell"_s);
-    QVERIFY(ScriptBridge::statusScript(MediaPlayer::spotify).startsWith("tell application \"Spotify\"\n"_L1));
-    QCOMPARE(ScriptBridge::artworkScript(MediaPlayer::music),
+    QVERIFY(PlayerScripts::status(MediaPlayer::spotify).startsWith("tell application \"Spotify\"\n"_L1));
+    QCOMPARE(PlayerScripts::artwork(MediaPlayer::music),
              u"tell application \"Music\" to if (count of artworks of current track) > 0 then "
              "return data of artwork 1 of current track"_s);
-    QCOMPARE(ScriptBridge::artworkScript(MediaPlayer::spotify),
+    QCOMPARE(PlayerScripts::artwork(MediaPlayer::spotify),
              u"tell application \"Spotify\" to return artwork url of current track"_s);
-    QCOMPARE(ScriptBridge::commandScript(Command::next, MediaPlayer::spotify),
+    QCOMPARE(PlayerScripts::command(Command::next, MediaPlayer::spotify),
              u"tell application \"Spotify\" to next track"_s);
-    QCOMPARE(ScriptBridge::commandScript(Command::previous, MediaPlayer::music),
+    QCOMPARE(PlayerScripts::command(Command::previous, MediaPlayer::music),
              u"tell application \"Music\" to previous track"_s);
-    QCOMPARE(ScriptBridge::commandScript(Command::playPause, MediaPlayer::music),
+    QCOMPARE(PlayerScripts::command(Command::playPause, MediaPlayer::music),
              u"tell application \"Music\" to playpause"_s);
 }
 
@@ -113,8 +137,10 @@ void ScriptBridgeTest::answers()
     Fakes::FakeHttp http;
     ScriptBridge bridge(scripts, http);
     const MediaPlayer player = spotify ? MediaPlayer::spotify : MediaPlayer::music;
-    scripts.answer(ScriptBridge::statusScript(player), outcome);
-    const ScriptBridge::Result result = bridge.state(player).result();
+    scripts.answer(PlayerScripts::status(player), outcome);
+    const Outcome<ScriptBridge::Result> outcomes([&] { return bridge.state(player); });
+    QTRY_VERIFY(outcomes.value);
+    const ScriptBridge::Result result = *outcomes.value;
     QString seen = std::holds_alternative<ScriptBridge::Denied>(result) ? u"denied"_s : u"none"_s;
     if (const auto *track = std::get_if<PlayingTrack>(&result)) {
         seen = u"%1 %2|%3|%4|%5"_s.arg(track->playing ? u"on"_s : u"off"_s, track->title, track->artist)
@@ -140,8 +166,7 @@ void ScriptBridgeTest::covers_data()
     QTest::newRow("no picture") << data("hello") << none << false << 0;
     QTest::newRow("half a picture") << data(picture(64, 64).left(40)) << none << false << 0;
     QTest::newRow("bomb") << data(bomb()) << none << false << 0;
-    QTest::newRow("too long") << data(picture(9, 9) + QByteArray(CoverImage::kMostBytes, 'x')) << none
-                              << false << 0;
+    QTest::newRow("too long") << data(picture(9, 9) + QByteArray(kMostCoverBytes, 'x')) << none << false << 0;
     QTest::newRow("address") << text("https://host/cover") << picture(50, 50) << true << 50;
     QTest::newRow("address of no picture") << text("https://host/cover") << QByteArray("<html>") << true << 0;
     QTest::newRow("dead address") << text("https://host/gone") << picture(50, 50) << true << 0;
@@ -162,50 +187,16 @@ void ScriptBridgeTest::covers()
     Fakes::FakeHttp http;
     http.replies = {{u"https://host/cover"_s, {200, sent}}, {u"https://host/gone"_s, {404, sent}}};
     ScriptBridge bridge(scripts, http);
-    scripts.answer(ScriptBridge::artworkScript(MediaPlayer::spotify), outcome);
-    std::optional<QImage> cover;
-    bridge.artwork(MediaPlayer::spotify).then([&](const QImage &image) { cover = image; });
-    QTRY_VERIFY(cover);
+    scripts.answer(PlayerScripts::artwork(MediaPlayer::spotify), outcome);
+    const Outcome<QImage> made([&] { return bridge.artwork(MediaPlayer::spotify); });
+    QTRY_VERIFY(made.value);
+    const std::optional<QImage> cover = made.value;
     QCOMPARE(cover->size(), QSize(side, side));
     QCOMPARE(http.asked.size(), asked ? 1 : 0);
     QVERIFY(side == 0 || !sent.isEmpty() || cover->pixelColor(0, side / 2) == QColor(Qt::red));
     for (const HttpRequest &request : http.asked)
-        QVERIFY(request.headers.isEmpty() && request.mostBytes == CoverImage::kMostBytes &&
+        QVERIFY(request.headers.isEmpty() && request.mostBytes == kMostCoverBytes &&
                 request.timeout == std::chrono::seconds(10));
-}
-
-void ScriptBridgeTest::oneAtATimeInTheirOrder()
-{
-    struct Slow : ScriptExecutor
-    {
-        ScriptOutcome execute(const QString &source) override
-        {
-            overlapped = overlapped || running.exchange(true);
-            onMain = onMain || QThread::currentThread() == qApp->thread();
-            QThread::msleep(3);
-            order.append(source);
-            running = false;
-            return {};
-        }
-        std::atomic<bool> running = false;
-        std::atomic<bool> overlapped = false;
-        std::atomic<bool> onMain = false;
-        QStringList order;
-    } slow;
-    Fakes::FakeHttp http;
-    QStringList submitted;
-    {
-        ScriptBridge bridge(slow, http);
-        for (int i = 0; i < 10; ++i) {
-            const MediaPlayer player = kMediaPlayers.at(i % 2);
-            bridge.state(player);
-            bridge.run(ScriptBridge::Command::next, player);
-            submitted << ScriptBridge::statusScript(player)
-                      << ScriptBridge::commandScript(ScriptBridge::Command::next, player);
-        }
-    }
-    QCOMPARE(slow.order, submitted);
-    QVERIFY(!slow.overlapped && !slow.onMain);
 }
 
 REGISTER_TEST(ScriptBridgeTest);

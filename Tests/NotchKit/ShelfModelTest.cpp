@@ -1,4 +1,4 @@
-#include "NotchKit/Tools/ShelfModel.h"
+#include "NotchKit/Tools/Shelf/ShelfModel.h"
 #include "NotchKit/FileSymbols.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
@@ -45,7 +45,7 @@ private Q_SLOTS:
     {
         const Folder folder;
         Fakes::Core core;
-        ShelfModel &shelf = *core.services.shelf();
+        ShelfModel &shelf = *core.services.model<ShelfModel>();
         shelf.add({folder.urls[1], QUrl(u"https://example.org/a"_s), folder.urls[0]});
         core.drags.files = {folder.urls[0], folder.urls[2], folder.urls[3], folder.urls[2]};
         shelf.loadURLs();
@@ -88,12 +88,12 @@ private Q_SLOTS:
         core.displays.displays = {Fakes::externalDisplay()};
         core.controller.start();
         core.controller.open(NotchTool::note);
-        QTRY_COMPARE(core.services.shelf()->tiles().at(3).symbol, u"folder"_s);
+        QTRY_COMPARE(core.services.model<ShelfModel>()->tiles().at(3).symbol, u"folder"_s);
         QFile::remove(folder.paths()[1]);
         const QStringList left{folder.paths()[0], folder.paths()[2], folder.paths()[3]};
         if (restart) {
             NotchSettings settings(core.defaults);
-            NotchServices services(settings, NotchBranding::none(), core.platform());
+            NotchServices services(settings, NotchBranding::none(), core.ports());
             QTRY_COMPARE(settings.shelfPaths(), left);
             return;
         }

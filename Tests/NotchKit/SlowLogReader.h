@@ -1,6 +1,6 @@
 #pragma once
 
-#include "NotchKit/Tools/UsageFigures.h"
+#include "NotchKit/Tools/AIUsage/UsageFigures.h"
 
 #include <QDirIterator>
 #include <QFile>

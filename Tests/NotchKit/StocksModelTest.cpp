@@ -1,6 +1,6 @@
-#include "NotchKit/Tools/StocksModel.h"
-#include "NotchKit/Views/QuoteFormat.h"
-#include "NotchKit/Views/Sparkline.h"
+#include "NotchKit/Tools/Stocks/StocksModel.h"
+#include "NotchKit/Tools/Stocks/QuoteFormat.h"
+#include "NotchKit/Tools/Stocks/Sparkline.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -29,7 +29,7 @@ QString address(int host, const QString &symbol)
 /// The core with a list of symbols, over a service that answers when the test says so.
 struct Stage : Fakes::Core
 {
-    StocksModel &model = *services.stocks();
+    StocksModel &model = *services.model<StocksModel>();
 
     explicit Stage(const QStringList &symbols = {u"AAPL"_s, u"BAD"_s, u"TSLA"_s})
     {
@@ -44,7 +44,7 @@ struct Stage : Fakes::Core
     }
     void answer(std::size_t index, const HttpReply &reply)
     {
-        http.answer(index, reply);
+        http.questions.answer(index, reply);
         QCoreApplication::processEvents();
     }
     qsizetype asked() const { return http.asked.size(); }
@@ -143,7 +143,7 @@ void StocksModelTest::aNewRefreshCounts()
     stage.show(NotchTool::stocks);
     QCOMPARE(stage.asked(), 1);
     stage.model.setSymbols(u"new"_s);
-    QVERIFY(stage.http.answers.at(0).isCanceled());
+    QVERIFY(stage.http.questions.isGivenUp(0));
     stage.answer(1, chart(R"("regularMarketPrice": 1)"));
     stage.answer(0, chart(R"("regularMarketPrice": 2)"));
     QCOMPARE(stage.symbols(), QStringList{u"NEW"_s});

@@ -1,5 +1,5 @@
-#include "NotchKit/Tools/SystemModel.h"
-#include "NotchKit/Views/SystemPresentation.h"
+#include "NotchKit/Tools/System/SystemModel.h"
+#include "NotchKit/Tools/System/SystemPresentation.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -31,7 +31,7 @@ private Q_SLOTS:
     void loadIsThatOfTheInterval()
     {
         Fakes::Core core;
-        SystemModel &system = *core.services.system();
+        SystemModel &system = *core.services.model<SystemModel>();
         const auto load = [&](std::optional<ProcessorTicks> ticks) {
             core.host.ticks = ticks;
             system.refresh();
@@ -66,7 +66,7 @@ private Q_SLOTS:
         QFETCH(const int, percent);
         QFETCH(const bool, charging);
         Fakes::Core core;
-        SystemModel &system = *core.services.system();
+        SystemModel &system = *core.services.model<SystemModel>();
         core.host.supplies = sources;
         system.refresh();
         QCOMPARE(system.battery().value_or(-1), percent);
@@ -83,7 +83,7 @@ private Q_SLOTS:
     void rowsSayWhatWasRead()
     {
         Fakes::Core core;
-        SystemModel &system = *core.services.system();
+        SystemModel &system = *core.services.model<SystemModel>();
         SystemPresentation rows;
         rows.setModel(&system);
         QCOMPARE(rows.lines()[2].fraction, 0.0); // Nothing is known of the disk yet.

@@ -1,4 +1,4 @@
-#include "NotchKit/Tools/TeleprompterModel.h"
+#include "NotchKit/Tools/Teleprompter/TeleprompterModel.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -33,7 +33,7 @@ private Q_SLOTS:
         Fakes::Core core;
         core.settings.setPrompterSpeed(speed);
         core.services.start();
-        TeleprompterModel &prompter = *core.services.prompter();
+        TeleprompterModel &prompter = *core.services.model<TeleprompterModel>();
         prompter.setMaximumOffset(maximum);
         core.services.show(NotchTool::teleprompter);
         core.wait(1000);
@@ -48,7 +48,7 @@ private Q_SLOTS:
     {
         Fakes::Core core;
         core.services.start();
-        TeleprompterModel &prompter = *core.services.prompter();
+        TeleprompterModel &prompter = *core.services.model<TeleprompterModel>();
         QSignalSpy moved(&prompter, &TeleprompterModel::offsetChanged);
         prompter.restart();
         QCOMPARE(moved.size(), 0);

@@ -1,4 +1,4 @@
-#include "NotchKit/Tools/TimerModel.h"
+#include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -44,15 +44,15 @@ void TimerModelTest::format()
 void TimerModelTest::runsDownAndSoundsOnce()
 {
     Fakes::Core core;
-    TimerModel &timer = *core.services.timer();
+    TimerModel &timer = *core.services.model<TimerModel>();
     core.services.start();
     timer.start(300);
     core.wait(299'000);
-    QCOMPARE(timer.remaining(core.services.now()), 1.0);
+    QCOMPARE(timer.remaining(core.services.surroundings()->now()), 1.0);
     QVERIFY(timer.isRunning() && core.sounds.played.isEmpty());
     core.wait(1000);
     QVERIFY(!timer.isActive() && timer.finished());
-    QCOMPARE(timer.remaining(core.services.now()), 300.0);
+    QCOMPARE(timer.remaining(core.services.surroundings()->now()), 300.0);
     core.wait(5000);
     QCOMPARE(core.sounds.played, QStringList{QStringLiteral("Glass")});
     timer.reset();
@@ -62,7 +62,7 @@ void TimerModelTest::runsDownAndSoundsOnce()
 void TimerModelTest::pauseKeepsTheRemainder()
 {
     Fakes::Core core;
-    TimerModel &timer = *core.services.timer();
+    TimerModel &timer = *core.services.model<TimerModel>();
     timer.start(900);
     core.wait(899'600);
     timer.pause();
@@ -80,7 +80,7 @@ void TimerModelTest::pauseKeepsTheRemainder()
 void TimerModelTest::presetDiscardsTheRemainder()
 {
     Fakes::Core core;
-    TimerModel &timer = *core.services.timer();
+    TimerModel &timer = *core.services.model<TimerModel>();
     timer.start(900);
     core.wait(10'000);
     timer.pause();
@@ -92,7 +92,7 @@ void TimerModelTest::presetDiscardsTheRemainder()
 void TimerModelTest::adjustIsClampedAndOnlyWhileIdle()
 {
     Fakes::Core core;
-    TimerModel &timer = *core.services.timer();
+    TimerModel &timer = *core.services.model<TimerModel>();
     timer.adjust(-100);
     QCOMPARE(timer.duration(), 60.0);
     timer.adjust(500);
@@ -107,7 +107,7 @@ void TimerModelTest::adjustIsClampedAndOnlyWhileIdle()
 void TimerModelTest::activityOpensTheWings()
 {
     Fakes::Core core;
-    TimerModel &timer = *core.services.timer();
+    TimerModel &timer = *core.services.model<TimerModel>();
     const QSignalSpy changes(&core.services, &NotchServices::hasActivityChanged);
     timer.start(300);
     QVERIFY(core.services.hasActivity());
@@ -128,9 +128,10 @@ void TimerModelTest::startShowsTheWholeLengthFirst()
     Fakes::Core core;
     core.services.start();
     core.wait(700); // between two ticks
-    core.services.timer()->start(300);
-    QCOMPARE(TimerModel::format(core.services.timer()->remaining(core.services.now())),
-             QStringLiteral("5:00"));
+    core.services.model<TimerModel>()->start(300);
+    QCOMPARE(
+        TimerModel::format(core.services.model<TimerModel>()->remaining(core.services.surroundings()->now())),
+        QStringLiteral("5:00"));
 }
 
 REGISTER_TEST(TimerModelTest);

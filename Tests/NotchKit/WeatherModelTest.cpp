@@ -1,5 +1,5 @@
-#include "NotchKit/Tools/WeatherModel.h"
-#include "NotchKit/Views/WeatherFigures.h"
+#include "NotchKit/Tools/Weather/WeatherModel.h"
+#include "NotchKit/Tools/Weather/WeatherFigures.h"
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
@@ -28,7 +28,7 @@ const QByteArray kForecast =
 /// The core over a service that answers when the test says so.
 struct Stage : Fakes::Core
 {
-    WeatherModel &model = *services.weather();
+    WeatherModel &model = *services.model<WeatherModel>();
     WeatherFigures figures;
 
     explicit Stage(bool placed = true)
@@ -40,7 +40,7 @@ struct Stage : Fakes::Core
             settings.setWeatherLongitude(-0.5);
         }
         services.start();
-        figures.setServices(&services);
+        figures.follow(model, *services.surroundings());
     }
 
     void show(std::optional<NotchTool> tool)
@@ -50,13 +50,13 @@ struct Stage : Fakes::Core
     }
     void answer(const HttpReply &reply)
     {
-        http.answer(http.answers.size() - 1, reply);
+        http.questions.answerLast(reply);
         QCoreApplication::processEvents();
     }
     void locate(const std::optional<Coordinate> &fix)
     {
         model.useCurrentLocation();
-        location.answer(location.answers.size() - 1, fix);
+        location.questions.answerLast(fix);
         QCoreApplication::processEvents();
     }
     qsizetype asked() const { return http.asked.size(); }
@@ -281,12 +281,13 @@ void WeatherModelTest::locationAndOverlaps()
     // What was asked for last counts.
     stage.model.useCurrentLocation();
     stage.model.search(u"Oslo"_s);
-    QVERIFY(!stage.model.locating() && stage.location.answers.back().isCanceled());
+    QVERIFY(!stage.model.locating() &&
+            stage.location.questions.isGivenUp(stage.location.questions.count() - 1));
     stage.model.search(u"Rome"_s);
-    QVERIFY(stage.http.answers.at(1).isCanceled() && stage.model.searching());
+    QVERIFY(stage.http.questions.isGivenUp(1) && stage.model.searching());
     stage.answer(good(R"({"results": [{"latitude": 41.9, "longitude": 12.5}]})"));
     QCOMPARE(stage.settings.weatherCity(), u"Rome"_s);
-    QVERIFY(stage.http.answers.at(0).isCanceled());
+    QVERIFY(stage.http.questions.isGivenUp(0));
     stage.answer(good(kForecast));
     QCOMPARE(stage.figures.temperature(), u"22°"_s);
 }

@@ -1,48 +1,32 @@
 #pragma once
 
-#include "Fakes.h"
+#include "Async/Threads.h"
+#include "FakePlatform.h"
 #include "NotchKit/NotchController.h"
 #include "NotchKit/NotchServices.h"
 #include "NotchKit/NotchSettings.h"
 
+#include <QCoreApplication>
+
 namespace Kestrune::Fakes {
 
-/// The whole core over fake ports: settings, hub and controller.
-struct Core
+/// Lets work on other threads end, and what comes of it arrive.
+inline void finishWork()
 {
-    explicit Core(MemoryDefaults::Values stored = {})
-        : defaults(std::move(stored))
-    {}
-
-    FakeClock clock;
-    MemoryDefaults defaults;
-    FakeSounds sounds;
-    FakeWorkspace workspace;
-    FakePasteboard pasteboard;
-    FakeDrags drags;
-    FakeSharing sharing;
-    FakeCaptureQuery captures;
-    FakeThumbnails thumbnails;
-    FakeHttp http;
-    FakeLocation location;
-    FakeApplications players;
-    FakeScripts scripts;
-    FakeHost host;
-    FakeCamera camera;
-    FakeCalendars calendars;
-    FakeDisplays displays;
-    FakePointer pointer;
-    FakePanels panels;
-    FakeHotKeys hotKeys;
-    NotchSettings settings{defaults};
-    NotchServices services{settings, NotchBranding::fennivar(), platform()};
-    NotchController controller{services, {clock, displays, pointer, panels, hotKeys, drags}};
-
-    NotchPlatform platform(const QString &home = QDir::homePath())
-    {
-        return {clock, defaults, sounds,  workspace, pasteboard, drags,  sharing,   captures, thumbnails,
-                http,  location, players, scripts,   host,       camera, calendars, home};
+    for (int i = 0; i < 4; ++i) {
+        Threads::waitForAll(std::chrono::seconds(20));
+        QCoreApplication::processEvents();
     }
+}
+
+/// The whole core over fake ports: settings, hub and controller.
+struct Core : Platform
+{
+    using Platform::Platform;
+
+    NotchSettings settings{defaults};
+    NotchServices services{settings, NotchBranding::fennivar(), ports()};
+    NotchController controller{services, ports(), panels};
 
     NotchScreenModel &model(std::size_t index = 0) { return *controller.notches().at(index).model; }
     const FakePanels::Panel &panel(std::size_t index = 0) { return *panels.alive.at(index); }

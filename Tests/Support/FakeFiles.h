@@ -4,8 +4,8 @@
 #include "NotchKit/Platform/Pasteboard.h"
 #include "NotchKit/Platform/ScreenCaptureQuery.h"
 #include "NotchKit/Platform/Thumbnails.h"
+#include "Support/Questions.h"
 
-#include <QPromise>
 #include <QUrl>
 
 #include <functional>
@@ -70,13 +70,9 @@ private:
     QFuture<Value> answer(const Value &value, const QString &question)
     {
         asked.append(question);
-        auto promise = std::make_shared<QPromise<Value>>();
-        promise->start();
-        waiting.push_back([promise, value] {
-            promise->addResult(value);
-            promise->finish();
-        });
-        const auto future = promise->future();
+        const auto questions = std::make_shared<Questions<Value>>();
+        const auto future = questions->ask();
+        waiting.push_back([questions, value] { questions->answer(0, value); });
         if (!held)
             release();
         return future;
@@ -95,8 +91,7 @@ public:
 
     QFuture<QList<SharingDevice>> devices() override
     {
-        waiting.emplace_back().start();
-        const auto future = waiting.back().future();
+        const auto future = waiting.ask();
         if (!held)
             release();
         return future;
@@ -106,16 +101,15 @@ public:
     void release()
     {
         held = false;
-        for (auto &promise : std::exchange(waiting, {})) {
-            promise.addResult(reachable);
-            promise.finish();
-        }
+        Questions<QList<SharingDevice>> asked = std::exchange(waiting, {});
+        for (std::size_t i = 0; i < asked.count(); ++i)
+            asked.answer(i, reachable);
     }
 
     QList<SharingDevice> reachable;
     QList<std::pair<QString, QList<QUrl>>> sent;
     bool held = false;
-    std::vector<QPromise<QList<SharingDevice>>> waiting;
+    Questions<QList<SharingDevice>> waiting;
 };
 
 /// Finds what the test puts in `found`, when the test says so.
@@ -143,17 +137,11 @@ public:
     QFuture<QImage> thumbnail(const QString &path) override
     {
         asked.append(path);
-        answers.emplace_back().start();
-        return answers.back().future();
-    }
-    void answer(std::size_t index, const QImage &image)
-    {
-        answers.at(index).addResult(image);
-        answers.at(index).finish();
+        return questions.ask();
     }
 
     QStringList asked;
-    std::vector<QPromise<QImage>> answers;
+    Questions<QImage> questions;
 };
 
 } // namespace Kestrune::Fakes

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "NotchKit/NotchPanels.h"
 #include "NotchKit/Platform/Displays.h"
 #include "NotchKit/Platform/DragPasteboard.h"
 #include "NotchKit/Platform/HotKeys.h"
-#include "NotchKit/Platform/NotchPanels.h"
 #include "NotchKit/Platform/Pointer.h"
+#include "NotchKit/Platform/WindowSystem.h"
+#include "Support/Questions.h"
 
-#include <QPromise>
 #include <QUrl>
+#include <QWindow>
 
 #include <algorithm>
 #include <memory>
@@ -25,6 +27,8 @@ public:
     {
         return displays.isEmpty() ? std::nullopt : std::optional(displays.value(mainIndex));
     }
+
+    void housingsChanged() override {}
 
     QList<Display> displays;
     int mainIndex = 0;
@@ -57,6 +61,8 @@ public:
         void orderFront() override { shown = true; }
         void orderOut() override { shown = false; }
         void setHitArea(const QRectF &area) override { hitArea = area; }
+        void setOutline(const QPainterPath &) override {}
+        void announceFrame() override {}
         void makeKey() override { key = true; }
         void resignKey() override { key = false; }
 
@@ -103,14 +109,40 @@ public:
     bool holdsFileUrls() const override { return !files.isEmpty(); }
     QFuture<QList<QUrl>> fileUrls() override
     {
-        QPromise<QList<QUrl>> promise;
-        promise.start();
-        promise.addResult(files);
-        promise.finish();
-        return promise.future();
+        Questions<QList<QUrl>> questions;
+        const auto future = questions.ask();
+        questions.answerLast(files);
+        return future;
     }
 
     QList<QUrl> files;
+};
+
+/// Gives what the test put there.
+class FakeWindowSystem : public WindowSystem
+{
+public:
+    struct Parts
+    {
+        Displays *displays;
+        Pointer *pointer;
+        HotKeys *hotKeys;
+        DragPasteboard *drags;
+        Pasteboard *pasteboard;
+    };
+
+    Displays &displays() override { return *now.displays; }
+    Pointer &pointer() override { return *now.pointer; }
+    HotKeys &hotKeys() override { return *now.hotKeys; }
+    DragPasteboard &drags() override { return *now.drags; }
+    Pasteboard &pasteboard() override { return *now.pasteboard; }
+    std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> /*window*/,
+                                          const QRectF & /*frame*/) override
+    {
+        qFatal("the tests' panels have no windows");
+    }
+
+    Parts now{};
 };
 
 } // namespace Kestrune::Fakes

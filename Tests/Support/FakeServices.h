@@ -6,10 +6,9 @@
 #include "NotchKit/Platform/HttpClient.h"
 #include "NotchKit/Platform/LocationService.h"
 #include "NotchKit/Platform/ScriptExecutor.h"
+#include "Support/Questions.h"
 
 #include <QMap>
-#include <QMutex>
-#include <QPromise>
 
 #include <map>
 #include <optional>
@@ -26,17 +25,11 @@ public:
     QFuture<HttpReply> get(const HttpRequest &request) override
     {
         asked.append(request);
-        answers.emplace_back().start();
-        QFuture<HttpReply> future = answers.back().future();
+        const QFuture<HttpReply> future = questions.ask();
         const auto reply = replies.constFind(request.url.toString());
         if (reply != replies.cend())
-            answer(answers.size() - 1, *reply);
+            questions.answerLast(*reply);
         return future;
-    }
-    void answer(std::size_t index, const HttpReply &reply)
-    {
-        answers.at(index).addResult(reply);
-        answers.at(index).finish();
     }
     QStringList addresses() const
     {
@@ -48,24 +41,15 @@ public:
 
     QMap<QString, HttpReply> replies;
     QList<HttpRequest> asked;
-    std::vector<QPromise<HttpReply>> answers;
+    Questions<HttpReply> questions;
 };
 
 class FakeLocation : public LocationService
 {
 public:
-    QFuture<std::optional<Coordinate>> locate() override
-    {
-        answers.emplace_back().start();
-        return answers.back().future();
-    }
-    void answer(std::size_t index, const std::optional<Coordinate> &fix)
-    {
-        answers.at(index).addResult(fix);
-        answers.at(index).finish();
-    }
+    QFuture<std::optional<Coordinate>> locate() override { return questions.ask(); }
 
-    std::vector<QPromise<std::optional<Coordinate>>> answers;
+    Questions<std::optional<Coordinate>> questions;
 };
 
 class FakeHost : public HostStatistics
@@ -85,33 +69,39 @@ public:
     VolumeCapacity volume;
 };
 
-/// Answers each script with what the test put there for it, on the thread that asks.
+/// Answers each script at once with what the test put there for it, or, while `held`, when `release` is
+/// called.
 class FakeScripts : public ScriptExecutor
 {
 public:
-    ScriptOutcome execute(const QString &source) override
+    QFuture<ScriptOutcome> execute(const QString &source) override
     {
-        const QMutexLocker lock(&m_mutex);
         m_executed.append(source);
-        return m_answers.value(source);
+        const QFuture<ScriptOutcome> future = m_questions.ask();
+        if (!held)
+            release();
+        return future;
+    }
+    void release()
+    {
+        held = false;
+        for (; m_answered < m_questions.count(); ++m_answered)
+            m_questions.answer(m_answered,
+                               m_answers.value(m_executed.at(static_cast<qsizetype>(m_answered))));
     }
 
-    void answer(const QString &source, const ScriptOutcome &outcome)
-    {
-        const QMutexLocker lock(&m_mutex);
-        m_answers.insert(source, outcome);
-    }
+    void answer(const QString &source, const ScriptOutcome &outcome) { m_answers.insert(source, outcome); }
     /// What was executed since the last call.
-    QStringList take()
-    {
-        const QMutexLocker lock(&m_mutex);
-        return std::exchange(m_executed, {});
-    }
+    QStringList take() { return m_executed.mid(std::exchange(m_taken, m_executed.size())); }
+
+    bool held = false;
 
 private:
-    QMutex m_mutex;
     QMap<QString, ScriptOutcome> m_answers;
     QStringList m_executed;
+    qsizetype m_taken = 0; ///< Of the executed ones.
+    Questions<ScriptOutcome> m_questions;
+    std::size_t m_answered = 0; ///< Of the questions.
 };
 
 /// Allows and has a camera unless told otherwise. Questions are answered when the test does.
@@ -130,25 +120,17 @@ public:
             shapes.append(shape);
     }
 
-    /// Answers the last question.
-    void answer(bool yes)
-    {
-        questions.back().addResult(yes);
-        questions.back().finish();
-    }
-
     Handlers handlers;
     CameraAuthorization status = CameraAuthorization::authorized;
     QStringList called;
     QList<PictureShape> shapes;
-    std::vector<QPromise<bool>> questions;
+    Questions<bool> questions;
 
 private:
     QFuture<bool> ask(const QString &question)
     {
         called.append(question);
-        questions.emplace_back().start();
-        return questions.back().future();
+        return questions.ask();
     }
 };
 
@@ -156,24 +138,6 @@ private:
 class FakeCalendars : public CalendarStore
 {
 public:
-    template <typename Result>
-    struct Questions
-    {
-        QFuture<Result> ask()
-        {
-            promises.emplace_back().start();
-            return promises.back().future();
-        }
-        void answer(std::size_t index, const Result &result)
-        {
-            promises.at(index).addResult(result);
-            promises.at(index).finish();
-        }
-        std::size_t count() const { return promises.size(); }
-
-        std::vector<QPromise<Result>> promises;
-    };
-
     QFuture<CalendarAccess> access(CalendarEntity entity) override { return accesses[entity].ask(); }
     QFuture<bool> requestAccess(CalendarEntity entity) override { return requests[entity].ask(); }
     QFuture<std::optional<Events>> events(const QDateTime &from, const QDateTime &to) override

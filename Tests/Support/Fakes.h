@@ -8,9 +8,10 @@
 #include "NotchKit/Platform/LoginItem.h"
 #include "NotchKit/Platform/RunningApplications.h"
 #include "NotchKit/Platform/SoundPlayer.h"
-#include "NotchKit/Platform/Updater.h"
 #include "NotchKit/Platform/UserDefaults.h"
+#include "NotchKit/Platform/Utc.h"
 #include "NotchKit/Platform/Workspace.h"
+#include "NotchKit/Updates/Updater.h"
 
 #include <QMap>
 #include <QSet>
@@ -101,7 +102,7 @@ private:
         return next;
     }
 
-    QDateTime m_start = QDateTime::fromSecsSinceEpoch(1'800'000'000, Qt::UTC);
+    QDateTime m_start = QDateTime::fromSecsSinceEpoch(1'800'000'000, kUtc);
     std::chrono::milliseconds m_elapsed{0};
     std::list<Entry> m_entries;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QTest>
 
 #include <functional>
 #include <memory>
@@ -15,6 +16,15 @@ using Factory = std::function<std::unique_ptr<QObject>()>;
 bool add(const char *name, Factory factory);
 
 } // namespace TestRegistry
+
+// A condition is waited for as long as the slowest machine may need; a test that passes waits no longer than
+// it must.
+#undef QTRY_VERIFY
+#undef QTRY_VERIFY2
+#undef QTRY_COMPARE
+#define QTRY_VERIFY(condition) QTRY_VERIFY_WITH_TIMEOUT((condition), 60'000)
+#define QTRY_VERIFY2(condition, message) QTRY_VERIFY2_WITH_TIMEOUT((condition), (message), 60'000)
+#define QTRY_COMPARE(actual, expected) QTRY_COMPARE_WITH_TIMEOUT((actual), (expected), 60'000)
 
 #define REGISTER_TEST(Class)                                                                                 \
     static const bool registered##Class = TestRegistry::add(#Class, [] { return std::make_unique<Class>(); })

@@ -3,13 +3,19 @@
 #include "ChosenCalendars.h"
 #include "NotchKit/Platform/UserDefaults.h"
 
-#include <QPromise>
-
 namespace Kestrune {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto kLongestCall = 60s; // A service may have to be started first.
+
+} // namespace
 
 DesktopCalendars::DesktopCalendars(const QDBusConnection &bus, const UserDefaults &defaults)
     : m_defaults(defaults)
-    , m_sources(std::make_shared<ChosenCalendars>(bus))
+    , m_sources([bus] { return std::make_unique<ChosenCalendars>(bus); })
 {}
 
 DesktopCalendars::~DesktopCalendars() = default;
@@ -17,16 +23,11 @@ DesktopCalendars::~DesktopCalendars() = default;
 template <typename Result, typename Ask>
 QFuture<Result> DesktopCalendars::ask(Ask ask)
 {
-    const auto promise = std::make_shared<QPromise<Result>>();
-    promise->start();
     const ChosenCalendars::Choice choice{m_defaults.value<QString>(sourceKey()).value_or(QString()),
                                          m_defaults.value<QString>(folderKey()).value_or(QString())};
-    QMetaObject::invokeMethod(m_loop.context(), [sources = m_sources, promise, choice, ask] {
-        if (!promise->isCanceled())
-            promise->addResult(ask(sources->source(choice)));
-        promise->finish();
+    return m_worker.run(kLongestCall, [sources = m_sources, choice, ask]() -> Result {
+        return sources.use([&](ChosenCalendars &chosen) -> Result { return ask(chosen.source(choice)); });
     });
-    return promise->future();
 }
 
 QFuture<CalendarAccess> DesktopCalendars::access(CalendarEntity)

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "Async/Bench.h"
+#include "Async/Worker.h"
 #include "CalendarSource.h"
-#include "Desktop/WorkLoop.h"
 
 #include <QDBusConnection>
-
-#include <memory>
 
 namespace Kestrune {
 
@@ -13,7 +12,7 @@ class ChosenCalendars;
 class UserDefaults;
 
 /// The user's calendars: those of Evolution Data Server where it runs or can be started, else folders of
-/// iCalendar files. A thread of its own, which the first question starts, does what can wait.
+/// iCalendar files.
 class DesktopCalendars : public CalendarStore
 {
 public:
@@ -36,8 +35,8 @@ private:
     QFuture<Result> ask(Ask ask);
 
     const UserDefaults &m_defaults;
-    std::shared_ptr<ChosenCalendars> m_sources; ///< Used on the thread only.
-    WorkLoop m_loop{QStringLiteral("calendars")};
+    Bench<ChosenCalendars> m_sources;
+    Worker m_worker{"calendars"};
 };
 
 } // namespace Kestrune

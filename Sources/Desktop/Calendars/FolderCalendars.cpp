@@ -18,7 +18,7 @@ namespace Kestrune {
 
 namespace {
 
-constexpr int kDeepest = 2; // An account's folder, a calendar's folder.
+constexpr int kDeepestFolder = 2; // An account's folder, a calendar's folder.
 
 QString usualRoot()
 {
@@ -36,7 +36,7 @@ QColor colorOf(const QString &folder)
     QString name = QString::fromLatin1(file.read(kLongest)).trimmed();
     if (name.startsWith(QLatin1Char('#')) && name.size() == 9)
         name.truncate(7);
-    return QColor::isValidColor(name) ? QColor(name) : QColor();
+    return QColor::isValidColorName(name) ? QColor(name) : QColor();
 }
 
 struct Names
@@ -134,7 +134,7 @@ void FolderCalendars::lookAt(const QString &folder, int depth, const QDateTime &
     const QColor color = names.files.isEmpty() ? QColor() : colorOf(folder);
     for (const QByteArray &name : names.files)
         update(path + '/' + name, color, from);
-    for (const QByteArray &name : depth < kDeepest ? names.folders : QList<QByteArray>())
+    for (const QByteArray &name : depth < kDeepestFolder ? names.folders : QList<QByteArray>())
         lookAt(folder + QLatin1Char('/') + QFile::decodeName(name), depth + 1, from);
 }
 

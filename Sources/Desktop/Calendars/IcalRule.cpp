@@ -1,5 +1,7 @@
 #include "IcalRule.h"
 
+#include "NotchKit/Platform/Utc.h"
+
 #include <libical/ical.h>
 
 namespace Kestrune {
@@ -10,7 +12,7 @@ constexpr int kMostTimes = 50'000;
 /// Skipping ahead is worth it from here on.
 constexpr int kFarDays = 60;
 
-struct Freed
+struct FreedIterator
 {
     void operator()(icalrecur_iterator *iterator) const { icalrecur_iterator_free(iterator); }
 };
@@ -38,13 +40,13 @@ void settleUntil(icalrecurrencetype &rule, const IcalMoment &start)
         return;
     const QDate date(until.year, until.month, until.day);
     if (until.is_date || start.isDay()) {
-        const QDateTime end(date, start.isDay() ? QTime(0, 0) : QTime(23, 59, 59), Qt::UTC);
+        const QDateTime end(date, start.isDay() ? QTime(0, 0) : QTime(23, 59, 59), kUtc);
         until = icalTime(end, start.isDay());
         return;
     }
     if (!icaltime_is_utc(until))
         return;
-    const QDateTime end(date, QTime(until.hour, until.minute, std::min(until.second, 59)), Qt::UTC);
+    const QDateTime end(date, QTime(until.hour, until.minute, std::min(until.second, 59)), kUtc);
     until = icalTime(start.zone->wall(end), false);
 }
 
@@ -62,7 +64,7 @@ bool isFollowed(const icalrecurrencetype &rule, const QByteArray &text)
 void IcalRule::visit(const QDateTime &earliest, const std::function<bool(const IcalMoment &)> &visit) const
 {
     icalrecurrencetype rule = icalrecurrencetype_from_string(m_rule.constData());
-    std::unique_ptr<icalrecur_iterator, Freed> iterator;
+    std::unique_ptr<icalrecur_iterator, FreedIterator> iterator;
     if (isFollowed(rule, m_rule)) {
         settleUntil(rule, m_start);
         iterator.reset(icalrecur_iterator_new(rule, icalTime(m_start.wall(), m_start.isDay())));

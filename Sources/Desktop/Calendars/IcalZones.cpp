@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kMostDefined = 200; // Definitions kept; a calendar has a few.
 
-QDateTime disguised(const QDateTime &there) { return {there.date(), there.time(), Qt::UTC}; }
+QDateTime disguised(const QDateTime &there) { return {there.date(), there.time(), kUtc}; }
 
 class LocalZone : public IcalZone
 {
@@ -64,8 +64,8 @@ public:
 
     QDateTime instant(const QDate &date, const QTime &time) const override
     {
-        const icaltimetype there = icalTime(QDateTime(date, time, Qt::UTC));
-        return QDateTime::fromSecsSinceEpoch(icaltime_as_timet_with_zone(there, m_zone), Qt::UTC);
+        const icaltimetype there = icalTime(QDateTime(date, time, kUtc));
+        return QDateTime::fromSecsSinceEpoch(icaltime_as_timet_with_zone(there, m_zone), kUtc);
     }
     QDateTime wall(const QDateTime &instant) const override
     {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "NotchKit/Platform/Utc.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QHash>
@@ -35,7 +37,7 @@ struct IcalMoment
     bool isDay() const { return !time.isValid(); }
     QDateTime instant() const { return zone->instant(date, isDay() ? QTime(0, 0) : time); }
     /// Date and time in UTC's disguise, to count with.
-    QDateTime wall() const { return {date, isDay() ? QTime(0, 0) : time, Qt::UTC}; }
+    QDateTime wall() const { return {date, isDay() ? QTime(0, 0) : time, kUtc}; }
 };
 
 /// Finds time zones by the names that calendars give them. One thread only.

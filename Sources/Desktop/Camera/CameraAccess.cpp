@@ -1,6 +1,6 @@
 #include "CameraAccess.h"
 
-#include "Desktop/Session/BusCall.h"
+#include "Desktop/Bus/BusCall.h"
 
 #include <QDBusError>
 #include <QDBusObjectPath>
@@ -14,19 +14,19 @@ namespace Kestrune {
 
 namespace {
 
-constexpr int kTimeout = 10'000; // ms, for a portal that is started by the call.
+constexpr int kAccessTimeout = 10'000; // ms, for a portal that is started by the call.
 
-QString service() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
+QString cameraPortal() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
 QString requestInterface() { return QStringLiteral("org.freedesktop.portal.Request"); }
 
 QDBusMessage makeCall(const char *interface, const char *method)
 {
-    return QDBusMessage::createMethodCall(service(), QStringLiteral("/org/freedesktop/portal/desktop"),
+    return QDBusMessage::createMethodCall(cameraPortal(), QStringLiteral("/org/freedesktop/portal/desktop"),
                                           QString::fromLatin1(interface), QString::fromLatin1(method));
 }
 
 /// Whether the reply means that a portal is there which does not let itself be asked.
-bool isRefusal(const QDBusMessage &reply)
+bool isRefusedAccess(const QDBusMessage &reply)
 {
     constexpr std::array kinds{QDBusError::NoReply, QDBusError::TimedOut, QDBusError::Timeout,
                                QDBusError::AccessDenied};
@@ -53,11 +53,11 @@ CameraAuthorization CameraAccess::authorization()
 QFuture<bool> CameraAccess::request()
 {
     if (!m_question) {
-        m_question = std::make_unique<QPromise<bool>>();
-        m_question->start();
+        m_question.emplace();
         QDBusMessage call = makeCall("org.freedesktop.DBus.Properties", "Get");
         call << QStringLiteral("org.freedesktop.portal.Camera") << QStringLiteral("IsCameraPresent");
-        callBus(m_bus, call, kTimeout, this, [this](const QDBusMessage &reply) { takePresence(reply); });
+        callBus(m_bus, call, kAccessTimeout, this,
+                [this](const QDBusMessage &reply) { takePresence(reply); });
     }
     return m_question->future();
 }
@@ -68,7 +68,7 @@ void CameraAccess::takePresence(const QDBusMessage &reply)
     if (reply.type() == QDBusMessage::ReplyMessage && value.value<QDBusVariant>().variant().toBool())
         ask();
     else
-        finish(isRefusal(reply) ? CameraAuthorization::denied : CameraAuthorization::authorized);
+        finish(isRefusedAccess(reply) ? CameraAuthorization::denied : CameraAuthorization::authorized);
 }
 
 void CameraAccess::ask()
@@ -80,13 +80,13 @@ void CameraAccess::ask()
     // Without the service's name, whose owner would have to be asked for and waited for.
     m_bus.connect(QString(), m_request, requestInterface(), QStringLiteral("Response"), this,
                   SLOT(takeResponse(uint, QVariantMap)));
-    m_watcher =
-        std::make_unique<QDBusServiceWatcher>(service(), m_bus, QDBusServiceWatcher::WatchForUnregistration);
+    m_watcher = std::make_unique<QDBusServiceWatcher>(cameraPortal(), m_bus,
+                                                      QDBusServiceWatcher::WatchForUnregistration);
     connect(m_watcher.get(), &QDBusServiceWatcher::serviceUnregistered, this,
             [this] { finish(CameraAuthorization::denied); });
     QDBusMessage call = makeCall("org.freedesktop.portal.Camera", "AccessCamera");
     call << QVariantMap{{QStringLiteral("handle_token"), token}};
-    callBus(m_bus, call, kTimeout, this, [this](const QDBusMessage &reply) {
+    callBus(m_bus, call, kAccessTimeout, this, [this](const QDBusMessage &reply) {
         if (reply.type() != QDBusMessage::ErrorMessage)
             return;
         const bool forbidden = reply.errorName() == QLatin1String("org.freedesktop.portal.Error.NotAllowed");
@@ -110,9 +110,8 @@ void CameraAccess::finish(CameraAuthorization answer)
     if (m_watcher)
         m_watcher.release()->deleteLater(); // It may be what has called.
     m_answer = answer;
-    const auto question = std::exchange(m_question, {});
-    question->addResult(answer == CameraAuthorization::authorized);
-    question->finish();
+    const auto question = std::exchange(m_question, std::nullopt);
+    question->give(answer == CameraAuthorization::authorized);
 }
 
 } // namespace Kestrune

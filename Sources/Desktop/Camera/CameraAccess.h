@@ -1,10 +1,10 @@
 #pragma once
 
+#include "Async/Pledge.h"
 #include "NotchKit/Platform/CameraSession.h"
 
 #include <QDBusConnection>
 #include <QObject>
-#include <QPromise>
 #include <QVariantMap>
 
 #include <memory>
@@ -46,8 +46,8 @@ private:
 
     QDBusConnection m_bus;
     std::optional<CameraAuthorization> m_answer;
-    std::unique_ptr<QPromise<bool>> m_question; ///< While the portal is asked.
-    QString m_request;                          ///< The portal's object for the question.
+    std::optional<Pledge<bool>> m_question; ///< While the portal is asked.
+    QString m_request;                      ///< The portal's object for the question.
     std::unique_ptr<QDBusServiceWatcher> m_watcher;
 };
 

@@ -3,16 +3,13 @@
 #include "CameraRun.h"
 
 #include <QCoreApplication>
-#include <QFutureWatcher>
 #include <QProcess>
-#include <QPromise>
 #include <QStandardPaths>
 #include <QTimer>
 
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <memory>
 
 namespace Kestrune {
 
@@ -21,23 +18,21 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto kLongestProbe = 20s; // The first one of a user lists all plugins.
+constexpr auto kSlack = 10s;        // A loop that needs longer to notice hangs.
 
-using Promise = std::shared_ptr<QPromise<bool>>;
-
-/// One look for a camera. Deletes itself once the promise is kept.
+/// One look for a camera. Deletes itself once the pledge is given.
 class Probe : public QObject
 {
 public:
-    Probe(QObject *parent, const QString &helper, Promise promise)
+    Probe(QObject *parent, const QString &helper, const Pledge<bool> &pledge)
         : QObject(parent)
-        , m_promise(std::move(promise))
+        , m_pledge(pledge)
     {
         connect(&m_process, &QProcess::finished, this, [this](int status, QProcess::ExitStatus how) {
             finish(how == QProcess::NormalExit && status == 0);
         });
         connect(&m_process, &QProcess::errorOccurred, this, [this] { finish(false); });
-        connect(&m_watcher, &QFutureWatcherBase::canceled, this, [this] { finish(false); });
-        m_watcher.setFuture(m_promise->future());
+        m_pledge.whenGivenUp(this, [this] { finish(false); });
         QTimer::singleShot(kLongestProbe, this, [this] { finish(false); });
         m_process.setProcessChannelMode(QProcess::ForwardedChannels);
         m_process.start(helper, {QString::fromLatin1(CameraWire::kProbe)});
@@ -48,15 +43,11 @@ public:
 private:
     void finish(bool usable)
     {
-        if (const Promise promise = std::exchange(m_promise, {})) {
-            promise->addResult(usable);
-            promise->finish();
-            deleteLater();
-        }
+        m_pledge.give(usable);
+        deleteLater();
     }
 
-    Promise m_promise;
-    QFutureWatcher<bool> m_watcher;
+    Pledge<bool> m_pledge;
     QProcess m_process;
 };
 
@@ -71,12 +62,13 @@ CameraWire::Order makeOrder(const PictureShape &shape, int slot)
             static_cast<float>(shape.radius * scale)};
 }
 
+CameraRun *runOn(const QObject &thread) { return thread.findChild<CameraRun *>(); }
+
 } // namespace
 
 HelperCamera::HelperCamera(const QDBusConnection &bus, const QString &helper)
     : m_helper(helper)
     , m_access(bus)
-    , m_run(std::make_shared<QPointer<CameraRun>>())
 {}
 
 HelperCamera::~HelperCamera() { m_running = false; }
@@ -89,18 +81,12 @@ QString HelperCamera::installedHelper()
         {folder, folder + QStringLiteral("/../" KESTRUNE_LIBEXEC "/kestrune")});
 }
 
-template <typename Function>
-void HelperCamera::post(Function function)
-{
-    QMetaObject::invokeMethod(m_loop.context(), std::move(function), Qt::QueuedConnection);
-}
-
 QFuture<bool> HelperCamera::configure()
 {
-    const auto promise = std::make_shared<QPromise<bool>>();
-    promise->start();
-    post([context = m_loop.context(), helper = m_helper, promise] { new Probe(context, helper, promise); });
-    return promise->future();
+    const auto probe = [helper = m_helper](QObject &thread, const Pledge<bool> &pledge) {
+        new Probe(&thread, helper, pledge);
+    };
+    return m_loop.ask<bool>(kLongestProbe + kSlack, probe);
 }
 
 void HelperCamera::startRunning()
@@ -109,15 +95,14 @@ void HelperCamera::startRunning()
         return;
     m_ordered = false;
     const quint64 number = ++m_runs;
-    const auto toMain = [this](auto function) {
-        QMetaObject::invokeMethod(this, std::move(function), Qt::QueuedConnection);
+    const auto take = [this, number, back = m_back.handle()](const QImage &picture) {
+        back.post([this, number, picture] { this->take(number, picture); });
     };
-    const CameraRun::Reports reports{[this, number, toMain](const QImage &picture) {
-                                         toMain([this, number, picture] { take(number, picture); });
-                                     },
-                                     [this, number, toMain] { toMain([this, number] { lose(number); }); }};
-    post([context = m_loop.context(), run = m_run, helper = m_helper, reports] {
-        *run = new CameraRun(helper, reports, context);
+    const auto lose = [this, number, back = m_back.handle()] {
+        back.post([this, number] { this->lose(number); });
+    };
+    m_loop.post([helper = m_helper, reports = CameraRun::Reports{take, lose}](QObject &thread) {
+        new CameraRun(helper, reports, &thread);
     });
 }
 
@@ -126,7 +111,7 @@ void HelperCamera::stopRunning()
     if (!std::exchange(m_running, false))
         return;
     m_access.forget();
-    post([run = m_run] { delete run->data(); });
+    m_loop.post([](QObject &thread) { delete runOn(thread); });
 }
 
 void HelperCamera::requestPicture(const PictureShape &shape)
@@ -135,9 +120,9 @@ void HelperCamera::requestPicture(const PictureShape &shape)
         return;
     m_ordered = true;
     m_slot = (m_slot + 1) % CameraWire::kSlots;
-    post([run = m_run, order = makeOrder(shape, m_slot)] {
-        if (*run)
-            (*run)->order(order);
+    m_loop.post([order = makeOrder(shape, m_slot)](QObject &thread) {
+        if (auto *run = runOn(thread))
+            run->order(order);
     });
 }
 

@@ -1,16 +1,14 @@
 #pragma once
 
+#include "Async/LoopThread.h"
+#include "Async/PostBack.h"
 #include "CameraAccess.h"
 #include "CameraWire.h"
-#include "Desktop/WorkLoop.h"
 #include "NotchKit/Platform/CameraSession.h"
 
 #include <QObject>
-#include <QPointer>
 
 namespace Kestrune {
-
-class CameraRun;
 
 /// The camera through a helper process, which runs from a start to a stop only: what it takes of memory and
 /// threads is gone with it. The helper is started and ended on a thread of its own, which the first use
@@ -36,8 +34,6 @@ public:
     void requestPicture(const PictureShape &shape) override;
 
 private:
-    template <typename Function>
-    void post(Function function);
     void take(quint64 run, const QImage &picture);
     void lose(quint64 run);
     bool isCurrent(quint64 run) const { return m_running && run == m_runs; }
@@ -49,8 +45,8 @@ private:
     bool m_running = false;
     bool m_ordered = false; ///< A picture is on its way.
     int m_slot = 0;
-    std::shared_ptr<QPointer<CameraRun>> m_run; ///< Touched on the camera's thread only.
-    WorkLoop m_loop{QStringLiteral("kestrune.camera")};
+    LoopThread m_loop{"camera"};
+    PostBack m_back;
 };
 
 } // namespace Kestrune

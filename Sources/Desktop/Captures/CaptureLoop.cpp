@@ -8,7 +8,6 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/eventfd.h>
 #include <unistd.h>
 
 namespace Kestrune {
@@ -30,46 +29,6 @@ bool isMissingAccess(const ScreenshotFolders &folders)
 
 } // namespace
 
-CaptureOrders::CaptureOrders()
-    : m_descriptor(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
-{}
-
-CaptureOrders::~CaptureOrders()
-{
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
-}
-
-void CaptureOrders::look(const QString &location)
-{
-    const std::lock_guard lock(m_mutex);
-    m_location = location;
-    wake();
-}
-
-void CaptureOrders::end()
-{
-    const std::lock_guard lock(m_mutex);
-    m_ended = true;
-    wake();
-}
-
-void CaptureOrders::wake() const { ::eventfd_write(m_descriptor, 1); }
-
-bool CaptureOrders::isEnded() const
-{
-    const std::lock_guard lock(m_mutex);
-    return m_ended;
-}
-
-std::optional<QString> CaptureOrders::take()
-{
-    const std::lock_guard lock(m_mutex);
-    eventfd_t count = 0;
-    ::eventfd_read(m_descriptor, &count);
-    return std::exchange(m_location, std::nullopt);
-}
-
 CaptureLoop::CaptureLoop(std::shared_ptr<CaptureOrders> orders, Report report)
     : m_orders(std::move(orders))
     , m_report(std::move(report))
@@ -84,8 +43,8 @@ CaptureLoop::~CaptureLoop()
 
 void CaptureLoop::run()
 {
-    while (!m_orders->isEnded()) {
-        if (const auto location = m_orders->take()) {
+    while (!m_orders->isClosed()) {
+        while (const auto location = m_orders->take()) {
             m_location = *location;
             m_due.settings = m_due.folders = true;
         }

@@ -1,43 +1,19 @@
 #pragma once
 
+#include "Async/Mailbox.h"
 #include "CaptureList.h"
 #include "FolderWatch.h"
 
 #include <functional>
 #include <memory>
-#include <mutex>
 
 namespace Kestrune {
 
-/// What the main thread tells the loop, and what the loop sleeps on.
-class CaptureOrders
-{
-public:
-    CaptureOrders();
-    ~CaptureOrders();
-    Q_DISABLE_COPY_MOVE(CaptureOrders)
+/// Tells the loop to look again at where screenshots are; each is the user's choice of a folder.
+using CaptureOrders = Mailbox<QString>;
 
-    /// Main thread: look again at where screenshots are, `location` being the user's choice; or end.
-    void look(const QString &location);
-    void end();
-
-    int descriptor() const { return m_descriptor; }
-    bool isEnded() const;
-
-    /// The last location since the last call; nothing without one.
-    std::optional<QString> take();
-
-private:
-    void wake() const;
-
-    const int m_descriptor;
-    mutable std::mutex m_mutex;
-    bool m_ended = false;
-    std::optional<QString> m_location;
-};
-
-/// Gathers the screenshots and follows the folders until it is told to end. Runs on a thread of its own and
-/// sleeps while nothing happens.
+/// Gathers the screenshots and follows the folders Runs on a thread of its own until
+/// the orders are closed, and sleeps while nothing happens.
 class CaptureLoop
 {
 public:

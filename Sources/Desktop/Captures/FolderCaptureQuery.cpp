@@ -1,5 +1,6 @@
 #include "FolderCaptureQuery.h"
 
+#include "Async/Threads.h"
 #include "NotchKit/Platform/UserDefaults.h"
 
 #include <QDir>
@@ -11,50 +12,15 @@ namespace Kestrune {
 
 namespace {
 
-constexpr uint kStack = 512 * 1024;         // Bytes; a setting is read through a program that is started.
-constexpr unsigned long kLongestEnd = 2000; // Milliseconds; a dead network folder holds a thread for ever.
+constexpr int kMostThreads = 4; // A dead network folder holds one for ever.
 
 } // namespace
-
-/// The findings' way to the main thread; closed when nobody waits for them any more.
-class CaptureMailbox
-{
-public:
-    explicit CaptureMailbox(QObject *receiver)
-        : m_receiver(receiver)
-    {}
-
-    void close()
-    {
-        const std::lock_guard lock(m_mutex);
-        m_receiver = nullptr;
-    }
-
-    template <typename Function>
-    void post(Function function)
-    {
-        const std::lock_guard lock(m_mutex);
-        if (m_receiver)
-            QMetaObject::invokeMethod(m_receiver, std::move(function), Qt::QueuedConnection);
-    }
-
-private:
-    std::mutex m_mutex;
-    QObject *m_receiver;
-};
 
 FolderCaptureQuery::FolderCaptureQuery(const UserDefaults &preferences)
     : m_preferences(preferences)
 {}
 
-FolderCaptureQuery::~FolderCaptureQuery()
-{
-    FolderCaptureQuery::stop();
-    for (auto &thread : m_threads) {
-        if (!thread->wait(kLongestEnd))
-            std::ignore = thread.release(); // It keeps what it needs, and ends with the process.
-    }
-}
+FolderCaptureQuery::~FolderCaptureQuery() { FolderCaptureQuery::stop(); }
 
 QString FolderCaptureQuery::location() const
 {
@@ -70,41 +36,54 @@ void FolderCaptureQuery::start()
 {
     if (m_orders)
         return;
-    std::erase_if(m_threads, [](const auto &thread) { return thread->isFinished(); });
     m_orders = std::make_shared<CaptureOrders>();
-    m_mailbox = std::make_shared<CaptureMailbox>(this);
-    m_orders->look(location());
-    const auto report = [this, mailbox = m_mailbox](const CaptureLoop::Findings &findings) {
-        mailbox->post([this, from = mailbox.get(), findings] { take(from, findings); });
+    m_orders->post(location());
+    launch();
+}
+
+void FolderCaptureQuery::launch()
+{
+    m_delayed = *m_threads >= kMostThreads;
+    if (m_delayed)
+        return;
+    const auto back = m_back.handle();
+    const auto report = [this, run = m_orders.get(), back](const CaptureLoop::Findings &findings) {
+        back.post([this, run, findings] { take(run, findings); });
     };
-    const auto &thread = m_threads.emplace_back(
-        QThread::create([orders = m_orders, report] { CaptureLoop(orders, report).run(); }));
-    thread->setObjectName(QStringLiteral("captures"));
-    thread->setStackSize(kStack);
-    thread->start(QThread::LowPriority);
+    ++*m_threads;
+    const bool started =
+        Threads::start("captures", [this, orders = m_orders, report, back, threads = m_threads] {
+            CaptureLoop(orders, report).run();
+            --*threads;
+            back.post([this] {
+                if (m_delayed)
+                    launch();
+            });
+        });
+    if (!started)
+        --*m_threads;
 }
 
 void FolderCaptureQuery::stop()
 {
     if (!m_orders)
         return;
-    m_mailbox->close();
-    m_orders->end();
-    m_mailbox.reset();
+    m_orders->close();
     m_orders.reset();
+    m_delayed = false;
     m_findings = {};
 }
 
 void FolderCaptureQuery::requestAccess()
 {
     if (m_orders)
-        m_orders->look(location());
+        m_orders->post(location());
 }
 
-void FolderCaptureQuery::take(const CaptureMailbox *from, const CaptureLoop::Findings &findings)
+void FolderCaptureQuery::take(const CaptureOrders *run, const CaptureLoop::Findings &findings)
 {
-    if (from != m_mailbox.get())
-        return; // of a run that has been stopped since
+    if (run != m_orders.get())
+        return; // It has been stopped since.
     m_findings = findings;
     if (m_handler)
         m_handler();

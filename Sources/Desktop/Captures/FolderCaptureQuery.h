@@ -1,25 +1,20 @@
 #pragma once
 
+#include "Async/PostBack.h"
 #include "CaptureLoop.h"
 #include "NotchKit/Platform/ScreenCaptureQuery.h"
 
-#include <QObject>
-#include <QThread>
-
+#include <atomic>
 #include <memory>
-#include <vector>
 
 namespace Kestrune {
 
-class CaptureMailbox;
 class UserDefaults;
 
 /// Finds the screenshots in the folders to which the tools of free desktops save them. A thread of its own
 /// looks and then sleeps until the kernel tells of a change.
-class FolderCaptureQuery : public QObject, public ScreenCaptureQuery
+class FolderCaptureQuery : public ScreenCaptureQuery
 {
-    Q_OBJECT
-
 public:
     /// The domain and the key under which the user can name another folder for screenshots.
     static QString domain() { return QStringLiteral("com.apple.screencapture"); }
@@ -38,14 +33,16 @@ public:
 
 private:
     QString location() const;
-    void take(const CaptureMailbox *from, const CaptureLoop::Findings &findings);
+    void launch();
+    void take(const CaptureOrders *run, const CaptureLoop::Findings &findings);
 
     const UserDefaults &m_preferences;
     Handler m_handler;
     CaptureLoop::Findings m_findings;
     std::shared_ptr<CaptureOrders> m_orders; ///< None while it does not run.
-    std::shared_ptr<CaptureMailbox> m_mailbox;
-    std::vector<std::unique_ptr<QThread>> m_threads; ///< The running one, and those that are ending.
+    std::shared_ptr<std::atomic<int>> m_threads = std::make_shared<std::atomic<int>>(0); ///< Not ended yet.
+    bool m_delayed = false; ///< Too many of them have not.
+    PostBack m_back;
 };
 
 } // namespace Kestrune

@@ -1,5 +1,7 @@
 #include "PictureFile.h"
 
+#include "NotchKit/Platform/Utc.h"
+
 #include <QFile>
 #include <QtEndian>
 
@@ -60,7 +62,7 @@ private:
 
 QDateTime utc(const statx_timestamp &time)
 {
-    return QDateTime::fromMSecsSinceEpoch(time.tv_sec * 1000 + time.tv_nsec / 1'000'000, Qt::UTC);
+    return QDateTime::fromMSecsSinceEpoch(time.tv_sec * 1000 + time.tv_nsec / 1'000'000, kUtc);
 }
 
 bool isPng(const QByteArray &head) { return head.startsWith("\x89PNG\r\n\x1a\n"); }
@@ -80,9 +82,9 @@ std::optional<PictureStatus> statPicture(const QByteArray &path)
 {
     struct statx status
     {};
-    constexpr unsigned kWanted = STATX_TYPE | STATX_SIZE | STATX_MTIME | STATX_BTIME;
+    constexpr unsigned kAsked = STATX_TYPE | STATX_SIZE | STATX_MTIME | STATX_BTIME;
     const int result =
-        ::statx(AT_FDCWD, path.constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, kWanted, &status);
+        ::statx(AT_FDCWD, path.constData(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, kAsked, &status);
     if (result != 0 || !S_ISREG(status.stx_mode) || status.stx_size == 0)
         return std::nullopt;
     const bool knowsBirth = (status.stx_mask & STATX_BTIME) != 0 && status.stx_btime.tv_sec > 0;

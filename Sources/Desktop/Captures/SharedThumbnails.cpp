@@ -2,25 +2,19 @@
 
 #include "ThumbnailFile.h"
 
-#include <QtConcurrent/qtconcurrenttask.h>
-
 namespace Kestrune {
 
-SharedThumbnails::SharedThumbnails()
-{
-    m_worker.setMaxThreadCount(1);
-    m_worker.setThreadPriority(QThread::LowPriority);
-}
+using namespace std::chrono_literals;
 
-SharedThumbnails::~SharedThumbnails() { m_worker.clear(); }
+namespace {
+
+constexpr auto kLongest = 10s;
+
+} // namespace
 
 QFuture<QImage> SharedThumbnails::thumbnail(const QString &path)
 {
-    return QtConcurrent::task(&ThumbnailFile::read)
-        .withArguments(path)
-        .onThreadPool(m_worker)
-        .withPriority(++m_asked)
-        .spawn();
+    return m_worker.run(kLongest, [path] { return ThumbnailFile::read(path); });
 }
 
 } // namespace Kestrune

@@ -1,26 +1,18 @@
 #pragma once
 
+#include "Async/Worker.h"
 #include "NotchKit/Platform/Thumbnails.h"
-
-#include <QThreadPool>
 
 namespace Kestrune {
 
-/// Thumbnails from the desktop's shared cache, made where it has none; one at a time on a thread of their
-/// own.
+/// Thumbnails from the desktop's shared cache, made where it has none; one at a time.
 class SharedThumbnails : public Thumbnails
 {
 public:
-    SharedThumbnails();
-
-    /// Waits for the one that is being made.
-    ~SharedThumbnails() override;
-
     QFuture<QImage> thumbnail(const QString &path) override;
 
 private:
-    QThreadPool m_worker;
-    int m_asked = 0;
+    Worker m_worker{"thumbnails", Worker::Order::newestFirst};
 };
 
 } // namespace Kestrune

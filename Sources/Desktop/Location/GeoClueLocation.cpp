@@ -1,11 +1,8 @@
 #include "GeoClueLocation.h"
 
-#include <QFutureWatcher>
 #include <QGeoPositionInfoSource>
-#include <QPromise>
 
 #include <chrono>
-#include <memory>
 
 namespace Kestrune {
 
@@ -14,24 +11,23 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr std::chrono::milliseconds kLongest = 30s;
+constexpr auto kSlack = 10s; // A loop that needs longer to notice hangs.
 
 using Place = std::optional<Coordinate>;
-using Promise = std::shared_ptr<QPromise<Place>>;
 
 /// One request for a fix. Deletes itself, and with it the connection to the service, once the promise is
 /// kept.
 class Fix : public QObject
 {
 public:
-    Fix(QObject *parent, Promise promise)
+    Fix(QObject *parent, const Pledge<Place> &pledge)
         : QObject(parent)
-        , m_promise(std::move(promise))
+        , m_pledge(pledge)
         // By its name: the others would listen on a serial port.
         , m_source(QGeoPositionInfoSource::createSource(
               QStringLiteral("geoclue2"), {{QStringLiteral("desktopId"), QStringLiteral("kestrune")}}, this))
     {
-        connect(&m_watcher, &QFutureWatcherBase::canceled, this, [this] { finish({}); });
-        m_watcher.setFuture(m_promise->future());
+        m_pledge.whenGivenUp(this, [this] { finish({}); });
         if (!m_source) {
             finish({});
             return;
@@ -52,16 +48,11 @@ private:
 
     void finish(const Place &place)
     {
-        if (!m_promise)
-            return;
-        const Promise promise = std::exchange(m_promise, {});
-        promise->addResult(place);
-        promise->finish();
+        m_pledge.give(place);
         deleteLater();
     }
 
-    Promise m_promise;
-    QFutureWatcher<Place> m_watcher;
+    Pledge<Place> m_pledge;
     QGeoPositionInfoSource *m_source;
 };
 
@@ -69,11 +60,8 @@ private:
 
 QFuture<std::optional<Coordinate>> GeoClueLocation::locate()
 {
-    const auto promise = std::make_shared<QPromise<Place>>();
-    promise->start();
-    QObject *context = m_loop.context();
-    QMetaObject::invokeMethod(context, [context, promise] { new Fix(context, promise); });
-    return promise->future();
+    const auto look = [](QObject &thread, const Pledge<Place> &pledge) { new Fix(&thread, pledge); };
+    return m_loop.ask<Place>(kLongest + kSlack, look);
 }
 
 } // namespace Kestrune

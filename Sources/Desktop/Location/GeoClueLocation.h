@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Desktop/WorkLoop.h"
+#include "Async/LoopThread.h"
 #include "NotchKit/Platform/LocationService.h"
 
 namespace Kestrune {
@@ -13,7 +13,7 @@ public:
     QFuture<std::optional<Coordinate>> locate() override;
 
 private:
-    WorkLoop m_loop{QStringLiteral("location")};
+    LoopThread m_loop{"location"};
 };
 
 } // namespace Kestrune

@@ -1,6 +1,6 @@
 #include "CoverSource.h"
 
-#include "NotchKit/Tools/CoverImage.h"
+#include "NotchKit/Platform/PlayerScripts.h"
 
 #include <QFile>
 #include <QUrl>
@@ -22,10 +22,9 @@ ScriptOutcome readFile(const QString &path)
     struct stat status
     {};
     QFile file;
-    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
-        status.st_size <= CoverImage::kMostBytes &&
+    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= kMostCoverBytes &&
         file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
-        return file.read(CoverImage::kMostBytes);
+        return file.read(kMostCoverBytes);
     ::close(descriptor);
     return ScriptFailed();
 }
@@ -33,7 +32,7 @@ ScriptOutcome readFile(const QString &path)
 /// "data:image/png;base64,…", or without the word base64 percent-encoded.
 ScriptOutcome decodeData(const QString &address)
 {
-    constexpr qint64 kMostCharacters = CoverImage::kMostBytes / 3 * 4 + 1000;
+    constexpr qint64 kMostCharacters = kMostCoverBytes / 3 * 4 + 1000;
     const qsizetype comma = address.indexOf(QLatin1Char(','));
     if (comma < 0 || address.size() > kMostCharacters)
         return ScriptFailed();

@@ -1,6 +1,6 @@
 #include "MprisApplications.h"
 
-#include "Desktop/Session/BusDaemon.h"
+#include "Desktop/Bus/BusDaemon.h"
 #include "MprisNames.h"
 
 #include <algorithm>

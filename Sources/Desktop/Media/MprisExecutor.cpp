@@ -1,135 +1,26 @@
 #include "MprisExecutor.h"
 
-#include "CoverSource.h"
-#include "MprisNames.h"
-#include "NotchKit/Tools/ScriptBridge.h"
-
-#include <QDBusError>
-#include <QHash>
-
-#include <algorithm>
+#include "MprisScripts.h"
 
 namespace Kestrune {
 
+using namespace std::chrono_literals;
+
 namespace {
 
-/// What a script is about.
-struct Script
-{
-    enum class Kind { status, artwork, command };
-
-    Kind kind;
-    MediaPlayer player;
-    QString method; ///< Of a command.
-};
-
-const QHash<QString, Script> &scripts()
-{
-    using Command = ScriptBridge::Command;
-    static const QHash<QString, Script> table = [] {
-        QHash<QString, Script> known;
-        for (const MediaPlayer player : kMediaPlayers) {
-            known.insert(ScriptBridge::statusScript(player), {Script::Kind::status, player, {}});
-            known.insert(ScriptBridge::artworkScript(player), {Script::Kind::artwork, player, {}});
-            const auto add = [&](Command command, const QString &method) {
-                known.insert(ScriptBridge::commandScript(command, player),
-                             {Script::Kind::command, player, method});
-            };
-            add(Command::playPause, QStringLiteral("PlayPause"));
-            add(Command::next, QStringLiteral("Next"));
-            add(Command::previous, QStringLiteral("Previous"));
-        }
-        return known;
-    }();
-    return table;
-}
-
-bool isRefusal(const QDBusMessage &reply)
-{
-    return reply.type() == QDBusMessage::ErrorMessage && QDBusError(reply).type() == QDBusError::AccessDenied;
-}
+constexpr auto kLongest = 3s; // Players are not waited for as long; a cover's file can be on a dead disk.
 
 } // namespace
 
-ScriptOutcome MprisExecutor::execute(const QString &source)
-{
-    const auto script = scripts().constFind(source);
-    if (script == scripts().cend())
-        return ScriptFailed();
-    switch (script->kind) {
-    case Script::Kind::status:
-        return status(script->player);
-    case Script::Kind::artwork:
-        return artwork(script->player);
-    case Script::Kind::command:
-        command(script->player, script->method);
-        return QString();
-    }
-    return ScriptFailed();
-}
+MprisExecutor::MprisExecutor(const QString &address)
+    : m_scripts([address] { return std::make_unique<MprisScripts>(address); })
+{}
 
-ScriptOutcome MprisExecutor::status(MediaPlayer player)
+QFuture<ScriptOutcome> MprisExecutor::execute(const QString &source)
 {
-    QStringList names = m_bus.names();
-    std::erase_if(m_deeds, [&](const auto &deed) { return !names.contains(deed.first); });
-    names.removeIf([&](const QString &name) { return MprisNames::playerOf(name) != player; });
-    const QHash<QString, QDBusMessage> replies = m_bus.properties(names);
-    std::optional<MprisState> best;
-    bool answered = false;
-    bool refused = false;
-    for (const QString &name : std::as_const(names)) {
-        const QDBusMessage reply = replies.value(name);
-        refused = refused || isRefusal(reply);
-        const auto state = MprisState::of(name, reply);
-        if (!state)
-            continue;
-        answered = true;
-        noteDeed(*state);
-        if (state->hasSong() && (!best || isBetter(*state, *best)))
-            best = state;
-    }
-    if (best) {
-        m_chosen[player] = best->busName;
-        return best->toStatus(player);
-    }
-    m_chosen.erase(player);
-    if (answered)
-        return QString();
-    return refused ? ScriptOutcome(ScriptNotPermitted()) : ScriptFailed();
-}
-
-/// Remembers what the player does; the latest of several deeds has the highest number.
-void MprisExecutor::noteDeed(const MprisState &state)
-{
-    const auto [deed, isNew] = m_deeds.try_emplace(state.busName, Deed{state.playback, state.title, 0});
-    if (isNew || deed->second.playback != state.playback || deed->second.title != state.title)
-        deed->second = {state.playback, state.title, ++m_deedCount};
-}
-
-bool MprisExecutor::isBetter(const MprisState &state, const MprisState &other) const
-{
-    if (state.playback != other.playback)
-        return state.playback == MprisState::Playback::playing;
-    return m_deeds.at(state.busName).number > m_deeds.at(other.busName).number;
-}
-
-ScriptOutcome MprisExecutor::artwork(MediaPlayer player)
-{
-    const auto chosen = m_chosen.find(player);
-    if (chosen == m_chosen.end())
-        return ScriptFailed();
-    const auto state =
-        MprisState::of(chosen->second, m_bus.properties({chosen->second}).value(chosen->second));
-    if (!state)
-        return ScriptFailed();
-    return player == MediaPlayer::spotify ? ScriptOutcome(state->cover) : CoverSource::read(state->cover);
-}
-
-void MprisExecutor::command(MediaPlayer player, const QString &method)
-{
-    const auto chosen = m_chosen.find(player);
-    if (chosen != m_chosen.end())
-        m_bus.call(chosen->second, method);
+    return m_worker.run(kLongest, [scripts = m_scripts, source] {
+        return scripts.use([&](MprisScripts &player) { return player.execute(source); });
+    });
 }
 
 } // namespace Kestrune

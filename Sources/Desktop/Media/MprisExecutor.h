@@ -1,46 +1,25 @@
 #pragma once
 
-#include "MprisBus.h"
-#include "MprisPlayer.h"
+#include "Async/Bench.h"
+#include "Async/Worker.h"
 #include "NotchKit/Platform/ScriptExecutor.h"
-
-#include <map>
 
 namespace Kestrune {
 
-/// Understands the scripts that ScriptBridge writes, and no others, and answers them over MPRIS. Spotify is
-/// the player of that bus name; Music is the best of all the others: one that plays before one that is
-/// paused, then the one that did something last. Commands and covers are for the player that the last status
-/// was of.
+class MprisScripts;
+
+/// Answers the scripts of PlayerScripts over MPRIS.
 class MprisExecutor : public ScriptExecutor
 {
 public:
     /// For the players on the session bus, or on the one at `address`.
-    explicit MprisExecutor(const QString &address = {})
-        : m_bus(address)
-    {}
+    explicit MprisExecutor(const QString &address = {});
 
-    ScriptOutcome execute(const QString &source) override;
+    QFuture<ScriptOutcome> execute(const QString &source) override;
 
 private:
-    /// What a player did last, as far as it has been seen.
-    struct Deed
-    {
-        MprisState::Playback playback;
-        QString title;
-        qint64 number; ///< Counts all deeds.
-    };
-
-    ScriptOutcome status(MediaPlayer player);
-    ScriptOutcome artwork(MediaPlayer player);
-    void command(MediaPlayer player, const QString &method);
-    void noteDeed(const MprisState &state);
-    bool isBetter(const MprisState &state, const MprisState &other) const;
-
-    MprisBus m_bus;
-    std::map<MediaPlayer, QString> m_chosen; ///< Bus names.
-    std::map<QString, Deed> m_deeds;         ///< By bus name.
-    qint64 m_deedCount = 0;
+    Bench<MprisScripts> m_scripts;
+    Worker m_worker{"players"};
 };
 
 } // namespace Kestrune

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "NotchKit/Tools/PlayerStatus.h"
+#include "NotchKit/Platform/PlayerScripts.h"
+
+#include <optional>
 
 namespace Kestrune::MprisNames {
 

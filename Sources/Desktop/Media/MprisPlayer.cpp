@@ -10,7 +10,7 @@ namespace Kestrune {
 
 namespace {
 
-constexpr qsizetype kLongestText = 1000; // Characters that are of use to anyone.
+constexpr qsizetype kLongestTag = 1000; // Characters that are of use to anyone.
 
 /// The properties in a value that holds such a map, packed as the bus packs it or not.
 QVariantMap mapOf(const QVariant &value)
@@ -23,7 +23,7 @@ QVariantMap mapOf(const QVariant &value)
 }
 
 /// A text of one line.
-QString lineOf(const QString &text) { return text.left(kLongestText).simplified(); }
+QString lineOf(const QString &text) { return text.left(kLongestTag).simplified(); }
 
 QString artistOf(const QVariant &value) { return lineOf(value.toStringList().join(QLatin1String(", "))); }
 
@@ -47,7 +47,7 @@ MprisState::Playback playbackOf(const QString &status)
 /// Players disagree on the type of a time.
 qint64 timeOf(const QVariant &value) { return std::max<qint64>(value.toLongLong(), 0); }
 
-QString seconds(qint64 microseconds)
+QString inSeconds(qint64 microseconds)
 {
     return QString::number(static_cast<double>(microseconds) / 1e6, 'f', 3);
 }
@@ -76,10 +76,10 @@ QString MprisState::toStatus(MediaPlayer player) const
     if (!hasSong())
         return QString();
     const QString duration = player == MediaPlayer::spotify ? QString::number(length / 1000)
-                                                            : seconds(length); // as each counts it
+                                                            : inSeconds(length); // as each counts it
     const QStringList lines{playback == Playback::playing ? QStringLiteral("playing")
                                                           : QStringLiteral("paused"),
-                            title, artist, duration, seconds(position)};
+                            title, artist, duration, inSeconds(position)};
     return lines.join(QLatin1Char('\n'));
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "NotchKit/Tools/PlayerStatus.h"
+#include "NotchKit/Platform/PlayerScripts.h"
 
 #include <QDBusMessage>
 #include <QVariantMap>

@@ -35,14 +35,14 @@ QNetworkRequest prepare(const HttpRequest &request)
 
 } // namespace
 
-HttpExchange::HttpExchange(QNetworkAccessManager &manager, const HttpRequest &request, Promise promise)
+HttpExchange::HttpExchange(QNetworkAccessManager &manager, const HttpRequest &request,
+                           const Pledge<HttpReply> &pledge)
     : QObject(&manager)
     , m_manager(manager)
-    , m_promise(std::move(promise))
+    , m_pledge(pledge)
     , m_mostBytes(request.mostBytes)
 {
-    connect(&m_watcher, &QFutureWatcherBase::canceled, this, &HttpExchange::giveUp);
-    m_watcher.setFuture(m_promise->future());
+    m_pledge.whenGivenUp(this, [this] { giveUp(); });
     connect(&m_deadline, &QTimer::timeout, this, &HttpExchange::giveUp);
     m_deadline.setSingleShot(true);
     m_deadline.start(request.timeout);
@@ -84,7 +84,7 @@ void HttpExchange::read()
 void HttpExchange::conclude()
 {
     read();
-    if (!m_promise) // It was too long.
+    if (m_body.size() > m_mostBytes)
         return;
     const int status = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     const QUrl target = m_reply->attribute(QNetworkRequest::RedirectionTargetAttribute).toUrl();
@@ -101,13 +101,8 @@ void HttpExchange::conclude()
 
 void HttpExchange::finish(const HttpReply &reply)
 {
-    if (!m_promise)
-        return;
-    const Promise promise = std::exchange(m_promise, {});
-    m_watcher.disconnect(this);
     m_reply->disconnect(this);
-    promise->addResult(reply);
-    promise->finish();
+    m_pledge.give(reply);
     deleteLater(); // and with it the reply, which ends what still comes
 }
 

@@ -1,12 +1,9 @@
 #pragma once
 
+#include "Async/Pledge.h"
 #include "NotchKit/Platform/HttpClient.h"
 
-#include <QFutureWatcher>
-#include <QPromise>
 #include <QTimer>
-
-#include <memory>
 
 class QNetworkAccessManager;
 class QNetworkReply;
@@ -14,18 +11,16 @@ class QNetworkRequest;
 
 namespace Kestrune {
 
-/// One request and its reply, on the thread of its manager. Deletes itself once the promise is kept.
+/// One request and its reply, on the thread of its manager. Deletes itself once the pledge is given.
 class HttpExchange : public QObject
 {
     Q_OBJECT
 
 public:
-    using Promise = std::shared_ptr<QPromise<HttpReply>>;
-
     /// At most so many redirections are followed, and only to https.
     static constexpr int kMostRedirections = 3;
 
-    HttpExchange(QNetworkAccessManager &manager, const HttpRequest &request, Promise promise);
+    HttpExchange(QNetworkAccessManager &manager, const HttpRequest &request, const Pledge<HttpReply> &pledge);
 
 private:
     void ask(const QNetworkRequest &request);
@@ -36,11 +31,10 @@ private:
     void finish(const HttpReply &reply);
 
     QNetworkAccessManager &m_manager;
-    Promise m_promise;
+    Pledge<HttpReply> m_pledge;
     qint64 m_mostBytes;
     int m_redirections = 0;
     QByteArray m_body;
-    QFutureWatcher<HttpReply> m_watcher;
     QTimer m_deadline;
     QNetworkReply *m_reply = nullptr;
 };

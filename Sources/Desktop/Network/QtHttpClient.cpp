@@ -1,14 +1,18 @@
 #include "QtHttpClient.h"
 
-#include "Addresses.h"
 #include "HttpExchange.h"
+#include "NotchKit/Platform/Addresses.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkProxyFactory>
 
 namespace Kestrune {
 
+using namespace std::chrono_literals;
+
 namespace {
+
+constexpr auto kSlack = 10s; // A loop that needs longer to notice the end of a time-out hangs.
 
 /// What the user has set for all programs. Asked on the network's thread: it may take its time.
 class UserProxies : public QNetworkProxyFactory
@@ -22,28 +26,27 @@ public:
     }
 };
 
+/// The one that lives on the thread.
+QNetworkAccessManager &managerOn(QObject &thread)
+{
+    if (auto *manager = thread.findChild<QNetworkAccessManager *>())
+        return *manager;
+    auto *manager = new QNetworkAccessManager(&thread);
+    manager->setProxyFactory(new UserProxies);
+    return *manager;
+}
+
 } // namespace
 
 QFuture<HttpReply> QtHttpClient::get(const HttpRequest &request)
 {
-    const auto promise = std::make_shared<QPromise<HttpReply>>();
-    promise->start();
-    const QFuture<HttpReply> future = promise->future();
-    if (!isFetchable(request.url)) {
-        promise->addResult(HttpReply());
-        promise->finish();
-        return future;
-    }
-    QObject *context = m_loop.context();
-    QMetaObject::invokeMethod(context, [this, context, request, promise] {
-        if (!m_manager) {
-            m_manager = new QNetworkAccessManager(context);
-            m_manager->setProxyFactory(new UserProxies);
-        }
-        if (!promise->isCanceled())
-            new HttpExchange(*m_manager, request, promise);
-    });
-    return future;
+    if (!isFetchable(request.url))
+        return answered(HttpReply());
+    const auto fetch = [request](QObject &thread, const Pledge<HttpReply> &pledge) {
+        if (pledge.isWanted())
+            new HttpExchange(managerOn(thread), request, pledge);
+    };
+    return m_loop.ask<HttpReply>(request.timeout + kSlack, fetch);
 }
 
 } // namespace Kestrune

@@ -1,9 +1,7 @@
 #pragma once
 
-#include "Desktop/WorkLoop.h"
+#include "Async/LoopThread.h"
 #include "NotchKit/Platform/HttpClient.h"
-
-class QNetworkAccessManager;
 
 namespace Kestrune {
 
@@ -16,8 +14,7 @@ public:
     QFuture<HttpReply> get(const HttpRequest &request) override;
 
 private:
-    QNetworkAccessManager *m_manager = nullptr; ///< Touched on the loop's thread only.
-    WorkLoop m_loop{QStringLiteral("network")};
+    LoopThread m_loop{"network"};
 };
 
 } // namespace Kestrune

@@ -1,6 +1,6 @@
 #include "BusApplications.h"
 
-#include "BusDaemon.h"
+#include "Desktop/Bus/BusDaemon.h"
 
 namespace Kestrune {
 

@@ -1,6 +1,6 @@
 #include "DesktopWorkspace.h"
 
-#include "BusCall.h"
+#include "Desktop/Bus/BusCall.h"
 
 #include <QProcess>
 #include <QStandardPaths>

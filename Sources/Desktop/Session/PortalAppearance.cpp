@@ -1,6 +1,6 @@
 #include "PortalAppearance.h"
 
-#include "BusCall.h"
+#include "Desktop/Bus/BusCall.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -9,7 +9,7 @@ namespace Kestrune {
 
 namespace {
 
-constexpr int kTimeout = 5000; // ms, for a portal that the question starts.
+constexpr int kAppearanceTimeout = 5000; // ms, for a portal that the question starts.
 
 /// The portal's values for its colour scheme; 0 is no preference.
 constexpr uint kDark = 1;
@@ -40,7 +40,7 @@ void PortalAppearance::ask(QDBusConnection &bus)
     QDBusMessage question =
         QDBusMessage::createMethodCall(service(), object(), interface(), QStringLiteral("Read"));
     question << space() << key();
-    callBus(bus, question, kTimeout, this, [this](const QDBusMessage &reply) {
+    callBus(bus, question, kAppearanceTimeout, this, [this](const QDBusMessage &reply) {
         if (reply.type() == QDBusMessage::ReplyMessage)
             take(reply.arguments().value(0));
     });

@@ -1,10 +1,10 @@
 #include "KdeConnectSharing.h"
 
-#include "Desktop/Session/BusCall.h"
+#include "Async/Pledge.h"
+#include "Desktop/Bus/BusCall.h"
 
 #include <QDBusArgument>
 #include <QMap>
-#include <QPromise>
 
 #include <algorithm>
 
@@ -39,18 +39,17 @@ QMap<QString, QString> deviceNames(const QDBusMessage &reply)
 /// What one question has found so far. It is answered when its last call has been, or has been given up.
 struct KdeConnectSharing::Search
 {
-    Search() { promise.start(); }
+    Search() = default;
     ~Search()
     {
         std::ranges::sort(found, [](const SharingDevice &one, const SharingDevice &other) {
             return std::pair(one.name, one.id) < std::pair(other.name, other.id);
         });
-        promise.addResult(found);
-        promise.finish();
+        pledge.give(found);
     }
     Q_DISABLE_COPY_MOVE(Search)
 
-    QPromise<QList<SharingDevice>> promise;
+    Pledge<QList<SharingDevice>> pledge;
     QList<SharingDevice> found;
 };
 
@@ -64,7 +63,7 @@ QFuture<QList<SharingDevice>> KdeConnectSharing::devices()
         for (auto device = names.cbegin(); device != names.cend(); ++device)
             keepIfItTakesFiles({device.key(), device.value()}, search);
     });
-    return search->promise.future();
+    return search->pledge.future();
 }
 
 void KdeConnectSharing::keepIfItTakesFiles(const SharingDevice &device, const std::shared_ptr<Search> &search)

@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QSemaphore>
 #include <QTemporaryFile>
-#include <QThread>
 
 #include <chrono>
 #include <memory>
@@ -67,14 +66,14 @@ void CanberraSounds::play(const QString &name)
     const QString resource = QStringLiteral(":/sounds/%1.wav").arg(name.toLower());
     if (!QFile::exists(resource))
         return;
-    QThread *thread = QThread::create([resource] {
+    const auto work = [resource] {
         QFile embedded(resource);
         const std::unique_ptr<QTemporaryFile> file(QTemporaryFile::createNativeFile(embedded));
         if (file)
             playFile(QFile::encodeName(file->fileName()));
-    });
-    QObject::connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-    thread->start();
+        return file != nullptr;
+    };
+    m_worker.run(2 * kLongestSound, work);
 }
 
 } // namespace Kestrune

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Async/Worker.h"
 #include "NotchKit/Platform/SoundPlayer.h"
 
 namespace Kestrune {
@@ -10,6 +11,9 @@ class CanberraSounds : public SoundPlayer
 {
 public:
     void play(const QString &name) override;
+
+private:
+    Worker m_worker{"sounds"};
 };
 
 } // namespace Kestrune

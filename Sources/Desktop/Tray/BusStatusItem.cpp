@@ -1,7 +1,7 @@
 #include "BusStatusItem.h"
 
-#include "Desktop/Session/BusCall.h"
-#include "Desktop/Session/BusDaemon.h"
+#include "Desktop/Bus/BusCall.h"
+#include "Desktop/Bus/BusDaemon.h"
 
 #include <QtEndian>
 
@@ -9,7 +9,7 @@ namespace Kestrune {
 
 namespace {
 
-constexpr int kTimeout = 5000; // ms
+constexpr int kTrayTimeout = 5000; // ms
 
 QString watcher() { return QStringLiteral("org.kde.StatusNotifierWatcher"); }
 QString faceObject() { return QStringLiteral("/StatusNotifierItem"); }
@@ -70,7 +70,7 @@ void BusStatusItem::appear()
     call.setAutoStartService(false);
     call << m_bus.baseService();
     // A watcher that does not answer leaves nothing to do: the next one is asked again.
-    callBus(m_bus, call, kTimeout, &m_watcher, [](const QDBusMessage &) {});
+    callBus(m_bus, call, kTrayTimeout, &m_watcher, [](const QDBusMessage &) {});
 }
 
 void BusStatusItem::disappear()

@@ -22,17 +22,17 @@ bool PackageStore::holds(const Release &release) const
            m_key.hasSigned(file.readAll(), release.packageSignature);
 }
 
-PackageStore::Outcome PackageStore::keep(const Release &release, const QByteArray &package) const
+Releases::Kept PackageStore::keep(const Release &release, const QByteArray &package) const
 {
     if (!m_key.hasSigned(package, release.packageSignature))
-        return Outcome::notSigned;
+        return Kept::notSigned;
     QDir(m_folder).removeRecursively();
     QDir().mkpath(m_folder);
     QSaveFile file(path(release));
     // What only the flush says of a full disk is forgotten by the commit.
     const bool isSaved = file.open(QIODevice::WriteOnly) && file.write(package) == package.size() &&
                          file.flush() && file.commit();
-    return isSaved ? Outcome::kept : Outcome::notSaved;
+    return isSaved ? Kept::kept : Kept::notSaved;
 }
 
 } // namespace Kestrune

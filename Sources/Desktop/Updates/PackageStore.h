@@ -9,7 +9,7 @@ namespace Kestrune {
 class PackageStore
 {
 public:
-    enum class Outcome { notSaved, notSigned, kept };
+    using Kept = Releases::Kept;
 
     PackageStore(QString folder, ReleaseKey key);
 
@@ -19,7 +19,7 @@ public:
     bool holds(const Release &release) const;
 
     /// Takes in a package whose signature is right, in place of all others.
-    Outcome keep(const Release &release, const QByteArray &package) const;
+    Kept keep(const Release &release, const QByteArray &package) const;
 
 private:
     QString m_folder;

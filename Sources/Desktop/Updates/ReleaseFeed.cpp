@@ -1,6 +1,6 @@
 #include "ReleaseFeed.h"
 
-#include "Desktop/Network/Addresses.h"
+#include "NotchKit/Platform/Addresses.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -67,21 +67,6 @@ bool ReleaseKey::hasSigned(const QByteArray &message, const QByteArray &signatur
     return signature.size() == crypto_sign_BYTES &&
            crypto_sign_verify_detached(bytes(signature), bytes(message),
                                        static_cast<unsigned long long>(message.size()), bytes(m_bytes)) == 0;
-}
-
-QString Release::fileName() const
-{
-    // A name may hold an encoded slash.
-    return package.fileName(QUrl::FullyDecoded).section(u'/', -1);
-}
-
-QString Release::notesIn(const QString &tag) const
-{
-    for (const QString &language : {tag, tag.section(u'-', 0, 0), QStringLiteral("en")}) {
-        if (const auto found = notes.constFind(language); found != notes.cend())
-            return *found;
-    }
-    return {};
 }
 
 std::variant<Release, FeedFault> readReleaseFeed(const QByteArray &feed, const ReleaseKey &key)

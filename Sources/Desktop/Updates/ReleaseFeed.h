@@ -1,14 +1,8 @@
 #pragma once
 
-#include "SemanticVersion.h"
-
-#include <QByteArray>
-#include <QMap>
-#include <QString>
-#include <QUrl>
+#include "NotchKit/Platform/Releases.h"
 
 #include <optional>
-#include <variant>
 
 namespace Kestrune {
 
@@ -24,28 +18,6 @@ public:
 
 private:
     QByteArray m_bytes;
-};
-
-/// What a feed says of the newest release.
-struct Release
-{
-    QString text; ///< The version as the feed writes it.
-    SemanticVersion version;
-    QMap<QString, QString> notes; ///< What is new, by language code; English under "en".
-    QUrl package;                 ///< https, or on this computer.
-    qint64 size = 0;              ///< Bytes of the package.
-    QByteArray packageSignature;  ///< Of the package's bytes.
-
-    /// What the package is saved as: a plain name, never a path.
-    QString fileName() const;
-
-    /// In the language of a tag such as "pt-BR", else in its base, else in English.
-    QString notesIn(const QString &tag) const;
-};
-
-enum class FeedFault {
-    unreadable, ///< No feed, or not one of this form.
-    notSigned,  ///< Signed with another key, or altered since.
 };
 
 /// The release of a feed. Its form is JSON:

@@ -9,14 +9,14 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr size_t kMost = 8;
-constexpr auto kPatience = 15s;
+constexpr auto kAbandonedPatience = 15s;
 
 } // namespace
 
 void AbandonedTransfers::add(xcb_connection_t *x, xcb_window_t window, xcb_atom_t property)
 {
     xcb_delete_property(x, window, property);
-    m_transfers.push_back({window, Clock::now() + kPatience});
+    m_transfers.push_back({window, Clock::now() + kAbandonedPatience});
     if (m_transfers.size() <= kMost)
         return;
     xcb_destroy_window(x, m_transfers.front().window);

@@ -34,7 +34,7 @@ QList<xcb_atom_t> atomsIn(const QByteArray &data)
 
 } // namespace
 
-PasteboardLoop::PasteboardLoop(const QByteArray &display, CommandQueue &commands,
+PasteboardLoop::PasteboardLoop(const QByteArray &display, Mailbox<PasteboardCommand> &commands,
                                std::atomic<qint64> &changeCount)
     : m_commands(commands)
     , m_changeCount(changeCount)
@@ -94,8 +94,8 @@ bool PasteboardLoop::runCommand()
 {
     const auto command = m_commands.take();
     if (command)
-        command(*this);
-    return static_cast<bool>(command);
+        (*command)(*this);
+    return command.has_value();
 }
 
 bool PasteboardLoop::startQuestion()

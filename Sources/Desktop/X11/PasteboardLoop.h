@@ -1,12 +1,17 @@
 #pragma once
 
-#include "CommandQueue.h"
+#include "Async/Mailbox.h"
 #include "SelectionOwner.h"
 #include "SelectionReader.h"
 
 #include <atomic>
 
 namespace Kestrune {
+
+class PasteboardLoop;
+
+/// What the main thread asks of the pasteboard's thread.
+using PasteboardCommand = std::function<void(PasteboardLoop &)>;
 
 /// The pasteboard's own thread: it sleeps until the X server or the main thread has something for it.
 ///
@@ -19,7 +24,8 @@ public:
     using Done = std::function<void(Answer)>;
 
     /// `changeCount` is raised with every copy by another program.
-    PasteboardLoop(const QByteArray &display, CommandQueue &commands, std::atomic<qint64> &changeCount);
+    PasteboardLoop(const QByteArray &display, Mailbox<PasteboardCommand> &commands,
+                   std::atomic<qint64> &changeCount);
 
     /// Returns when the queue is closed or the connection to the server breaks.
     void run();
@@ -60,7 +66,7 @@ private:
     void askForTypes(const Done<QStringList> &done);
     void askForForm(const QList<QByteArray> &targets, qsizetype limit, const Done<Form> &done);
 
-    CommandQueue &m_commands;
+    Mailbox<PasteboardCommand> &m_commands;
     std::atomic<qint64> &m_changeCount;
     SelectionConnection m_x;
     xcb_atom_t m_clipboard;

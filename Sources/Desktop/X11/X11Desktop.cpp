@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <span>
 
-#include <xcb/xfixes.h>
+#include <xcb/damage.h>
 
 namespace Kestrune {
 
@@ -47,11 +47,33 @@ X11Desktop::X11Desktop(QObject *parent)
                                               XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
                                               XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
     }
+    const auto *damage = xcb_get_extension_data(X11::connection(), &xcb_damage_id);
+    if (m_selectionEvent != 0 && damage && damage->present) {
+        const auto version = xcb_damage_query_version(X11::connection(), 1, 1);
+        xcb_discard_reply(X11::connection(), version.sequence);
+        m_damaged = xcb_generate_id(X11::connection());
+        xcb_xfixes_create_region(X11::connection(), m_damaged, 0, nullptr);
+    }
     QCoreApplication::instance()->installNativeEventFilter(this);
     checkCompositor();
 }
 
-X11Desktop::~X11Desktop() = default;
+X11Desktop::~X11Desktop()
+{
+    if (m_damaged != XCB_NONE)
+        xcb_xfixes_destroy_region(X11::connection(), m_damaged);
+}
+
+void X11Desktop::reportDamage(xcb_window_t window, const QRect &pixels) const
+{
+    if (m_damaged == XCB_NONE)
+        return;
+    const xcb_rectangle_t rectangle{static_cast<int16_t>(pixels.x()), static_cast<int16_t>(pixels.y()),
+                                    static_cast<uint16_t>(pixels.width()),
+                                    static_cast<uint16_t>(pixels.height())};
+    xcb_xfixes_set_region(X11::connection(), m_damaged, 1, &rectangle);
+    xcb_damage_add(X11::connection(), window, m_damaged);
+}
 
 void X11Desktop::checkCompositor()
 {

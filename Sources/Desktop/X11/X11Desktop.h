@@ -2,10 +2,12 @@
 
 #include <QAbstractNativeEventFilter>
 #include <QObject>
+#include <QRect>
 
 #include <optional>
 
 #include <xcb/xcb.h>
+#include <xcb/xfixes.h>
 
 namespace Kestrune {
 
@@ -24,6 +26,9 @@ public:
     /// The top-level X window that holds the topmost managed window, if it is above `window`.
     static std::optional<xcb_window_t> managedFrameAbove(xcb_window_t window);
 
+    /// Tells the compositor that it has to draw these pixels of `window` anew.
+    void reportDamage(xcb_window_t window, const QRect &pixels) const;
+
 Q_SIGNALS:
     void compositorChanged();
 
@@ -37,6 +42,7 @@ private:
     xcb_atom_t m_compositorSelection;
     uint8_t m_selectionEvent = 0;
     bool m_hasCompositor = false;
+    xcb_xfixes_region_t m_damaged = XCB_NONE; ///< For `reportDamage`; none where the X server cannot.
 };
 
 } // namespace Kestrune

@@ -16,14 +16,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kPatience = 2s;
-constexpr uint32_t kMostTypes = 1024;
+constexpr auto kDragPatience = 2s;
+constexpr uint32_t kMostDraggedTypes = 1024;
 constexpr uint32_t kMostWords = 4 * 1024 * 1024; // 16 MB of addresses.
 constexpr uint32_t kMoreTypes = 1;               // Bit in the entering message: see the source's list.
 
 constexpr auto kUriList = "text/uri-list";
 constexpr auto kSelection = "XdndSelection";
-constexpr auto kProperty = "_KESTRUNE_DRAGGED_FILES";
+constexpr auto kDragProperty = "_KESTRUNE_DRAGGED_FILES";
 
 X11::Reply<xcb_get_property_reply_t> property(xcb_window_t window, xcb_atom_t name, bool take,
                                               uint32_t mostWords)
@@ -44,7 +44,7 @@ X11DragPasteboard::X11DragPasteboard()
                                               XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
     }
     m_patience.setSingleShot(true);
-    m_patience.setInterval(kPatience);
+    m_patience.setInterval(kDragPatience);
     m_patience.callOnTimeout([this] { finish({}); });
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
@@ -53,13 +53,7 @@ X11DragPasteboard::~X11DragPasteboard() { finish({}); }
 
 QFuture<QList<QUrl>> X11DragPasteboard::fileUrls()
 {
-    if (m_answer)
-        return m_answer->future();
-    QPromise<QList<QUrl>> nothing;
-    nothing.start();
-    nothing.addResult(QList<QUrl>());
-    nothing.finish();
-    return nothing.future();
+    return m_answer ? m_answer->future() : answered(QList<QUrl>());
 }
 
 bool X11DragPasteboard::nativeEventFilter(const QByteArray &, void *message, qintptr *)
@@ -108,8 +102,7 @@ void X11DragPasteboard::enter(const xcb_client_message_event_t &message)
     m_answered = false;
     m_incremental = false;
     m_list.clear();
-    m_answer = std::make_unique<QPromise<QList<QUrl>>>();
-    m_answer->start();
+    m_answer.emplace();
     if (!offersFiles(message))
         finish({});
 }
@@ -120,7 +113,7 @@ bool X11DragPasteboard::offersFiles(const xcb_client_message_event_t &message) c
     const std::span data(message.data.data32);
     if (!(data[1] & kMoreTypes))
         return std::ranges::count(data.subspan(2), wanted) > 0;
-    const auto list = property(m_source, X11::atom("XdndTypeList"), false, kMostTypes);
+    const auto list = property(m_source, X11::atom("XdndTypeList"), false, kMostDraggedTypes);
     if (!list || list->format != 32)
         return false;
     const std::span types(static_cast<const xcb_atom_t *>(xcb_get_property_value(list.get())),
@@ -135,7 +128,7 @@ void X11DragPasteboard::ask(xcb_timestamp_t time)
     // For the window that the drag is over and at the time it said: some sources tell by these which of
     // their drags is meant.
     xcb_convert_selection(X11::connection(), m_target, X11::atom(kSelection), X11::atom(kUriList),
-                          X11::atom(kProperty), time);
+                          X11::atom(kDragProperty), time);
     xcb_flush(X11::connection());
     m_patience.start();
 }
@@ -145,7 +138,7 @@ bool X11DragPasteboard::handleAnswer(const xcb_selection_notify_event_t &answer)
     if (answer.selection != X11::atom(kSelection) || answer.requestor != m_target ||
         answer.target != X11::atom(kUriList) || !m_asked)
         return false;
-    if (answer.property == X11::atom(kProperty))
+    if (answer.property == X11::atom(kDragProperty))
         takeProperty();
     else if (answer.property == XCB_ATOM_NONE)
         finish({});
@@ -156,7 +149,7 @@ bool X11DragPasteboard::handleAnswer(const xcb_selection_notify_event_t &answer)
 
 void X11DragPasteboard::takeProperty()
 {
-    const auto part = property(m_target, X11::atom(kProperty), true, kMostWords);
+    const auto part = property(m_target, X11::atom(kDragProperty), true, kMostWords);
     if (!part) {
         finish({});
         return;
@@ -179,7 +172,7 @@ void X11DragPasteboard::takeProperty()
 
 void X11DragPasteboard::handleProperty(const xcb_property_notify_event_t &change)
 {
-    if (change.window == m_target && change.atom == X11::atom(kProperty) &&
+    if (change.window == m_target && change.atom == X11::atom(kDragProperty) &&
         change.state == XCB_PROPERTY_NEW_VALUE)
         takeProperty();
 }
@@ -215,8 +208,7 @@ void X11DragPasteboard::finish(const QList<QUrl> &files)
     m_incremental = false;
     m_list.clear();
     m_files = files;
-    m_answer->addResult(files);
-    m_answer->finish();
+    m_answer->give(files);
 }
 
 } // namespace Kestrune

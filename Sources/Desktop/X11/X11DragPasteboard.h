@@ -1,12 +1,12 @@
 #pragma once
 
+#include "Async/Pledge.h"
 #include "NotchKit/Platform/DragPasteboard.h"
 
 #include <QAbstractNativeEventFilter>
-#include <QPromise>
 #include <QTimer>
 
-#include <memory>
+#include <optional>
 
 #include <xcb/xcb.h>
 
@@ -45,7 +45,7 @@ private:
     bool m_incremental = false;
     QByteArray m_list; ///< What has arrived of a list in parts.
     QList<QUrl> m_files;
-    std::unique_ptr<QPromise<QList<QUrl>>> m_answer; ///< Of the drag that is over, or was dropped last.
+    std::optional<Pledge<QList<QUrl>>> m_answer; ///< Of the drag that is over, or was dropped last.
     bool m_answered = true;
     QTimer m_patience;
 };

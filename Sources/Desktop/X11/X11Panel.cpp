@@ -18,6 +18,8 @@ namespace Kestrune {
 
 namespace {
 
+constexpr double kShadow = 48; // points around the outline that the notch's shadow stays within
+
 /// The pixels whose centres lie in `rect`.
 QRect pixelsWithin(const QRectF &rect)
 {
@@ -194,6 +196,16 @@ void X11Panel::setOutline(const QPainterPath &outline)
     m_outline = outline;
     if (!m_desktop.hasCompositor())
         applyOutline();
+}
+
+void X11Panel::announceFrame()
+{
+    if (!m_desktop.hasCompositor() || m_outline.isEmpty())
+        return;
+    const QRectF now = m_outline.boundingRect().adjusted(-kShadow, -kShadow, kShadow, kShadow);
+    const QRectF area = (now | std::exchange(m_drawn, now)) & QRectF({}, QSizeF(m_window->size()));
+    const double scale = m_window->devicePixelRatio();
+    m_desktop.reportDamage(id(), QRectF(area.topLeft() * scale, area.size() * scale).toAlignedRect());
 }
 
 void X11Panel::applyOutline()

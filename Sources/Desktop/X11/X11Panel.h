@@ -1,6 +1,6 @@
 #pragma once
 
-#include "NotchKit/Platform/NotchPanels.h"
+#include "NotchKit/Platform/NotchPanel.h"
 
 #include <QObject>
 #include <QPainterPath>
@@ -32,9 +32,12 @@ public:
     void setHitArea(const QRectF &area) override;
     void makeKey() override;
     void resignKey() override;
+    void setOutline(const QPainterPath &outline) override;
 
-    /// The notch as it is drawn now, in points from the panel's top left, y growing downwards.
-    void setOutline(const QPainterPath &outline);
+    /// Tells the compositor of the frame that is about to be put on the screen, as one rectangle. Qt puts it
+    /// there as the many small ones that changed, and picom 12 (Debian 13), where the X server draws in
+    /// software, covers all between them with what lies beneath a translucent window.
+    void announceFrame() override;
 
 private:
     xcb_window_t id() const { return static_cast<xcb_window_t>(m_window->winId()); }
@@ -50,6 +53,7 @@ private:
     QRectF m_frame;
     QRectF m_hitArea;
     QPainterPath m_outline;
+    QRectF m_drawn; ///< Where the frame before drew, in points of the panel.
     /// An invisible window beneath the panel. Without a compositor the panel is no larger than what it
     /// draws, and this one takes the clicks in the margin around it.
     xcb_window_t m_hitWindow = XCB_WINDOW_NONE;

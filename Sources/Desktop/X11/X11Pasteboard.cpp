@@ -1,40 +1,14 @@
 #include "X11Pasteboard.h"
 
+#include "Async/Pledge.h"
+#include "Async/Threads.h"
 #include "PasteboardLoop.h"
-
-#include <QPromise>
 
 #include <csignal>
 
 namespace Kestrune {
 
 namespace {
-
-constexpr uint kStack = 256 * 1024; // Bytes.
-
-/// An answer that is given in any case: the empty one when nobody has given another.
-template <typename Answer>
-class Promised
-{
-public:
-    Promised() { m_promise.start(); }
-    ~Promised() { give({}); }
-    Q_DISABLE_COPY_MOVE(Promised)
-
-    QFuture<Answer> future() const { return m_promise.future(); }
-
-    void give(Answer answer)
-    {
-        if (std::exchange(m_given, true))
-            return;
-        m_promise.addResult(std::move(answer));
-        m_promise.finish();
-    }
-
-private:
-    QPromise<Answer> m_promise;
-    bool m_given = false;
-};
 
 /// Leaves signals to the main thread. A server that goes away must be an error of the connection, not the
 /// end of the program.
@@ -47,33 +21,36 @@ void blockSignals()
 
 } // namespace
 
-X11Pasteboard::X11Pasteboard(const QByteArray &display)
-    : m_thread(QThread::create([this, display] {
-        blockSignals();
-        PasteboardLoop(display, m_commands, m_changeCount).run();
-        m_commands.close();
-    }))
+struct X11Pasteboard::Shared
 {
-    m_thread->setObjectName(QStringLiteral("pasteboard"));
-    m_thread->setStackSize(kStack);
-    m_thread->start();
+    std::atomic<qint64> changeCount = 0;
+    Mailbox<PasteboardCommand> commands;
+};
+
+X11Pasteboard::X11Pasteboard(const QByteArray &display)
+    : m_shared(std::make_shared<Shared>())
+{
+    const bool started = Threads::start("pasteboard", [shared = m_shared, display] {
+        blockSignals();
+        PasteboardLoop(display, shared->commands, shared->changeCount).run();
+        shared->commands.close();
+    });
+    if (!started)
+        m_shared->commands.close();
 }
 
-X11Pasteboard::~X11Pasteboard()
-{
-    m_commands.close();
-    m_thread->wait();
-}
+X11Pasteboard::~X11Pasteboard() { m_shared->commands.close(); }
+
+qint64 X11Pasteboard::changeCount() const { return m_shared->changeCount; }
 
 template <typename Answer, typename Question>
 QFuture<Answer> X11Pasteboard::ask(Question question)
 {
-    auto promised = std::make_shared<Promised<Answer>>();
-    auto future = promised->future();
-    m_commands.post([question, promised = std::move(promised)](PasteboardLoop &loop) {
-        (loop.*question)([promised](auto answer) { promised->give(std::move(answer)); });
+    const Pledge<Answer> pledge;
+    m_shared->commands.post([question, pledge](PasteboardLoop &loop) {
+        (loop.*question)([pledge](auto answer) { pledge.give(std::move(answer)); });
     });
-    return future;
+    return pledge.future();
 }
 
 QFuture<QStringList> X11Pasteboard::types() { return ask<QStringList>(&PasteboardLoop::types); }
@@ -92,8 +69,8 @@ QFuture<std::optional<QString>> X11Pasteboard::string()
 
 qint64 X11Pasteboard::write(const PasteboardContent &content)
 {
-    m_commands.post([content](PasteboardLoop &loop) { loop.offer(content); });
-    return ++m_changeCount;
+    m_shared->commands.post([content](PasteboardLoop &loop) { loop.offer(content); });
+    return ++m_shared->changeCount;
 }
 
 } // namespace Kestrune

@@ -1,11 +1,7 @@
 #pragma once
 
-#include "CommandQueue.h"
 #include "NotchKit/Platform/Pasteboard.h"
 
-#include <QThread>
-
-#include <atomic>
 #include <memory>
 
 namespace Kestrune {
@@ -22,7 +18,7 @@ public:
     explicit X11Pasteboard(const QByteArray &display = {});
     ~X11Pasteboard() override;
 
-    qint64 changeCount() const override { return m_changeCount; }
+    qint64 changeCount() const override;
     QFuture<QStringList> types() override;
     QFuture<QList<QUrl>> fileUrls() override;
     QFuture<std::optional<EncodedPicture>> picture() override;
@@ -30,12 +26,12 @@ public:
     qint64 write(const PasteboardContent &content) override;
 
 private:
+    struct Shared;
+
     template <typename Answer, typename Question>
     QFuture<Answer> ask(Question question);
 
-    std::atomic<qint64> m_changeCount = 0;
-    CommandQueue m_commands;
-    std::unique_ptr<QThread> m_thread;
+    std::shared_ptr<Shared> m_shared; ///< With the thread.
 };
 
 } // namespace Kestrune

@@ -36,6 +36,9 @@ public:
     /// The main display; nothing while none is connected.
     virtual std::optional<Display> main() const = 0;
 
+    /// The user has described camera housings anew; `changed` follows where that makes a difference.
+    virtual void housingsChanged() = 0;
+
 Q_SIGNALS:
     /// A display came, went, moved, or changed its size, scale or camera housing.
     void changed();

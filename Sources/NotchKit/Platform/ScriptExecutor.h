@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFuture>
 #include <QString>
 
 #include <variant>
@@ -22,15 +23,15 @@ struct ScriptNotPermitted
 /// How a script ended: with a text, which may be empty, or with data.
 using ScriptOutcome = std::variant<ScriptFailed, ScriptNotPermitted, QString, QByteArray>;
 
-/// Runs short scripts that ask or command a media player.
+/// Runs short scripts that ask or command a media player. Main thread only; nothing here blocks.
 class ScriptExecutor
 {
 public:
     virtual ~ScriptExecutor() = default;
 
-    /// Runs one script to its end, which takes a second at the most, whatever the player does. Called on any
-    /// thread but the main one, never on two at a time.
-    virtual ScriptOutcome execute(const QString &source) = 0;
+    /// Runs the script after those before it, each of which takes a second at the most, whatever the player
+    /// does.
+    virtual QFuture<ScriptOutcome> execute(const QString &source) = 0;
 };
 
 } // namespace Kestrune

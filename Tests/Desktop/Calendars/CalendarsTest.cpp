@@ -1,6 +1,6 @@
 #include "Desktop/Calendars/CalendarStage.h"
 #include "NotchKit/NotchSettings.h"
-#include "NotchKit/Tools/CalendarModel.h"
+#include "NotchKit/Tools/Calendar/CalendarModel.h"
 #include "Support/TestRegistry.h"
 
 #include <QTest>

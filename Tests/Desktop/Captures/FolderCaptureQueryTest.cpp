@@ -26,7 +26,7 @@ struct Stage
     {
         query.installHandler([this] { ++calls; });
         query.start();
-        return QTest::qWaitFor([this] { return calls > 0; });
+        return QTest::qWaitFor([this] { return calls > 0; }, 60'000);
     }
 
     /// Below the home folder, newest first.
@@ -39,7 +39,7 @@ struct Stage
     }
     bool finds(const QStringList &names) const
     {
-        return QTest::qWaitFor([&] { return found() == names; });
+        return QTest::qWaitFor([&] { return found() == names; }, 60'000);
     }
     bool findsNoMoreThan(const QStringList &names) const
     {

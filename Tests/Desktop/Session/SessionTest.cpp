@@ -1,5 +1,5 @@
 #include "Desktop/Session/AutostartLoginItem.h"
-#include "Desktop/X11/X11Displays.h"
+#include "NotchKit/Platform/CameraHousings.h"
 #include "Support/TestRegistry.h"
 
 #include <QDir>
@@ -57,7 +57,7 @@ void SessionTest::housingsAreParsed()
 {
     QFETCH(const QString, text);
     QFETCH(const QSizeF, size);
-    QCOMPARE(X11Displays::parseHousing(text).value_or(QSizeF()), size);
+    QCOMPARE(CameraHousings::parse(text).value_or(QSizeF()), size);
 }
 
 REGISTER_TEST(SessionTest);

@@ -50,6 +50,8 @@ void SystemClockTest::fastTimersKeepTheirRateTogether()
     QVERIFY2(ticks >= (seconds - stalled) / 0.050 - 2, qPrintable(QString::number(ticks)));
     QVERIFY2(polls <= seconds / 0.033 + 1 && ticks <= seconds / 0.050 + 1,
              qPrintable(QString::number(ticks)));
+    if (stalled > seconds / 10)
+        QSKIP("the machine is too busy to see how they keep together");
     QVERIFY2(std::abs(polls * 33.0 / (ticks * 50.0) - 1) < 0.15, qPrintable(QString::number(polls)));
     QVERIFY2(alone < ticks / 2, qPrintable(QString::number(alone)));
 }
@@ -82,6 +84,7 @@ void SystemClockTest::handlersMayEndTheirTimer()
     });
     const auto dropped = [&] { (void)clock.after(10ms, [&] { calls += 100; }); };
     dropped();
+    QTRY_COMPARE(calls, 2);
     QTest::qWait(150);
     QCOMPARE(calls, 2);
 }

@@ -51,10 +51,10 @@ void ClipboardStage::reset()
     pasteboard->types().waitForFinished(); // Answered once it watches.
 }
 
-bool ClipboardStage::copied(const std::function<bool()> &copy)
+bool ClipboardStage::copied(const std::function<bool()> &copy, qint64 limit)
 {
     const qint64 before = pasteboard->changeCount();
-    return copy() && waitUntil([&] { return pasteboard->changeCount() > before; }, 3000);
+    return copy() && waitUntil([&] { return pasteboard->changeCount() > before; }, limit);
 }
 
 bool ClipboardStage::startRogue(const QStringList &arguments)
@@ -78,7 +78,7 @@ QByteArray ClipboardStage::paste(const QString &client, const QString &type)
 {
     const auto [program, arguments] = command(client, u"paste"_s, type);
     ChildProcess process(environment);
-    if (!process.launch(program, arguments) || !process.waitForFinished(20000))
+    if (!process.launch(program, arguments) || !process.waitForFinished(120000))
         return {};
     return process.readAllStandardOutput();
 }
@@ -96,7 +96,7 @@ bool ClipboardStage::type(const QString &window, const QStringList &keys)
                           QStringList{u"search"_s, u"--sync"_s, u"--onlyvisible"_s, u"--name"_s, window,
                                       u"windowfocus"_s, u"--sync"_s, u"key"_s, u"--delay"_s, u"100"_s} +
                               keys) &&
-           process.waitForFinished(20000);
+           process.waitForFinished(120000);
 }
 
 QString ClipboardStage::file(const QString &name, const QByteArray &bytes)

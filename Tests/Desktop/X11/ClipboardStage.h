@@ -12,7 +12,7 @@
 template <typename Answer>
 Answer wait(const QFuture<Answer> &future)
 {
-    if (!waitUntil([&] { return future.isFinished(); }, 20000) || future.resultCount() != 1) {
+    if (!waitUntil([&] { return future.isFinished(); }) || future.resultCount() != 1) {
         qWarning("a question was not answered");
         return {};
     }
@@ -28,8 +28,9 @@ public:
     /// A new adapter, and none of the programs.
     void reset();
 
-    /// Each returns once the adapter has seen the copy that follows.
-    bool copied(const std::function<bool()> &copy);
+    /// Each returns once the adapter has seen the copy that follows, which takes no more than `limit`
+    /// milliseconds.
+    bool copied(const std::function<bool()> &copy, qint64 limit = 60'000);
     bool startRogue(const QStringList &arguments);
     bool copy(const QString &client, const QString &type, const QByteArray &bytes);
 

@@ -31,6 +31,7 @@ int main(int argc, char *argv[])
         const QByteArray bytes =
             type == QLatin1String("text/plain") ? data->text().toUtf8() : data->data(type);
         std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stdout);
+        std::fflush(stdout); // A leak of the toolkit's, found at the end, would end the program without it.
         QGuiApplication::exit();
     });
     return QGuiApplication::exec();

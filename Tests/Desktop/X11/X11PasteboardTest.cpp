@@ -166,7 +166,7 @@ void X11PasteboardTest::namesAndForms()
                             QUrl::fromLocalFile(u"/ü"_s)};
     QCOMPARE(UriLists::localFiles(lines, "text/uri-list"), files);
     QCOMPARE(UriLists::localFiles("cut\n" + lines, UriLists::kCopiedFiles), files);
-    QCOMPARE(UriLists::copiedFiles(files), "copy\nfile:///a%20b\nfile:///d\nfile:///%C3%BC"_qba);
+    QCOMPARE(UriLists::copiedFiles(files), "copy\nfile:///a%20b\nfile:///d\nfile:///%C3%BC"_ba);
 }
 
 void X11PasteboardTest::secretsAreNotAskedFor_data()
@@ -187,7 +187,7 @@ void X11PasteboardTest::secretsAreNotAskedFor()
     QVERIFY(m_stage->startRogue({u"honest"_s, u"UTF8_STRING"_s, marker}));
     QCOMPARE(types(), QStringList({u"text/plain"_s, named}));
     QTest::qWait(100);
-    QCOMPARE(m_stage->programs.back()->readAllStandardOutput(), "ready\nTARGETS\n"_qba);
+    QCOMPARE(m_stage->programs.back()->readAllStandardOutput(), "ready\nTARGETS\n"_ba);
 }
 
 void X11PasteboardTest::secretsOfAnotherOwner()
@@ -209,22 +209,15 @@ void X11PasteboardTest::secretsOfAnotherOwner()
 
 void X11PasteboardTest::rogues_data()
 {
-    QTest::addColumn<int>("limit");
-    QTest::newRow("hangAtTypes") << 3000;
-    QTest::newRow("hangHalfWay") << 3000;
-    QTest::newRow("dieHalfWay") << 200; // At once, not only when it has been silent.
-    QTest::newRow("huge") << 1000;
-    QTest::newRow("hugeUnannounced") << 8000;
-    QTest::newRow("hugeAtOnce") << 8000;
-    QTest::newRow("typesAsText") << 1000;
-    QTest::newRow("wrongType") << 1000;
-    QTest::newRow("wrongFormat") << 1000;
-    QTest::newRow("drip") << 16000;
+    QTest::addColumn<bool>("silent"); // for the two seconds after which it is given up
+    for (const char *owner : {"hangAtTypes", "hangHalfWay", "dieHalfWay", "huge", "hugeUnannounced",
+                              "hugeAtOnce", "typesAsText", "wrongType", "wrongFormat", "drip"})
+        QTest::newRow(owner) << (owner == "hangAtTypes"_ba || owner == "hangHalfWay"_ba);
 }
 
 void X11PasteboardTest::rogues()
 {
-    QFETCH(int, limit);
+    QFETCH(bool, silent);
     QVERIFY(m_stage->startRogue(
         {QString::fromLatin1(QTest::currentDataTag()), u"UTF8_STRING"_s, u"image/png"_s}));
     QElapsedTimer tick;
@@ -236,11 +229,11 @@ void X11PasteboardTest::rogues()
     tick.start();
     const auto seen = m_stage->pasteboard->types();
     const auto bitmap = m_stage->pasteboard->picture();
-    const qint64 time = timeUntil([&] { return bitmap.isFinished(); }, limit + 5000);
-    QVERIFY2(time >= 0 && time < limit, qPrintable(QString::number(time)));
+    const qint64 time = timeUntil([&] { return bitmap.isFinished(); });
+    QVERIFY2(time >= (silent ? 1900 : 0), qPrintable(QString::number(time)));
     QCOMPARE(wait(bitmap), std::nullopt);
     qInfo("empty after %lld ms; longest gap between two ticks of 33 ms: %lld ms", time, longest);
-    QVERIFY(longest < 330);
+    QVERIFY2(longest < 1900, "the main thread waited for the owner");
     // The next copy is read as if nothing had been.
     QVERIFY(m_stage->copy(u"xclip"_s, u"text/plain"_s, kText.toUtf8()));
     QVERIFY(!types().isEmpty());
@@ -257,7 +250,7 @@ void X11PasteboardTest::nextCopyDoesNotWaitForAHangingOwner()
     QElapsedTimer timer;
     timer.start();
     QVERIFY(!types().isEmpty());
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY2(timer.elapsed() < 1900, qPrintable(QString::number(timer.elapsed())));
     QCOMPARE(string(), kText);
     QCOMPARE(wait(hanging), std::nullopt);
 }
@@ -354,7 +347,7 @@ void X11PasteboardTest::endsWhileAsked()
     QElapsedTimer timer;
     timer.start();
     m_stage->pasteboard.reset();
-    QVERIFY(timer.elapsed() < 500);
+    QVERIFY2(timer.elapsed() < 1900, "it waited for the owner");
     QCOMPARE(wait(first), QStringList());
     QCOMPARE(wait(second), std::nullopt);
 }
@@ -380,7 +373,7 @@ void X11PasteboardTest::fileManager()
     QVERIFY(m_stage->start(u"pcmanfm"_s, {m_stage->path(u"from"_s)}));
     // Its window comes up before the files in it.
     const auto copyAll = [&] { return m_stage->type(u"^from$"_s, {u"ctrl+a"_s, u"ctrl+c"_s}); };
-    QTRY_VERIFY_WITH_TIMEOUT(m_stage->copied(copyAll), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(m_stage->copied(copyAll, 3000), 120000);
     QVERIFY(types().contains(u"text/uri-list"_s));
     QCOMPARE(wait(m_stage->pasteboard->fileUrls()), urls);
 
@@ -391,7 +384,7 @@ void X11PasteboardTest::fileManager()
     QVERIFY(m_stage->start(u"pcmanfm"_s, {m_stage->path(u"to"_s)}));
     const auto pasted = [&] { return QFile::exists(m_stage->path(u"to/Über #1 100%.txt"_s)); };
     const auto paste = [&] { return m_stage->type(u"^to$"_s, {u"ctrl+v"_s}) && waitUntil(pasted, 2000); };
-    QTRY_VERIFY_WITH_TIMEOUT(paste(), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(paste(), 120000);
     QVERIFY(QFile::exists(urls[0].toLocalFile()));
 }
 

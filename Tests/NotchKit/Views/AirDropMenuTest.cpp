@@ -27,7 +27,7 @@ private Q_SLOTS:
                           "property AirDropMenu other: AirDropMenu { parent: pane; airDrop: pane.airDrop } }",
                           QUrl(u"qrc:/Kestrune/Views/Test.qml"_s));
         QVERIFY2(component.isReady(), qPrintable(component.errorString()));
-        AirDrop *airDrop = stage.core.services.airDrop();
+        AirDrop *airDrop = stage.core.services.surroundings()->airDrop();
         stage.core.sharing.reachable = Fakes::FakeSharing(3).reachable;
         const std::unique_ptr<QObject> pane(component.createWithInitialProperties(
             {{u"airDrop"_s, QVariant::fromValue(airDrop)}}, stage.engine.rootContext()));

@@ -1,4 +1,4 @@
-#include "NotchKit/Tools/CapturesModel.h"
+#include "NotchKit/Tools/Captures/CapturesModel.h"
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
@@ -25,7 +25,7 @@ void CapturesPaneTest::clickMenuAndMessages()
                       {url.toLocalFile(), date.addSecs(-9), date}};
     captures.handler();
     stage.core.controller.open(NotchTool::captures);
-    QVERIFY(QTest::qWaitFor([&] { return stage.outline == QRectF(60, 0, 760, 330); }));
+    QVERIFY(QTest::qWaitFor([&] { return stage.outline == QRectF(60, 0, 760, 330); }, 60'000));
     stage.window->requestActivate();
     const auto click = [&](const QString &type, qsizetype index, Qt::MouseButton button) {
         const QQuickItem *item = stage.all(type).value(index);

@@ -1,5 +1,5 @@
-#include "NotchKit/Tools/ClipboardModel.h"
-#include "NotchKit/Views/KeyedListModel.h"
+#include "NotchKit/Kit/KeyedListModel.h"
+#include "NotchKit/Tools/Clipboard/ClipboardModel.h"
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
@@ -24,7 +24,7 @@ DefaultsValue stored(const QStringList &texts)
 /// The clipboard pane with three items and the keyboard.
 struct Stage : WindowStage
 {
-    ClipboardModel &clipboard = *core.services.clipboard();
+    ClipboardModel &clipboard = *core.services.model<ClipboardModel>();
     QQuickItem *pane = nullptr;
 
     Stage()
@@ -32,7 +32,7 @@ struct Stage : WindowStage
                         stored({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")})}})
     {
         core.controller.open(NotchTool::clipboard);
-        if (QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }))
+        if (QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }, 60'000))
             pane = find(QStringLiteral("ClipboardPane"));
         window->requestActivate();
         QTest::qWait(50);
@@ -141,7 +141,7 @@ void ClipboardPaneTest::messages()
 void ClipboardPaneTest::rowsKeepTheirIdentity()
 {
     Fakes::Core core;
-    ClipboardModel &source = *core.services.clipboard();
+    ClipboardModel &source = *core.services.model<ClipboardModel>();
     KeyedListModel rows;
     const QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
     rows.setSource(&source);
@@ -162,9 +162,7 @@ void ClipboardPaneTest::rowsKeepTheirIdentity()
             source.setQuery(QString::number(random.bounded(3)));
         core.wait(500);
         QTRY_VERIFY(core.pasteboard.waiting.empty());
-        QThreadPool::globalInstance()->waitForDone();
-        QCoreApplication::processEvents();
-        QCoreApplication::processEvents();
+        Fakes::finishWork();
         QCOMPARE(rows.count(), source.visible().size());
         for (int row = 0; row < rows.count(); ++row)
             QCOMPARE(rows.data(rows.index(row), Qt::UserRole).value<ClipboardItem>(),

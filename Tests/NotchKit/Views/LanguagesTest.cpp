@@ -1,11 +1,11 @@
 #include "App/AppStage.h"
 #include "App/SettingsWindow.h"
 #include "App/UpdateWindow.h"
+#include "NotchKit/Kit/Symbols.h"
 #include "NotchKit/NotchStrings.h"
-#include "NotchKit/Tools/AIUsageModel.h"
-#include "NotchKit/Tools/ScriptBridge.h"
-#include "NotchKit/Tools/TimerModel.h"
-#include "NotchKit/Views/Symbols.h"
+#include "NotchKit/Tools/AIUsage/AIUsageModel.h"
+#include "NotchKit/Tools/NowPlaying/ScriptBridge.h"
+#include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
@@ -142,7 +142,7 @@ struct Stage : WindowStage
         for (const MediaPlayer player : {MediaPlayer::music, MediaPlayer::spotify}) {
             if (shown != Content::Nothing)
                 core.players.running.insert(bundleIdentifier(player));
-            core.scripts.answer(ScriptBridge::statusScript(player),
+            core.scripts.answer(PlayerScripts::status(player),
                                 shown == Content::Refusals ? ScriptOutcome(ScriptNotPermitted())
                                                            : ScriptOutcome(u"playing\nSong\nBand\n100\n3"_s));
         }
@@ -150,7 +150,7 @@ struct Stage : WindowStage
             return;
         core.captures.found = {{u"/shots/2.png"_s, core.clock.now(), core.clock.now()}};
         core.pasteboard.offer(u"copied"_s);
-        core.services.timer()->start(1);
+        core.services.model<TimerModel>()->start(1);
         core.wait(2000);
     }
 
@@ -175,14 +175,12 @@ struct Stage : WindowStage
         return values;
     }
 
-    template <typename Promises, typename Answer>
-    static void answerAll(Promises &promises, const Answer &answer)
+    template <typename Questions, typename Answer>
+    static void answerAll(Questions &questions, const Answer &answer)
     {
-        for (std::size_t i = 0; i < promises.size(); ++i) {
-            if (!promises[i].future().isFinished()) {
-                promises[i].addResult(answer(i));
-                promises[i].finish();
-            }
+        for (std::size_t i = 0; i < questions.count(); ++i) {
+            if (!questions.isAnswered(i))
+                questions.answer(i, answer(i));
         }
     }
 
@@ -192,7 +190,7 @@ struct Stage : WindowStage
         const bool figures = content == Content::Figures;
         const QDateTime now = core.clock.now();
         for (int i = 0; i < 4; ++i) {
-            answerAll(core.http.answers, [&](std::size_t index) {
+            answerAll(core.http.questions, [&](std::size_t index) {
                 const bool weather =
                     core.http.asked.value(qsizetype(index)).url.host().contains(u"open-meteo"_s);
                 return figures ? HttpReply{200, weather ? kForecast : kQuote} : HttpReply{};
@@ -201,19 +199,19 @@ struct Stage : WindowStage
                                 : figures                    ? CalendarAccess::full
                                                              : CalendarAccess::notDetermined;
             for (auto &[entity, questions] : core.calendars.accesses)
-                answerAll(questions.promises, [&](std::size_t) { return access; });
-            answerAll(core.calendars.eventQuestions.promises, [&](std::size_t) {
+                answerAll(questions, [&](std::size_t) { return access; });
+            answerAll(core.calendars.eventQuestions, [&](std::size_t) {
                 return CalendarStore::Events{{u"e"_s, u"Call"_s, now.addSecs(60), now.addSecs(90), false, {}},
                                              {u"d"_s, u"Trip"_s, now.addSecs(60), now.addSecs(90), true, {}}};
             });
-            answerAll(core.calendars.reminderQuestions.promises, [&](std::size_t) {
+            answerAll(core.calendars.reminderQuestions, [&](std::size_t) {
                 return CalendarStore::Tasks{{u"1"_s, u"Old"_s, now.addDays(-1), {}},
                                             {u"2"_s, u"New"_s, now.addDays(1), {}},
                                             {u"3"_s, u"Far"_s, now.addDays(99), {}}};
             });
             QCoreApplication::processEvents();
         }
-        (void)QTest::qWaitFor([this] { return !core.services.aiUsage()->loading(); });
+        (void)QTest::qWaitFor([this] { return !core.services.model<AIUsageModel>()->loading(); }, 60'000);
         core.captures.handler();
         window->grabWindow();
     }
@@ -332,7 +330,7 @@ private Q_SLOTS:
                 QTRY_VERIFY(stage.find(QString::fromLatin1(entry(tool).view)));
                 stage.settle();
                 QVERIFY(content != Content::Figures || tool != NotchTool::aiUsage ||
-                        stage.core.services.aiUsage()->claude());
+                        stage.core.services.model<AIUsageModel>()->claude());
                 look(entry(tool).view, stage.window.get());
             }
         }

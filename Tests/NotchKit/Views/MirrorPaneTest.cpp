@@ -1,4 +1,4 @@
-#include "NotchKit/Views/CameraPreview.h"
+#include "NotchKit/Tools/Mirror/CameraPreview.h"
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
@@ -16,7 +16,7 @@ struct Stage : WindowStage
     Stage()
     {
         core.controller.open(NotchTool::mirror);
-        if (!QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330) && preview(); }))
+        if (!QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330) && preview(); }, 60'000))
             qFatal("the notch did not open");
     }
 
@@ -56,7 +56,7 @@ private Q_SLOTS:
     {
         Stage stage;
         const auto &shapes = stage.core.camera.shapes;
-        stage.core.camera.answer(true);
+        stage.core.camera.questions.answerLast(true);
         QTRY_COMPARE(shapes.size(), 1);
         QCOMPARE(shapes.constLast(), (PictureShape{stage.area().size(), 12}));
         const auto middle = [&] { return stage.window->grabWindow().pixelColor(stage.area().center()); };
@@ -68,7 +68,7 @@ private Q_SLOTS:
             QTRY_COMPARE(shapes.size(), asked + 1);
             QCOMPARE(middle(), colour);
         }
-        stage.core.services.mirror()->stop();
+        stage.core.services.model<MirrorModel>()->stop();
         QVERIFY(!stage.preview()->hasPicture());
         QTRY_VERIFY(middle() != QColor(Qt::blue));
     }
@@ -77,10 +77,10 @@ private Q_SLOTS:
     {
         Stage stage;
         QCOMPARE(stage.message(), QString());
-        stage.core.camera.answer(false);
+        stage.core.camera.questions.answerLast(false);
         QTRY_COMPARE(stage.message(), u"No camera found."_s);
         stage.core.camera.status = CameraAuthorization::denied;
-        stage.core.services.mirror()->start();
+        stage.core.services.model<MirrorModel>()->start();
         QCOMPARE(stage.message(),
                  u"Allow %1 to use the camera in\nSystem Settings › Privacy & Security › Camera."_s.arg(
                      QCoreApplication::applicationName()));

@@ -1,7 +1,7 @@
-#include "NotchKit/Views/NotchWindow.h"
-#include "NotchKit/Tools/TimerModel.h"
-#include "NotchKit/Views/SpringValue.h"
-#include "NotchKit/Views/Symbols.h"
+#include "NotchKit/Shell/NotchWindow.h"
+#include "NotchKit/Kit/SpringValue.h"
+#include "NotchKit/Kit/Symbols.h"
+#include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
@@ -87,10 +87,10 @@ void NotchWindowTest::outlineFollowsTheState()
     stage.core.controller.open(std::nullopt);
     QTRY_COMPARE(stage.outline, QRectF(60, 0, 760, 330));
     stage.core.controller.collapseAll();
-    stage.core.services.timer()->start(60);
+    stage.core.services.model<TimerModel>()->start(60);
     QTRY_COMPARE(stage.outline, QRectF(269, 0, 342, 32));
     QVERIFY(stage.find(QStringLiteral("TimerActivity")));
-    stage.core.services.timer()->reset();
+    stage.core.services.model<TimerModel>()->reset();
     QTRY_COMPARE(stage.outline, QRectF(345, 0, 190, 32));
 }
 
@@ -174,7 +174,7 @@ void NotchWindowTest::noteIsBoundBothWays()
 void NotchWindowTest::timerPaneFollowsItsModel()
 {
     Stage stage;
-    TimerModel &timer = *stage.core.services.timer();
+    TimerModel &timer = *stage.core.services.model<TimerModel>();
     stage.core.controller.open(NotchTool::timer);
     QTRY_VERIFY(stage.find(QStringLiteral("TimerFace")));
     QQuickItem *time =

@@ -1,5 +1,5 @@
-#include "NotchKit/Tools/StocksModel.h"
-#include "NotchKit/Tools/WeatherModel.h"
+#include "NotchKit/Tools/Stocks/StocksModel.h"
+#include "NotchKit/Tools/Weather/WeatherModel.h"
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
@@ -19,7 +19,7 @@ struct Stage : WindowStage
         : WindowStage(stored)
     {
         core.controller.open(tool);
-        if (!QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }))
+        if (!QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }, 60'000))
             qFatal("the notch did not open");
         window->requestActivate();
         QTest::qWait(50);
@@ -50,7 +50,7 @@ struct Stage : WindowStage
     void key(Qt::Key key) const { QTest::keyClick(window.get(), key); }
     void answer(const QByteArray &body)
     {
-        http.answer(http.answers.size() - 1, {body.isEmpty() ? 0 : 200, body});
+        http.questions.answerLast({body.isEmpty() ? 0 : 200, body});
         QTest::qWait(1);
     }
 };
@@ -92,7 +92,7 @@ void OnlinePanesTest::cityIsSoughtAndChanged()
     QVERIFY(!stage.field() && stage.core.model().expanded());
     stage.press(u"Change city"_s);
     stage.press(u"Use my location"_s);
-    stage.core.location.answer(0, Coordinate{59.9, 10.7}); // the same place again
+    stage.core.location.questions.answer(0, Coordinate{59.9, 10.7}); // the same place again
     QTRY_VERIFY(!stage.field() && stage.shows(u"My location"_s));
     stage.answer({});
     QVERIFY(stage.shows(u"Weather is not available right now."_s) && stage.shows(u"−3°"_s));
@@ -104,10 +104,10 @@ void OnlinePanesTest::symbolsAreEdited()
 {
     Stage stage(NotchTool::stocks, {{u"notch.tickers"_s, QStringList{u"AAPL"_s, u"BAD"_s}}});
     QVERIFY(!stage.field());
-    stage.http.answer(0, {200, R"({"chart": {"result": [{"meta": {"regularMarketPrice": 1234.5,
+    stage.http.questions.answer(0, {200, R"({"chart": {"result": [{"meta": {"regularMarketPrice": 1234.5,
                                    "previousClose": 1000, "shortName": "Apple"}}]}})"});
     for (std::size_t i = 1; i < 3; ++i) {
-        stage.http.answer(i, {404, {}});
+        stage.http.questions.answer(i, {404, {}});
         QTest::qWait(1);
     }
     QTRY_VERIFY(stage.shows(u"Apple"_s));

@@ -1,5 +1,5 @@
-#include "NotchKit/Views/ScriptLayout.h"
-#include "NotchKit/Views/ScrollGlide.h"
+#include "NotchKit/Kit/ScrollGlide.h"
+#include "NotchKit/Tools/Teleprompter/ScriptLayout.h"
 #include "Support/TestRegistry.h"
 
 #include <QGuiApplication>

@@ -1,5 +1,5 @@
-#include "NotchKit/Tools/TeleprompterModel.h"
-#include "NotchKit/Views/PrompterScript.h"
+#include "NotchKit/Tools/Teleprompter/PrompterScript.h"
+#include "NotchKit/Tools/Teleprompter/TeleprompterModel.h"
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
@@ -14,14 +14,14 @@ namespace {
 /// The teleprompter's pane with the keyboard.
 struct Stage : WindowStage
 {
-    TeleprompterModel &prompter = *core.services.prompter();
+    TeleprompterModel &prompter = *core.services.model<TeleprompterModel>();
     NotchSettings &settings = core.settings;
 
     explicit Stage(const QString &script)
         : WindowStage({{u"notch.prompterText"_s, script}})
     {
         core.controller.open(NotchTool::teleprompter);
-        if (!QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }))
+        if (!QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }, 60'000))
             qFatal("the notch did not open");
         window->requestActivate();
         QTest::qWait(50);
@@ -63,7 +63,7 @@ private Q_SLOTS:
     {
         Stage stage{QString()};
         QVERIFY(!stage.button(u"Play"_s) && !stage.button(u"Restart"_s) && !stage.script()->isVisible());
-        for (const char letter : "Hi all"_qba)
+        for (const char letter : "Hi all"_ba)
             QTest::keyClick(stage.window.get(), letter);
         QCOMPARE(stage.settings.prompterText(), u"Hi all"_s);
         QVERIFY(stage.prompter.editing() && !stage.script()->isVisible());
@@ -99,10 +99,13 @@ private Q_SLOTS:
         QTest::keyClick(stage.window.get(), Qt::Key_Space);
         QVERIFY(!stage.prompter.playing());
         QTRY_COMPARE(stage.script()->shownOffset(), stage.prompter.offset());
-        QTest::qWait(700); // The button's tip has come.
-        frames.clear();
-        QTest::qWait(300);
-        QVERIFY2(frames.size() < 2, "it draws although nothing moves");
+        const auto rests = [&] {
+            frames.clear();
+            QTest::qWait(300);
+            return frames.size() < 2;
+        };
+        QTest::qWait(700);
+        QTRY_VERIFY2(rests(), "it draws although nothing moves"); // once the button's tip has come
 
         stage.prompter.scrollTo(500);
         stage.click(stage.button(u"Larger text"_s));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "NotchKit/Views/NotchWindow.h"
+#include "NotchKit/Shell/NotchWindow.h"
 #include "Support/Core.h"
 
 #include <QQmlEngine>

@@ -1,0 +1,52 @@
+#include "DesktopPlatform.h"
+
+#include "LocalServices.h"
+#include "NotchKit/NotchBranding.h"
+#include "StandardSettings.h"
+
+#include <QCoreApplication>
+
+namespace Kestrune {
+
+DesktopPlatform::DesktopPlatform(const QDBusConnection &bus, const WindowSystemChoice &windows)
+    : m_defaults(SqliteUserDefaults::path(standardDomain()))
+    , m_suiteDefaults(SqliteUserDefaults::path(NotchBranding::suiteIdentifier()),
+                      SqliteUserDefaults::Access::ReadOnly)
+    , m_capturePreferences(SqliteUserDefaults::path(FolderCaptureQuery::domain()),
+                           SqliteUserDefaults::Access::ReadOnly)
+    , m_workspace(bus)
+    , m_sharing(bus)
+    , m_loginItem(QCoreApplication::applicationFilePath())
+    , m_applications(bus, {NotchBranding::suiteIdentifier()})
+    , m_windows(windows.make(m_defaults))
+    , m_captures(m_capturePreferences)
+    , m_localServices(LocalServices::fromEnvironment(m_http))
+    , m_players(bus)
+    , m_camera(bus)
+    , m_calendars(bus, m_defaults)
+    , m_platform(makePlatform())
+{}
+
+Platform DesktopPlatform::makePlatform()
+{
+    return {.windows = *m_windows,
+            .clock = m_clock,
+            .defaults = m_defaults,
+            .suiteDefaults = m_suiteDefaults,
+            .applications = m_applications,
+            .players = m_players,
+            .loginItem = m_loginItem,
+            .sounds = m_sounds,
+            .workspace = m_workspace,
+            .sharing = m_sharing,
+            .captures = m_captures,
+            .thumbnails = m_thumbnails,
+            .http = m_localServices ? *m_localServices : m_http,
+            .location = m_location,
+            .scripts = m_scripts,
+            .host = m_host,
+            .camera = m_camera,
+            .calendars = m_calendars};
+}
+
+} // namespace Kestrune

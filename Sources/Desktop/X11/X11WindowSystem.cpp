@@ -1,0 +1,52 @@
+#include "X11WindowSystem.h"
+
+#include "NotchKit/Platform/WindowSystem.h"
+#include "X11Connection.h"
+#include "X11Desktop.h"
+#include "X11Displays.h"
+#include "X11DragPasteboard.h"
+#include "X11HotKeys.h"
+#include "X11Panel.h"
+#include "X11Pasteboard.h"
+#include "X11Pointer.h"
+
+namespace Kestrune {
+
+namespace {
+
+class System : public WindowSystem
+{
+public:
+    explicit System(const UserDefaults &defaults)
+        : m_displays(defaults)
+    {}
+
+    Displays &displays() override { return m_displays; }
+    Pointer &pointer() override { return m_pointer; }
+    HotKeys &hotKeys() override { return m_hotKeys; }
+    DragPasteboard &drags() override { return m_drags; }
+    Pasteboard &pasteboard() override { return m_pasteboard; }
+    std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> window, const QRectF &frame) override
+    {
+        return std::make_unique<X11Panel>(std::move(window), m_desktop, frame);
+    }
+
+private:
+    X11Desktop m_desktop;
+    X11Displays m_displays;
+    X11Pointer m_pointer;
+    X11HotKeys m_hotKeys;
+    X11DragPasteboard m_drags;
+    X11Pasteboard m_pasteboard;
+};
+
+} // namespace
+
+bool X11WindowSystem::isThere() { return X11::canConnect(); }
+
+std::unique_ptr<WindowSystem> X11WindowSystem::make(const UserDefaults &defaults)
+{
+    return std::make_unique<System>(defaults);
+}
+
+} // namespace Kestrune

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QDir>
+#include <QString>
+
+namespace Kestrune {
+
+class CalendarStore;
+class CameraSession;
+class Clock;
+class FileSharing;
+class HostStatistics;
+class HttpClient;
+class LocationService;
+class LoginItem;
+class RunningApplications;
+class ScreenCaptureQuery;
+class ScriptExecutor;
+class SoundPlayer;
+class Thumbnails;
+class UserDefaults;
+class WindowSystem;
+class Workspace;
+
+/// Every port that the program stands on. Made in one place, with each member named; all of them outlive
+/// whoever was given the value.
+struct Platform
+{
+    WindowSystem &windows;
+    Clock &clock;
+    UserDefaults &defaults;            ///< The standard store.
+    UserDefaults &suiteDefaults;       ///< The companion suite's own domain, read only.
+    RunningApplications &applications; ///< Knows the companion suite.
+    RunningApplications &players;      ///< Knows the media players.
+    LoginItem &loginItem;
+    SoundPlayer &sounds;
+    Workspace &workspace;
+    FileSharing &sharing;
+    ScreenCaptureQuery &captures;
+    Thumbnails &thumbnails;
+    HttpClient &http;
+    LocationService &location;
+    ScriptExecutor &scripts;
+    HostStatistics &host;
+    CameraSession &camera;
+    CalendarStore &calendars;
+    QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
+};
+
+} // namespace Kestrune

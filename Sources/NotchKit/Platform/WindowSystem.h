@@ -1,0 +1,35 @@
+#pragma once
+
+#include "NotchPanel.h"
+
+#include <memory>
+
+class QWindow;
+
+namespace Kestrune {
+
+class Displays;
+class DragPasteboard;
+class HotKeys;
+class Pasteboard;
+class Pointer;
+
+/// What the session's window system gives: displays, input, what is dragged and copied, and places for
+/// windows. One is chosen at the start. Its parts live as long as it does. Main thread only.
+class WindowSystem
+{
+public:
+    virtual ~WindowSystem() = default;
+
+    virtual Displays &displays() = 0;
+    virtual Pointer &pointer() = 0;
+    virtual HotKeys &hotKeys() = 0;
+    virtual DragPasteboard &drags() = 0;
+    virtual Pasteboard &pasteboard() = 0;
+
+    /// A hidden panel at `frame` (screen coordinates in points, y growing upwards) that hosts `window`, which
+    /// has not been shown yet.
+    virtual std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> window, const QRectF &frame) = 0;
+};
+
+} // namespace Kestrune

@@ -1,0 +1,96 @@
+import QtQuick
+import QtQuick.Templates as T
+import QtQuick.Window
+import Kestrune.Views
+
+/// The settings: the notch's own, the application's, and the suite's card below them.
+Window {
+    id: window
+
+    required property NotchSettings settings
+    required property Updater updater
+    required property Appearance appearance
+    required property QtObject app // `launchAtLogin`, `openSuitePage()`
+
+    width: FormTheme.width
+    height: FormTheme.height
+    minimumWidth: width
+    maximumWidth: width
+    minimumHeight: height
+    maximumHeight: height
+    color: FormTheme.window
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
+    title: qsTranslate("notch", "Kestrune Settings")
+
+    /// Scrolls to what got the keyboard.
+    function reveal(item) {
+        if (!item || !content.contains(item.mapToItem(content, 1, 1)))
+            return
+        const margin = FormTheme.rowHeight
+        const top = item.mapToItem(content, 0, 0).y
+        const lowest = Math.max(top + item.height + margin - scroller.height, 0)
+        scroller.contentY = Math.min(Math.max(scroller.contentY, lowest), Math.max(top - margin, 0))
+    }
+
+    onActiveFocusItemChanged: reveal(activeFocusItem)
+
+    Binding {
+        target: FormTheme
+        property: "dark"
+        value: window.appearance.dark
+    }
+
+    FocusScope {
+        anchors.fill: parent
+        focus: true
+        Keys.onEscapePressed: window.close()
+
+        Flickable {
+            id: scroller
+
+            anchors.fill: parent
+            contentHeight: content.height + 2 * FormTheme.inset
+            boundsBehavior: Flickable.StopAtBounds
+            T.ScrollBar.vertical: FormScrollBar {}
+
+            Column {
+                id: content
+
+                x: FormTheme.inset
+                y: FormTheme.inset
+                width: scroller.width - 2 * FormTheme.inset
+                spacing: 20
+
+                NotchSettingsView {
+                    width: parent.width
+                    settings: window.settings
+                }
+                FormSection {
+                    width: parent.width
+                    title: "Kestrune"
+                    footer: window.updater.managed
+                        ? qsTranslate("notch", "This copy gets its updates with its package, or from whoever built it.")
+                        : qsTranslate("notch", "Kestrune then looks once a day, downloads what is new and asks before it is installed.")
+
+                    SwitchRow {
+                        title: qsTranslate("notch", "Open Kestrune at login")
+                        first: true
+                        on: window.app.launchAtLogin
+                        onModified: on => window.app.launchAtLogin = on
+                    }
+                    SwitchRow {
+                        title: qsTranslate("notch", "Install updates automatically")
+                        enabled: !window.updater.managed
+                        on: window.updater.automaticallyDownloadsUpdates
+                        onModified: on => window.updater.automaticallyDownloadsUpdates = on
+                    }
+                }
+                MoreToolsCard {
+                    width: parent.width
+                    onDiscover: window.app.openSuitePage()
+                }
+            }
+        }
+    }
+}

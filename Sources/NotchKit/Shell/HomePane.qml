@@ -1,0 +1,41 @@
+import QtQuick
+import Kestrune.Views
+
+/// The enabled widgets in three columns.
+///
+///   | left | center | right |   columns without a block take no room
+Pane {
+    id: pane
+
+    readonly property var columns: presentation.homeColumns.filter(tiles => tiles.length > 0)
+
+    PaneMessage {
+        anchors.fill: parent
+        visible: pane.columns.length === 0
+        symbol: "square.grid.2x2"
+        text: qsTranslate("notch", "Choose what Home shows in Settings › Home screen.")
+    }
+
+    Row {
+        id: row
+
+        // A column's gap lies behind it: the last one's outside.
+        anchors { fill: parent; leftMargin: Theme.mirrored ? -Theme.gap : 0; rightMargin: Theme.mirrored ? 0 : -Theme.gap }
+        LayoutMirroring.enabled: false // The settings name the columns left, center and right.
+
+        Repeater {
+            model: pane.columns
+
+            HomeColumn {
+                required property var modelData
+
+                width: row.width / pane.columns.length
+                height: row.height
+                tiles: modelData
+                surroundings: pane.surroundings
+                screenModel: pane.screenModel
+                presentation: pane.presentation
+            }
+        }
+    }
+}

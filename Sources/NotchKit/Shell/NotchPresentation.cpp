@@ -1,0 +1,127 @@
+#include "NotchPresentation.h"
+
+#include "NotchKit/Tools/Shelf/ShelfModel.h"
+
+#include <array>
+
+namespace Kestrune {
+
+namespace {
+
+QString fileOf(const char *view) { return QLatin1String(view) + QLatin1String(".qml"); }
+
+} // namespace
+
+NotchPresentation::NotchPresentation(NotchScreenModel &model, NotchServices &services, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+    , m_services(services)
+{
+    const NotchSettings *settings = services.settings();
+    connect(settings, &NotchSettings::toolsChanged, this, &NotchPresentation::toolRowChanged);
+    connect(settings, &NotchSettings::toolsChanged, this, &NotchPresentation::selectionChanged);
+    connect(settings, &NotchSettings::homeOrderChanged, this, &NotchPresentation::homeColumnsChanged);
+    connect(settings, &NotchSettings::homeColumnsChanged, this, &NotchPresentation::homeColumnsChanged);
+    connect(&model, &NotchScreenModel::selectedChanged, this, &NotchPresentation::selectionChanged);
+    connect(&services, &NotchServices::activityToolChanged, this, &NotchPresentation::activityFileChanged);
+}
+
+QVariantList NotchPresentation::toolRow() const
+{
+    QVariantList row;
+    for (const NotchTool tool : m_services.settings()->tools()) {
+        row.append(
+            QVariantMap{{QStringLiteral("title"), title(tool)}, {QStringLiteral("symbol"), symbol(tool)}});
+    }
+    return row;
+}
+
+int NotchPresentation::selectedIndex() const
+{
+    return static_cast<int>(m_services.settings()->tools().indexOf(m_model.selected()));
+}
+
+QString NotchPresentation::paneTitle() const { return title(m_model.selected()); }
+
+QString NotchPresentation::paneFile() const { return fileOf(entry(m_model.selected()).view); }
+
+QString NotchPresentation::activityFile() const
+{
+    const auto tool = m_services.activityTool();
+    if (!tool)
+        return {};
+    return fileOf(entry(*tool).wings);
+}
+
+ToolModel *NotchPresentation::activityModel() const
+{
+    const auto tool = m_services.activityTool();
+    return tool ? m_services.model(*tool) : nullptr;
+}
+
+HomeTile NotchPresentation::tileOf(HomeWidget widget) const
+{
+    const CatalogueEntry &block = entry(widget);
+    if (!block.tool)
+        return {fileOf(block.view), QString(), nullptr};
+    return {fileOf(block.view), rawValue(*block.tool), m_services.model(*block.tool)};
+}
+
+QVariantList NotchPresentation::homeColumns() const
+{
+    QVariantList columns;
+    for (const HomeColumn column : {HomeColumn::left, HomeColumn::center, HomeColumn::right}) {
+        QVariantList tiles;
+        for (const HomeWidget widget : m_services.settings()->widgets(column))
+            tiles.append(QVariant::fromValue(tileOf(widget)));
+        columns.append(QVariant(tiles));
+    }
+    return columns;
+}
+
+void NotchPresentation::addToShelf(const QList<QUrl> &files) { m_services.model<ShelfModel>()->add(files); }
+
+void NotchPresentation::takeDrop()
+{
+    m_services.model<ShelfModel>()->loadURLs();
+    selectTool(rawValue(NotchTool::shelf));
+}
+
+QString NotchPresentation::creditTitle() const
+{
+    return m_services.branding().creditTitle.value_or(QString());
+}
+
+void NotchPresentation::select(int index)
+{
+    const NotchTools tools = m_services.settings()->tools();
+    if (index >= 0 && index < tools.size())
+        select(tools.at(index));
+}
+
+void NotchPresentation::selectTool(const QString &rawValue)
+{
+    const auto tool = fromRawValue<NotchTool>(rawValue);
+    if (tool && m_services.settings()->tools().contains(*tool))
+        select(*tool);
+}
+
+void NotchPresentation::select(NotchTool tool)
+{
+    m_model.setSelected(tool);
+    m_services.show(tool);
+}
+
+void NotchPresentation::openSettings()
+{
+    if (m_services.openSettings)
+        m_services.openSettings();
+}
+
+void NotchPresentation::openCredit()
+{
+    if (const auto &url = m_services.branding().creditURL)
+        m_services.surroundings()->openUrl(*url);
+}
+
+} // namespace Kestrune

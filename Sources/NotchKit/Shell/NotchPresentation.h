@@ -1,0 +1,96 @@
+#pragma once
+
+#include "NotchKit/NotchScreenModel.h"
+#include "NotchKit/NotchServices.h"
+
+#include <QUrl>
+#include <QVariantList>
+#include <QtQml/qqmlregistration.h>
+
+namespace Kestrune {
+
+/// One block of Home: the file of its view, and the tool that it belongs to.
+struct HomeTile
+{
+    Q_GADGET
+    QML_VALUE_TYPE(homeTile)
+    Q_PROPERTY(QString file MEMBER file)
+    Q_PROPERTY(QString tool MEMBER tool)
+    Q_PROPERTY(Kestrune::ToolModel *model MEMBER model)
+
+public:
+    QString file;
+    QString tool; ///< Its raw value; empty for none.
+    ToolModel *model = nullptr;
+};
+
+/// What the notch view shows, worked out from the screen model, the hub and the catalogue. It keeps no
+/// state of its own.
+class NotchPresentation : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made for each notch window")
+    /// The offered tools in order: maps with "title" and "symbol".
+    Q_PROPERTY(QVariantList toolRow READ toolRow NOTIFY toolRowChanged)
+    /// The selected tool's place in the row, -1 when it is not in it.
+    Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
+    Q_PROPERTY(QString paneTitle READ paneTitle NOTIFY selectionChanged)
+    /// The selected tool's pane, a file beside the view's.
+    Q_PROPERTY(QString paneFile READ paneFile NOTIFY selectionChanged)
+    Q_PROPERTY(Kestrune::ToolModel *paneModel READ paneModel NOTIFY selectionChanged)
+    /// The view in the closed notch's wings; empty without an activity.
+    Q_PROPERTY(QString activityFile READ activityFile NOTIFY activityFileChanged)
+    Q_PROPERTY(Kestrune::ToolModel *activityModel READ activityModel NOTIFY activityFileChanged)
+    /// The Home blocks in the three visible columns, left to right: lists of HomeTile.
+    Q_PROPERTY(QVariantList homeColumns READ homeColumns NOTIFY homeColumnsChanged)
+    /// The raw values of the offered tools.
+    Q_PROPERTY(QStringList offeredTools READ offeredTools NOTIFY toolRowChanged)
+    Q_PROPERTY(bool offersSettings READ offersSettings CONSTANT)
+    Q_PROPERTY(QString creditTitle READ creditTitle CONSTANT)
+
+public:
+    NotchPresentation(NotchScreenModel &model, NotchServices &services, QObject *parent = nullptr);
+
+    QVariantList toolRow() const;
+    int selectedIndex() const;
+    QString paneTitle() const;
+    QString paneFile() const;
+    ToolModel *paneModel() const { return m_services.model(m_model.selected()); }
+    QString activityFile() const;
+    ToolModel *activityModel() const;
+    QVariantList homeColumns() const;
+    QStringList offeredTools() const { return rawValues(m_services.settings()->tools()); }
+    bool offersSettings() const { return bool(m_services.openSettings); }
+    QString creditTitle() const;
+
+    /// Shows the tool at `index` of the row.
+    Q_INVOKABLE void select(int index);
+
+    /// Shows the tool of that raw value, if it is offered.
+    Q_INVOKABLE void selectTool(const QString &rawValue);
+
+    /// Puts the files on the shelf.
+    Q_INVOKABLE void addToShelf(const QList<QUrl> &files);
+
+    /// Takes what was dropped on the notch onto the shelf, and shows that.
+    Q_INVOKABLE void takeDrop();
+
+    Q_INVOKABLE void openSettings();
+    Q_INVOKABLE void openCredit();
+
+Q_SIGNALS:
+    void toolRowChanged();
+    void selectionChanged();
+    void activityFileChanged();
+    void homeColumnsChanged();
+
+private:
+    void select(NotchTool tool);
+    HomeTile tileOf(HomeWidget widget) const;
+
+    NotchScreenModel &m_model;
+    NotchServices &m_services;
+};
+
+} // namespace Kestrune

@@ -1,0 +1,112 @@
+import QtQuick
+import Kestrune.Views
+
+/// The root view of one display's panel: the notch shape, and in it the closed or the open content. It is
+/// larger than the notch; all around it is transparent.
+FocusScope {
+    id: view
+
+    required property NotchScreenModel screenModel
+    required property NotchServices services
+    required property NotchPresentation presentation
+
+    readonly property bool expanded: screenModel.expanded
+    readonly property size notchSize: screenModel.geometry.shapeSize(expanded, services.hasActivity)
+    readonly property size closedSize: screenModel.geometry.notchSize
+    readonly property size wingedSize: screenModel.geometry.shapeSize(false, true)
+    readonly property size openSize: screenModel.geometry.shapeSize(true, false)
+    readonly property bool housing: screenModel.geometry.hasHardwareNotch
+    readonly property real response: expanded ? 0.42 : 0.34
+    readonly property real damping: expanded ? 0.8 : 0.92
+
+    focus: true
+    LayoutMirroring.enabled: Theme.mirrored
+    LayoutMirroring.childrenInherit: true
+    Keys.onEscapePressed: screenModel.closeWanted()
+
+    component NotchSpring: SpringValue {
+        response: view.response
+        dampingFraction: view.damping
+    }
+
+    NotchSpring { id: shapeWidth; target: view.notchSize.width }
+    NotchSpring { id: shapeHeight; target: view.notchSize.height }
+    NotchSpring { id: topRadius; target: view.expanded ? Theme.flare : 6 }
+    NotchSpring { id: bottomRadius; target: view.expanded ? 30 : view.housing ? 10 : 14 }
+    NotchSpring { id: openness; target: view.expanded ? 1 : 0; precision: 0.002 }
+
+    // Only a compositor shows it: without one the window ends at the notch's outline.
+    BorderImage {
+        readonly property int blur: 40
+
+        x: shape.x + shape.topRadius - blur
+        y: shape.height - height + blur + 4
+        width: shape.width - 2 * shape.topRadius + 2 * blur
+        height: shape.height + 2 * blur
+        border { left: 70; right: 70; top: 70; bottom: 70 }
+        source: "shadow.png"
+        visible: opacity > 0.01
+        opacity: Math.max(0, Math.min(1, openness.value))
+    }
+
+    NotchShape {
+        id: shape
+
+        x: (view.width - width) / 2
+        width: shapeWidth.value
+        height: shapeHeight.value
+        topRadius: topRadius.value
+        bottomRadius: bottomRadius.value
+    }
+
+    ClosedActivity {
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(shape.width - 2 * shape.topRadius, view.wingedSize.width)
+        height: view.closedSize.height
+        wing: Math.max(0, (width - view.closedSize.width) / 2)
+        opacity: Math.max(0, 1 - openness.value * 4)
+        visible: opacity > 0 && view.services.hasActivity
+        services: view.services
+        presentation: view.presentation
+    }
+
+    FileDropArea {
+        anchors.fill: parent
+        enabled: view.presentation.offeredTools.indexOf("shelf") >= 0
+        onTargetedChanged: view.screenModel.dropTargeted = targeted
+        onFilesDropped: {
+            view.presentation.takeDrop()
+        }
+    }
+
+    Item {
+        id: window
+
+        x: shape.x + shape.topRadius
+        width: Math.max(0, shape.width - 2 * shape.topRadius)
+        height: shape.height
+        clip: true
+        visible: openness.value > 0.02
+        opacity: Math.max(0, Math.min(1, (openness.value - 0.3) / 0.5))
+
+        Loader {
+            active: false
+            x: (parent.width - width) / 2
+            width: Theme.contentWidth
+            height: view.openSize.height
+            focus: true
+            sourceComponent: ExpandedContent {
+                focus: true
+                enabled: view.expanded
+                screenModel: view.screenModel
+                services: view.services
+                presentation: view.presentation
+            }
+
+            // Made when the notch opens first, and kept.
+            readonly property bool wanted: view.expanded
+            onWantedChanged: if (wanted) active = true
+            Component.onCompleted: if (wanted) active = true
+        }
+    }
+}

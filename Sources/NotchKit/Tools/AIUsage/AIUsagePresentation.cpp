@@ -1,0 +1,168 @@
+#include "AIUsagePresentation.h"
+
+#include "NotchKit/Kit/Format.h"
+
+#include "NotchKit/NotchStrings.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr int kFarDays = 6; // a weekday more than six days away could be any
+
+QString filled(const char *english, const char *place, const QString &value)
+{
+    return notchStrings(english)
+        .replace(QLatin1String(place), value)
+        .replace(QLatin1String("%%"), QLatin1String("%"));
+}
+
+/// Any fraction, however absurd, as a number that can be written.
+QString wholePercent(double fraction)
+{
+    return Format::digits(QString::number(std::llround(std::clamp(fraction * 100, -1e15, 1e15))));
+}
+
+QString tokensText(qint64 tokens)
+{
+    return filled(QT_TRANSLATE_NOOP("notch", "%@ tokens"), "%@", QLocale().toString(tokens));
+}
+
+} // namespace
+
+QString AIUsagePresentation::timeText(const QDateTime &time, const QDateTime &now, const QLocale &locale)
+{
+    const QDateTime local = time.toLocalTime();
+    const qint64 days = std::abs(now.toLocalTime().date().daysTo(local.date()));
+    const QString clock = Format::clockTime(local.time(), locale);
+    if (days == 0)
+        return clock;
+    const QString day = days <= kFarDays ? locale.dayName(local.date().dayOfWeek(), QLocale::ShortFormat)
+                                         : locale.toString(local.date(), QLocale::ShortFormat);
+    return day + QLatin1Char(' ') + clock;
+}
+
+QString AIUsagePresentation::leftText(double usedPercent)
+{
+    const double left = std::clamp(std::floor(100 - usedPercent), 0.0, 100.0);
+    return filled(QT_TRANSLATE_NOOP("notch", "%d%% left"), "%d", Format::digits(QString::number(left)));
+}
+
+void AIUsagePresentation::follow(AIUsageModel &usage, NotchSurroundings &surroundings)
+{
+    m_model = &usage;
+    m_surroundings = &surroundings;
+    const NotchSettings *settings = surroundings.settings();
+    connect(&usage, &AIUsageModel::codexChanged, this, &AIUsagePresentation::update);
+    connect(&usage, &AIUsageModel::claudeChanged, this, &AIUsagePresentation::update);
+    connect(&usage, &AIUsageModel::loadingChanged, this, &AIUsagePresentation::update);
+    connect(settings, &NotchSettings::readCodexUsageChanged, this, &AIUsagePresentation::update);
+    connect(settings, &NotchSettings::readClaudeUsageChanged, this, &AIUsagePresentation::update);
+    connect(settings, &NotchSettings::claudeBlockBudgetChanged, this, &AIUsagePresentation::update);
+    update();
+}
+
+void AIUsagePresentation::update()
+{
+    Shown shown;
+    addCodex(shown);
+    addClaude(shown);
+    if (shown == m_shown)
+        return;
+    m_shown = shown;
+    Q_EMIT changed();
+}
+
+void AIUsagePresentation::addCodex(Shown &shown) const
+{
+    const AIUsageModel &model = *m_model;
+    const auto codex = model.codex();
+    shown.codexOn = m_surroundings->settings()->readCodexUsage();
+    if (!codex && (model.loading() || !model.codexMissing())) {
+        shown.codexHint = notchStrings(QT_TRANSLATE_NOOP("notch", "Reading…"));
+    } else if (!codex || (!codex->primary && !codex->secondary)) {
+        shown.codexHint = notchStrings(
+            QT_TRANSLATE_NOOP("notch", "No Codex activity found yet. Use Codex once and it appears here."));
+    } else {
+        shown.codexUpdated = filled(QT_TRANSLATE_NOOP("notch", "Updated %@"), "%@", timeText(codex->updated));
+        if (codex->primary)
+            shown.codexWindows.append(
+                line(notchStrings(QT_TRANSLATE_NOOP("notch", "5-hour window")), *codex->primary));
+        if (codex->secondary)
+            shown.codexWindows.append(
+                line(notchStrings(QT_TRANSLATE_NOOP("notch", "Weekly")), *codex->secondary));
+    }
+}
+
+void AIUsagePresentation::addClaude(Shown &shown) const
+{
+    const AIUsageModel &model = *m_model;
+    const auto claude = model.claude();
+    shown.claudeOn = m_surroundings->settings()->readClaudeUsage();
+    if (claude) {
+        shown.claudeTokens = tokensText(claude->blockTokens);
+        shown.claudeBlock = blockLine(*claude);
+        shown.days = dayBars(*claude);
+    } else if (model.loading() || !model.claudeMissing()) {
+        shown.claudeHint = notchStrings(QT_TRANSLATE_NOOP("notch", "Reading…"));
+    } else {
+        shown.claudeHint = notchStrings(QT_TRANSLATE_NOOP("notch", "No Claude Code activity found."));
+    }
+}
+
+UsageLine AIUsagePresentation::line(const QString &title, const UsageWindow &window) const
+{
+    const QString left = leftText(window.usedPercent);
+    return {title, left, left, window.usedPercent / 100, resetText(window.resetsAt)};
+}
+
+UsageLine AIUsagePresentation::blockLine(const AIUsageModel::Claude &claude) const
+{
+    const qint64 budget = m_surroundings->settings()->claudeBlockBudget();
+    const bool hasBudget = budget >= 1;
+    const qint64 yardstick = hasBudget ? budget : std::max<qint64>(claude.peakBlockTokens, 1);
+    const double fraction = static_cast<double>(claude.blockTokens) / static_cast<double>(yardstick);
+    const char *text = hasBudget ? QT_TRANSLATE_NOOP("notch", "%d%% of your budget")
+                                 : QT_TRANSLATE_NOOP("notch", "%d%% of your busiest block this week");
+    std::optional<QDateTime> end;
+    if (claude.blockStart)
+        end = claude.blockStart->addSecs(AIUsageModel::Claude::kBlockSeconds);
+    return {notchStrings(QT_TRANSLATE_NOOP("notch", "This 5-hour block")),
+            filled(text, "%d", wholePercent(fraction)),
+            filled(QT_TRANSLATE_NOOP("notch", "%d%%"), "%d", wholePercent(fraction)), fraction,
+            resetText(end)};
+}
+
+QVariantList AIUsagePresentation::dayBars(const AIUsageModel::Claude &claude) const
+{
+    const qint64 most = std::max<qint64>(*std::ranges::max_element(claude.dailyTokens), 1);
+    const QLocale locale;
+    QDate day = m_surroundings->now().toLocalTime().date().addDays(1 - AIUsageModel::Claude::kDays);
+    QVariantList days;
+    for (const qint64 ofDay : claude.dailyTokens) {
+        const QString name = locale.standaloneDayName(day.dayOfWeek());
+        days.append(QVariantMap{
+            {QStringLiteral("fraction"), static_cast<double>(ofDay) / static_cast<double>(most)},
+            {QStringLiteral("letter"), locale.standaloneDayName(day.dayOfWeek(), QLocale::NarrowFormat)},
+            {QStringLiteral("help"), name + QLatin1String(": ") + tokensText(ofDay)}});
+        day = day.addDays(1);
+    }
+    return days;
+}
+
+QString AIUsagePresentation::resetText(const std::optional<QDateTime> &time) const
+{
+    return time ? filled(QT_TRANSLATE_NOOP("notch", "Resets: %@"), "%@", timeText(*time)) : QString();
+}
+
+QString AIUsagePresentation::timeText(const QDateTime &time) const
+{
+    return timeText(time, m_surroundings->now(), QLocale());
+}
+
+} // namespace Kestrune

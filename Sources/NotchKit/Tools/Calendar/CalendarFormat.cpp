@@ -1,0 +1,79 @@
+#include "CalendarFormat.h"
+
+#include "NotchKit/Kit/Format.h"
+#include "NotchKit/NotchStrings.h"
+
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Kestrune {
+
+namespace {
+
+QString today() { return notchStrings(QT_TRANSLATE_NOOP("notch", "Today")); }
+QString tomorrow() { return notchStrings(QT_TRANSLATE_NOOP("notch", "Tomorrow")); }
+
+QString shortTime(const QDateTime &local) { return Format::clockTime(local.time(), QLocale()); }
+
+float luminance(const QColor &color)
+{
+    const auto linear = [](float part) { return std::pow(part, 2.2F); };
+    return 0.2126F * linear(color.redF()) + 0.7152F * linear(color.greenF()) +
+           0.0722F * linear(color.blueF());
+}
+
+bool isWholeDay(const QDateTime &local) { return local.time() == QTime(0, 0); }
+
+} // namespace
+
+QString CalendarFormat::when(const QDateTime &start, bool allDay, const QDateTime &now)
+{
+    if (allDay)
+        return notchStrings(QT_TRANSLATE_NOOP("notch", "All day"));
+    const QDateTime local = start.toLocalTime();
+    const QString day = local.date() == now.toLocalTime().date() ? today() : tomorrow();
+    return day + QLatin1Char(' ') + shortTime(local);
+}
+
+QString CalendarFormat::due(const QDateTime &due, const QDateTime &now)
+{
+    if (!due.isValid())
+        return {};
+    const QDateTime local = due.toLocalTime();
+    switch (now.toLocalTime().date().daysTo(local.date())) {
+    case -1:
+        return notchStrings(QT_TRANSLATE_NOOP("notch", "Yesterday"));
+    case 0:
+        return isWholeDay(local) ? today() : shortTime(local);
+    case 1:
+        return tomorrow();
+    default:
+        return QLocale().toString(local.date(), QLocale::ShortFormat);
+    }
+}
+
+bool CalendarFormat::isOverdue(const QDateTime &due, const QDateTime &now)
+{
+    if (!due.isValid())
+        return false;
+    const QDateTime local = due.toLocalTime();
+    return isWholeDay(local) ? local.date() < now.toLocalTime().date() : due < now;
+}
+
+QColor CalendarFormat::visible(const QColor &color)
+{
+    constexpr float kDarkest = 0.18F; // Relative luminance: three times as bright as a tile at the least.
+    constexpr float kStep = 0.04F;
+    if (!color.isValid())
+        return QColor::fromRgbF(1, 1, 1, 0.4F);
+    QColor lighter = color;
+    for (float lightness = color.lightnessF(); luminance(lighter) < kDarkest && lightness < 1;) {
+        lightness = std::min(lightness + kStep, 1.0F);
+        lighter = QColor::fromHslF(color.hslHueF(), color.hslSaturationF(), lightness);
+    }
+    return lighter;
+}
+
+} // namespace Kestrune

@@ -1,0 +1,55 @@
+import QtQuick
+import Kestrune.Views
+
+/// The reminders that are due first.
+HomeBlock {
+    id: block
+
+    required property CalendarModel model
+    readonly property CalendarModel calendar: model
+    readonly property bool allowed: calendar.reminderStatus === 3
+    readonly property var first: allowed ? calendar.reminders.slice(0, 4) : []
+    readonly property date now: shown ? surroundings.now : new Date(0)
+
+    title: qsTranslate("notch", "Reminders")
+
+    Column {
+        width: parent.width
+        spacing: 8
+
+        SectionLabel {
+            title: block.title
+            symbol: "checklist"
+        }
+        Text {
+            width: parent.width
+            visible: block.allowed && block.calendar.remindersKnown && block.first.length === 0
+            text: qsTranslate("notch", "All done")
+            font.pixelSize: 12
+            color: Theme.dim
+        }
+        AccessButton {
+            visible: block.calendar.remindersKnown && !block.allowed
+            surroundings: block.surroundings
+            status: block.calendar.reminderStatus
+            allowTitle: qsTranslate("notch", "Allow Reminders")
+            anchor: "Privacy_Reminders"
+            onAllowed: block.calendar.requestReminderAccess()
+        }
+        Repeater {
+            model: block.first
+
+            ReminderRow {
+                required property var modelData
+                required property int index
+
+                width: parent.width
+                height: 20
+                tipBelow: index === 0
+                reminder: modelData
+                now: block.now
+                onCompleted: block.calendar.complete(reminder)
+            }
+        }
+    }
+}

@@ -1,0 +1,102 @@
+import QtQuick
+import Kestrune.Views
+
+/// One screenshot as a small picture; under the pointer it also tells its name and age.
+ButtonBase {
+    id: thumb
+
+    required property var item
+    required property NotchSurroundings surroundings
+    property var thumbnail
+    property bool captioned: true
+
+    /// The right button, or the keyboard's menu key, at a place within the picture.
+    signal menuWanted(real x, real y)
+
+    help: item.name
+    text: item.name
+    radius: 10
+    Keys.onMenuPressed: menuWanted(width / 2, height / 2)
+
+    Symbol {
+        anchors.centerIn: parent
+        visible: thumb.thumbnail === undefined
+        name: "photo"
+        size: Math.min(24, thumb.height / 2)
+        color: Theme.dim
+    }
+    Picture {
+        anchors.fill: parent
+        image: thumb.thumbnail
+        radius: thumb.radius
+    }
+    Loader {
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        active: thumb.captioned && (area.containsMouse || thumb.visualFocus)
+        sourceComponent: Item {
+            height: 38
+            clip: true
+
+            Rectangle {
+                anchors { fill: parent; topMargin: -thumb.radius }
+                radius: thumb.radius
+                color: Qt.rgba(0, 0, 0, 0.72)
+            }
+            Column {
+                anchors { left: parent.left; right: parent.right; margins: 8; verticalCenter: parent.verticalCenter }
+
+                Text {
+                    width: parent.width
+                    text: thumb.item.name
+                    textFormat: Text.PlainText
+                    font.pixelSize: 10
+                    color: Theme.text
+                    horizontalAlignment: Text.AlignLeft
+                    elide: Text.ElideMiddle
+                    maximumLineCount: 1
+                    Accessible.ignored: true
+                }
+                Text {
+                    width: parent.width
+                    text: Format.relativeTime(thumb.item.date, thumb.surroundings.now)
+                    font.pixelSize: 10
+                    color: Theme.dim
+                    horizontalAlignment: Text.AlignLeft
+                    elide: Text.ElideRight
+                    Accessible.ignored: true
+                }
+            }
+        }
+    }
+    Rectangle {
+        anchors.fill: parent
+        radius: thumb.radius
+        color: area.pressed ? Theme.pressed : "transparent"
+        border.width: thumb.visualFocus ? 2 : 1
+        border.color: thumb.visualFocus ? Theme.accent : area.containsMouse ? Theme.dim : Theme.hovered
+    }
+    MouseArea {
+        id: area
+
+        anchors.fill: parent
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        hoverEnabled: true
+        preventStealing: true // a drag takes the picture along; the wheel scrolls
+        onPressed: mouse => drag.press(mouse.x, mouse.y)
+        onPositionChanged: mouse => drag.move(mouse.x, mouse.y)
+        onClicked: mouse => {
+            if (mouse.button === Qt.RightButton)
+                thumb.menuWanted(mouse.x, mouse.y)
+            else
+                thumb.clicked()
+        }
+
+        FileDrag {
+            id: drag
+
+            urls: [thumb.item.url]
+            symbol: "photo"
+            picture: thumb.thumbnail
+        }
+    }
+}

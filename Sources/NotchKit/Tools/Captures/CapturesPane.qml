@@ -1,0 +1,112 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrune.Views
+
+/// The newest screenshots as a grid, with what can be done with them.
+Pane {
+    id: pane
+
+    required property CapturesModel model
+    readonly property CapturesModel captures: model
+
+    PaneMessage {
+        anchors.fill: parent
+        visible: pane.captures.needsAccess
+        symbol: "camera.viewfinder"
+        text: Format.namingHost(qsTranslate("notch", "Allow %@ to read your screenshots folder in\nSystem Settings › Privacy & Security › Files and Folders."))
+        actionTitle: qsTranslate("notch", "Open Settings")
+        onAction: pane.captures.openPrivacySettings()
+    }
+    PaneMessage {
+        anchors.fill: parent
+        visible: !pane.captures.needsAccess && rows.count === 0
+        symbol: "camera.viewfinder"
+        text: qsTranslate("notch", "Take a screenshot (⇧⌘4) and it appears here.\nDrag it into any app, or right-click for more.")
+    }
+
+    GridView {
+        id: grid
+
+        readonly property int columns: 5
+
+        anchors { fill: parent; bottomMargin: hint.height + Theme.gap }
+        visible: !pane.captures.needsAccess && rows.count > 0
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        cellWidth: Math.floor((width - 4) / columns)
+        cellHeight: Math.round((height + Theme.gap) / 2)
+        T.ScrollBar.vertical: ScrollBar {}
+        Accessible.role: Accessible.List
+        Accessible.name: qsTranslate("notch", "Screenshots")
+
+        model: KeyedListModel {
+            id: rows
+
+            source: pane.captures
+            list: "items"
+        }
+        delegate: Item {
+            required property var modelData
+
+            width: grid.cellWidth
+            height: grid.cellHeight
+
+            CaptureThumb {
+                anchors { fill: parent; rightMargin: Theme.gap; bottomMargin: Theme.gap }
+                item: parent.modelData
+                surroundings: pane.surroundings
+                thumbnail: pane.captures.thumbnails[item.id]
+                onActiveFocusChanged: if (activeFocus) grid.positionViewAtIndex(rows.indexOf(item), GridView.Contain)
+                onClicked: {
+                    pane.captures.open(item.id)
+                    pane.surroundings.collapse()
+                }
+                onMenuWanted: (x, y) => {
+                    const at = mapToItem(pane, x, y)
+                    menu.item = item
+                    menu.openAt(at.x, at.y)
+                }
+            }
+        }
+        move: Transition { NumberAnimation { properties: "x,y"; duration: 160; easing.type: Easing.OutCubic } }
+        displaced: move
+    }
+
+    Text {
+        id: hint
+
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        visible: grid.visible
+        text: qsTranslate("notch", "Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.")
+        font.pixelSize: 11
+        color: Theme.dim
+        horizontalAlignment: Text.AlignHCenter
+        elide: Text.ElideRight
+    }
+
+    AirDropMenu {
+        id: devices
+
+        airDrop: pane.surroundings.airDrop
+    }
+    ContextMenu {
+        id: menu
+
+        property var item
+        readonly property var actions: [
+            () => pane.captures.reveal(item.id),
+            () => devices.send([item.url], menu.x, menu.y),
+            () => pane.presentation.addToShelf([item.url]),
+            () => pane.captures.copy(item.id)
+        ]
+
+        entries: [
+            qsTranslate("notch", "Show in Finder"),
+            qsTranslate("notch", "AirDrop"),
+            qsTranslate("notch", "Add to Shelf"),
+            qsTranslate("notch", "Copy")
+        ]
+        onChosen: index => actions[index]()
+        onClosed: pane.forceActiveFocus()
+    }
+}

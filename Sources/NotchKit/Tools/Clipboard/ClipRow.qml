@@ -1,0 +1,90 @@
+import QtQuick
+import Kestrune.Views
+
+/// One item of the clipboard history.
+///
+///   | picture or symbol | text                    age |
+ButtonBase {
+    id: row
+
+    required property var item
+    required property NotchSurroundings surroundings
+    property bool copied: false
+    property bool current: false
+    property bool shown: true
+
+    /// The right button at a place within the row.
+    signal menuWanted(real x, real y)
+
+    help: item.preview
+    text: item.preview
+    plain: true
+    focusPolicy: Qt.NoFocus
+    implicitHeight: 42
+    background: Rectangle {
+        radius: Theme.buttonRadius
+        color: row.down ? Theme.pressed : row.hovered ? Theme.hovered : row.current ? Theme.faint : "transparent"
+        border.width: row.current ? 1 : 0
+        border.color: Theme.highlighted
+    }
+
+    Rectangle {
+        id: square
+
+        anchors { left: parent.left; leftMargin: 8; verticalCenter: parent.verticalCenter }
+        width: 30
+        height: 30
+        radius: 6
+        color: picture.visible ? "transparent" : Theme.faint
+
+        Symbol {
+            anchors.centerIn: parent
+            visible: !picture.visible
+            name: row.item.symbol
+            size: 14
+            color: Theme.dim
+        }
+        Picture {
+            id: picture
+
+            anchors.fill: parent
+            visible: row.item.hasThumbnail
+            image: row.item.thumbnail
+            radius: 6
+        }
+    }
+    Text {
+        anchors {
+            left: square.right
+            leftMargin: 10
+            right: age.left
+            rightMargin: 12
+            verticalCenter: parent.verticalCenter
+        }
+        text: row.item.preview
+        textFormat: Text.PlainText
+        font.pixelSize: 12
+        color: row.item.isLink ? Theme.accent : "white"
+        horizontalAlignment: Text.AlignLeft
+        wrapMode: Text.Wrap
+        maximumLineCount: 2
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    Text {
+        id: age
+
+        anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
+        text: row.copied ? qsTranslate("notch", "Copied")
+            : row.shown ? Format.relativeTime(row.item.date, row.surroundings.now) : ""
+        font.pixelSize: 10
+        color: Qt.rgba(1, 1, 1, 0.4)
+        Accessible.ignored: true
+    }
+    // No TapHandler: with one the button itself would take the right button for a click.
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.RightButton
+        onClicked: event => row.menuWanted(event.x, event.y)
+    }
+}

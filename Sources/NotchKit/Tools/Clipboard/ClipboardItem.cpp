@@ -1,0 +1,138 @@
+#include "ClipboardItem.h"
+
+#include "NotchKit/Platform/Utc.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace Kestrune {
+
+namespace {
+
+struct KindEntry
+{
+    const char *rawValue;
+    const char *symbol;
+};
+
+constexpr std::array kKinds{
+    KindEntry{"text", "text.alignleft"}, KindEntry{"link", "link"}, KindEntry{"image", "photo"},
+    KindEntry{"pdf", "doc.richtext"},    KindEntry{"file", "doc"},
+};
+static_assert(kKinds.size() == static_cast<std::size_t>(ClipboardItem::Kind::file) + 1);
+
+constexpr qint64 kReferenceDate = 978'307'200; // 2001-01-01 00:00:00 UTC, seconds since 1970.
+constexpr double kFarthest = 1e11;             // Seconds; about three thousand years either way.
+constexpr qsizetype kIdLength = 36;
+constexpr qsizetype kPreviewLength = 300;
+
+const KindEntry &entry(ClipboardItem::Kind kind) { return kKinds.at(static_cast<std::size_t>(kind)); }
+
+std::optional<ClipboardItem::Kind> kindOf(const QJsonValue &value)
+{
+    const QString raw = value.toString();
+    const auto found = std::ranges::find_if(
+        kKinds, [&](const KindEntry &kind) { return raw == QLatin1String(kind.rawValue); });
+    if (found == kKinds.end())
+        return std::nullopt;
+    return static_cast<ClipboardItem::Kind>(found - kKinds.begin());
+}
+
+std::optional<QUuid> idOf(const QJsonValue &value)
+{
+    const QString text = value.toString();
+    const auto id = QUuid::fromString(text);
+    if (text.size() != kIdLength || (id.isNull() && text != QUuid().toString(QUuid::WithoutBraces)))
+        return std::nullopt;
+    return id;
+}
+
+std::optional<QStringList> pathsOf(const QJsonValue &value)
+{
+    if (!value.isArray())
+        return std::nullopt;
+    QStringList paths;
+    for (const auto &path : value.toArray()) {
+        if (!path.isString())
+            return std::nullopt;
+        paths.append(path.toString());
+    }
+    return paths;
+}
+
+std::optional<QDateTime> dateOf(const QJsonValue &value)
+{
+    const double seconds = value.toDouble(NAN);
+    if (!(std::abs(seconds) < kFarthest))
+        return std::nullopt;
+    return QDateTime::fromMSecsSinceEpoch(std::llround(seconds * 1000) + kReferenceDate * 1000, kUtc);
+}
+
+QJsonObject encode(const ClipboardItem &item)
+{
+    const double date = static_cast<double>(item.date.toMSecsSinceEpoch() - kReferenceDate * 1000) / 1000;
+    return {{QStringLiteral("id"), item.idText()},
+            {QStringLiteral("kind"), QString::fromLatin1(entry(item.kind).rawValue)},
+            {QStringLiteral("text"), item.text},
+            {QStringLiteral("paths"), QJsonArray::fromStringList(item.paths)},
+            {QStringLiteral("date"), date},
+            {QStringLiteral("image"), QJsonObject()}};
+}
+
+std::optional<ClipboardItem> decode(const QJsonValue &value)
+{
+    const auto id = idOf(value[QStringLiteral("id")]);
+    const auto kind = kindOf(value[QStringLiteral("kind")]);
+    const QJsonValue text = value[QStringLiteral("text")];
+    const auto paths = pathsOf(value[QStringLiteral("paths")]);
+    const auto date = dateOf(value[QStringLiteral("date")]);
+    if (!id || !kind || !text.isString() || !paths || !date)
+        return std::nullopt;
+    return ClipboardItem{*id, *kind, text.toString(), *paths, *date, {}};
+}
+
+} // namespace
+
+QString ClipboardItem::symbol() const { return QString::fromLatin1(entry(kind).symbol); }
+
+QString ClipboardItem::preview() const { return text.left(kPreviewLength).simplified(); }
+
+QImage ClipboardItem::thumbnail() const
+{
+    return image.wrappedValue ? image.wrappedValue->thumbnail() : QImage();
+}
+
+bool ClipboardItem::sameContent(const ClipboardItem &other) const
+{
+    return kind == other.kind && text == other.text && paths == other.paths;
+}
+
+QByteArray encodeClipboardItems(const ClipboardItems &items)
+{
+    QJsonArray array;
+    for (const ClipboardItem &item : items)
+        array.append(encode(item));
+    return QJsonDocument(array).toJson(QJsonDocument::Compact);
+}
+
+std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(stored);
+    if (!document.isArray())
+        return std::nullopt;
+    ClipboardItems items;
+    for (const auto &value : document.array()) {
+        const auto item = decode(value);
+        if (!item)
+            return std::nullopt;
+        items.append(*item);
+    }
+    return items;
+}
+
+} // namespace Kestrune

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Async/Scope.h"
+#include "Async/Worker.h"
+#include "ClipboardItem.h"
+
+namespace Kestrune {
+
+/// Where the slow steps are made.
+struct ClipboardWorkers
+{
+    Worker contents{"clipboard"}; ///< Of what is in memory.
+    Worker files{"copied-files"}; ///< What looks into files, which may hang.
+};
+
+/// Turns the pasteboard's content into an item: files first, then a picture without a text beside it, then
+/// text. A picture's file that does not answer in time is without its picture. Nothing for content that is
+/// marked as secret, passing or generated, which is not even asked for, and for content without any of the
+/// three. The item's date is left to the caller. Main thread, in a flow that the arguments outlive.
+QCoro::Task<std::optional<ClipboardItem>> readPasteboard(Pasteboard &pasteboard, ClipboardWorkers &workers);
+
+/// The item of a copied text, or nothing for blanks. Any thread.
+std::optional<ClipboardItem> clipboardItemOfText(const QString &text);
+
+} // namespace Kestrune

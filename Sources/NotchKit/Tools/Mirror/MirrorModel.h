@@ -1,0 +1,76 @@
+#pragma once
+
+#include "Async/Scope.h"
+#include "NotchKit/Platform/CameraSession.h"
+#include "NotchKit/ToolModel.h"
+
+#include <QProperty>
+
+namespace Kestrune {
+
+/// The camera as a mirror: runs while its pane is on screen and is off at all other times. Main thread only.
+class MirrorModel : public ToolModel
+{
+    Q_OBJECT
+    Q_PROPERTY(State state READ state NOTIFY stateChanged)
+    Q_PROPERTY(bool running READ running NOTIFY runningChanged)
+
+public:
+    /// What the pane shows.
+    enum class State {
+        Waiting, ///< For the user's permission, or until the camera has been found.
+        Picture,
+        NoCamera,
+        NoAccess,
+    };
+    Q_ENUM(State)
+
+    explicit MirrorModel(CameraSession &session, QObject *parent = nullptr);
+    ~MirrorModel() override;
+
+    State state() const;
+
+    /// As the last start read it.
+    CameraAuthorization status() const { return m_status; }
+
+    /// From the start that started the session until the next stop, or until the camera was lost.
+    bool running() const { return m_running; }
+
+    /// The session once found no camera. Stays; a camera that was plugged in since is shown all the same.
+    bool noCamera() const { return m_noCamera; }
+
+    /// Starts the camera, after asking for permission and looking for a camera where that is still to be
+    /// done.
+    void start();
+    void stop();
+
+    /// Asks for the next picture; nothing happens while one is on its way.
+    void requestPicture(const PictureShape &shape) { m_session.requestPicture(shape); }
+
+    void hubStopped() override { stop(); }
+    void visibleToolChanged(std::optional<NotchTool> visible) override;
+
+Q_SIGNALS:
+    void stateChanged();
+    void runningChanged();
+    void pictureTaken(const QImage &picture);
+
+private:
+    QCoro::Task<> ask();
+    QCoro::Task<> configure();
+    void run();
+    void takeLoss();
+
+    CameraSession &m_session;
+    bool m_wanted = false; ///< Between start and stop: what is answered later takes effect.
+    bool m_configured = false;
+    Scope m_access;
+    Scope m_configuration;
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(MirrorModel, CameraAuthorization, m_status,
+                                         CameraAuthorization::notDetermined, &MirrorModel::stateChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(MirrorModel, bool, m_running, false, &MirrorModel::runningChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(MirrorModel, bool, m_noCamera, false, &MirrorModel::stateChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(MirrorModel, bool, m_lost, false, &MirrorModel::stateChanged)
+};
+
+} // namespace Kestrune

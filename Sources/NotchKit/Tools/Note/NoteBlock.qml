@@ -1,0 +1,31 @@
+import QtQuick
+import Kestrune.Views
+
+/// The first lines of the note.
+HomeBlock {
+    id: block
+
+    readonly property string note: surroundings.settings.note
+
+    title: qsTranslate("notch", "Note")
+
+    Column {
+        width: parent.width
+        spacing: 4
+
+        SectionLabel {
+            title: block.title
+            symbol: "note.text"
+        }
+        Text {
+            width: parent.width
+            text: block.note === "" ? qsTranslate("notch", "Quick note… it saves as you type.") : block.note
+            font.pixelSize: 12
+            color: block.note === "" ? Qt.rgba(1, 1, 1, 0.35) : Theme.dim
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            maximumLineCount: 4
+            elide: Text.ElideRight
+        }
+    }
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Async/Scope.h"
+#include "Async/Worker.h"
+#include "NotchKit/Platform/ScriptExecutor.h"
+#include "PlayerStatus.h"
+
+#include <QImage>
+
+namespace Kestrune {
+
+class HttpClient;
+
+/// Asks and commands the media players by scripts, which run one at a time and in their order, so that a slow
+/// player holds up nothing but the scripts behind its own. Main thread only; what gives a task is for flows.
+class ScriptBridge
+{
+public:
+    using Player = MediaPlayer;
+    using Track = PlayingTrack;
+
+    using Command = PlayerCommand;
+
+    struct None
+    {
+        bool operator==(const None &) const = default;
+    };
+    struct Denied
+    {
+        bool operator==(const Denied &) const = default;
+    };
+
+    /// What a player says: its song, that it must not be asked, or nothing that is of use.
+    using Result = std::variant<None, Denied, Track>;
+
+    /// Covers with an address on the network are fetched with `http`. Both must outlive every answer.
+    ScriptBridge(ScriptExecutor &executor, HttpClient &http);
+
+    /// The player's state.
+    QCoro::Task<Result> state(Player player);
+
+    /// The cover of its current song; a null image without one.
+    QCoro::Task<QImage> artwork(Player player);
+
+    /// Carries a command out; how that ends is not told.
+    QFuture<ScriptOutcome> run(Command command, Player player);
+
+private:
+    ScriptExecutor &m_executor;
+    HttpClient &m_http;
+    Worker m_covers{"covers"};
+};
+
+} // namespace Kestrune

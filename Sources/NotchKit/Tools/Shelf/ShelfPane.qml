@@ -1,0 +1,123 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kestrune.Views
+
+/// The shelf: its files in a row that scrolls, and what can be done with all of them.
+Pane {
+    id: pane
+
+    required property ShelfModel model
+    readonly property ShelfModel shelf: model
+
+    PaneMessage {
+        anchors.fill: parent
+        visible: rows.count === 0
+        symbol: pane.screenModel.dropTargeted ? "tray.and.arrow.down.fill" : "tray.and.arrow.down"
+        text: qsTranslate("notch", "Drop files here to keep them handy.\nDrag them out anywhere, or AirDrop them.")
+    }
+    Rectangle {
+        anchors { fill: parent; topMargin: 4; bottomMargin: rows.count > 0 ? actions.height + 8 : 4 }
+        visible: pane.screenModel.dropTargeted
+        radius: Theme.tileRadius
+        color: "transparent"
+        border { width: 1; color: Theme.accent }
+    }
+
+    ListView {
+        id: list
+
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: actions.top; margins: 8 }
+        visible: rows.count > 0
+        orientation: ListView.Horizontal
+        spacing: 8
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+        // Where they leave room, the tiles stand in the middle.
+        leftMargin: Math.max(0, (width - contentWidth) / 2)
+        rightMargin: leftMargin
+        T.ScrollBar.horizontal: ScrollBar {}
+        Accessible.role: Accessible.List
+        Accessible.name: qsTranslate("notch", "Shelf")
+
+        model: KeyedListModel {
+            id: rows
+
+            source: pane.shelf
+            list: "tiles"
+            key: "url"
+            onCountChanged: Qt.callLater(list.positionViewAtEnd)
+        }
+        delegate: ShelfTile {
+            required property var modelData
+
+            height: ListView.view.height - 12
+            tile: modelData
+            surroundings: pane.surroundings
+            onHoveredChanged: if (hovered) tip.tile = this; else if (tip.tile === this) tip.tile = null
+            onRemoved: pane.shelf.remove(tile.url)
+            onMenuWanted: (x, y) => {
+                const at = mapToItem(pane, x, y)
+                menu.url = tile.url
+                menu.openAt(at.x, at.y)
+            }
+        }
+        displaced: Transition { NumberAnimation { properties: "x"; duration: 160; easing.type: Easing.OutCubic } }
+    }
+
+    Row {
+        id: actions
+
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
+        visible: rows.count > 0
+        spacing: 8
+
+        TextButton {
+            symbol: "airplayaudio"
+            text: qsTranslate("notch", "AirDrop")
+            onClicked: {
+                const at = mapToItem(pane, Theme.mirrored ? width : 0, 0)
+                devices.placeAt(at.x, at.y)
+                devices.request = pane.shelf.airDrop()
+            }
+        }
+        TextButton {
+            symbol: "folder"
+            text: ""
+            help: qsTranslate("notch", "Show in Finder")
+            onClicked: pane.shelf.reveal()
+        }
+        TextButton {
+            symbol: "trash"
+            text: qsTranslate("notch", "Clear")
+            onClicked: pane.shelf.clear()
+        }
+    }
+
+    Loader {
+        id: tip
+
+        property ShelfTile tile: null
+
+        active: tile !== null
+        z: 2
+        sourceComponent: HelpTip {
+            anchor: tip.tile
+            text: tip.tile?.tile.path ?? ""
+            below: true
+        }
+    }
+
+    AirDropMenu {
+        id: devices
+
+        airDrop: pane.surroundings.airDrop
+    }
+    ContextMenu {
+        id: menu
+
+        property url url
+
+        entries: [qsTranslate("notch", "Remove")]
+        onChosen: pane.shelf.remove(url)
+    }
+}

@@ -1,0 +1,109 @@
+import QtQuick
+import Kestrune.Views
+
+/// One file of the shelf: its type, its name, a button that takes it off. It can be dragged out.
+Tile {
+    id: view
+
+    required property var tile
+    required property NotchSurroundings surroundings
+
+    readonly property bool hovered: mouse.containsMouse && !drag.active
+
+    signal removed
+    signal menuWanted(real x, real y)
+
+    width: 104
+    color: mouse.containsMouse || remove.hovered || drag.active ? Theme.hovered : Theme.faint
+    border.width: activeFocus ? 2 : 0
+    border.color: Theme.accent
+    activeFocusOnTab: true
+    Accessible.role: Accessible.ListItem
+    Accessible.name: tile.name
+    Accessible.description: tile.path
+    Keys.onDeletePressed: removed()
+    Keys.onMenuPressed: menuWanted(width / 2, height / 2)
+
+    Item {
+        anchors { fill: parent; margins: 8 }
+
+        FileThumbnail {
+            id: thumbnail
+
+            surroundings: view.surroundings
+            path: view.tile.symbol === "photo" ? view.tile.path : ""
+        }
+        Picture {
+            anchors { fill: parent; bottomMargin: name.height + 4 }
+            image: thumbnail.image
+            radius: 6
+        }
+        Symbol {
+            anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; bottom: name.top }
+            visible: !thumbnail.isReady
+            name: view.tile.symbol
+            size: 40
+            color: Theme.dim
+        }
+        Text {
+            id: name
+
+            anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+            height: 32
+            text: view.tile.name
+            textFormat: Text.PlainText
+            font.pixelSize: 11
+            color: Theme.text
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            elide: Text.ElideMiddle
+            Accessible.ignored: true
+        }
+    }
+    MouseArea {
+        id: mouse
+
+        anchors.fill: parent
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        hoverEnabled: true
+        preventStealing: true
+        onPressed: event => drag.press(event.x, event.y)
+        onPositionChanged: event => drag.move(event.x, event.y)
+        onClicked: event => {
+            if (event.button === Qt.RightButton)
+                view.menuWanted(event.x, event.y)
+        }
+
+        FileDrag {
+            id: drag
+
+            urls: [view.tile.url]
+            symbol: view.tile.symbol
+            picture: thumbnail.image
+        }
+    }
+    ButtonBase {
+        id: remove
+
+        anchors { right: parent.right; top: parent.top; margins: 2 }
+        width: 24
+        height: 24
+        radius: 12
+        plain: true
+        tipBelow: true
+        visible: mouse.containsMouse || hovered || view.activeFocus || activeFocus
+        help: qsTranslate("notch", "Remove")
+        background: Rectangle {
+            radius: remove.radius
+            color: Qt.rgba(0, 0, 0, remove.down ? 0.8 : 0.55)
+            border.width: remove.visualFocus ? 2 : 0
+            border.color: Theme.accent
+        }
+        onClicked: view.removed()
+        contentItem: Symbol {
+            name: "xmark.circle.fill"
+            size: 16
+            color: remove.hovered ? Theme.text : Theme.dim
+        }
+    }
+}

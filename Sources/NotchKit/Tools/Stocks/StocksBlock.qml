@@ -1,0 +1,89 @@
+import QtQuick
+import Kestrune.Views
+
+/// The first quotes in brief.
+HomeBlock {
+    id: block
+
+    required property StocksModel model
+    readonly property StocksModel stocks: model
+    readonly property bool empty: surroundings.settings.tickers.length === 0
+    readonly property var first: empty ? [] : stocks.quotes.slice(0, 4)
+
+    title: qsTranslate("notch", "Stocks")
+
+    Column {
+        width: parent.width
+        spacing: 8
+
+        SectionLabel {
+            title: block.title
+            symbol: "chart.xyaxis.line"
+        }
+        Text {
+            width: parent.width
+            visible: text !== ""
+            text: block.empty ? qsTranslate("notch", "Type the symbols that you want to follow.")
+                : block.first.length > 0 ? ""
+                : block.stocks.failed.length > 0 ? QuoteFormat.notFound(block.stocks.failed)
+                : "–"
+            font.pixelSize: 12
+            color: Theme.dim
+            horizontalAlignment: Text.AlignLeft
+            wrapMode: Text.WordWrap
+            maximumLineCount: 3
+            elide: Text.ElideRight
+        }
+        Repeater {
+            model: block.first
+
+            Item {
+                id: row
+
+                required property var modelData
+
+                width: parent.width
+                height: 18
+
+                Text {
+                    anchors { left: parent.left; right: line.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
+                    text: row.modelData.symbol
+                    font.pixelSize: 12
+                    font.weight: Font.DemiBold
+                    color: Theme.text
+                    horizontalAlignment: Text.AlignLeft
+                    elide: Text.ElideRight
+                }
+                Sparkline {
+                    id: line
+
+                    anchors { right: price.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
+                    width: 24
+                    height: 14
+                    points: row.modelData.points
+                    up: row.modelData.change >= 0
+                }
+                Text {
+                    id: price
+
+                    anchors { right: change.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
+                    width: Math.max(implicitWidth, 56)
+                    text: QuoteFormat.price(row.modelData.price)
+                    horizontalAlignment: Text.AlignRight
+                    font.pixelSize: 12
+                    color: Theme.text
+                }
+                Text {
+                    id: change
+
+                    anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+                    width: Math.max(implicitWidth, 46)
+                    text: QuoteFormat.change(row.modelData.change)
+                    font.pixelSize: 11
+                    color: row.modelData.change < 0 ? Theme.bad : Theme.good
+                    horizontalAlignment: Text.AlignRight
+                }
+            }
+        }
+    }
+}

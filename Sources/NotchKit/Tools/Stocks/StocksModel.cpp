@@ -1,0 +1,118 @@
+#include "StocksModel.h"
+
+#include "NotchKit/NotchSettings.h"
+#include "NotchKit/WebServices.h"
+
+namespace Kestrune {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto kPause = 60s;
+constexpr std::chrono::milliseconds kTimeout = 60s;
+constexpr qint64 kMostBytes = qint64{128} * 1024; // ten times what the service sends
+
+HttpRequest chartRequest(const char *host, const QString &symbol)
+{
+    const QByteArray encoded = QUrl::toPercentEncoding(symbol, "!$&'()*+,:=@/");
+    return {QUrl::fromEncoded(QByteArray("https://") + host + "/v8/finance/chart/" + encoded +
+                                  "?range=1d&interval=5m",
+                              QUrl::StrictMode),
+            {{"User-Agent", "Mozilla/5.0 (Macintosh) Kestrune"}},
+            kTimeout,
+            kMostBytes};
+}
+
+} // namespace
+
+StocksModel::StocksModel(NotchSettings &settings, Clock &clock, HttpClient &http, QObject *parent)
+    : ToolModel(NotchTool::stocks, parent)
+    , m_settings(settings)
+    , m_clock(clock)
+    , m_http(http)
+{
+    // Changed from the command line, say: the next tick asks for what is on screen.
+    connect(&settings, &NotchSettings::tickersChanged, this, [this] { m_lastFetch.reset(); });
+}
+
+StocksModel::~StocksModel() = default;
+
+void StocksModel::setSymbols(const QString &draft)
+{
+    m_settings.setTickers(stockSymbols(draft));
+    refresh(true);
+}
+
+void StocksModel::refresh(bool force)
+{
+    QStringList symbols = m_settings.tickers();
+    symbols.removeDuplicates();
+    if (symbols.isEmpty() || (!force && m_lastFetch && m_clock.uptime() - *m_lastFetch <= kPause))
+        return;
+    m_lastFetch = m_clock.uptime();
+    m_fetches.end();
+    m_round = {};
+    m_round.symbols = symbols;
+    m_round.waiting = symbols.size();
+    m_loading = true;
+    for (const QString &symbol : symbols)
+        m_fetches.start(&StocksModel::fetch, this, symbol);
+}
+
+QCoro::Task<> StocksModel::fetch(QString symbol)
+{
+    std::optional<Quote> quote;
+    for (const char *host : WebServices::kCharts) {
+        const QFuture<HttpReply> answer = m_http.get(chartRequest(host, symbol));
+        const HttpReply reply = co_await until(answer);
+        if (reply.isGood())
+            quote = parseQuote(symbol, reply.body);
+        if (quote)
+            break;
+    }
+    take(symbol, quote);
+}
+
+void StocksModel::take(const QString &symbol, const std::optional<Quote> &quote)
+{
+    if (quote)
+        m_round.found.insert(symbol, *quote);
+    else
+        m_round.failed.append(symbol);
+    if (--m_round.waiting == 0)
+        finish();
+}
+
+void StocksModel::finish()
+{
+    Quotes quotes;
+    for (const QString &symbol : std::as_const(m_round.symbols)) {
+        if (const auto found = m_round.found.constFind(symbol); found != m_round.found.cend())
+            quotes.append(*found);
+    }
+    m_quotes = quotes;
+    m_failed = m_round.failed;
+    m_loading = false;
+    m_round = {};
+}
+
+bool StocksModel::showsFigures(std::optional<NotchTool> visible) const
+{
+    return visible == tool() ||
+           (visible == NotchTool::home && m_settings.column(HomeWidget::stocks) != HomeColumn::hidden);
+}
+
+void StocksModel::visibleToolChanged(std::optional<NotchTool> visible)
+{
+    if (showsFigures(visible))
+        refresh(false);
+}
+
+void StocksModel::tick(const ClockTick &tick)
+{
+    if (tick.anyExpanded && showsFigures(tick.visibleTool))
+        refresh(false);
+}
+
+} // namespace Kestrune

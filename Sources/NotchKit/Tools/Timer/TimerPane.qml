@@ -1,0 +1,52 @@
+import QtQuick
+import Kestrune.Views
+
+/// The countdown: time, presets, controls.
+Pane {
+    id: pane
+
+    required property TimerModel model
+    readonly property TimerModel timer: model
+
+    Column {
+        anchors.centerIn: parent
+        spacing: 16
+
+        TimerFace {
+            anchors.horizontalCenter: parent.horizontalCenter
+            timer: pane.timer
+            surroundings: pane.surroundings
+            size: 64
+            shown: pane.visible
+        }
+
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: Theme.gap
+
+            Repeater {
+                model: pane.timer.presets
+
+                TextButton {
+                    required property real modelData
+
+                    width: Math.max(implicitWidth, 72)
+                    text: qsTranslate("notch", "%d min").replace("%d", Format.digits(modelData / 60))
+                    onClicked: pane.timer.start(modelData)
+                }
+            }
+        }
+
+        TimerControls {
+            anchors.horizontalCenter: parent.horizontalCenter
+            timer: pane.timer
+        }
+
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: qsTranslate("notch", "The time stays visible beside the closed notch.")
+            font.pixelSize: 11
+            color: Theme.dim
+        }
+    }
+}

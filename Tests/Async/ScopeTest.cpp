@@ -1,0 +1,227 @@
+#include "Async/Scope.h"
+#include "Async/Pledge.h"
+#include "Support/Questions.h"
+#include "Support/TestRegistry.h"
+
+#include <QTest>
+
+#include <stdexcept>
+
+using namespace Kestrune;
+
+/// A model of the simplest kind: it asks, and notes what happens.
+class Owner
+{
+public:
+    explicit Owner(Fakes::Questions<int> &asked, QStringList &told)
+        : questions(asked)
+        , notes(told)
+    {}
+
+    QCoro::Task<> ask(QString name)
+    {
+        const Unwound unwound(notes, name);
+        const QFuture<int> asked = questions.ask();
+        const int answer = co_await until(asked);
+        note(name, answer);
+        if (const auto step = std::exchange(inHandler, {})) {
+            step();
+            co_return;
+        }
+    }
+
+    QCoro::Task<> askTwice(QString name)
+    {
+        const Unwound unwound(notes, name);
+        const QFuture<int> first = questions.ask();
+        const int answer = co_await until(first);
+        note(name, answer);
+        if (const auto step = std::exchange(inHandler, {}))
+            step();
+        const QFuture<int> second = questions.ask();
+        const int other = co_await until(second);
+        note(name, other);
+    }
+
+    QCoro::Task<int> sum()
+    {
+        const Unwound unwound(notes, QStringLiteral("sum"));
+        const QFuture<int> first = questions.ask();
+        const int one = co_await until(first);
+        const QFuture<int> second = questions.ask();
+        const int other = co_await until(second);
+        if (other < 0)
+            throw std::runtime_error("negative");
+        co_return one + other;
+    }
+
+    QCoro::Task<> nest()
+    {
+        const Unwound unwound(notes, QStringLiteral("nest"));
+        try {
+            const int total = co_await sum();
+            note(QStringLiteral("nest"), total);
+        } catch (const std::runtime_error &fault) {
+            notes.append(QString::fromLatin1(fault.what()));
+        }
+    }
+
+    QCoro::Task<> wait(QFuture<int> future)
+    {
+        const int answer = co_await until(future);
+        note(QStringLiteral("wait"), answer);
+    }
+
+    void note(const QString &name, int answer) { notes.append(name + QString::number(answer)); }
+
+    /// Notes when the locals of a flow go.
+    struct Unwound
+    {
+        Unwound(QStringList &list, const QString &flow)
+            : notes(list)
+            , name(flow)
+        {}
+        ~Unwound() { notes.append(QLatin1Char('~') + name); }
+        Q_DISABLE_COPY_MOVE(Unwound)
+        QStringList &notes;
+        QString name;
+    };
+
+    Fakes::Questions<int> &questions;
+    QStringList &notes;
+    std::function<void()> inHandler;
+    Scope scope;
+};
+
+class ScopeTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_questions = {};
+        m_notes.clear();
+        m_owner = std::make_unique<Owner>(m_questions, m_notes);
+    }
+    void cleanup() { m_owner.reset(); }
+
+    void answersArriveInTheFlow()
+    {
+        start(&Owner::ask, QStringLiteral("a"));
+        start(&Owner::ask, QStringLiteral("b"));
+        QVERIFY(m_owner->scope.isWaiting());
+        m_questions.answer(1, 2);
+        m_questions.answer(0, 1);
+        QTRY_COMPARE(m_notes.size(), 4);
+        QVERIFY(m_notes.contains(QStringLiteral("a1")) && m_notes.contains(QStringLiteral("b2")));
+        QVERIFY(!m_owner->scope.isWaiting());
+    }
+
+    void theEndUnwindsWhatWaits()
+    {
+        start(&Owner::ask, QStringLiteral("a"));
+        start(&Owner::nest);
+        m_owner.reset();
+        QCOMPARE(m_notes,
+                 QStringList({QStringLiteral("~a"), QStringLiteral("~sum"), QStringLiteral("~nest")}));
+        QVERIFY(m_questions.isGivenUp(0) && m_questions.isGivenUp(1));
+        m_questions.answer(0, 1);
+        m_questions.answer(1, 1);
+        QTest::qWait(0);
+        QCOMPARE(m_notes.size(), 3);
+    }
+
+    void anAnswerOnItsWayIsTooLate()
+    {
+        start(&Owner::ask, QStringLiteral("a"));
+        m_questions.answer(0, 1);
+        m_owner.reset();
+        QTest::qWait(0);
+        QCOMPARE(m_notes, QStringList(QStringLiteral("~a")));
+    }
+
+    void theNewestWins()
+    {
+        m_owner->scope.restart(&Owner::ask, m_owner.get(), QStringLiteral("a"));
+        m_owner->scope.restart(&Owner::ask, m_owner.get(), QStringLiteral("b"));
+        QCOMPARE(m_notes, QStringList(QStringLiteral("~a")));
+        QVERIFY(m_questions.isGivenUp(0) && !m_questions.isGivenUp(1));
+        m_questions.answer(1, 2);
+        QTRY_COMPARE(m_notes,
+                     QStringList({QStringLiteral("~a"), QStringLiteral("b2"), QStringLiteral("~b")}));
+    }
+
+    /// The older flow, which runs while it is given up, does not go on as one of the newer ones.
+    void restartedByItsOwnStep()
+    {
+        m_owner->inHandler = [this] {
+            m_owner->scope.restart(&Owner::ask, m_owner.get(), QStringLiteral("b"));
+        };
+        start(&Owner::askTwice, QStringLiteral("a"));
+        m_questions.answer(0, 1);
+        QTRY_COMPARE(m_notes, QStringList({QStringLiteral("a1"), QStringLiteral("~a")}));
+        QVERIFY(!m_questions.isGivenUp(1) && m_questions.isGivenUp(2));
+        m_questions.answer(1, 2);
+        QTRY_COMPARE(m_notes.mid(2), QStringList({QStringLiteral("b2"), QStringLiteral("~b")}));
+    }
+
+    void ownerDestroyedByItsOwnStep()
+    {
+        m_owner->inHandler = [this] { m_owner.reset(); };
+        start(&Owner::ask, QStringLiteral("a"));
+        start(&Owner::ask, QStringLiteral("b"));
+        m_questions.answer(0, 1);
+        QTRY_COMPARE(m_notes,
+                     QStringList({QStringLiteral("a1"), QStringLiteral("~b"), QStringLiteral("~a")}));
+        QVERIFY(m_questions.isGivenUp(1));
+    }
+
+    void nestedFlowsAndTheirFaults_data()
+    {
+        QTest::addColumn<int>("second");
+        QTest::addColumn<QString>("note");
+        QTest::newRow("a result") << 4 << QStringLiteral("nest5");
+        QTest::newRow("an exception") << -1 << QStringLiteral("negative");
+    }
+
+    void nestedFlowsAndTheirFaults()
+    {
+        QFETCH(int, second);
+        QFETCH(QString, note);
+        start(&Owner::nest);
+        m_questions.answer(0, 1);
+        QTRY_COMPARE(m_questions.count(), std::size_t(2));
+        m_questions.answer(1, second);
+        QTRY_COMPARE(m_notes, QStringList({QStringLiteral("~sum"), note, QStringLiteral("~nest")}));
+    }
+
+    void futuresThatNeedNoWait()
+    {
+        start(&Owner::wait, answered(7));
+        QCOMPARE(m_notes, QStringList(QStringLiteral("wait7")));
+    }
+
+    void unansweredGivesTheDefault()
+    {
+        auto promise = std::make_unique<QPromise<int>>();
+        promise->start();
+        start(&Owner::wait, promise->future());
+        promise.reset();
+        QTRY_COMPARE(m_notes, QStringList(QStringLiteral("wait0")));
+    }
+
+private:
+    template <typename Flow, typename... Arguments>
+    void start(Flow flow, Arguments... arguments)
+    {
+        m_owner->scope.start(flow, m_owner.get(), arguments...);
+    }
+
+    Fakes::Questions<int> m_questions;
+    QStringList m_notes;
+    std::unique_ptr<Owner> m_owner;
+};
+
+REGISTER_TEST(ScopeTest);
+#include "ScopeTest.moc"
