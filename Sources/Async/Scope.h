@@ -125,7 +125,9 @@ public:
     {}
     FutureWait(FutureWait &&) noexcept = default;
 
-    bool await_ready() const { return isEnded() || m_future.isFinished(); }
+    /// A finished future is waited for too: whether a thread was quick changes nothing in what the flow's
+    /// caller sees.
+    bool await_ready() const { return isEnded(); }
 
     void await_suspend(std::coroutine_handle<> flow)
     {
@@ -158,8 +160,8 @@ private:
     std::unique_ptr<QFutureWatcher<Value>> m_watcher; ///< While it waits.
 };
 
-/// In a flow: `const Reply reply = co_await until(asked);`. Gives the future's result, or the default value
-/// when the future was cancelled or ends without one.
+/// In a flow: `const Reply reply = co_await until(asked);`. Gives the future's result from the event loop, or
+/// the default value when the future was cancelled or ends without one.
 template <typename Value>
 FutureWait<Value> until(const QFuture<Value> &future)
 {

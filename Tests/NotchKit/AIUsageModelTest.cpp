@@ -311,9 +311,10 @@ void AIUsageModelTest::times()
     QFETCH(const QString, locale);
     QFETCH(const QString, text);
     const QDateTime noon = QDateTime::fromString(QStringLiteral("2026-03-10T12:00:00"), Qt::ISODate);
-    QCOMPARE(AIUsagePresentation::timeText(QDateTime::fromString(time, Qt::ISODate).toUTC(), noon.toUTC(),
-                                           QLocale(locale)),
-             text);
+    QString shown = AIUsagePresentation::timeText(QDateTime::fromString(time, Qt::ISODate).toUTC(),
+                                                  noon.toUTC(), QLocale(locale));
+    shown.replace(QChar(0x202f), u' '); // What newer Qt puts before AM and PM.
+    QCOMPARE(shown, text);
 }
 
 void AIUsageModelTest::gauges()

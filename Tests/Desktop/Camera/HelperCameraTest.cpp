@@ -10,8 +10,6 @@
 #include <QDir>
 #include <QFile>
 
-#include <unistd.h>
-
 using namespace Kestrune;
 using namespace Qt::StringLiterals;
 
@@ -70,12 +68,22 @@ struct Stage
 
 qint64 count(const QString &folder) { return QDir(folder).entryList(QDir::AllEntries | QDir::System).size(); }
 
+/// Child processes, of whichever thread.
+qint64 childProcesses()
+{
+    qint64 all = 0;
+    for (const QString &thread : QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile list(u"/proc/self/task/%1/children"_s.arg(thread));
+        if (list.open(QFile::ReadOnly))
+            all += list.readAll().count(' ');
+    }
+    return all;
+}
+
 /// Threads, open files and child processes of this process.
 QList<qint64> holdings()
 {
-    QFile children(u"/proc/self/task/%1/children"_s.arg(::gettid()));
-    return {count(u"/proc/self/task"_s), count(u"/proc/self/fd"_s),
-            children.open(QFile::ReadOnly) ? children.readAll().count(' ') : -1};
+    return {count(u"/proc/self/task"_s), count(u"/proc/self/fd"_s), childProcesses()};
 }
 
 /// Memory of this process's own, in kilobytes.
@@ -186,6 +194,7 @@ private Q_SLOTS:
         const Home home;
         CameraServer server(QProcessEnvironment::systemEnvironment());
         QVERIFY(server.plugIn());
+        const qint64 others = childProcesses();
         Stage stage(home.portal.bus());
         for (int i = 0; i < 3; ++i) {
             stage.camera.startRunning();
@@ -196,9 +205,11 @@ private Q_SLOTS:
         }
         const auto settle = [&] {
             stage.pictures.clear();
+            const bool ended = waitUntil([&] { return childProcesses() == others; });
             QTest::qWait(300);
+            return ended;
         };
-        settle();
+        QVERIFY(settle());
         const QList<qint64> held = holdings();
         const qint64 before = memory();
         for (int i = 0; i < 100; ++i) {
@@ -208,7 +219,7 @@ private Q_SLOTS:
             stage.camera.stopRunning();
             stage.camera.requestPicture(kShape);
         }
-        settle();
+        QVERIFY(settle());
         QTRY_COMPARE(holdings(), held);
 #ifdef __SANITIZE_ADDRESS__
         const qint64 slack = 65536; // It keeps what was freed.
