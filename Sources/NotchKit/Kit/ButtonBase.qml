@@ -12,11 +12,11 @@ T.AbstractButton {
     property bool plain: false
     property bool tipBelow: false
     property Item tipAnchor: control // what the tip stands at
-    property real radius: Theme.buttonRadius
+    property real radius: Theme.controlRadius
 
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.Button
     Accessible.name: help
     Accessible.checked: active
@@ -28,7 +28,7 @@ T.AbstractButton {
         color: control.down ? Theme.pressed
              : control.active ? Theme.highlighted
              : control.hovered ? Theme.hovered
-             : control.plain ? "transparent" : Theme.faint
+             : control.plain ? "transparent" : Theme.control
         border.width: control.visualFocus ? 2 : 0
         border.color: Theme.accent
     }

@@ -32,9 +32,9 @@ T.Popup {
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     onOpened: rows.itemAt(0)?.forceActiveFocus()
     background: Rectangle {
-        radius: 8
-        color: "#2c2c2e"
-        border.color: Theme.hovered
+        radius: Theme.controlRadius
+        color: Theme.popup
+        border.color: Theme.popupOutline
     }
     contentItem: Column {
         id: column
@@ -77,7 +77,7 @@ T.Popup {
                     text: button.modelData
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideMiddle
-                    font.pixelSize: 12
+                    font.pixelSize: Theme.fontSize
                     color: Theme.text
                     verticalAlignment: Text.AlignVCenter
                     Accessible.ignored: true

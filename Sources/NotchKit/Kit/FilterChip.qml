@@ -15,7 +15,7 @@ ButtonBase {
         id: label
 
         text: chip.text
-        font.pixelSize: 11
+        font.pixelSize: Theme.smallFontSize
         font.weight: Font.DemiBold
         color: Theme.text
         horizontalAlignment: Text.AlignHCenter

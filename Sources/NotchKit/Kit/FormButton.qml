@@ -14,26 +14,26 @@ T.AbstractButton {
     implicitHeight: symbol !== "" ? 26 : 28
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    opacity: enabled ? 1 : FormTheme.disabledOpacity
+    opacity: enabled ? 1 : Theme.window.disabledOpacity
     Accessible.role: Accessible.Button
     Accessible.name: help
     Keys.onReturnPressed: control.clicked()
     Keys.onEnterPressed: control.clicked()
 
     background: Rectangle {
-        radius: FormTheme.controlRadius
-        color: control.prominent ? (control.down ? Qt.darker(FormTheme.accent, 1.15)
-                                                 : control.hovered ? Qt.lighter(FormTheme.accent, 1.12)
-                                                                   : FormTheme.accent)
-             : control.down ? FormTheme.pressed
-             : control.hovered ? FormTheme.hovered : FormTheme.control
+        radius: Theme.window.controlRadius
+        color: control.prominent ? (control.down ? Qt.darker(Theme.window.accent, 1.15)
+                                                 : control.hovered ? Qt.lighter(Theme.window.accent, 1.12)
+                                                                   : Theme.window.accent)
+             : control.down ? Theme.window.pressed
+             : control.hovered ? Theme.window.hovered : Theme.window.control
 
         Rectangle {
             anchors { fill: parent; margins: -3 }
             visible: control.visualFocus
-            radius: FormTheme.controlRadius + 3
+            radius: Theme.window.controlRadius + 3
             color: "transparent"
-            border { width: 2; color: FormTheme.accent }
+            border { width: 2; color: Theme.window.accent }
         }
     }
     contentItem: Item {
@@ -42,7 +42,7 @@ T.AbstractButton {
             visible: control.symbol !== ""
             name: control.symbol
             size: 15
-            color: FormTheme.text
+            color: Theme.window.text
         }
         FormLabel {
             id: label
@@ -50,7 +50,7 @@ T.AbstractButton {
             anchors.centerIn: parent
             visible: control.symbol === ""
             text: control.text
-            color: control.prominent ? FormTheme.accentText : FormTheme.text
+            color: control.prominent ? Theme.window.accentText : Theme.window.text
             font.weight: control.prominent ? Font.DemiBold : Font.Normal
             Accessible.ignored: true
         }

@@ -3,8 +3,8 @@ import Kestrune.Views
 
 /// A text of the form.
 Text {
-    font.pixelSize: FormTheme.fontSize
-    color: FormTheme.text
+    font.pixelSize: Theme.window.fontSize
+    color: Theme.window.text
     textFormat: Text.PlainText
     horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter

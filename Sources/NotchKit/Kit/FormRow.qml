@@ -13,40 +13,40 @@ Item {
     default property alias controls: trailing.data
 
     width: parent?.width ?? 0
-    implicitHeight: FormTheme.rowHeight
+    implicitHeight: Theme.window.rowHeight
 
     Rectangle {
         visible: !row.first
-        anchors { left: parent.left; right: parent.right; top: parent.top; leftMargin: FormTheme.rowInset }
+        anchors { left: parent.left; right: parent.right; top: parent.top; leftMargin: Theme.window.rowInset }
         height: 1
-        color: FormTheme.divider
+        color: Theme.window.divider
     }
     Symbol {
         id: icon
 
         visible: row.symbol !== ""
-        anchors { left: parent.left; leftMargin: FormTheme.rowInset; verticalCenter: parent.verticalCenter }
+        anchors { left: parent.left; leftMargin: Theme.window.rowInset; verticalCenter: parent.verticalCenter }
         width: visible ? 20 : 0
         name: row.symbol
         size: 17
-        color: FormTheme.dim
+        color: Theme.window.dim
     }
     FormLabel {
         anchors {
             left: icon.visible ? icon.right : parent.left
-            leftMargin: icon.visible ? 10 : FormTheme.rowInset
+            leftMargin: icon.visible ? 10 : Theme.window.rowInset
             right: trailing.left
             rightMargin: 12
             verticalCenter: parent.verticalCenter
         }
         text: row.title
-        opacity: row.enabled ? 1 : FormTheme.disabledOpacity
+        opacity: row.enabled ? 1 : Theme.window.disabledOpacity
         Accessible.ignored: true // The controls bear the name.
     }
     Row {
         id: trailing
 
-        anchors { right: parent.right; rightMargin: FormTheme.rowInset; verticalCenter: parent.verticalCenter }
+        anchors { right: parent.right; rightMargin: Theme.window.rowInset; verticalCenter: parent.verticalCenter }
         spacing: 8
     }
 }

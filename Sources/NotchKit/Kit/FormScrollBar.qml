@@ -13,6 +13,6 @@ T.ScrollBar {
     contentItem: Rectangle {
         implicitWidth: 6
         radius: 3
-        color: bar.pressed || bar.hovered ? FormTheme.dim : FormTheme.track
+        color: bar.pressed || bar.hovered ? Theme.window.dim : Theme.window.highlighted
     }
 }

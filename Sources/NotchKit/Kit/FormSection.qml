@@ -22,8 +22,8 @@ Column {
     FormLabel {
         visible: section.title !== ""
         width: section.width
-        leftPadding: FormTheme.rowInset
-        rightPadding: FormTheme.rowInset
+        leftPadding: Theme.window.rowInset
+        rightPadding: Theme.window.rowInset
         text: section.title
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
@@ -31,9 +31,9 @@ Column {
     Rectangle {
         width: section.width
         height: column.height
-        radius: FormTheme.radius
-        color: FormTheme.group
-        border.color: FormTheme.outline
+        radius: Theme.window.radius
+        color: Theme.window.group
+        border.color: Theme.window.outline
 
         Column {
             id: column
@@ -44,11 +44,11 @@ Column {
     FormLabel {
         visible: section.footer !== ""
         width: section.width
-        leftPadding: FormTheme.rowInset
-        rightPadding: FormTheme.rowInset
+        leftPadding: Theme.window.rowInset
+        rightPadding: Theme.window.rowInset
         text: section.footer
-        font.pixelSize: FormTheme.smallFontSize
-        color: FormTheme.dim
+        font.pixelSize: Theme.window.smallFontSize
+        color: Theme.window.dim
         wrapMode: Text.WordWrap
         Accessible.role: Accessible.StaticText
     }

@@ -23,22 +23,22 @@ T.TextField {
     leftPadding: 8
     rightPadding: 8
     font.family: Qt.application.font.family
-    font.pixelSize: FormTheme.fontSize
-    color: FormTheme.text
-    selectionColor: FormTheme.accent
-    selectedTextColor: FormTheme.accentText
+    font.pixelSize: Theme.window.fontSize
+    color: Theme.window.text
+    selectionColor: Theme.window.accent
+    selectedTextColor: Theme.window.accentText
     horizontalAlignment: TextInput.AlignRight
     verticalAlignment: TextInput.AlignVCenter
     selectByMouse: true
-    opacity: enabled ? 1 : FormTheme.disabledOpacity
+    opacity: enabled ? 1 : Theme.window.disabledOpacity
     inputMethodHints: Qt.ImhDigitsOnly
     validator: RegularExpressionValidator { regularExpression: /[0-9]{0,18}/ }
     Accessible.role: Accessible.EditableText
     Accessible.name: name
     background: Rectangle {
-        radius: FormTheme.controlRadius
-        color: field.hovered ? FormTheme.hovered : FormTheme.control
-        border { width: field.activeFocus ? 2 : 0; color: FormTheme.accent }
+        radius: Theme.window.controlRadius
+        color: field.hovered ? Theme.window.hovered : Theme.window.control
+        border { width: field.activeFocus ? 2 : 0; color: Theme.window.accent }
     }
     Component.onCompleted: {
         ClipboardGuard.detach(field)

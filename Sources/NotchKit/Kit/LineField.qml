@@ -12,18 +12,18 @@ T.TextField {
     leftPadding: 8
     rightPadding: 8
     font.family: Qt.application.font.family
-    font.pixelSize: 12
+    font.pixelSize: Theme.fontSize
     color: Theme.text
     selectionColor: Theme.accent
-    selectedTextColor: "black"
+    selectedTextColor: Theme.accentText
     horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     selectByMouse: true
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholderText
     background: Rectangle {
-        radius: 8
-        color: field.hovered ? Theme.hovered : Theme.faint
+        radius: Theme.controlRadius
+        color: field.hovered ? Theme.hovered : Theme.control
         border.width: field.activeFocus ? 1 : 0
         border.color: Theme.accent
     }
@@ -35,7 +35,7 @@ T.TextField {
         visible: field.length === 0 && field.preeditText === ""
         text: field.placeholderText
         font: field.font
-        color: Qt.rgba(1, 1, 1, 0.35)
+        color: Theme.faded
         horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

@@ -17,7 +17,7 @@ T.ComboBox {
     implicitHeight: 26
     focusPolicy: Qt.StrongFocus // Its list gets the keys of what has the focus.
     hoverEnabled: true
-    opacity: enabled ? 1 : FormTheme.disabledOpacity
+    opacity: enabled ? 1 : Theme.window.disabledOpacity
     currentIndex: chosen
     Accessible.role: Accessible.ComboBox
     Accessible.name: name + ": " + displayText
@@ -26,10 +26,10 @@ T.ComboBox {
     onActivated: index => control.modified(index)
 
     background: Rectangle {
-        radius: FormTheme.controlRadius
-        color: control.pressed || control.popup.visible ? FormTheme.pressed
-             : control.hovered ? FormTheme.hovered : FormTheme.control
-        border { width: control.visualFocus ? 2 : 0; color: FormTheme.accent }
+        radius: Theme.window.controlRadius
+        color: control.pressed || control.popup.visible ? Theme.window.pressed
+             : control.hovered ? Theme.window.hovered : Theme.window.control
+        border { width: control.visualFocus ? 2 : 0; color: Theme.window.accent }
     }
     contentItem: FormLabel {
         leftPadding: Theme.mirrored ? 26 : 10
@@ -42,8 +42,8 @@ T.ComboBox {
         anchors.verticalCenter: parent.verticalCenter
         spacing: -6
 
-        Symbol { name: "chevron.up"; size: 12; color: FormTheme.dim }
-        Symbol { name: "chevron.down"; size: 12; color: FormTheme.dim }
+        Symbol { name: "chevron.up"; size: 12; color: Theme.window.dim }
+        Symbol { name: "chevron.down"; size: 12; color: Theme.window.dim }
     }
     delegate: PickerEntry {
         required property int index
@@ -61,9 +61,9 @@ T.ComboBox {
         margins: 8
         padding: 4
         background: Rectangle {
-            radius: FormTheme.controlRadius + 2
-            color: FormTheme.popup
-            border.color: FormTheme.track
+            radius: Theme.window.controlRadius + 2
+            color: Theme.window.popup
+            border.color: Theme.window.highlighted
         }
         contentItem: ListView {
             id: list

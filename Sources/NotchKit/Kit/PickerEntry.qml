@@ -14,14 +14,14 @@ T.ItemDelegate {
     Accessible.name: text
     Accessible.selected: chosen
     background: Rectangle {
-        radius: FormTheme.controlRadius - 2
-        color: entry.highlighted ? FormTheme.accent : "transparent"
+        radius: Theme.window.controlRadius - 2
+        color: entry.highlighted ? Theme.window.accent : "transparent"
     }
     contentItem: FormLabel {
         leftPadding: Theme.mirrored ? 0 : 20
         rightPadding: Theme.mirrored ? 20 : 0
         text: entry.text
-        color: entry.highlighted ? FormTheme.accentText : FormTheme.text
+        color: entry.highlighted ? Theme.window.accentText : Theme.window.text
         Accessible.ignored: true
 
         Rectangle {

@@ -27,8 +27,8 @@ Tile {
         anchors.margins: 14
         visible: input.length === 0 && input.preeditText === ""
         text: editor.placeholder
-        font.pixelSize: 13
-        color: Qt.rgba(1, 1, 1, 0.35)
+        font.pixelSize: Theme.largeFontSize
+        color: Theme.faded
         wrapMode: Text.WordWrap
         elide: Text.ElideRight
         Accessible.ignored: true
@@ -71,10 +71,10 @@ Tile {
             activeFocusOnTab: true
             selectByMouse: true
             persistentSelection: true
-            font.pixelSize: 13
+            font.pixelSize: Theme.largeFontSize
             color: Theme.text
             selectionColor: Theme.accent
-            selectedTextColor: "black"
+            selectedTextColor: Theme.accentText
             wrapMode: TextEdit.Wrap
             textFormat: TextEdit.PlainText
             Accessible.name: editor.name

@@ -14,6 +14,6 @@ T.ScrollBar {
         implicitWidth: 6
         implicitHeight: 6
         radius: 3
-        color: bar.pressed ? Theme.dim : bar.hovered ? Qt.rgba(1, 1, 1, 0.35) : Theme.highlighted
+        color: bar.pressed ? Theme.dim : bar.hovered ? Theme.faded : Theme.highlighted
     }
 }

@@ -26,7 +26,7 @@ FormRow {
         hoverEnabled: true
         snapMode: T.Slider.SnapAlways
         live: true
-        opacity: enabled ? 1 : FormTheme.disabledOpacity
+        opacity: enabled ? 1 : Theme.window.disabledOpacity
         value: row.value
         Accessible.role: Accessible.Slider
         Accessible.name: row.title + ": " + row.valueText
@@ -38,14 +38,14 @@ FormRow {
                 height: 4
                 anchors.verticalCenter: parent.verticalCenter
                 radius: 2
-                color: slider.hovered ? FormTheme.track : FormTheme.pressed
+                color: slider.hovered ? Theme.window.highlighted : Theme.window.pressed
 
                 Rectangle {
                     anchors.left: parent.left
                     width: slider.handle.width / 2 + slider.position * (slider.availableWidth - slider.handle.width)
                     height: parent.height
                     radius: parent.radius
-                    color: FormTheme.accent
+                    color: Theme.window.accent
                 }
             }
         }
@@ -55,15 +55,15 @@ FormRow {
             width: 18
             height: 18
             radius: 9
-            color: slider.pressed ? "#d6d6da" : slider.hovered ? "#ffffff" : "#f4f4f6"
-            border { width: 1; color: FormTheme.dark ? "transparent" : Qt.rgba(0, 0, 0, 0.28) }
+            color: slider.pressed ? Qt.darker(Theme.window.handle, 1.14) : slider.hovered ? "white" : Theme.window.handle
+            border { width: 1; color: Theme.window.handleOutline }
 
             Rectangle {
                 anchors { fill: parent; margins: -3 }
                 visible: slider.visualFocus
                 radius: height / 2
                 color: "transparent"
-                border { width: 2; color: FormTheme.accent }
+                border { width: 2; color: Theme.window.accent }
             }
         }
     }
@@ -71,7 +71,7 @@ FormRow {
         anchors.verticalCenter: parent.verticalCenter
         width: 56
         text: row.valueText
-        color: FormTheme.dim
+        color: Theme.window.dim
         horizontalAlignment: Text.AlignRight
         Accessible.ignored: true
     }

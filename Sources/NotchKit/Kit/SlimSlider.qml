@@ -15,7 +15,7 @@ T.Slider {
     rightPadding: 2
     focusPolicy: Qt.TabFocus
     hoverEnabled: true
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.Slider
     Accessible.name: help
 
@@ -43,7 +43,7 @@ T.Slider {
         width: 14
         height: 14
         radius: 7
-        color: control.pressed ? "#d0d0d4" : control.hovered ? "white" : "#ececf0"
+        color: control.pressed ? Qt.darker(Theme.handle, 1.14) : control.hovered ? "white" : Theme.handle
         border.width: control.visualFocus ? 2 : 0
         border.color: Theme.accent
     }

@@ -27,7 +27,7 @@ FocusScope {
 
     implicitWidth: textWidth + 8 + buttons.implicitWidth
     implicitHeight: 28
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.role: Accessible.SpinBox
     Accessible.name: text
     Accessible.onIncreaseAction: step(1)
@@ -42,7 +42,7 @@ FocusScope {
 
         anchors { right: buttons.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
         text: stepper.text
-        font.pixelSize: 11
+        font.pixelSize: Theme.smallFontSize
         color: Theme.dim
         Accessible.ignored: true
     }

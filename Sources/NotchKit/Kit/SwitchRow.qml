@@ -15,7 +15,7 @@ T.AbstractButton {
     signal modified(bool on)
 
     width: parent?.width ?? 0
-    implicitHeight: FormTheme.rowHeight
+    implicitHeight: Theme.window.rowHeight
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
     Accessible.role: Accessible.CheckBox
@@ -36,16 +36,16 @@ T.AbstractButton {
             width: 38
             height: 22
             radius: height / 2
-            opacity: control.enabled ? 1 : FormTheme.disabledOpacity
-            color: control.on ? (control.hovered ? Qt.lighter(FormTheme.accent, 1.1) : FormTheme.accent)
-                              : (control.hovered ? FormTheme.pressed : FormTheme.track)
+            opacity: control.enabled ? 1 : Theme.window.disabledOpacity
+            color: control.on ? (control.hovered ? Qt.lighter(Theme.window.accent, 1.1) : Theme.window.accent)
+                              : (control.hovered ? Theme.window.pressed : Theme.window.highlighted)
 
             Rectangle {
                 anchors { fill: parent; margins: -3 }
                 visible: control.visualFocus
                 radius: height / 2
                 color: "transparent"
-                border { width: 2; color: FormTheme.accent }
+                border { width: 2; color: Theme.window.accent }
             }
             Rectangle {
                 readonly property real wide: control.down ? 21 : 18
@@ -55,8 +55,8 @@ T.AbstractButton {
                 width: wide
                 height: 18
                 radius: 9
-                color: "white"
-                border { width: 1; color: Qt.rgba(0, 0, 0, 0.12) }
+                color: Theme.window.handle
+                border { width: 1; color: Theme.window.handleOutline }
 
                 Behavior on x { NumberAnimation { duration: 110; easing.type: Easing.OutCubic } }
             }

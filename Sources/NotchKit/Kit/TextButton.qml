@@ -36,14 +36,14 @@ ButtonBase {
                 size: 14
                 width: control.symbolWidth > 0 ? control.symbolWidth : implicitWidth
                 anchors.verticalCenter: parent.verticalCenter
-                color: control.prominent ? "black" : Theme.text
+                color: control.prominent ? Theme.accentText : Theme.text
             }
             Text {
                 anchors.verticalCenter: parent.verticalCenter
                 text: control.text
-                font.pixelSize: 12
+                font.pixelSize: Theme.fontSize
                 font.weight: Font.Medium
-                color: control.prominent ? "black" : Theme.text
+                color: control.prominent ? Theme.accentText : Theme.text
                 Accessible.ignored: true
             }
         }

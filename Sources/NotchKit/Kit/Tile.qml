@@ -3,6 +3,6 @@ import Kestrune.Views
 
 /// The rounded background of a block.
 Rectangle {
-    color: Theme.faint
-    radius: Theme.tileRadius
+    color: Theme.group
+    radius: Theme.radius
 }

@@ -26,7 +26,7 @@ FocusScope {
         Text {
             anchors { left: parent.left; right: buttons.left; verticalCenter: parent.verticalCenter }
             text: content.presentation.paneTitle
-            font.pixelSize: 14
+            font.pixelSize: Theme.titleFontSize
             font.weight: Font.DemiBold
             color: Theme.text
             horizontalAlignment: Text.AlignLeft

@@ -18,7 +18,7 @@ Tile {
     readonly property bool opens: presentation.offeredTools.indexOf(tool) >= 0
 
     implicitHeight: body.childrenRect.height + 24
-    color: opener.pressed ? Theme.pressed : opener.containsMouse ? Theme.hovered : Theme.faint
+    color: opener.pressed ? Theme.pressed : opener.containsMouse ? Theme.hovered : Theme.group
     border.width: activeFocus ? 2 : 0
     border.color: Theme.accent
     activeFocusOnTab: opens

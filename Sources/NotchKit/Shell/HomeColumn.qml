@@ -25,7 +25,7 @@ Flickable {
         visible: !column.atYEnd
         gradient: Gradient {
             GradientStop { position: 0; color: "transparent" }
-            GradientStop { position: 1; color: "black" }
+            GradientStop { position: 1; color: Theme.ground }
         }
     }
 

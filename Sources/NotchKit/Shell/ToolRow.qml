@@ -44,7 +44,7 @@ Item {
         y: tools.y
         width: row.buttonWidth
         height: 28
-        radius: Theme.buttonRadius
+        radius: Theme.controlRadius
         color: Theme.highlighted
         visible: row.presentation.selectedIndex >= 0
         z: -1
@@ -78,7 +78,7 @@ Item {
             leftPadding: 8
             rightPadding: 8
             text: credit.text
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             font.underline: credit.hovered
             color: credit.hovered ? Theme.text : Theme.dim
             horizontalAlignment: Text.AlignLeft

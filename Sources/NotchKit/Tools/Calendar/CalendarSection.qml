@@ -54,7 +54,7 @@ Tile {
         anchors { left: parent.left; right: parent.right; top: parent.top; margins: 12; topMargin: 40 }
         visible: section.known && section.status === 3 && rows.count === 0
         text: section.emptyText
-        font.pixelSize: 12
+        font.pixelSize: Theme.fontSize
         color: Theme.dim
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.WordWrap

@@ -31,7 +31,7 @@ HomeBlock {
             width: parent.width
             visible: block.allowed && block.calendar.eventsKnown && today.events.length === 0
             text: qsTranslate("notch", "Nothing else today.")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap

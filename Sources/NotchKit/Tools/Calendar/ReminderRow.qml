@@ -53,7 +53,7 @@ Item {
         }
         text: row.reminder.title
         textFormat: Text.PlainText
-        font.pixelSize: 12
+        font.pixelSize: Theme.fontSize
         color: Theme.text
         horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight
@@ -64,7 +64,7 @@ Item {
 
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         text: CalendarFormat.due(row.reminder.due, row.now)
-        font.pixelSize: 10
+        font.pixelSize: Theme.tinyFontSize
         color: CalendarFormat.isOverdue(row.reminder.due, row.now) ? Theme.warning : Theme.dim
     }
 }

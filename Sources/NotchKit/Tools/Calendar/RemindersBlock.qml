@@ -25,7 +25,7 @@ HomeBlock {
             width: parent.width
             visible: block.allowed && block.calendar.remindersKnown && block.first.length === 0
             text: qsTranslate("notch", "All done")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
         }
         AccessButton {

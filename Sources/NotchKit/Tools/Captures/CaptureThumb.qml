@@ -40,7 +40,7 @@ ButtonBase {
             Rectangle {
                 anchors { fill: parent; topMargin: -thumb.radius }
                 radius: thumb.radius
-                color: Qt.rgba(0, 0, 0, 0.72)
+                color: Theme.scrim
             }
             Column {
                 anchors { left: parent.left; right: parent.right; margins: 8; verticalCenter: parent.verticalCenter }
@@ -49,7 +49,7 @@ ButtonBase {
                     width: parent.width
                     text: thumb.item.name
                     textFormat: Text.PlainText
-                    font.pixelSize: 10
+                    font.pixelSize: Theme.tinyFontSize
                     color: Theme.text
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideMiddle
@@ -59,7 +59,7 @@ ButtonBase {
                 Text {
                     width: parent.width
                     text: Format.relativeTime(thumb.item.date, thumb.surroundings.now)
-                    font.pixelSize: 10
+                    font.pixelSize: Theme.tinyFontSize
                     color: Theme.dim
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight

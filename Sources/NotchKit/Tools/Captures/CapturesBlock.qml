@@ -25,7 +25,7 @@ HomeBlock {
             text: block.captures.needsAccess
                 ? Format.namingHost(qsTranslate("notch", "Allow %@ to read your screenshots folder in\nSystem Settings › Privacy & Security › Files and Folders."))
                 : qsTranslate("notch", "Take a screenshot (⇧⌘4) and it appears here.\nDrag it into any app, or right-click for more.")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap

@@ -78,7 +78,7 @@ Pane {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         visible: grid.visible
         text: qsTranslate("notch", "Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.")
-        font.pixelSize: 11
+        font.pixelSize: Theme.smallFontSize
         color: Theme.dim
         horizontalAlignment: Text.AlignHCenter
         elide: Text.ElideRight

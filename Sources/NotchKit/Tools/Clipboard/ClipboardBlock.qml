@@ -27,7 +27,7 @@ HomeBlock {
             text: block.historyOn
                 ? qsTranslate("notch", "Copy something and it appears here.\nPasswords from password managers are never saved.")
                 : qsTranslate("notch", "Clipboard history is off.\nTurn it on in Settings.")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap

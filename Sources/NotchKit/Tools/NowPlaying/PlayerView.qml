@@ -24,7 +24,7 @@ Row {
         width: view.compact ? 78 : 130
         height: width
         radius: view.compact ? 12 : 18
-        color: Theme.faint
+        color: Theme.group
 
         Symbol {
             anchors.centerIn: parent

@@ -18,7 +18,7 @@ Pane {
     Rectangle {
         anchors { fill: parent; topMargin: 4; bottomMargin: rows.count > 0 ? actions.height + 8 : 4 }
         visible: pane.screenModel.dropTargeted
-        radius: Theme.tileRadius
+        radius: Theme.radius
         color: "transparent"
         border { width: 1; color: Theme.accent }
     }

@@ -14,7 +14,7 @@ Tile {
     signal menuWanted(real x, real y)
 
     width: 104
-    color: mouse.containsMouse || remove.hovered || drag.active ? Theme.hovered : Theme.faint
+    color: mouse.containsMouse || remove.hovered || drag.active ? Theme.hovered : Theme.group
     border.width: activeFocus ? 2 : 0
     border.color: Theme.accent
     activeFocusOnTab: true
@@ -52,7 +52,7 @@ Tile {
             height: 32
             text: view.tile.name
             textFormat: Text.PlainText
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             color: Theme.text
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
@@ -95,7 +95,7 @@ Tile {
         help: qsTranslate("notch", "Remove")
         background: Rectangle {
             radius: remove.radius
-            color: Qt.rgba(0, 0, 0, remove.down ? 0.8 : 0.55)
+            color: remove.down ? Theme.ground : Theme.scrim
             border.width: remove.visualFocus ? 2 : 0
             border.color: Theme.accent
         }
