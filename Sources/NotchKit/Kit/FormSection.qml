@@ -13,6 +13,7 @@ Column {
 
     property string title: ""
     property string footer: ""
+    property Look look: Theme.window
     default property alias rows: column.data
 
     spacing: 6
@@ -22,8 +23,9 @@ Column {
     FormLabel {
         visible: section.title !== ""
         width: section.width
-        leftPadding: Theme.window.rowInset
-        rightPadding: Theme.window.rowInset
+        leftPadding: section.look.rowInset
+        rightPadding: section.look.rowInset
+        look: section.look
         text: section.title
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
@@ -31,9 +33,9 @@ Column {
     Rectangle {
         width: section.width
         height: column.height
-        radius: Theme.window.radius
-        color: Theme.window.group
-        border.color: Theme.window.outline
+        radius: section.look.radius
+        color: section.look.group
+        border.color: section.look.outline
 
         Column {
             id: column
@@ -44,11 +46,12 @@ Column {
     FormLabel {
         visible: section.footer !== ""
         width: section.width
-        leftPadding: Theme.window.rowInset
-        rightPadding: Theme.window.rowInset
+        leftPadding: section.look.rowInset
+        rightPadding: section.look.rowInset
+        look: section.look
         text: section.footer
-        font.pixelSize: Theme.window.smallFontSize
-        color: Theme.window.dim
+        font.pixelSize: section.look.smallFontSize
+        color: section.look.dim
         wrapMode: Text.WordWrap
         Accessible.role: Accessible.StaticText
     }

@@ -76,8 +76,9 @@ Rectangle {
                 }
             }
         }
-        FormButton {
+        TextButton {
             anchors.left: parent.left
+            look: Theme.window
             prominent: true
             text: qsTranslate("notch", "Discover Fennivar ↗")
             onClicked: card.discover()

@@ -115,7 +115,8 @@ Column {
         FormRow {
             title: ""
 
-            FormButton {
+            TextButton {
+                look: Theme.window
                 text: qsTranslate("notch", "Restore default layout")
                 onClicked: view.presentation.resetHome()
             }

@@ -41,7 +41,11 @@ DesktopWindow {
             anchors.fill: parent
             contentHeight: content.height + 2 * Theme.window.inset
             boundsBehavior: Flickable.StopAtBounds
-            T.ScrollBar.vertical: FormScrollBar {}
+            T.ScrollBar.vertical: ScrollBar {
+                look: Theme.window
+                implicitWidth: 12
+                padding: 3
+            }
 
             Column {
                 id: content

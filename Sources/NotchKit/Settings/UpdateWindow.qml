@@ -85,8 +85,12 @@ DesktopWindow {
             visible: words.notes !== ""
             radius: Theme.window.radius
             color: Theme.window.group
-            border.color: scroller.activeFocus ? Theme.window.accent : Theme.window.outline
+            border.color: Theme.window.outline
 
+            FocusRing {
+                visible: scroller.activeFocus
+                look: Theme.window
+            }
             Flickable {
                 id: scroller
 
@@ -97,7 +101,13 @@ DesktopWindow {
                 activeFocusOnTab: contentHeight > height
                 Keys.onUpPressed: bar.decrease()
                 Keys.onDownPressed: bar.increase()
-                T.ScrollBar.vertical: FormScrollBar { id: bar }
+                T.ScrollBar.vertical: ScrollBar {
+                    id: bar
+
+                    look: Theme.window
+                    implicitWidth: 12
+                    padding: 3
+                }
 
                 FormLabel {
                     id: notes
@@ -117,11 +127,13 @@ DesktopWindow {
             anchors { right: parent.right; bottom: parent.bottom }
             spacing: 8
 
-            FormButton {
+            TextButton {
+                look: Theme.window
                 text: words.dismissal
                 onClicked: window.close()
             }
-            FormButton {
+            TextButton {
+                look: Theme.window
                 visible: text !== ""
                 text: words.action
                 prominent: true

@@ -38,13 +38,15 @@ FocusScope {
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             spacing: 4
 
-            HeaderButton {
+            SymbolButton {
+                tipBelow: true
                 symbol: content.screenModel.pinned ? "pin.fill" : "pin"
                 help: content.screenModel.pinned ? qsTranslate("notch", "Unpin") : qsTranslate("notch", "Keep open")
                 active: content.screenModel.pinned
                 onClicked: content.screenModel.pinned = !content.screenModel.pinned
             }
-            HeaderButton {
+            SymbolButton {
+                tipBelow: true
                 visible: content.presentation.offersSettings
                 symbol: "gearshape"
                 help: qsTranslate("notch", "Settings")

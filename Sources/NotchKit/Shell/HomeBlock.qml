@@ -19,8 +19,6 @@ Tile {
 
     implicitHeight: body.childrenRect.height + 24
     color: opener.pressed ? Theme.pressed : opener.containsMouse ? Theme.hovered : Theme.group
-    border.width: activeFocus ? 2 : 0
-    border.color: Theme.accent
     activeFocusOnTab: opens
     Accessible.role: opens ? Accessible.Button : Accessible.Grouping
     Accessible.name: title
@@ -28,6 +26,7 @@ Tile {
     Keys.onReturnPressed: presentation.selectTool(tool)
     Keys.onSpacePressed: presentation.selectTool(tool)
 
+    FocusRing { visible: block.activeFocus }
     MouseArea {
         id: opener
 

@@ -69,7 +69,6 @@ Item {
         implicitHeight: 28
         plain: true
         text: row.presentation.creditTitle
-        help: text
         Accessible.role: Accessible.Link
         onClicked: row.presentation.openCredit()
         contentItem: Text {

@@ -150,7 +150,7 @@ Pane {
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
-        HeaderButton {
+        SymbolButton {
             id: again
 
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
@@ -159,7 +159,6 @@ Pane {
             enabled: !pane.usage.loading
             symbol: "arrow.clockwise"
             help: qsTranslate("notch", "Read again")
-            tipBelow: false
             onClicked: pane.usage.refresh(true)
         }
     }

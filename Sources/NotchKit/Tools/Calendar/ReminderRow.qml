@@ -24,24 +24,21 @@ Item {
         height: complete.height
     }
 
-    ButtonBase {
+    SymbolButton {
         id: complete
 
         // so that the circle stands below the title's symbol
         anchors { left: parent.left; leftMargin: -5; verticalCenter: parent.verticalCenter }
         width: 24
         height: 24
+        symbol: "circle"
+        size: 15
+        ink: hovered ? Theme.text : CalendarFormat.visible(row.reminder.color)
         help: qsTranslate("notch", "Complete")
-        plain: true
         radius: 12
         tipAnchor: tipPlace
         Accessible.name: help + ": " + row.reminder.title
         onClicked: row.completed()
-        contentItem: Symbol {
-            name: "circle"
-            size: 15
-            color: complete.hovered ? Theme.text : CalendarFormat.visible(row.reminder.color)
-        }
     }
     Text {
         anchors {

@@ -72,8 +72,9 @@ ButtonBase {
         anchors.fill: parent
         radius: thumb.radius
         color: area.pressed ? Theme.pressed : "transparent"
-        border.width: thumb.visualFocus ? 2 : 1
-        border.color: thumb.visualFocus ? Theme.accent : area.containsMouse ? Theme.dim : Theme.hovered
+        border { width: 1; color: area.containsMouse ? Theme.dim : Theme.hovered }
+
+        FocusRing { visible: thumb.visualFocus }
     }
     MouseArea {
         id: area

@@ -67,8 +67,9 @@ Pane {
                         list.removeCurrent()
                 }
             }
-            HeaderButton {
+            SymbolButton {
                 anchors.verticalCenter: parent.verticalCenter
+                tipBelow: true
                 symbol: "trash"
                 help: qsTranslate("notch", "Clear history")
                 onClicked: pane.clipboard.clear()

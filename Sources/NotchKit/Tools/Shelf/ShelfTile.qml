@@ -15,8 +15,6 @@ Tile {
 
     width: 104
     color: mouse.containsMouse || remove.hovered || drag.active ? Theme.hovered : Theme.group
-    border.width: activeFocus ? 2 : 0
-    border.color: Theme.accent
     activeFocusOnTab: true
     Accessible.role: Accessible.ListItem
     Accessible.name: tile.name
@@ -24,6 +22,7 @@ Tile {
     Keys.onDeletePressed: removed()
     Keys.onMenuPressed: menuWanted(width / 2, height / 2)
 
+    FocusRing { visible: view.activeFocus }
     Item {
         anchors { fill: parent; margins: 8 }
 
@@ -82,28 +81,23 @@ Tile {
             picture: thumbnail.image
         }
     }
-    ButtonBase {
+    SymbolButton {
         id: remove
 
         anchors { right: parent.right; top: parent.top; margins: 2 }
         width: 24
         height: 24
         radius: 12
-        plain: true
         tipBelow: true
         visible: mouse.containsMouse || hovered || view.activeFocus || activeFocus
+        symbol: "xmark.circle.fill"
         help: qsTranslate("notch", "Remove")
         background: Rectangle {
             radius: remove.radius
             color: remove.down ? Theme.ground : Theme.scrim
-            border.width: remove.visualFocus ? 2 : 0
-            border.color: Theme.accent
+
+            FocusRing { visible: remove.visualFocus }
         }
         onClicked: view.removed()
-        contentItem: Symbol {
-            name: "xmark.circle.fill"
-            size: 16
-            color: remove.hovered ? Theme.text : Theme.dim
-        }
     }
 }

@@ -117,9 +117,10 @@ Pane {
                         horizontalAlignment: Text.AlignLeft
                         elide: Text.ElideRight
                     }
-                    HeaderButton {
+                    SymbolButton {
                         id: pencil
 
+                        tipBelow: true
                         symbol: "pencil"
                         help: qsTranslate("notch", "Change city")
                         onClicked: pane.change()
