@@ -5,7 +5,7 @@ import Kestrune.Views
 Item {
     id: bar
 
-    required property var track
+    required property var track // A PlayingTrack, or undefined.
     required property bool timed
 
     // Time runs to the right in every language, as the arrows of the controls do.

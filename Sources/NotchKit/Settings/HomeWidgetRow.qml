@@ -5,7 +5,7 @@ import Kestrune.Views
 FormRow {
     id: row
 
-    required property var widget
+    required property homeRow widget
     required property SettingsPresentation presentation
 
     title: widget.title

@@ -54,7 +54,7 @@ Rectangle {
                 Item {
                     id: tool
 
-                    required property var modelData
+                    required property var modelData // An object of the list above.
 
                     width: parent.width
                     height: 22

@@ -6,7 +6,7 @@ import Kestrune.Views
 Flickable {
     id: column
 
-    required property var tiles ///< HomeTile gadgets.
+    required property list<homeTile> tiles
     required property NotchSurroundings surroundings
     required property NotchScreenModel screenModel
     required property NotchPresentation presentation
@@ -41,7 +41,7 @@ Flickable {
             model: column.tiles
 
             Loader {
-                required property var modelData
+                required property homeTile modelData
 
                 width: blocks.width
                 Component.onCompleted: {

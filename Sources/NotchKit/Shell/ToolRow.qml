@@ -25,7 +25,7 @@ Item {
             model: row.presentation.toolRow
 
             ToolButton {
-                required property var modelData
+                required property toolEntry modelData
                 required property int index
 
                 implicitWidth: row.buttonWidth

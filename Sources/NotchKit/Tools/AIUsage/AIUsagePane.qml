@@ -38,7 +38,7 @@ Pane {
                 model: figures.codexWindows
 
                 UsageLimit {
-                    required property var modelData
+                    required property usageLine modelData
 
                     width: parent.width
                     line: modelData

@@ -5,8 +5,7 @@ import Kestrune.Views
 Row {
     id: bars
 
-    /// Maps with "fraction" of the height, "letter" and "help".
-    required property var days
+    required property list<usageDay> days
 
     height: 68
     spacing: 6
@@ -17,7 +16,7 @@ Row {
         Item {
             id: day
 
-            required property var modelData
+            required property usageDay modelData
             required property int index
 
             readonly property bool isToday: index === bars.days.length - 1

@@ -7,7 +7,7 @@ Column {
 
     required property string title
     required property string hint
-    required property var lines
+    required property list<usageLine> lines
 
     spacing: 8
 
@@ -42,7 +42,7 @@ Column {
         Column {
             id: line
 
-            required property var modelData
+            required property usageLine modelData
             required property int index
 
             width: brief.width

@@ -9,7 +9,7 @@ import Kestrune.Views
 Column {
     id: limit
 
-    required property var line
+    required property usageLine line
 
     spacing: 6
 

@@ -8,7 +8,7 @@ import Kestrune.Views
 Item {
     id: row
 
-    required property var item
+    required property calendarItem item
     required property date now
 
     implicitHeight: 32

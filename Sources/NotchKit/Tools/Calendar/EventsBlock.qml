@@ -48,7 +48,7 @@ HomeBlock {
             model: block.allowed ? today.events.slice(0, 3) : []
 
             EventRow {
-                required property var modelData
+                required property calendarItem modelData
 
                 width: parent.width
                 item: modelData

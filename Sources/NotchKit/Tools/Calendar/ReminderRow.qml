@@ -5,7 +5,7 @@ import Kestrune.Views
 Item {
     id: row
 
-    required property var reminder
+    required property calendarReminder reminder
     required property date now
     readonly property bool focused: complete.activeFocus
     property alias tipBelow: complete.tipBelow

@@ -8,7 +8,7 @@ HomeBlock {
     required property CalendarModel model
     readonly property CalendarModel calendar: model
     readonly property bool allowed: calendar.reminderStatus === 3
-    readonly property var first: allowed ? calendar.reminders.slice(0, 4) : []
+    readonly property list<calendarReminder> first: allowed ? calendar.reminders.slice(0, 4) : []
     readonly property date now: shown ? surroundings.now : new Date(0)
 
     title: qsTranslate("notch", "Reminders")
@@ -40,7 +40,7 @@ HomeBlock {
             model: block.first
 
             ReminderRow {
-                required property var modelData
+                required property calendarReminder modelData
                 required property int index
 
                 width: parent.width

@@ -5,9 +5,9 @@ import Kestrune.Views
 ButtonBase {
     id: thumb
 
-    required property var item
+    required property captureItem item
     required property NotchSurroundings surroundings
-    property var thumbnail
+    property var thumbnail // A QImage, or undefined.
     property bool captioned: true
 
     /// The right button, or the keyboard's menu key, at a place within the picture.

@@ -7,7 +7,7 @@ HomeBlock {
 
     required property CapturesModel model
     readonly property CapturesModel captures: model
-    readonly property var newest: captures.items.slice(0, 3)
+    readonly property list<captureItem> newest: captures.items.slice(0, 3)
 
     title: qsTranslate("notch", "Latest screenshots")
 
@@ -41,7 +41,7 @@ HomeBlock {
                 model: block.newest
 
                 CaptureThumb {
-                    required property var modelData
+                    required property captureItem modelData
 
                     width: (row.width - 2 * row.spacing) / 3
                     height: Math.round(width * 0.66)

@@ -46,7 +46,7 @@ Pane {
             list: "items"
         }
         delegate: Item {
-            required property var modelData
+            required property captureItem modelData
 
             width: grid.cellWidth
             height: grid.cellHeight
@@ -92,8 +92,8 @@ Pane {
     ContextMenu {
         id: menu
 
-        property var item
-        readonly property var actions: [
+        property captureItem item
+        readonly property var actions: [ // Functions.
             () => pane.captures.reveal(item.id),
             () => devices.send([item.url], menu.x, menu.y),
             () => pane.presentation.addToShelf([item.url]),

@@ -5,7 +5,7 @@ import Kestrune.Views
 ButtonBase {
     id: line
 
-    required property var item
+    required property clipboardItem item
     property bool copied: false
 
     help: item.preview

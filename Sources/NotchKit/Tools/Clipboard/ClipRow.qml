@@ -7,7 +7,7 @@ import Kestrune.Views
 ButtonBase {
     id: row
 
-    required property var item
+    required property clipboardItem item
     required property NotchSurroundings surroundings
     property bool copied: false
     property bool current: false

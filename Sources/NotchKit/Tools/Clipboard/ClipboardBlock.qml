@@ -8,7 +8,7 @@ HomeBlock {
     required property ClipboardModel model
     readonly property ClipboardModel clipboard: model
     readonly property bool historyOn: surroundings.settings.clipboardHistory
-    readonly property var newest: historyOn ? clipboard.items.slice(0, 3) : []
+    readonly property list<clipboardItem> newest: historyOn ? clipboard.items.slice(0, 3) : []
     property string copied: ""
 
     title: qsTranslate("notch", "Latest copies")
@@ -36,7 +36,7 @@ HomeBlock {
             model: block.newest
 
             ClipLine {
-                required property var modelData
+                required property clipboardItem modelData
 
                 x: -4 // so that its symbol stands below the title's
                 width: parent.width + 8

@@ -13,7 +13,7 @@ Row {
     required property NowPlayingModel model
     required property bool compact
 
-    // The song stays as it was while the view goes.
+    // A PlayingTrack, or undefined. The song stays as it was while the view goes.
     property var track: model.track
 
     spacing: compact ? 12 : 24

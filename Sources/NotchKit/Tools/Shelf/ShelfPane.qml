@@ -48,7 +48,7 @@ Pane {
             onCountChanged: Qt.callLater(list.positionViewAtEnd)
         }
         delegate: ShelfTile {
-            required property var modelData
+            required property shelfTile modelData
 
             height: ListView.view.height - 12
             tile: modelData

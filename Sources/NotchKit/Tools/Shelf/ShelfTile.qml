@@ -5,7 +5,7 @@ import Kestrune.Views
 Tile {
     id: view
 
-    required property var tile
+    required property shelfTile tile
     required property NotchSurroundings surroundings
 
     readonly property bool hovered: mouse.containsMouse && !drag.active

@@ -5,7 +5,7 @@ import Kestrune.Views
 Tile {
     id: card
 
-    required property var quote
+    required property stockQuote quote
     readonly property bool tall: height >= 76
 
     Accessible.role: Accessible.StaticText

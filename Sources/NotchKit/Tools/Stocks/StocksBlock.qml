@@ -8,7 +8,7 @@ HomeBlock {
     required property StocksModel model
     readonly property StocksModel stocks: model
     readonly property bool empty: surroundings.settings.tickers.length === 0
-    readonly property var first: empty ? [] : stocks.quotes.slice(0, 4)
+    readonly property list<stockQuote> first: empty ? [] : stocks.quotes.slice(0, 4)
 
     title: qsTranslate("notch", "Stocks")
 
@@ -40,7 +40,7 @@ HomeBlock {
             Item {
                 id: row
 
-                required property var modelData
+                required property stockQuote modelData
 
                 width: parent.width
                 height: 18

@@ -79,7 +79,7 @@ Pane {
             key: "symbol"
         }
         delegate: Item {
-            required property var modelData
+            required property stockQuote modelData
 
             width: grid.cellWidth
             height: grid.cellHeight

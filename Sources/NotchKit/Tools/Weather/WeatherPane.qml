@@ -147,7 +147,7 @@ Pane {
                 model: figures.days
 
                 WeatherDayTile {
-                    required property var modelData
+                    required property weatherDayFigures modelData
 
                     width: (week.width - 6 * week.spacing) / 7
                     height: week.height
