@@ -7,7 +7,7 @@ HomeBlock {
 
     required property CalendarModel model
     readonly property CalendarModel calendar: model
-    readonly property bool allowed: calendar.status === 3
+    readonly property bool allowed: calendar.status === CalendarModel.Full
     readonly property date now: shown ? surroundings.now : new Date(0)
 
     title: qsTranslate("notch", "Today's events")

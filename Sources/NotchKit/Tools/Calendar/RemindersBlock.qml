@@ -7,7 +7,7 @@ HomeBlock {
 
     required property CalendarModel model
     readonly property CalendarModel calendar: model
-    readonly property bool allowed: calendar.reminderStatus === 3
+    readonly property bool allowed: calendar.reminderStatus === CalendarModel.Full
     readonly property list<calendarReminder> first: allowed ? calendar.reminders.slice(0, 4) : []
     readonly property date now: shown ? surroundings.now : new Date(0)
 
