@@ -30,12 +30,10 @@ Column {
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
     }
-    Rectangle {
+    Tile {
         width: section.width
         height: column.height
-        radius: section.look.radius
-        color: section.look.group
-        border.color: section.look.outline
+        look: section.look
 
         Column {
             id: column

@@ -2,16 +2,14 @@ import QtQuick
 import Kestrune.Views
 
 /// Presents the suite that this program is a piece of.
-Rectangle {
+Tile {
     id: card
 
     /// The user wants to see the suite's page.
     signal discover()
 
-    implicitHeight: column.implicitHeight + 2 * Theme.window.rowInset
-    radius: Theme.window.radius
-    color: Theme.window.group
-    border.color: Theme.window.outline
+    look: Theme.window
+    implicitHeight: column.implicitHeight + 2 * look.rowInset
     Accessible.role: Accessible.Grouping
     Accessible.name: heading.text
 

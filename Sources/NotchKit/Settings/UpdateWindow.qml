@@ -77,15 +77,13 @@ DesktopWindow {
                 lineHeight: 1.15
             }
         }
-        Rectangle {
+        Tile {
             id: box
 
             anchors { left: texts.left; right: parent.right; bottom: buttons.top; bottomMargin: 20 }
             height: Math.min(notes.implicitHeight + 2 * Theme.window.rowInset + 2, 190)
             visible: words.notes !== ""
-            radius: Theme.window.radius
-            color: Theme.window.group
-            border.color: Theme.window.outline
+            look: Theme.window
 
             FocusRing {
                 visible: scroller.activeFocus

@@ -48,6 +48,7 @@ DesktopWindow {
 
                 anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
                 width: 120
+                look: Theme.window
                 prominent: true
                 focus: true
                 text: qsTranslate("notch", "OK")
