@@ -15,7 +15,7 @@ Application::Application(const QDBusConnection &bus, const WindowSystemChoice &w
     , m_updater(makeUpdater(m_platform))
     , m_appearance(bus)
     , m_panels(m_engine, m_platform.windows)
-    , m_alert(m_engine)
+    , m_alert(m_engine, m_appearance)
 {
     registerViews();
 }

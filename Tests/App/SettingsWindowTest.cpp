@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(settings.homeOrder().last(), HomeWidget::note);
         settings.setHomeOrder({HomeWidget::note, HomeWidget::timer, HomeWidget::note});
         QTRY_COMPARE(stage.homeTitles(), QStringList({u"Note"_s, u"Timer"_s}));
-        stage.click(stage.find(u"FormButton"_s, "text", u"Restore default layout"_s));
+        stage.click(stage.find(u"TextButton"_s, "text", u"Restore default layout"_s));
         QCOMPARE(settings.homeOrder(), allCases<HomeWidget>());
         QCOMPARE(settings.column(HomeWidget::weather), HomeColumn::left);
     }
@@ -212,7 +212,7 @@ private Q_SLOTS:
         QVERIFY(updates->isEnabled());
         stage.click(updates);
         QVERIFY(stage.updater.automatic && updates->property("on").toBool());
-        stage.click(stage.find(u"FormButton"_s, "text", u"Discover Fennivar ↗"_s));
+        stage.click(stage.find(u"TextButton"_s, "text", u"Discover Fennivar ↗"_s));
         QCOMPARE(stage.workspace.opened.value(0).query(), u"ref=kestrune"_s);
     }
 

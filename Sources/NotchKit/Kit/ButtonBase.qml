@@ -2,21 +2,23 @@ import QtQuick
 import QtQuick.Templates as T
 import Kestrune.Views
 
-/// What every button of the notch shares: its states, its help, its keys. `content` draws on top.
+/// What every button shares: its states, its help, its keys. Its `contentItem` draws on top.
 T.AbstractButton {
     id: control
 
-    /// Shown as a tooltip and read out as the name.
-    required property string help
+    /// Read out as the name, and a tooltip where it is not the text.
+    property string help: text
+    property Look look: Theme
     property bool active: false
-    property bool plain: false
+    property bool plain: false // Only seen under the pointer.
+    property bool prominent: false
     property bool tipBelow: false
     property Item tipAnchor: control // what the tip stands at
-    property real radius: Theme.buttonRadius
+    property real radius: look.controlRadius
 
-    focusPolicy: Qt.TabFocus
+    focusPolicy: look.focusPolicy
     hoverEnabled: true
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : look.disabledOpacity
     Accessible.role: Accessible.Button
     Accessible.name: help
     Accessible.checked: active
@@ -25,12 +27,18 @@ T.AbstractButton {
 
     background: Rectangle {
         radius: control.radius
-        color: control.down ? Theme.pressed
-             : control.active ? Theme.highlighted
-             : control.hovered ? Theme.hovered
-             : control.plain ? "transparent" : Theme.faint
-        border.width: control.visualFocus ? 2 : 0
-        border.color: Theme.accent
+        color: control.prominent ? (control.down ? Qt.darker(control.look.accent, 1.15)
+                                    : control.hovered ? Qt.lighter(control.look.accent, 1.12) : control.look.accent)
+             : control.down ? control.look.pressed
+             : control.active ? control.look.highlighted
+             : control.hovered ? control.look.hovered
+             : control.plain ? "transparent" : control.look.control
+
+        FocusRing {
+            visible: control.visualFocus
+            look: control.look
+            gap: control.prominent ? 3 : look.focusGap // It would not be seen on its own colour.
+        }
     }
 
     Loader {

@@ -7,6 +7,7 @@ T.Popup {
     id: menu
 
     required property list<string> entries
+    property Look look: Theme
 
     /// The entry with this place among the entries.
     signal chosen(int index)
@@ -32,9 +33,9 @@ T.Popup {
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     onOpened: rows.itemAt(0)?.forceActiveFocus()
     background: Rectangle {
-        radius: 8
-        color: "#2c2c2e"
-        border.color: Theme.hovered
+        radius: menu.look.controlRadius
+        color: menu.look.popup
+        border.color: menu.look.popupOutline
     }
     contentItem: Column {
         id: column
@@ -54,7 +55,7 @@ T.Popup {
                 required property int index
                 required property string modelData
 
-                help: modelData
+                look: menu.look
                 text: modelData
                 plain: true
                 radius: 5
@@ -77,8 +78,8 @@ T.Popup {
                     text: button.modelData
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideMiddle
-                    font.pixelSize: 12
-                    color: Theme.text
+                    font.pixelSize: menu.look.fontSize
+                    color: menu.look.text
                     verticalAlignment: Text.AlignVCenter
                     Accessible.ignored: true
                 }

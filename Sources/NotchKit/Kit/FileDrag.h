@@ -16,12 +16,14 @@ class FileDrag : public QObject
     QML_ELEMENT
     Q_PROPERTY(QList<QUrl> urls MEMBER m_urls)
     /// What the pointer carries: the picture, or where there is none, the symbol.
-    Q_PROPERTY(QImage picture MEMBER m_picture)
+    Q_PROPERTY(QImage picture MEMBER m_picture RESET dropPicture)
     Q_PROPERTY(QString symbol MEMBER m_symbol)
     Q_PROPERTY(bool active READ active NOTIFY activeChanged)
 
 public:
     using QObject::QObject;
+
+    void dropPicture() { m_picture = {}; }
 
     bool active() const { return m_active; }
 

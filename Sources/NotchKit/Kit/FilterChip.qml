@@ -5,7 +5,6 @@ import Kestrune.Views
 ButtonBase {
     id: chip
 
-    help: text
     implicitWidth: label.implicitWidth + 20
     implicitHeight: 24 // whatever script the text is in
     radius: height / 2
@@ -15,9 +14,9 @@ ButtonBase {
         id: label
 
         text: chip.text
-        font.pixelSize: 11
+        font.pixelSize: chip.look.smallFontSize
         font.weight: Font.DemiBold
-        color: Theme.text
+        color: chip.look.text
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true

@@ -3,8 +3,10 @@ import Kestrune.Views
 
 /// A text of the form.
 Text {
-    font.pixelSize: FormTheme.fontSize
-    color: FormTheme.text
+    property Look look: Theme.window
+
+    font.pixelSize: look.fontSize
+    color: look.text
     textFormat: Text.PlainText
     horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter

@@ -13,6 +13,7 @@ Column {
 
     property string title: ""
     property string footer: ""
+    property Look look: Theme.window
     default property alias rows: column.data
 
     spacing: 6
@@ -22,18 +23,17 @@ Column {
     FormLabel {
         visible: section.title !== ""
         width: section.width
-        leftPadding: FormTheme.rowInset
-        rightPadding: FormTheme.rowInset
+        leftPadding: section.look.rowInset
+        rightPadding: section.look.rowInset
+        look: section.look
         text: section.title
         font.weight: Font.DemiBold
         Accessible.role: Accessible.Heading
     }
-    Rectangle {
+    Tile {
         width: section.width
         height: column.height
-        radius: FormTheme.radius
-        color: FormTheme.group
-        border.color: FormTheme.outline
+        look: section.look
 
         Column {
             id: column
@@ -44,11 +44,12 @@ Column {
     FormLabel {
         visible: section.footer !== ""
         width: section.width
-        leftPadding: FormTheme.rowInset
-        rightPadding: FormTheme.rowInset
+        leftPadding: section.look.rowInset
+        rightPadding: section.look.rowInset
+        look: section.look
         text: section.footer
-        font.pixelSize: FormTheme.smallFontSize
-        color: FormTheme.dim
+        font.pixelSize: section.look.smallFontSize
+        color: section.look.dim
         wrapMode: Text.WordWrap
         Accessible.role: Accessible.StaticText
     }

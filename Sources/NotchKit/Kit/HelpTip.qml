@@ -27,7 +27,7 @@ Rectangle {
     width: Math.min(label.implicitWidth, Theme.contentWidth - 16) + 16
     height: label.implicitHeight + 8
     radius: 6
-    color: "#3a3a3c"
+    color: Theme.tip
     visible: delay.done
 
     Text {
@@ -39,7 +39,7 @@ Rectangle {
         textFormat: Text.PlainText
         text: tip.text
         color: Theme.text
-        font.pixelSize: 11
+        font.pixelSize: Theme.smallFontSize
         Accessible.ignored: true
     }
 

@@ -20,13 +20,13 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             name: message.symbol
             size: 26
-            color: Qt.rgba(1, 1, 1, 0.5)
+            color: Theme.dim
         }
         Text {
             width: parent.width
             text: message.text
-            font.pixelSize: 13
-            color: Qt.rgba(1, 1, 1, 0.7)
+            font.pixelSize: Theme.largeFontSize
+            color: Theme.quiet
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.WordWrap
             lineHeight: 1.2

@@ -9,6 +9,7 @@ T.ComboBox {
 
     required property string name // Read out.
     required property int chosen
+    property Look look: Theme.window
 
     /// The user chose another one.
     signal modified(int index)
@@ -17,7 +18,7 @@ T.ComboBox {
     implicitHeight: 26
     focusPolicy: Qt.StrongFocus // Its list gets the keys of what has the focus.
     hoverEnabled: true
-    opacity: enabled ? 1 : FormTheme.disabledOpacity
+    opacity: enabled ? 1 : look.disabledOpacity
     currentIndex: chosen
     Accessible.role: Accessible.ComboBox
     Accessible.name: name + ": " + displayText
@@ -26,14 +27,19 @@ T.ComboBox {
     onActivated: index => control.modified(index)
 
     background: Rectangle {
-        radius: FormTheme.controlRadius
-        color: control.pressed || control.popup.visible ? FormTheme.pressed
-             : control.hovered ? FormTheme.hovered : FormTheme.control
-        border { width: control.visualFocus ? 2 : 0; color: FormTheme.accent }
+        radius: control.look.controlRadius
+        color: control.pressed || control.popup.visible ? control.look.pressed
+             : control.hovered ? control.look.hovered : control.look.control
+
+        FocusRing {
+            visible: control.visualFocus
+            look: control.look
+        }
     }
     contentItem: FormLabel {
         leftPadding: Theme.mirrored ? 26 : 10
         rightPadding: Theme.mirrored ? 10 : 26
+        look: control.look
         text: control.displayText
         Accessible.ignored: true
     }
@@ -42,17 +48,44 @@ T.ComboBox {
         anchors.verticalCenter: parent.verticalCenter
         spacing: -6
 
-        Symbol { name: "chevron.up"; size: 12; color: FormTheme.dim }
-        Symbol { name: "chevron.down"; size: 12; color: FormTheme.dim }
+        Symbol { name: "chevron.up"; size: 12; color: control.look.dim }
+        Symbol { name: "chevron.down"; size: 12; color: control.look.dim }
     }
-    delegate: PickerEntry {
+    delegate: T.ItemDelegate {
+        id: entry
+
         required property int index
         required property string modelData
 
         width: ListView.view.width
+        implicitHeight: 26
         text: modelData
-        chosen: control.currentIndex === index
         highlighted: control.highlightedIndex === index
+        hoverEnabled: true
+        Accessible.role: Accessible.ListItem
+        Accessible.name: text
+        Accessible.selected: control.currentIndex === index
+        background: Rectangle {
+            radius: control.look.controlRadius - 2
+            color: entry.highlighted ? control.look.accent : "transparent"
+        }
+        contentItem: FormLabel {
+            leftPadding: Theme.mirrored ? 0 : 20
+            rightPadding: Theme.mirrored ? 20 : 0
+            text: entry.text
+            look: control.look
+            color: entry.highlighted ? look.accentText : look.text
+            Accessible.ignored: true
+
+            Rectangle { // The chosen one's dot.
+                visible: control.currentIndex === entry.index
+                anchors { left: parent.left; leftMargin: 8; verticalCenter: parent.verticalCenter }
+                width: 5
+                height: 5
+                radius: 2.5
+                color: parent.color
+            }
+        }
     }
     popup: T.Popup {
         y: control.height + 4
@@ -61,9 +94,9 @@ T.ComboBox {
         margins: 8
         padding: 4
         background: Rectangle {
-            radius: FormTheme.controlRadius + 2
-            color: FormTheme.popup
-            border.color: FormTheme.track
+            radius: control.look.controlRadius + 2
+            color: control.look.popup
+            border.color: control.look.popupOutline
         }
         contentItem: ListView {
             id: list

@@ -27,8 +27,8 @@ Tile {
         anchors.margins: 14
         visible: input.length === 0 && input.preeditText === ""
         text: editor.placeholder
-        font.pixelSize: 13
-        color: Qt.rgba(1, 1, 1, 0.35)
+        font.pixelSize: editor.look.largeFontSize
+        color: editor.look.faded
         wrapMode: Text.WordWrap
         elide: Text.ElideRight
         Accessible.ignored: true
@@ -45,6 +45,7 @@ Tile {
         boundsBehavior: Flickable.StopAtBounds
         interactive: contentHeight > height
         T.ScrollBar.vertical: ScrollBar {
+            look: editor.look
             parent: editor
             anchors { top: parent.top; bottom: parent.bottom; right: parent.right; margins: 4 }
         }
@@ -71,10 +72,10 @@ Tile {
             activeFocusOnTab: true
             selectByMouse: true
             persistentSelection: true
-            font.pixelSize: 13
-            color: Theme.text
-            selectionColor: Theme.accent
-            selectedTextColor: "black"
+            font.pixelSize: editor.look.largeFontSize
+            color: editor.look.text
+            selectionColor: editor.look.accent
+            selectedTextColor: editor.look.accentText
             wrapMode: TextEdit.Wrap
             textFormat: TextEdit.PlainText
             Accessible.name: editor.name

@@ -5,7 +5,7 @@ import Kestrune.Views
 Item {
     id: bar
 
-    required property var track
+    required property var track // A PlayingTrack, or undefined.
     required property bool timed
 
     // Time runs to the right in every language, as the arrows of the controls do.
@@ -20,7 +20,7 @@ Item {
         anchors { left: parent.left; right: parent.right; top: parent.top; topMargin: bar.timed ? 4 : 1 }
         height: 4
         radius: 2
-        color: Qt.rgba(1, 1, 1, 0.16)
+        color: Theme.groove
         clip: true
 
         Rectangle {

@@ -6,6 +6,8 @@ import Kestrune.Views
 T.ScrollBar {
     id: bar
 
+    property Look look: Theme
+
     implicitWidth: 6
     implicitHeight: 6
     minimumSize: 0.12
@@ -14,6 +16,6 @@ T.ScrollBar {
         implicitWidth: 6
         implicitHeight: 6
         radius: 3
-        color: bar.pressed ? Theme.dim : bar.hovered ? Qt.rgba(1, 1, 1, 0.35) : Theme.highlighted
+        color: bar.pressed || bar.hovered ? bar.look.dim : bar.look.highlighted
     }
 }

@@ -17,14 +17,14 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         name: label.symbol
         size: 13
-        color: Qt.rgba(1, 1, 1, 0.85)
+        color: Theme.text
     }
     Text {
         anchors.verticalCenter: parent.verticalCenter
         text: label.title
-        font.pixelSize: 12
+        font.pixelSize: Theme.fontSize
         font.weight: Font.DemiBold
-        color: Qt.rgba(1, 1, 1, 0.85)
+        color: Theme.text
         Accessible.ignored: true
     }
 }

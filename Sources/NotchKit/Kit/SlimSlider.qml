@@ -6,50 +6,53 @@ import Kestrune.Views
 T.Slider {
     id: control
 
-    /// Shown as a tooltip and read out as the name.
-    required property string help
+    /// Shown as a tooltip, if it is given, and read out as the name.
+    property string help: ""
+    property Look look: Theme
 
     implicitWidth: 160
     implicitHeight: 28
-    leftPadding: 2
-    rightPadding: 2
-    focusPolicy: Qt.TabFocus
+    focusPolicy: look.focusPolicy
     hoverEnabled: true
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : look.disabledOpacity
     Accessible.role: Accessible.Slider
     Accessible.name: help
 
     background: Item {
         Rectangle {
-            x: control.leftPadding
-            width: control.availableWidth
+            width: parent.width
             height: 4
             anchors.verticalCenter: parent.verticalCenter
             radius: 2
-            color: control.hovered ? Theme.highlighted : Theme.hovered
+            color: control.hovered ? control.look.highlighted : control.look.groove
 
             Rectangle {
                 anchors.left: parent.left
                 width: control.handle.width / 2 + control.position * (control.availableWidth - control.handle.width)
                 height: parent.height
                 radius: parent.radius
-                color: Theme.accent
+                color: control.look.accent
             }
         }
     }
     handle: Rectangle {
-        x: control.leftPadding + control.visualPosition * (control.availableWidth - width)
+        x: control.visualPosition * (control.availableWidth - width)
         anchors.verticalCenter: parent.verticalCenter
-        width: 14
-        height: 14
-        radius: 7
-        color: control.pressed ? "#d0d0d4" : control.hovered ? "white" : "#ececf0"
-        border.width: control.visualFocus ? 2 : 0
-        border.color: Theme.accent
+        width: control.look.handleSize
+        height: width
+        radius: width / 2
+        color: control.pressed ? Qt.darker(control.look.handle, 1.14) : control.hovered ? "white" : control.look.handle
+        border { width: 1; color: control.look.handleOutline }
+
+        FocusRing {
+            visible: control.visualFocus
+            look: control.look
+            gap: 3
+        }
     }
 
     Loader {
-        active: control.hovered && !control.pressed
+        active: control.hovered && !control.pressed && control.help !== ""
         sourceComponent: HelpTip {
             text: control.help
             anchor: control

@@ -14,6 +14,7 @@ FocusScope {
     property real from: 0
     property real to: 100
     property real stepSize: 1
+    property Look look: Theme
     property real textWidth: label.implicitWidth
 
     /// The user chose another value, which lies between `from` and `to`.
@@ -27,7 +28,7 @@ FocusScope {
 
     implicitWidth: textWidth + 8 + buttons.implicitWidth
     implicitHeight: 28
-    opacity: enabled ? 1 : 0.4
+    opacity: enabled ? 1 : stepper.look.disabledOpacity
     Accessible.role: Accessible.SpinBox
     Accessible.name: text
     Accessible.onIncreaseAction: step(1)
@@ -42,8 +43,8 @@ FocusScope {
 
         anchors { right: buttons.left; rightMargin: 8; verticalCenter: parent.verticalCenter }
         text: stepper.text
-        font.pixelSize: 11
-        color: Theme.dim
+        font.pixelSize: stepper.look.smallFontSize
+        color: stepper.look.dim
         Accessible.ignored: true
     }
     Row {
@@ -52,20 +53,14 @@ FocusScope {
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         spacing: 2
 
-        component StepButton: ButtonBase {
-            id: button
-
-            required property string symbol
-
+        component StepButton: SymbolButton {
+            look: stepper.look
+            plain: false
             implicitWidth: 26
             implicitHeight: 24
             radius: 6
+            size: 13
             autoRepeat: true
-            contentItem: Symbol {
-                name: button.symbol
-                size: 13
-                color: button.hovered ? Theme.text : Theme.dim
-            }
         }
 
         StepButton {

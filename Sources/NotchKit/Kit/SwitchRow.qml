@@ -10,13 +10,14 @@ T.AbstractButton {
     required property bool on
     property string symbol: ""
     property bool first: false
+    property Look look: Theme.window
 
     /// The user wants it so.
     signal modified(bool on)
 
     width: parent?.width ?? 0
-    implicitHeight: FormTheme.rowHeight
-    focusPolicy: Qt.StrongFocus
+    implicitHeight: look.rowHeight
+    focusPolicy: look.focusPolicy
     hoverEnabled: true
     Accessible.role: Accessible.CheckBox
     Accessible.name: title
@@ -26,6 +27,7 @@ T.AbstractButton {
     onClicked: control.modified(!control.on)
 
     contentItem: FormRow {
+        look: control.look
         title: control.title
         symbol: control.symbol
         first: control.first
@@ -36,16 +38,14 @@ T.AbstractButton {
             width: 38
             height: 22
             radius: height / 2
-            opacity: control.enabled ? 1 : FormTheme.disabledOpacity
-            color: control.on ? (control.hovered ? Qt.lighter(FormTheme.accent, 1.1) : FormTheme.accent)
-                              : (control.hovered ? FormTheme.pressed : FormTheme.track)
+            opacity: control.enabled ? 1 : control.look.disabledOpacity
+            color: control.on ? (control.hovered ? Qt.lighter(control.look.accent, 1.1) : control.look.accent)
+                              : (control.hovered ? control.look.pressed : control.look.highlighted)
 
-            Rectangle {
-                anchors { fill: parent; margins: -3 }
+            FocusRing {
                 visible: control.visualFocus
-                radius: height / 2
-                color: "transparent"
-                border { width: 2; color: FormTheme.accent }
+                look: control.look
+                gap: 3
             }
             Rectangle {
                 readonly property real wide: control.down ? 21 : 18

@@ -6,24 +6,13 @@ ButtonBase {
     id: control
 
     property string symbol: ""
-    property bool prominent: false
     property real symbolWidth: 0 // its own where none is given
+    readonly property color ink: prominent ? look.accentText : look.text
 
-    help: text
     implicitHeight: 28
-    implicitWidth: label.implicitWidth + 24
-
-    Binding {
-        target: control.background
-        property: "color"
-        when: control.prominent && !control.down
-        value: control.hovered ? Qt.lighter(Theme.accent, 1.12) : Theme.accent
-    }
+    implicitWidth: label.implicitWidth + 2 * look.controlPadding
 
     contentItem: Item {
-        implicitWidth: label.implicitWidth
-        implicitHeight: label.implicitHeight
-
         Row {
             id: label
 
@@ -36,14 +25,14 @@ ButtonBase {
                 size: 14
                 width: control.symbolWidth > 0 ? control.symbolWidth : implicitWidth
                 anchors.verticalCenter: parent.verticalCenter
-                color: control.prominent ? "black" : Theme.text
+                color: control.ink
             }
             Text {
                 anchors.verticalCenter: parent.verticalCenter
                 text: control.text
-                font.pixelSize: 12
+                font.pixelSize: control.look.fontSize
                 font.weight: Font.Medium
-                color: control.prominent ? "black" : Theme.text
+                color: control.ink
                 Accessible.ignored: true
             }
         }

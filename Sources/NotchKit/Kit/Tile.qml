@@ -1,8 +1,11 @@
 import QtQuick
 import Kestrune.Views
 
-/// The rounded background of a block.
+/// The rounded background of a block or of a group of rows.
 Rectangle {
-    color: Theme.faint
-    radius: Theme.tileRadius
+    property Look look: Theme
+
+    color: look.group
+    border.color: look.outline
+    radius: look.radius
 }

@@ -5,13 +5,14 @@ import Kestrune.Views
 FormRow {
     id: row
 
-    required property var widget
+    required property homeRow widget
     required property SettingsPresentation presentation
 
     title: widget.title
 
     Picker {
         objectName: "column"
+        look: row.look
         name: row.title
         model: row.presentation.columnTitles
         chosen: row.widget.column
@@ -20,13 +21,21 @@ FormRow {
     Row {
         spacing: 4
 
-        FormButton {
+        component MoveButton: SymbolButton {
+            look: row.look
+            plain: false
+            size: 15
+            implicitWidth: 26
+            implicitHeight: 26
+        }
+
+        MoveButton {
             objectName: "up"
             symbol: "chevron.up"
             help: qsTranslate("notch", "Move up")
             onClicked: row.presentation.move(row.widget.id, -1)
         }
-        FormButton {
+        MoveButton {
             objectName: "down"
             symbol: "chevron.down"
             help: qsTranslate("notch", "Move down")

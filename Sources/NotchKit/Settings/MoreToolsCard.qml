@@ -2,23 +2,21 @@ import QtQuick
 import Kestrune.Views
 
 /// Presents the suite that this program is a piece of.
-Rectangle {
+Tile {
     id: card
 
     /// The user wants to see the suite's page.
     signal discover()
 
-    implicitHeight: column.implicitHeight + 2 * FormTheme.rowInset
-    radius: FormTheme.radius
-    color: FormTheme.group
-    border.color: FormTheme.outline
+    look: Theme.window
+    implicitHeight: column.implicitHeight + 2 * look.rowInset
     Accessible.role: Accessible.Grouping
     Accessible.name: heading.text
 
     Column {
         id: column
 
-        anchors { left: parent.left; right: parent.right; top: parent.top; margins: FormTheme.rowInset }
+        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.window.rowInset }
         spacing: 12
 
         FormLabel {
@@ -26,14 +24,14 @@ Rectangle {
 
             width: parent.width
             text: qsTranslate("notch", "Want more? Meet Fennivar")
-            font.pixelSize: 16
+            font.pixelSize: Theme.window.titleFontSize
             font.weight: Font.DemiBold
             Accessible.role: Accessible.Heading
         }
         FormLabel {
             width: parent.width
             text: qsTranslate("notch", "Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.")
-            color: FormTheme.dim
+            color: Theme.window.dim
             wrapMode: Text.WordWrap
             lineHeight: 1.15
         }
@@ -54,7 +52,7 @@ Rectangle {
                 Item {
                     id: tool
 
-                    required property var modelData
+                    required property var modelData // An object of the list above.
 
                     width: parent.width
                     height: 22
@@ -67,7 +65,7 @@ Rectangle {
                         height: parent.height
                         name: tool.modelData.symbol
                         size: 17
-                        color: FormTheme.accent
+                        color: Theme.window.accent
                     }
                     FormLabel {
                         anchors { left: icon.right; leftMargin: 10; right: parent.right; verticalCenter: parent.verticalCenter }
@@ -76,8 +74,9 @@ Rectangle {
                 }
             }
         }
-        FormButton {
+        TextButton {
             anchors.left: parent.left
+            look: Theme.window
             prominent: true
             text: qsTranslate("notch", "Discover Fennivar ↗")
             onClicked: card.discover()

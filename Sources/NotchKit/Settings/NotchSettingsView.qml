@@ -105,7 +105,7 @@ Column {
 
             HomeWidgetRow {
                 required property int index
-                required property var modelData
+                required property homeRow modelData
 
                 first: index === 0
                 widget: modelData
@@ -115,7 +115,8 @@ Column {
         FormRow {
             title: ""
 
-            FormButton {
+            TextButton {
+                look: Theme.window
                 text: qsTranslate("notch", "Restore default layout")
                 onClicked: view.presentation.resetHome()
             }
@@ -149,7 +150,7 @@ Column {
 
             SwitchRow {
                 required property int index
-                required property var modelData
+                required property toolSwitch modelData
 
                 first: index === 0
                 title: modelData.title

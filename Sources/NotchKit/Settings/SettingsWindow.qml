@@ -1,45 +1,34 @@
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Kestrune.Views
 
 /// The settings: the notch's own, the application's, and the suite's card below them.
-Window {
+DesktopWindow {
     id: window
 
     required property NotchSettings settings
     required property Updater updater
-    required property Appearance appearance
     required property QtObject app // `launchAtLogin`, `openSuitePage()`
 
-    width: FormTheme.width
-    height: FormTheme.height
+    width: 560
+    height: 760
     minimumWidth: width
     maximumWidth: width
     minimumHeight: height
     maximumHeight: height
-    color: FormTheme.window
-    LayoutMirroring.enabled: Theme.mirrored
-    LayoutMirroring.childrenInherit: true
     title: qsTranslate("notch", "Kestrune Settings")
 
     /// Scrolls to what got the keyboard.
     function reveal(item) {
         if (!item || !content.contains(item.mapToItem(content, 1, 1)))
             return
-        const margin = FormTheme.rowHeight
+        const margin = Theme.window.rowHeight
         const top = item.mapToItem(content, 0, 0).y
         const lowest = Math.max(top + item.height + margin - scroller.height, 0)
         scroller.contentY = Math.min(Math.max(scroller.contentY, lowest), Math.max(top - margin, 0))
     }
 
     onActiveFocusItemChanged: reveal(activeFocusItem)
-
-    Binding {
-        target: FormTheme
-        property: "dark"
-        value: window.appearance.dark
-    }
 
     FocusScope {
         anchors.fill: parent
@@ -50,16 +39,20 @@ Window {
             id: scroller
 
             anchors.fill: parent
-            contentHeight: content.height + 2 * FormTheme.inset
+            contentHeight: content.height + 2 * Theme.window.inset
             boundsBehavior: Flickable.StopAtBounds
-            T.ScrollBar.vertical: FormScrollBar {}
+            T.ScrollBar.vertical: ScrollBar {
+                look: Theme.window
+                implicitWidth: 12
+                padding: 3
+            }
 
             Column {
                 id: content
 
-                x: FormTheme.inset
-                y: FormTheme.inset
-                width: scroller.width - 2 * FormTheme.inset
+                x: Theme.window.inset
+                y: Theme.window.inset
+                width: scroller.width - 2 * Theme.window.inset
                 spacing: 20
 
                 NotchSettingsView {

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Kestrune.Views
 
 /// What the look for an update came to: a heading, what is new or went wrong, and what can be done.
@@ -9,12 +8,11 @@ import Kestrune.Views
 ///        body
 ///        ╭ notes, which scroll ╮
 ///                Later [Download]
-Window {
+DesktopWindow {
     id: window
 
     required property Updater updater
-    required property Appearance appearance
-    readonly property int wanted: 2 * FormTheme.inset + texts.height + buttons.height + 20
+    readonly property int wanted: 2 * Theme.window.inset + texts.height + buttons.height + 20
                                   + (box.visible ? box.height + 16 : 0)
 
     width: 440
@@ -23,24 +21,16 @@ Window {
     maximumWidth: 440
     minimumHeight: wanted
     maximumHeight: wanted
-    color: FormTheme.window
     title: qsTranslate("notch", "Software Update")
-    LayoutMirroring.enabled: Theme.mirrored
-    LayoutMirroring.childrenInherit: true
 
     UpdatePresentation {
         id: words
 
         updater: window.updater
     }
-    Binding {
-        target: FormTheme
-        property: "dark"
-        value: window.appearance.dark
-    }
 
     FocusScope {
-        anchors { fill: parent; margins: FormTheme.inset }
+        anchors { fill: parent; margins: Theme.window.inset }
         focus: true
         Keys.onEscapePressed: window.close()
 
@@ -52,13 +42,13 @@ Window {
             height: 36
             name: words.symbol
             size: 36
-            color: FormTheme.accent
+            color: Theme.window.accent
         }
         Spinner {
             anchors.horizontalCenter: symbol.horizontalCenter
             y: (heading.height - height) / 2
             running: words.symbol === ""
-            color: FormTheme.text
+            color: Theme.window.text
         }
         Column {
             id: texts
@@ -71,7 +61,7 @@ Window {
 
                 width: parent.width
                 text: words.heading
-                font.pixelSize: 16
+                font.pixelSize: Theme.window.titleFontSize
                 font.weight: Font.DemiBold
                 wrapMode: Text.Wrap
                 maximumLineCount: 2
@@ -82,39 +72,47 @@ Window {
                 height: box.visible ? implicitHeight : Math.max(implicitHeight, 36) // Two lines, as most have.
                 verticalAlignment: Text.AlignTop
                 text: words.body
-                color: FormTheme.dim
+                color: Theme.window.dim
                 wrapMode: Text.Wrap
                 lineHeight: 1.15
             }
         }
-        Rectangle {
+        Tile {
             id: box
 
             anchors { left: texts.left; right: parent.right; bottom: buttons.top; bottomMargin: 20 }
-            height: Math.min(notes.implicitHeight + 2 * FormTheme.rowInset + 2, 190)
+            height: Math.min(notes.implicitHeight + 2 * Theme.window.rowInset + 2, 190)
             visible: words.notes !== ""
-            radius: FormTheme.radius
-            color: FormTheme.group
-            border.color: scroller.activeFocus ? FormTheme.accent : FormTheme.outline
+            look: Theme.window
 
+            FocusRing {
+                visible: scroller.activeFocus
+                look: Theme.window
+            }
             Flickable {
                 id: scroller
 
                 anchors { fill: parent; margins: 1 }
                 clip: true
-                contentHeight: notes.implicitHeight + 2 * FormTheme.rowInset
+                contentHeight: notes.implicitHeight + 2 * Theme.window.rowInset
                 boundsBehavior: Flickable.StopAtBounds
                 activeFocusOnTab: contentHeight > height
                 Keys.onUpPressed: bar.decrease()
                 Keys.onDownPressed: bar.increase()
-                T.ScrollBar.vertical: FormScrollBar { id: bar }
+                T.ScrollBar.vertical: ScrollBar {
+                    id: bar
+
+                    look: Theme.window
+                    implicitWidth: 12
+                    padding: 3
+                }
 
                 FormLabel {
                     id: notes
 
-                    x: FormTheme.rowInset
-                    y: FormTheme.rowInset
-                    width: scroller.width - 2 * FormTheme.rowInset
+                    x: Theme.window.rowInset
+                    y: Theme.window.rowInset
+                    width: scroller.width - 2 * Theme.window.rowInset
                     text: words.notes
                     wrapMode: Text.Wrap
                     lineHeight: 1.2
@@ -127,11 +125,13 @@ Window {
             anchors { right: parent.right; bottom: parent.bottom }
             spacing: 8
 
-            FormButton {
+            TextButton {
+                look: Theme.window
                 text: words.dismissal
                 onClicked: window.close()
             }
-            FormButton {
+            TextButton {
+                look: Theme.window
                 visible: text !== ""
                 text: words.action
                 prominent: true

@@ -1,12 +1,15 @@
 #include "AlertWindow.h"
 
+#include "NotchKit/Platform/Appearance.h"
+
 #include <QQmlComponent>
 #include <QQmlEngine>
 
 namespace Kestrune {
 
-AlertWindow::AlertWindow(QQmlEngine &engine)
+AlertWindow::AlertWindow(QQmlEngine &engine, Appearance &appearance)
     : m_engine(engine)
+    , m_appearance(appearance)
 {}
 
 AlertWindow::~AlertWindow() { delete m_window; }
@@ -16,7 +19,9 @@ void AlertWindow::show(const QString &message, const QString &details)
     if (!m_window) {
         QQmlComponent component(&m_engine, QUrl(QStringLiteral("qrc:/Kestrune/Views/PausedAlert.qml")));
         m_window = qobject_cast<QWindow *>(component.createWithInitialProperties(
-            {{QStringLiteral("message"), message}, {QStringLiteral("details"), details}}));
+            {{QStringLiteral("message"), message},
+             {QStringLiteral("details"), details},
+             {QStringLiteral("appearance"), QVariant::fromValue(&m_appearance)}}));
         if (!m_window)
             qFatal("the alert cannot be made: %s", qPrintable(component.errorString()));
         QObject::connect(m_window, &QWindow::visibleChanged, m_window,

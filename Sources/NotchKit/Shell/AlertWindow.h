@@ -8,12 +8,14 @@ class QQmlEngine;
 
 namespace Kestrune {
 
+class Appearance;
+
 /// One modal alert at a time, in front of all windows, with an OK button.
 class AlertWindow
 {
 public:
-    /// `engine` outlives the object.
-    explicit AlertWindow(QQmlEngine &engine);
+    /// Both outlive the object.
+    AlertWindow(QQmlEngine &engine, Appearance &appearance);
     ~AlertWindow();
 
     /// Shows the alert, or brings it to the front when it is on screen already.
@@ -21,6 +23,7 @@ public:
 
 private:
     QQmlEngine &m_engine;
+    Appearance &m_appearance;
     QPointer<QWindow> m_window;
 };
 

@@ -26,7 +26,7 @@ FocusScope {
         Text {
             anchors { left: parent.left; right: buttons.left; verticalCenter: parent.verticalCenter }
             text: content.presentation.paneTitle
-            font.pixelSize: 14
+            font.pixelSize: Theme.titleFontSize
             font.weight: Font.DemiBold
             color: Theme.text
             horizontalAlignment: Text.AlignLeft
@@ -38,13 +38,15 @@ FocusScope {
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             spacing: 4
 
-            HeaderButton {
+            SymbolButton {
+                tipBelow: true
                 symbol: content.screenModel.pinned ? "pin.fill" : "pin"
                 help: content.screenModel.pinned ? qsTranslate("notch", "Unpin") : qsTranslate("notch", "Keep open")
                 active: content.screenModel.pinned
                 onClicked: content.screenModel.pinned = !content.screenModel.pinned
             }
-            HeaderButton {
+            SymbolButton {
+                tipBelow: true
                 visible: content.presentation.offersSettings
                 symbol: "gearshape"
                 help: qsTranslate("notch", "Settings")

@@ -33,6 +33,14 @@ namespace Kestrune {
         QML_UNCREATABLE("belongs to the core")                                                               \
     }
 
+#define KESTRUNE_VIEW_VALUE(Type, name)                                                                      \
+    struct Type##ForViews                                                                                    \
+    {                                                                                                        \
+        Q_GADGET                                                                                             \
+        QML_FOREIGN(Kestrune::Type)                                                                          \
+        QML_VALUE_TYPE(name)                                                                                 \
+    }
+
 KESTRUNE_VIEW_TYPE(AirDrop);
 KESTRUNE_VIEW_TYPE(Appearance);
 KESTRUNE_VIEW_TYPE(CalendarModel);
@@ -54,6 +62,14 @@ KESTRUNE_VIEW_TYPE(ToolModel);
 KESTRUNE_VIEW_TYPE(Updater);
 KESTRUNE_VIEW_TYPE(WeatherModel);
 
+KESTRUNE_VIEW_VALUE(CalendarItem, calendarItem);
+KESTRUNE_VIEW_VALUE(CalendarReminder, calendarReminder);
+KESTRUNE_VIEW_VALUE(CaptureItem, captureItem);
+KESTRUNE_VIEW_VALUE(ClipboardItem, clipboardItem);
+KESTRUNE_VIEW_VALUE(ShelfTile, shelfTile);
+KESTRUNE_VIEW_VALUE(StockQuote, stockQuote);
+
 #undef KESTRUNE_VIEW_TYPE
+#undef KESTRUNE_VIEW_VALUE
 
 } // namespace Kestrune

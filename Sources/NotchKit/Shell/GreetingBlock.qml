@@ -31,7 +31,7 @@ HomeBlock {
         Text {
             width: parent.width
             text: block.now.toLocaleDateString(Qt.locale(), Locale.LongFormat)
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap

@@ -18,9 +18,7 @@ Tile {
     readonly property bool opens: presentation.offeredTools.indexOf(tool) >= 0
 
     implicitHeight: body.childrenRect.height + 24
-    color: opener.pressed ? Theme.pressed : opener.containsMouse ? Theme.hovered : Theme.faint
-    border.width: activeFocus ? 2 : 0
-    border.color: Theme.accent
+    color: opener.pressed ? Theme.pressed : opener.containsMouse ? Theme.hovered : Theme.group
     activeFocusOnTab: opens
     Accessible.role: opens ? Accessible.Button : Accessible.Grouping
     Accessible.name: title
@@ -28,6 +26,7 @@ Tile {
     Keys.onReturnPressed: presentation.selectTool(tool)
     Keys.onSpacePressed: presentation.selectTool(tool)
 
+    FocusRing { visible: block.activeFocus }
     MouseArea {
         id: opener
 

@@ -6,7 +6,7 @@ import Kestrune.Views
 Flickable {
     id: column
 
-    required property var tiles ///< HomeTile gadgets.
+    required property list<homeTile> tiles
     required property NotchSurroundings surroundings
     required property NotchScreenModel screenModel
     required property NotchPresentation presentation
@@ -25,7 +25,7 @@ Flickable {
         visible: !column.atYEnd
         gradient: Gradient {
             GradientStop { position: 0; color: "transparent" }
-            GradientStop { position: 1; color: "black" }
+            GradientStop { position: 1; color: Theme.ground }
         }
     }
 
@@ -41,7 +41,7 @@ Flickable {
             model: column.tiles
 
             Loader {
-                required property var modelData
+                required property homeTile modelData
 
                 width: blocks.width
                 Component.onCompleted: {

@@ -7,6 +7,7 @@ import Kestrune.Views
 Pane {
     id: pane
 
+    // A list of lists of homeTile.
     readonly property var columns: presentation.homeColumns.filter(tiles => tiles.length > 0)
 
     PaneMessage {
@@ -27,7 +28,7 @@ Pane {
             model: pane.columns
 
             HomeColumn {
-                required property var modelData
+                required property var modelData // One of these lists.
 
                 width: row.width / pane.columns.length
                 height: row.height

@@ -26,13 +26,11 @@ NotchPresentation::NotchPresentation(NotchScreenModel &model, NotchServices &ser
     connect(&services, &NotchServices::activityToolChanged, this, &NotchPresentation::activityFileChanged);
 }
 
-QVariantList NotchPresentation::toolRow() const
+QList<ToolEntry> NotchPresentation::toolRow() const
 {
-    QVariantList row;
-    for (const NotchTool tool : m_services.settings()->tools()) {
-        row.append(
-            QVariantMap{{QStringLiteral("title"), title(tool)}, {QStringLiteral("symbol"), symbol(tool)}});
-    }
+    QList<ToolEntry> row;
+    for (const NotchTool tool : m_services.settings()->tools())
+        row.append({title(tool), symbol(tool)});
     return row;
 }
 
@@ -71,10 +69,10 @@ QVariantList NotchPresentation::homeColumns() const
 {
     QVariantList columns;
     for (const HomeColumn column : {HomeColumn::left, HomeColumn::center, HomeColumn::right}) {
-        QVariantList tiles;
+        QList<HomeTile> tiles;
         for (const HomeWidget widget : m_services.settings()->widgets(column))
-            tiles.append(QVariant::fromValue(tileOf(widget)));
-        columns.append(QVariant(tiles));
+            tiles.append(tileOf(widget));
+        columns.append(QVariant::fromValue(tiles));
     }
     return columns;
 }

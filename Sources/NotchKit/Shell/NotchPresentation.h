@@ -24,6 +24,19 @@ public:
     ToolModel *model = nullptr;
 };
 
+/// One button of the row of tools.
+struct ToolEntry
+{
+    Q_GADGET
+    QML_VALUE_TYPE(toolEntry)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(QString symbol MEMBER symbol)
+
+public:
+    QString title; ///< In the user's language.
+    QString symbol;
+};
+
 /// What the notch view shows, worked out from the screen model, the hub and the catalogue. It keeps no
 /// state of its own.
 class NotchPresentation : public QObject
@@ -31,8 +44,8 @@ class NotchPresentation : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made for each notch window")
-    /// The offered tools in order: maps with "title" and "symbol".
-    Q_PROPERTY(QVariantList toolRow READ toolRow NOTIFY toolRowChanged)
+    /// The offered tools in order.
+    Q_PROPERTY(QList<Kestrune::ToolEntry> toolRow READ toolRow NOTIFY toolRowChanged)
     /// The selected tool's place in the row, -1 when it is not in it.
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
     Q_PROPERTY(QString paneTitle READ paneTitle NOTIFY selectionChanged)
@@ -52,7 +65,7 @@ class NotchPresentation : public QObject
 public:
     NotchPresentation(NotchScreenModel &model, NotchServices &services, QObject *parent = nullptr);
 
-    QVariantList toolRow() const;
+    QList<ToolEntry> toolRow() const;
     int selectedIndex() const;
     QString paneTitle() const;
     QString paneFile() const;

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Window
 import Kestrune.Views
 
 /// A small alert with one button.
-Window {
+DesktopWindow {
     id: alert
 
     required property string message
@@ -17,7 +16,6 @@ Window {
     maximumHeight: height
     flags: Qt.Dialog | Qt.WindowStaysOnTopHint
     modality: Qt.ApplicationModal
-    color: "#1c1c1e"
     title: "Kestrune"
 
     Column {
@@ -26,20 +24,18 @@ Window {
         anchors { left: parent.left; right: parent.right; verticalCenter: parent.verticalCenter; margins: 20 }
         spacing: 8
 
-        Text {
+        FormLabel {
             width: parent.width
             text: alert.message
-            font.pixelSize: 14
+            font.pixelSize: Theme.window.largeFontSize
             font.weight: Font.DemiBold
-            color: Theme.text
             wrapMode: Text.WordWrap
             horizontalAlignment: Text.AlignHCenter
         }
-        Text {
+        FormLabel {
             width: parent.width
             text: alert.details
-            font.pixelSize: 12
-            color: Theme.dim
+            color: Theme.window.dim
             wrapMode: Text.WordWrap
             horizontalAlignment: Text.AlignHCenter
         }
@@ -52,6 +48,7 @@ Window {
 
                 anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
                 width: 120
+                look: Theme.window
                 prominent: true
                 focus: true
                 text: qsTranslate("notch", "OK")

@@ -2,18 +2,13 @@ import QtQuick
 import Kestrune.Views
 
 /// One tool of the row; the highlight of the selected one is drawn by the row.
-ButtonBase {
+SymbolButton {
     id: control
 
-    required property string symbol
     property bool selected: false
 
-    implicitHeight: 28
+    plain: false
     Accessible.role: Accessible.PageTab
     Accessible.selected: selected
-    contentItem: Symbol {
-        name: control.symbol
-        size: 16
-        color: control.selected || control.hovered ? Theme.text : Theme.dim
-    }
+    ink: selected || hovered ? look.text : look.dim
 }

@@ -25,7 +25,7 @@ Item {
             model: row.presentation.toolRow
 
             ToolButton {
-                required property var modelData
+                required property toolEntry modelData
                 required property int index
 
                 implicitWidth: row.buttonWidth
@@ -44,7 +44,7 @@ Item {
         y: tools.y
         width: row.buttonWidth
         height: 28
-        radius: Theme.buttonRadius
+        radius: Theme.controlRadius
         color: Theme.highlighted
         visible: row.presentation.selectedIndex >= 0
         z: -1
@@ -69,7 +69,6 @@ Item {
         implicitHeight: 28
         plain: true
         text: row.presentation.creditTitle
-        help: text
         Accessible.role: Accessible.Link
         onClicked: row.presentation.openCredit()
         contentItem: Text {
@@ -78,7 +77,7 @@ Item {
             leftPadding: 8
             rightPadding: 8
             text: credit.text
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             font.underline: credit.hovered
             color: credit.hovered ? Theme.text : Theme.dim
             horizontalAlignment: Text.AlignLeft

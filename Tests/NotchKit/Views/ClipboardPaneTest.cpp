@@ -130,7 +130,7 @@ void ClipboardPaneTest::messages()
     stage.core.settings.setClipboardHistory(false);
     QTRY_COMPARE(stage.message(), QStringLiteral("Clipboard history is off."));
     stage.core.settings.setClipboardHistory(true);
-    const auto buttons = stage.all(stage.pane, QStringLiteral("HeaderButton"));
+    const auto buttons = stage.all(stage.pane, QStringLiteral("SymbolButton"));
     QCOMPARE(buttons.size(), 1);
     stage.click(buttons.first());
     QVERIFY(stage.clipboard.items().isEmpty());

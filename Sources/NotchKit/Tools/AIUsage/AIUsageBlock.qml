@@ -28,7 +28,7 @@ HomeBlock {
             width: parent.width
             visible: !figures.codexOn && !figures.claudeOn
             text: qsTranslate("notch", "Connect Codex or Claude Code to see your limits.")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap

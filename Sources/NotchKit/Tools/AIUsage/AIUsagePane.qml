@@ -38,7 +38,7 @@ Pane {
                 model: figures.codexWindows
 
                 UsageLimit {
-                    required property var modelData
+                    required property usageLine modelData
 
                     width: parent.width
                     line: modelData
@@ -47,7 +47,7 @@ Pane {
             Text {
                 width: parent.width
                 text: figures.codexUpdated
-                font.pixelSize: 11
+                font.pixelSize: Theme.smallFontSize
                 color: Theme.dim
                 horizontalAlignment: Text.AlignLeft
                 elide: Text.ElideRight
@@ -71,7 +71,7 @@ Pane {
                 Text {
                     anchors { left: parent.left; right: tokens.left; rightMargin: 8; baseline: tokens.baseline }
                     text: figures.claudeBlock.title
-                    font.pixelSize: 12
+                    font.pixelSize: Theme.fontSize
                     color: Theme.dim
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
@@ -81,7 +81,7 @@ Pane {
 
                     anchors.right: parent.right
                     text: figures.claudeTokens
-                    font.pixelSize: 14
+                    font.pixelSize: Theme.titleFontSize
                     font.weight: Font.DemiBold
                     color: Theme.text
                 }
@@ -103,7 +103,7 @@ Pane {
 
                         anchors { left: parent.left; right: resets.left; rightMargin: 8 }
                         text: figures.claudeBlock.text
-                        font.pixelSize: 11
+                        font.pixelSize: Theme.smallFontSize
                         color: Theme.dim
                         horizontalAlignment: Text.AlignLeft
                         elide: Text.ElideRight
@@ -113,7 +113,7 @@ Pane {
 
                         anchors.right: parent.right
                         text: figures.claudeBlock.resets
-                        font.pixelSize: 11
+                        font.pixelSize: Theme.smallFontSize
                         color: Theme.dim
                     }
                 }
@@ -125,7 +125,7 @@ Pane {
                 Text {
                     anchors.left: parent.left
                     text: qsTranslate("notch", "Last 7 days")
-                    font.pixelSize: 12
+                    font.pixelSize: Theme.fontSize
                     color: Theme.dim
                 }
                 DailyBars {
@@ -145,12 +145,12 @@ Pane {
         Text {
             anchors { left: parent.left; right: again.left; verticalCenter: parent.verticalCenter }
             text: qsTranslate("notch", "Nothing leaves your Mac.")
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
-        HeaderButton {
+        SymbolButton {
             id: again
 
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
@@ -159,7 +159,6 @@ Pane {
             enabled: !pane.usage.loading
             symbol: "arrow.clockwise"
             help: qsTranslate("notch", "Read again")
-            tipBelow: false
             onClicked: pane.usage.refresh(true)
         }
     }

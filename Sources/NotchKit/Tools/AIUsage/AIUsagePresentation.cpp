@@ -138,18 +138,17 @@ UsageLine AIUsagePresentation::blockLine(const AIUsageModel::Claude &claude) con
             resetText(end)};
 }
 
-QVariantList AIUsagePresentation::dayBars(const AIUsageModel::Claude &claude) const
+QList<UsageDay> AIUsagePresentation::dayBars(const AIUsageModel::Claude &claude) const
 {
     const qint64 most = std::max<qint64>(*std::ranges::max_element(claude.dailyTokens), 1);
     const QLocale locale;
     QDate day = m_surroundings->now().toLocalTime().date().addDays(1 - AIUsageModel::Claude::kDays);
-    QVariantList days;
+    QList<UsageDay> days;
     for (const qint64 ofDay : claude.dailyTokens) {
         const QString name = locale.standaloneDayName(day.dayOfWeek());
-        days.append(QVariantMap{
-            {QStringLiteral("fraction"), static_cast<double>(ofDay) / static_cast<double>(most)},
-            {QStringLiteral("letter"), locale.standaloneDayName(day.dayOfWeek(), QLocale::NarrowFormat)},
-            {QStringLiteral("help"), name + QLatin1String(": ") + tokensText(ofDay)}});
+        days.append({static_cast<double>(ofDay) / static_cast<double>(most),
+                     locale.standaloneDayName(day.dayOfWeek(), QLocale::NarrowFormat),
+                     name + QLatin1String(": ") + tokensText(ofDay)});
         day = day.addDays(1);
     }
     return days;

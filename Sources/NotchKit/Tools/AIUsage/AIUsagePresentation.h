@@ -31,6 +31,23 @@ public:
     bool operator==(const UsageLine &) const = default;
 };
 
+/// One day's bar.
+struct UsageDay
+{
+    Q_GADGET
+    QML_VALUE_TYPE(usageDay)
+    Q_PROPERTY(double fraction MEMBER fraction)
+    Q_PROPERTY(QString letter MEMBER letter)
+    Q_PROPERTY(QString help MEMBER help)
+
+public:
+    double fraction = 0; ///< Of the busiest day.
+    QString letter;      ///< Of the weekday.
+    QString help;        ///< "Monday: 1,000 tokens".
+
+    bool operator==(const UsageDay &) const = default;
+};
+
 /// The texts and numbers of the AI usage pane and of its Home block, worked out from the model and the
 /// settings. Times are those of the user's clock, in the user's language.
 class AIUsagePresentation : public QObject, public QQmlParserStatus
@@ -51,8 +68,8 @@ class AIUsagePresentation : public QObject, public QQmlParserStatus
     Q_PROPERTY(QString codexUpdated READ codexUpdated NOTIFY changed)
     Q_PROPERTY(QString claudeTokens READ claudeTokens NOTIFY changed)
     Q_PROPERTY(Kestrune::UsageLine claudeBlock READ claudeBlock NOTIFY changed)
-    /// The last seven days, oldest first: maps with "fraction" of the busiest day, "letter" and "help".
-    Q_PROPERTY(QVariantList days READ days NOTIFY changed)
+    /// The last seven days, oldest first.
+    Q_PROPERTY(QList<Kestrune::UsageDay> days READ days NOTIFY changed)
 
 public:
     using QObject::QObject;
@@ -70,7 +87,7 @@ public:
     QString codexUpdated() const { return m_shown.codexUpdated; }
     QString claudeTokens() const { return m_shown.claudeTokens; }
     UsageLine claudeBlock() const { return m_shown.claudeBlock; }
-    QVariantList days() const { return m_shown.days; }
+    QList<UsageDay> days() const { return m_shown.days; }
 
     /// A short local time: "14:30"; with the weekday on another day, "Mon 14:30"; with the date when that
     /// weekday is more than six days away.
@@ -94,7 +111,7 @@ private:
         QString codexUpdated;
         QString claudeTokens;
         UsageLine claudeBlock;
-        QVariantList days;
+        QList<UsageDay> days;
 
         bool operator==(const Shown &) const = default;
     };
@@ -104,7 +121,7 @@ private:
     void addClaude(Shown &shown) const;
     UsageLine line(const QString &title, const UsageWindow &window) const;
     UsageLine blockLine(const AIUsageModel::Claude &claude) const;
-    QVariantList dayBars(const AIUsageModel::Claude &claude) const;
+    QList<UsageDay> dayBars(const AIUsageModel::Claude &claude) const;
     QString resetText(const std::optional<QDateTime> &time) const;
     QString timeText(const QDateTime &time) const;
 

@@ -5,8 +5,7 @@ import Kestrune.Views
 Row {
     id: bars
 
-    /// Maps with "fraction" of the height, "letter" and "help".
-    required property var days
+    required property list<usageDay> days
 
     height: 68
     spacing: 6
@@ -17,7 +16,7 @@ Row {
         Item {
             id: day
 
-            required property var modelData
+            required property usageDay modelData
             required property int index
 
             readonly property bool isToday: index === bars.days.length - 1
@@ -31,14 +30,14 @@ Row {
                 anchors { left: parent.left; right: parent.right; bottom: letter.top; bottomMargin: 4 }
                 height: Math.max(3, day.modelData.fraction * (bars.height - letter.height - 4))
                 radius: 3
-                color: day.isToday ? Theme.accent : area.containsMouse ? Theme.dim : Qt.rgba(1, 1, 1, 0.3)
+                color: day.isToday ? Theme.accent : area.containsMouse ? Theme.dim : Theme.faded
             }
             Text {
                 id: letter
 
                 anchors { bottom: parent.bottom; horizontalCenter: parent.horizontalCenter }
                 text: day.modelData.letter
-                font.pixelSize: 10
+                font.pixelSize: Theme.tinyFontSize
                 color: day.isToday ? Theme.text : Theme.dim
                 Accessible.ignored: true
             }

@@ -11,7 +11,7 @@ Rectangle {
     implicitWidth: 120
     implicitHeight: 6
     radius: height / 2
-    color: Qt.rgba(1, 1, 1, 0.12)
+    color: Theme.groove
     Accessible.role: Accessible.ProgressBar
     Accessible.name: UsageGauge.percent(fraction)
 

@@ -7,7 +7,7 @@ Column {
 
     required property string title
     required property string hint
-    required property var lines
+    required property list<usageLine> lines
 
     spacing: 8
 
@@ -19,7 +19,7 @@ Column {
         Text {
             width: parent.width
             text: brief.title
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.text
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
@@ -27,7 +27,7 @@ Column {
         Text {
             width: parent.width
             text: brief.hint
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
@@ -42,7 +42,7 @@ Column {
         Column {
             id: line
 
-            required property var modelData
+            required property usageLine modelData
             required property int index
 
             width: brief.width
@@ -55,7 +55,7 @@ Column {
                 Text {
                     anchors { left: parent.left; right: value.left; rightMargin: 8 }
                     text: line.index === 0 ? brief.title : line.modelData.title
-                    font.pixelSize: 12
+                    font.pixelSize: Theme.fontSize
                     color: line.index === 0 ? Theme.text : Theme.dim
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
@@ -65,7 +65,7 @@ Column {
 
                     anchors.right: parent.right
                     text: line.modelData.brief
-                    font.pixelSize: 12
+                    font.pixelSize: Theme.fontSize
                     color: Theme.dim
                 }
             }

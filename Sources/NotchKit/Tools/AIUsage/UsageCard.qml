@@ -41,9 +41,9 @@ Tile {
         Text {
             anchors { left: parent.left; right: parent.right; top: parent.top; bottom: button.top; bottomMargin: 8 }
             text: card.on ? card.hint : card.explanation
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             lineHeight: 1.2
-            color: Qt.rgba(1, 1, 1, 0.7)
+            color: Theme.quiet
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
             wrapMode: Text.WordWrap

@@ -9,7 +9,7 @@ import Kestrune.Views
 Column {
     id: limit
 
-    required property var line
+    required property usageLine line
 
     spacing: 6
 
@@ -20,7 +20,7 @@ Column {
         Text {
             anchors { left: parent.left; right: value.left; rightMargin: 8 }
             text: limit.line.title
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
@@ -31,7 +31,7 @@ Column {
             anchors.right: parent.right
             width: Math.min(implicitWidth, parent.width)
             text: limit.line.text
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.text
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
@@ -45,7 +45,7 @@ Column {
         width: parent.width
         visible: text !== ""
         text: limit.line.resets
-        font.pixelSize: 11
+        font.pixelSize: Theme.smallFontSize
         color: Theme.dim
         horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight

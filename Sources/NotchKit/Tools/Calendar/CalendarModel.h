@@ -63,7 +63,7 @@ class CalendarModel : public ToolModel
     Q_PROPERTY(QList<Kestrune::CalendarItem> items READ items NOTIFY itemsChanged)
     /// By when they are due, those without a time last.
     Q_PROPERTY(QList<Kestrune::CalendarReminder> reminders READ reminders NOTIFY remindersChanged)
-    /// A CalendarAccess each: 0 not determined, 1 restricted, 2 denied, 3 full.
+    /// An Access each.
     Q_PROPERTY(int status READ status NOTIFY statusChanged)
     Q_PROPERTY(int reminderStatus READ reminderStatus NOTIFY reminderStatusChanged)
     /// Whether the first answers are in: until then there is nothing to say about what is empty.
@@ -71,6 +71,15 @@ class CalendarModel : public ToolModel
     Q_PROPERTY(bool remindersKnown READ remindersKnown NOTIFY remindersKnownChanged)
 
 public:
+    /// CalendarAccess, by the names that the views can use.
+    enum Access {
+        NotDetermined = int(CalendarAccess::notDetermined),
+        Restricted = int(CalendarAccess::restricted),
+        Denied = int(CalendarAccess::denied),
+        Full = int(CalendarAccess::full)
+    };
+    Q_ENUM(Access)
+
     using Item = CalendarItem;
     using Items = QList<CalendarItem>;
     using Reminder = CalendarReminder;

@@ -29,7 +29,7 @@ Pane {
         listName: "items"
         onAllowed: pane.calendar.requestAccess()
         delegate: EventRow {
-            required property var modelData
+            required property calendarItem modelData
 
             transform: Translate { x: Theme.mirrored ? 12 : 8 } // Qt 6.8 sets x to 0
             width: ListView.view.width - 20
@@ -52,7 +52,7 @@ Pane {
         listName: "reminders"
         onAllowed: pane.calendar.requestReminderAccess()
         delegate: ReminderRow {
-            required property var modelData
+            required property calendarReminder modelData
             required property int index
 
             transform: Translate { x: Theme.mirrored ? 12 : 8 } // Qt 6.8 sets x to 0

@@ -11,7 +11,7 @@ Tile {
     required property NotchSurroundings surroundings
     required property string title
     required property string symbol
-    required property int status
+    required property int status // A CalendarModel.Access.
     required property bool known
     required property string allowTitle
     required property string anchor
@@ -33,7 +33,7 @@ Tile {
         id: list
 
         anchors { fill: parent; topMargin: 36; leftMargin: 4; rightMargin: 4; bottomMargin: 8 }
-        visible: section.status === 3
+        visible: section.status === CalendarModel.Full
         clip: true
         spacing: 4
         boundsBehavior: Flickable.StopAtBounds
@@ -52,9 +52,9 @@ Tile {
     }
     Text {
         anchors { left: parent.left; right: parent.right; top: parent.top; margins: 12; topMargin: 40 }
-        visible: section.known && section.status === 3 && rows.count === 0
+        visible: section.known && section.status === CalendarModel.Full && rows.count === 0
         text: section.emptyText
-        font.pixelSize: 12
+        font.pixelSize: Theme.fontSize
         color: Theme.dim
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.WordWrap
@@ -62,7 +62,7 @@ Tile {
     AccessButton {
         anchors.leftMargin: 12
         y: 42
-        visible: section.known && section.status !== 3
+        visible: section.known && section.status !== CalendarModel.Full
         surroundings: section.surroundings
         status: section.status
         allowTitle: section.allowTitle

@@ -8,7 +8,7 @@ import Kestrune.Views
 Item {
     id: row
 
-    required property var item
+    required property calendarItem item
     required property date now
 
     implicitHeight: 32
@@ -32,7 +32,7 @@ Item {
             width: parent.width
             text: row.item.title
             textFormat: Text.PlainText
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.text
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
@@ -44,7 +44,7 @@ Item {
 
             width: parent.width
             text: CalendarFormat.when(row.item.start, row.item.allDay, row.now)
-            font.pixelSize: 10
+            font.pixelSize: Theme.tinyFontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight

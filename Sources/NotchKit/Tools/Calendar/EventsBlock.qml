@@ -7,7 +7,7 @@ HomeBlock {
 
     required property CalendarModel model
     readonly property CalendarModel calendar: model
-    readonly property bool allowed: calendar.status === 3
+    readonly property bool allowed: calendar.status === CalendarModel.Full
     readonly property date now: shown ? surroundings.now : new Date(0)
 
     title: qsTranslate("notch", "Today's events")
@@ -31,7 +31,7 @@ HomeBlock {
             width: parent.width
             visible: block.allowed && block.calendar.eventsKnown && today.events.length === 0
             text: qsTranslate("notch", "Nothing else today.")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
@@ -48,7 +48,7 @@ HomeBlock {
             model: block.allowed ? today.events.slice(0, 3) : []
 
             EventRow {
-                required property var modelData
+                required property calendarItem modelData
 
                 width: parent.width
                 item: modelData

@@ -5,7 +5,7 @@ import Kestrune.Views
 Item {
     id: row
 
-    required property var reminder
+    required property calendarReminder reminder
     required property date now
     readonly property bool focused: complete.activeFocus
     property alias tipBelow: complete.tipBelow
@@ -24,24 +24,21 @@ Item {
         height: complete.height
     }
 
-    ButtonBase {
+    SymbolButton {
         id: complete
 
         // so that the circle stands below the title's symbol
         anchors { left: parent.left; leftMargin: -5; verticalCenter: parent.verticalCenter }
         width: 24
         height: 24
+        symbol: "circle"
+        size: 15
+        ink: hovered ? Theme.text : CalendarFormat.visible(row.reminder.color)
         help: qsTranslate("notch", "Complete")
-        plain: true
         radius: 12
         tipAnchor: tipPlace
         Accessible.name: help + ": " + row.reminder.title
         onClicked: row.completed()
-        contentItem: Symbol {
-            name: "circle"
-            size: 15
-            color: complete.hovered ? Theme.text : CalendarFormat.visible(row.reminder.color)
-        }
     }
     Text {
         anchors {
@@ -53,7 +50,7 @@ Item {
         }
         text: row.reminder.title
         textFormat: Text.PlainText
-        font.pixelSize: 12
+        font.pixelSize: Theme.fontSize
         color: Theme.text
         horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight
@@ -64,7 +61,7 @@ Item {
 
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }
         text: CalendarFormat.due(row.reminder.due, row.now)
-        font.pixelSize: 10
+        font.pixelSize: Theme.tinyFontSize
         color: CalendarFormat.isOverdue(row.reminder.due, row.now) ? Theme.warning : Theme.dim
     }
 }

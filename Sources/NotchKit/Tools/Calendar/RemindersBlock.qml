@@ -7,8 +7,8 @@ HomeBlock {
 
     required property CalendarModel model
     readonly property CalendarModel calendar: model
-    readonly property bool allowed: calendar.reminderStatus === 3
-    readonly property var first: allowed ? calendar.reminders.slice(0, 4) : []
+    readonly property bool allowed: calendar.reminderStatus === CalendarModel.Full
+    readonly property list<calendarReminder> first: allowed ? calendar.reminders.slice(0, 4) : []
     readonly property date now: shown ? surroundings.now : new Date(0)
 
     title: qsTranslate("notch", "Reminders")
@@ -25,7 +25,7 @@ HomeBlock {
             width: parent.width
             visible: block.allowed && block.calendar.remindersKnown && block.first.length === 0
             text: qsTranslate("notch", "All done")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
         }
         AccessButton {
@@ -40,7 +40,7 @@ HomeBlock {
             model: block.first
 
             ReminderRow {
-                required property var modelData
+                required property calendarReminder modelData
                 required property int index
 
                 width: parent.width

@@ -5,9 +5,9 @@ import Kestrune.Views
 ButtonBase {
     id: thumb
 
-    required property var item
+    required property captureItem item
     required property NotchSurroundings surroundings
-    property var thumbnail
+    property var thumbnail // A QImage, or undefined.
     property bool captioned: true
 
     /// The right button, or the keyboard's menu key, at a place within the picture.
@@ -40,7 +40,7 @@ ButtonBase {
             Rectangle {
                 anchors { fill: parent; topMargin: -thumb.radius }
                 radius: thumb.radius
-                color: Qt.rgba(0, 0, 0, 0.72)
+                color: Theme.scrim
             }
             Column {
                 anchors { left: parent.left; right: parent.right; margins: 8; verticalCenter: parent.verticalCenter }
@@ -49,7 +49,7 @@ ButtonBase {
                     width: parent.width
                     text: thumb.item.name
                     textFormat: Text.PlainText
-                    font.pixelSize: 10
+                    font.pixelSize: Theme.tinyFontSize
                     color: Theme.text
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideMiddle
@@ -59,7 +59,7 @@ ButtonBase {
                 Text {
                     width: parent.width
                     text: Format.relativeTime(thumb.item.date, thumb.surroundings.now)
-                    font.pixelSize: 10
+                    font.pixelSize: Theme.tinyFontSize
                     color: Theme.dim
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
@@ -72,8 +72,9 @@ ButtonBase {
         anchors.fill: parent
         radius: thumb.radius
         color: area.pressed ? Theme.pressed : "transparent"
-        border.width: thumb.visualFocus ? 2 : 1
-        border.color: thumb.visualFocus ? Theme.accent : area.containsMouse ? Theme.dim : Theme.hovered
+        border { width: 1; color: area.containsMouse ? Theme.dim : Theme.hovered }
+
+        FocusRing { visible: thumb.visualFocus }
     }
     MouseArea {
         id: area

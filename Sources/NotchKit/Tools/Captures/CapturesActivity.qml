@@ -7,6 +7,7 @@ ActivityWings {
 
     required property CapturesModel model
     readonly property CapturesModel captures: model
+    // A QImage, or undefined.
     readonly property var thumbnail: captures.fresh ? captures.thumbnails[captures.fresh.id] : undefined
 
     Accessible.role: Accessible.StaticText

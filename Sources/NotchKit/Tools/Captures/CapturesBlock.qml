@@ -7,7 +7,7 @@ HomeBlock {
 
     required property CapturesModel model
     readonly property CapturesModel captures: model
-    readonly property var newest: captures.items.slice(0, 3)
+    readonly property list<captureItem> newest: captures.items.slice(0, 3)
 
     title: qsTranslate("notch", "Latest screenshots")
 
@@ -25,7 +25,7 @@ HomeBlock {
             text: block.captures.needsAccess
                 ? Format.namingHost(qsTranslate("notch", "Allow %@ to read your screenshots folder in\nSystem Settings › Privacy & Security › Files and Folders."))
                 : qsTranslate("notch", "Take a screenshot (⇧⌘4) and it appears here.\nDrag it into any app, or right-click for more.")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
@@ -41,7 +41,7 @@ HomeBlock {
                 model: block.newest
 
                 CaptureThumb {
-                    required property var modelData
+                    required property captureItem modelData
 
                     width: (row.width - 2 * row.spacing) / 3
                     height: Math.round(width * 0.66)

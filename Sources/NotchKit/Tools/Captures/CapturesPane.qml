@@ -46,7 +46,7 @@ Pane {
             list: "items"
         }
         delegate: Item {
-            required property var modelData
+            required property captureItem modelData
 
             width: grid.cellWidth
             height: grid.cellHeight
@@ -78,7 +78,7 @@ Pane {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         visible: grid.visible
         text: qsTranslate("notch", "Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.")
-        font.pixelSize: 11
+        font.pixelSize: Theme.smallFontSize
         color: Theme.dim
         horizontalAlignment: Text.AlignHCenter
         elide: Text.ElideRight
@@ -92,8 +92,8 @@ Pane {
     ContextMenu {
         id: menu
 
-        property var item
-        readonly property var actions: [
+        property captureItem item
+        readonly property var actions: [ // Functions.
             () => pane.captures.reveal(item.id),
             () => devices.send([item.url], menu.x, menu.y),
             () => pane.presentation.addToShelf([item.url]),

@@ -5,7 +5,7 @@ import Kestrune.Views
 ButtonBase {
     id: line
 
-    required property var item
+    required property clipboardItem item
     property bool copied: false
 
     help: item.preview
@@ -42,7 +42,7 @@ ButtonBase {
         }
         text: line.copied ? qsTranslate("notch", "Copied") : line.item.preview
         textFormat: Text.PlainText
-        font.pixelSize: 12
+        font.pixelSize: Theme.fontSize
         color: line.copied ? Theme.dim : line.item.isLink ? Theme.accent : Theme.text
         horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight

@@ -7,7 +7,7 @@ import Kestrune.Views
 ButtonBase {
     id: row
 
-    required property var item
+    required property clipboardItem item
     required property NotchSurroundings surroundings
     property bool copied: false
     property bool current: false
@@ -22,8 +22,8 @@ ButtonBase {
     focusPolicy: Qt.NoFocus
     implicitHeight: 42
     background: Rectangle {
-        radius: Theme.buttonRadius
-        color: row.down ? Theme.pressed : row.hovered ? Theme.hovered : row.current ? Theme.faint : "transparent"
+        radius: Theme.controlRadius
+        color: row.down ? Theme.pressed : row.hovered ? Theme.hovered : row.current ? Theme.control : "transparent"
         border.width: row.current ? 1 : 0
         border.color: Theme.highlighted
     }
@@ -35,7 +35,7 @@ ButtonBase {
         width: 30
         height: 30
         radius: 6
-        color: picture.visible ? "transparent" : Theme.faint
+        color: picture.visible ? "transparent" : Theme.control
 
         Symbol {
             anchors.centerIn: parent
@@ -63,8 +63,8 @@ ButtonBase {
         }
         text: row.item.preview
         textFormat: Text.PlainText
-        font.pixelSize: 12
-        color: row.item.isLink ? Theme.accent : "white"
+        font.pixelSize: Theme.fontSize
+        color: row.item.isLink ? Theme.accent : Theme.text
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.Wrap
         maximumLineCount: 2
@@ -77,8 +77,8 @@ ButtonBase {
         anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
         text: row.copied ? qsTranslate("notch", "Copied")
             : row.shown ? Format.relativeTime(row.item.date, row.surroundings.now) : ""
-        font.pixelSize: 10
-        color: Qt.rgba(1, 1, 1, 0.4)
+        font.pixelSize: Theme.tinyFontSize
+        color: Theme.dim
         Accessible.ignored: true
     }
     // No TapHandler: with one the button itself would take the right button for a click.

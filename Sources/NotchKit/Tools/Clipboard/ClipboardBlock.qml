@@ -8,7 +8,7 @@ HomeBlock {
     required property ClipboardModel model
     readonly property ClipboardModel clipboard: model
     readonly property bool historyOn: surroundings.settings.clipboardHistory
-    readonly property var newest: historyOn ? clipboard.items.slice(0, 3) : []
+    readonly property list<clipboardItem> newest: historyOn ? clipboard.items.slice(0, 3) : []
     property string copied: ""
 
     title: qsTranslate("notch", "Latest copies")
@@ -27,7 +27,7 @@ HomeBlock {
             text: block.historyOn
                 ? qsTranslate("notch", "Copy something and it appears here.\nPasswords from password managers are never saved.")
                 : qsTranslate("notch", "Clipboard history is off.\nTurn it on in Settings.")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
@@ -36,7 +36,7 @@ HomeBlock {
             model: block.newest
 
             ClipLine {
-                required property var modelData
+                required property clipboardItem modelData
 
                 x: -4 // so that its symbol stands below the title's
                 width: parent.width + 8

@@ -67,8 +67,9 @@ Pane {
                         list.removeCurrent()
                 }
             }
-            HeaderButton {
+            SymbolButton {
                 anchors.verticalCenter: parent.verticalCenter
+                tipBelow: true
                 symbol: "trash"
                 help: qsTranslate("notch", "Clear history")
                 onClicked: pane.clipboard.clear()
@@ -124,7 +125,7 @@ Pane {
             list: "visible"
         }
         delegate: ClipRow {
-            required property var modelData
+            required property clipboardItem modelData
             required property int index
 
             transform: Translate { x: Theme.mirrored ? 10 : 0 } // beside the bar; Qt 6.8 sets x to 0

@@ -12,7 +12,7 @@ Pane {
         anchors.fill: preview
         visible: preview.visible && !preview.hasPicture
         radius: preview.radius
-        color: Theme.faint
+        color: Theme.group
     }
     CameraPreview {
         id: preview
@@ -20,7 +20,7 @@ Pane {
         anchors { fill: parent; bottomMargin: Theme.gap }
         visible: pane.mirror.state === MirrorModel.Picture || pane.mirror.state === MirrorModel.Waiting
         mirror: pane.mirror
-        radius: Theme.tileRadius
+        radius: Theme.radius
         Accessible.role: Accessible.Graphic
         Accessible.name: qsTranslate("notch", "Mirror")
     }

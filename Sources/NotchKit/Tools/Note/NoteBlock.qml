@@ -20,8 +20,8 @@ HomeBlock {
         Text {
             width: parent.width
             text: block.note === "" ? qsTranslate("notch", "Quick note… it saves as you type.") : block.note
-            font.pixelSize: 12
-            color: block.note === "" ? Qt.rgba(1, 1, 1, 0.35) : Theme.dim
+            font.pixelSize: Theme.fontSize
+            color: block.note === "" ? Theme.faded : Theme.dim
             textFormat: Text.PlainText
             wrapMode: Text.Wrap
             maximumLineCount: 4

@@ -6,7 +6,7 @@ ActivityWings {
     id: activity
 
     required property NowPlayingModel model
-    readonly property var track: model.track
+    readonly property var track: model.track // A PlayingTrack, or undefined.
 
     Accessible.role: Accessible.StaticText
     Accessible.name: qsTranslate("notch", "Now Playing") + " " + (track ? track.title : "")

@@ -54,7 +54,7 @@ Pane {
         Text {
             width: parent.width
             text: (pane.player.permissionDenied ? pane.allowText : pane.emptyText).replace("\n", " ")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap

@@ -13,7 +13,7 @@ Row {
     required property NowPlayingModel model
     required property bool compact
 
-    // The song stays as it was while the view goes.
+    // A PlayingTrack, or undefined. The song stays as it was while the view goes.
     property var track: model.track
 
     spacing: compact ? 12 : 24
@@ -24,7 +24,7 @@ Row {
         width: view.compact ? 78 : 130
         height: width
         radius: view.compact ? 12 : 18
-        color: Theme.faint
+        color: Theme.group
 
         Symbol {
             anchors.centerIn: parent
@@ -81,25 +81,29 @@ Row {
             LayoutMirroring.enabled: false
             spacing: view.compact ? 0 : 8
 
-            TransportButton {
+            component PlayerButton: SymbolButton {
+                size: 17
+                ink: Theme.text
+                implicitWidth: 36
+                implicitHeight: view.compact ? 26 : 32
+            }
+
+            PlayerButton {
                 id: skip
 
                 help: qsTranslate("notch", "Previous")
                 symbol: "backward.fill"
-                compact: view.compact
                 onClicked: view.model.previous()
             }
-            TransportButton {
+            PlayerButton {
                 help: view.track && view.track.playing ? qsTranslate("notch", "Pause") : qsTranslate("notch", "Play")
                 symbol: view.track && view.track.playing ? "pause.fill" : "play.fill"
                 size: view.compact ? 18 : 24
-                compact: view.compact
                 onClicked: view.model.playPause()
             }
-            TransportButton {
+            PlayerButton {
                 help: qsTranslate("notch", "Next")
                 symbol: "forward.fill"
-                compact: view.compact
                 onClicked: view.model.next()
             }
         }

@@ -18,7 +18,7 @@ Pane {
     Rectangle {
         anchors { fill: parent; topMargin: 4; bottomMargin: rows.count > 0 ? actions.height + 8 : 4 }
         visible: pane.screenModel.dropTargeted
-        radius: Theme.tileRadius
+        radius: Theme.radius
         color: "transparent"
         border { width: 1; color: Theme.accent }
     }
@@ -48,7 +48,7 @@ Pane {
             onCountChanged: Qt.callLater(list.positionViewAtEnd)
         }
         delegate: ShelfTile {
-            required property var modelData
+            required property shelfTile modelData
 
             height: ListView.view.height - 12
             tile: modelData

@@ -5,7 +5,7 @@ import Kestrune.Views
 Tile {
     id: view
 
-    required property var tile
+    required property shelfTile tile
     required property NotchSurroundings surroundings
 
     readonly property bool hovered: mouse.containsMouse && !drag.active
@@ -14,9 +14,7 @@ Tile {
     signal menuWanted(real x, real y)
 
     width: 104
-    color: mouse.containsMouse || remove.hovered || drag.active ? Theme.hovered : Theme.faint
-    border.width: activeFocus ? 2 : 0
-    border.color: Theme.accent
+    color: mouse.containsMouse || remove.hovered || drag.active ? Theme.hovered : Theme.group
     activeFocusOnTab: true
     Accessible.role: Accessible.ListItem
     Accessible.name: tile.name
@@ -24,6 +22,7 @@ Tile {
     Keys.onDeletePressed: removed()
     Keys.onMenuPressed: menuWanted(width / 2, height / 2)
 
+    FocusRing { visible: view.activeFocus }
     Item {
         anchors { fill: parent; margins: 8 }
 
@@ -52,7 +51,7 @@ Tile {
             height: 32
             text: view.tile.name
             textFormat: Text.PlainText
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             color: Theme.text
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
@@ -82,28 +81,23 @@ Tile {
             picture: thumbnail.image
         }
     }
-    ButtonBase {
+    SymbolButton {
         id: remove
 
         anchors { right: parent.right; top: parent.top; margins: 2 }
         width: 24
         height: 24
         radius: 12
-        plain: true
         tipBelow: true
         visible: mouse.containsMouse || hovered || view.activeFocus || activeFocus
+        symbol: "xmark.circle.fill"
         help: qsTranslate("notch", "Remove")
         background: Rectangle {
             radius: remove.radius
-            color: Qt.rgba(0, 0, 0, remove.down ? 0.8 : 0.55)
-            border.width: remove.visualFocus ? 2 : 0
-            border.color: Theme.accent
+            color: remove.down ? Theme.ground : Theme.scrim
+
+            FocusRing { visible: remove.visualFocus }
         }
         onClicked: view.removed()
-        contentItem: Symbol {
-            name: "xmark.circle.fill"
-            size: 16
-            color: remove.hovered ? Theme.text : Theme.dim
-        }
     }
 }

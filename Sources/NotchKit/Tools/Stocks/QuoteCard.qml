@@ -5,7 +5,7 @@ import Kestrune.Views
 Tile {
     id: card
 
-    required property var quote
+    required property stockQuote quote
     readonly property bool tall: height >= 76
 
     Accessible.role: Accessible.StaticText
@@ -21,7 +21,7 @@ Tile {
         Text {
             width: parent.width
             text: card.quote.symbol
-            font.pixelSize: 13
+            font.pixelSize: Theme.largeFontSize
             font.weight: Font.DemiBold
             color: Theme.text
             horizontalAlignment: Text.AlignLeft
@@ -32,7 +32,7 @@ Tile {
             width: parent.width
             visible: text !== card.quote.symbol
             text: card.quote.name
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
@@ -52,7 +52,7 @@ Tile {
 
             width: parent.width
             text: QuoteFormat.price(card.quote.price)
-            font.pixelSize: 13
+            font.pixelSize: Theme.largeFontSize
             color: Theme.text
             horizontalAlignment: Text.AlignRight
             fontSizeMode: Text.HorizontalFit
@@ -64,7 +64,7 @@ Tile {
 
             width: parent.width
             text: QuoteFormat.change(card.quote.change)
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             color: card.quote.change < 0 ? Theme.bad : Theme.good
             horizontalAlignment: Text.AlignRight
             elide: Text.ElideRight

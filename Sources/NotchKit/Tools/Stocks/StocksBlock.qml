@@ -8,7 +8,7 @@ HomeBlock {
     required property StocksModel model
     readonly property StocksModel stocks: model
     readonly property bool empty: surroundings.settings.tickers.length === 0
-    readonly property var first: empty ? [] : stocks.quotes.slice(0, 4)
+    readonly property list<stockQuote> first: empty ? [] : stocks.quotes.slice(0, 4)
 
     title: qsTranslate("notch", "Stocks")
 
@@ -27,7 +27,7 @@ HomeBlock {
                 : block.first.length > 0 ? ""
                 : block.stocks.failed.length > 0 ? QuoteFormat.notFound(block.stocks.failed)
                 : "–"
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
@@ -40,7 +40,7 @@ HomeBlock {
             Item {
                 id: row
 
-                required property var modelData
+                required property stockQuote modelData
 
                 width: parent.width
                 height: 18
@@ -48,7 +48,7 @@ HomeBlock {
                 Text {
                     anchors { left: parent.left; right: line.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
                     text: row.modelData.symbol
-                    font.pixelSize: 12
+                    font.pixelSize: Theme.fontSize
                     font.weight: Font.DemiBold
                     color: Theme.text
                     horizontalAlignment: Text.AlignLeft
@@ -70,7 +70,7 @@ HomeBlock {
                     width: Math.max(implicitWidth, 56)
                     text: QuoteFormat.price(row.modelData.price)
                     horizontalAlignment: Text.AlignRight
-                    font.pixelSize: 12
+                    font.pixelSize: Theme.fontSize
                     color: Theme.text
                 }
                 Text {
@@ -79,7 +79,7 @@ HomeBlock {
                     anchors { right: parent.right; verticalCenter: parent.verticalCenter }
                     width: Math.max(implicitWidth, 46)
                     text: QuoteFormat.change(row.modelData.change)
-                    font.pixelSize: 11
+                    font.pixelSize: Theme.smallFontSize
                     color: row.modelData.change < 0 ? Theme.bad : Theme.good
                     horizontalAlignment: Text.AlignRight
                 }

@@ -79,7 +79,7 @@ Pane {
             key: "symbol"
         }
         delegate: Item {
-            required property var modelData
+            required property stockQuote modelData
 
             width: grid.cellWidth
             height: grid.cellHeight
@@ -98,7 +98,7 @@ Pane {
         height: 20
         visible: !pane.empty && pane.stocks.failed.length > 0
         text: QuoteFormat.notFound(pane.stocks.failed)
-        font.pixelSize: 11
+        font.pixelSize: Theme.smallFontSize
         color: Theme.warning
         horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
@@ -114,7 +114,7 @@ Pane {
         Text {
             anchors { left: parent.left; right: busy.left; verticalCenter: parent.verticalCenter }
             text: qsTranslate("notch", "Delayed quotes from Yahoo Finance.")
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight

@@ -8,7 +8,7 @@ import Kestrune.Views
 Item {
     id: row
 
-    required property var line
+    required property var line // A systemLine; undefined while their number shrinks.
     property int textSize: 12
 
     implicitHeight: column.implicitHeight

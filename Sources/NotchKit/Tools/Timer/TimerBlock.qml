@@ -27,7 +27,8 @@ HomeBlock {
             size: 20
             shown: block.shown
         }
-        HeaderButton {
+        SymbolButton {
+            tipBelow: true
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             symbol: block.timer.isRunning ? "pause.fill" : "play.fill"

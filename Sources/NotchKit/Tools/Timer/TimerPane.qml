@@ -45,7 +45,7 @@ Pane {
         Text {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTranslate("notch", "The time stays visible beside the closed notch.")
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             color: Theme.dim
         }
     }

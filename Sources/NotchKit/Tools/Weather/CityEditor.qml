@@ -20,7 +20,7 @@ FocusScope {
             anchors.horizontalCenter: parent.horizontalCenter
             name: "cloud.sun"
             size: 30
-            color: Qt.rgba(1, 1, 1, 0.5)
+            color: Theme.dim
         }
         Row {
             spacing: Theme.gap

@@ -29,7 +29,7 @@ HomeBlock {
             width: parent.width
             visible: !block.weather.hasPlace
             text: qsTranslate("notch", "Choose a city to see its weather.")
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap
@@ -61,7 +61,7 @@ HomeBlock {
                 Text {
                     width: parent.width
                     text: figures.city
-                    font.pixelSize: 12
+                    font.pixelSize: Theme.fontSize
                     color: Theme.text
                     horizontalAlignment: Text.AlignRight
                     elide: Text.ElideRight
@@ -69,7 +69,7 @@ HomeBlock {
                 Text {
                     width: parent.width
                     text: figures.range
-                    font.pixelSize: 12
+                    font.pixelSize: Theme.fontSize
                     color: Theme.dim
                     horizontalAlignment: Text.AlignRight
                     elide: Text.ElideRight
@@ -80,7 +80,7 @@ HomeBlock {
             width: parent.width
             visible: block.weather.hasPlace && block.weather.error !== ""
             text: block.weather.error
-            font.pixelSize: 11
+            font.pixelSize: Theme.smallFontSize
             color: Theme.warning
             horizontalAlignment: Text.AlignLeft
             wrapMode: Text.WordWrap

@@ -18,7 +18,7 @@ Tile {
         Text {
             width: parent.width
             text: tile.day.label
-            font.pixelSize: 12
+            font.pixelSize: Theme.fontSize
             font.weight: Font.DemiBold
             color: tile.day.today ? Theme.text : Theme.dim
             horizontalAlignment: Text.AlignHCenter
@@ -37,14 +37,14 @@ Tile {
 
             Text {
                 text: tile.day.high
-                font.pixelSize: 13
+                font.pixelSize: Theme.largeFontSize
                 font.weight: Font.Medium
                 color: Theme.text
                 Accessible.ignored: true
             }
             Text {
                 text: tile.day.low
-                font.pixelSize: 13
+                font.pixelSize: Theme.largeFontSize
                 color: Theme.dim
                 Accessible.ignored: true
             }

@@ -58,7 +58,7 @@ Pane {
         height: visible ? 22 : 0
         visible: text !== ""
         text: pane.weather.error
-        font.pixelSize: 12
+        font.pixelSize: Theme.fontSize
         color: Theme.warning
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
@@ -117,9 +117,10 @@ Pane {
                         horizontalAlignment: Text.AlignLeft
                         elide: Text.ElideRight
                     }
-                    HeaderButton {
+                    SymbolButton {
                         id: pencil
 
+                        tipBelow: true
                         symbol: "pencil"
                         help: qsTranslate("notch", "Change city")
                         onClicked: pane.change()
@@ -128,7 +129,7 @@ Pane {
                 Text {
                     width: parent.width
                     text: figures.wind
-                    font.pixelSize: 12
+                    font.pixelSize: Theme.fontSize
                     color: Theme.dim
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
@@ -146,7 +147,7 @@ Pane {
                 model: figures.days
 
                 WeatherDayTile {
-                    required property var modelData
+                    required property weatherDayFigures modelData
 
                     width: (week.width - 6 * week.spacing) / 7
                     height: week.height
@@ -162,7 +163,7 @@ Pane {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         height: 24
         text: qsTranslate("notch", "Forecast by Open-Meteo. Only the city's coordinates are sent.")
-        font.pixelSize: 11
+        font.pixelSize: Theme.smallFontSize
         color: Theme.dim
         horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter

@@ -6,14 +6,14 @@ TextButton {
     id: button
 
     required property NotchSurroundings surroundings
-    required property int status
+    required property int status // A CalendarModel.Access.
     required property string allowTitle
     required property string anchor
 
     signal allowed
 
     anchors.left: parent.left
-    text: status === 0 ? allowTitle : qsTranslate("notch", "Open Settings")
+    text: status === CalendarModel.NotDetermined ? allowTitle : qsTranslate("notch", "Open Settings")
     prominent: true
-    onClicked: status === 0 ? button.allowed() : surroundings.openPrivacy(anchor)
+    onClicked: status === CalendarModel.NotDetermined ? button.allowed() : surroundings.openPrivacy(anchor)
 }
