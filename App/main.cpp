@@ -2,6 +2,7 @@
 #include "Async/Threads.h"
 #include "CommandLine.h"
 #include "LocalServices.h"
+#include "Log.h"
 #include "NotchKit/NotchStrings.h"
 #include "SingleInstance.h"
 #include "Watchdog.h"
@@ -114,6 +115,7 @@ int runProgram(int argc, char *argv[], const QStringList &arguments)
     TemporaryEnvironment environment = setUpPlatform(*windows);
     QGuiApplication application(argc, argv);
     environment.restore();
+    qCInfo(appLog, "version " KESTRUNE_VERSION ", windows by %s", windows->qtPlatform);
     QGuiApplication::setQuitOnLastWindowClosed(false);
     setUpFont();
     setUpDirection();
@@ -124,6 +126,7 @@ int runProgram(int argc, char *argv[], const QStringList &arguments)
     std::unique_ptr<Application> program;
     instance.claim([&](SingleInstance::Outcome outcome) {
         if (outcome == SingleInstance::Outcome::second) {
+            qCInfo(appLog, "one is running already: it is handed the request");
             const QString tool = request.tool ? rawValue(*request.tool) : QString();
             instance.handOver(tool, [](bool taken) {
                 if (!taken)
