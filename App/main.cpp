@@ -99,7 +99,7 @@ void setUpFont()
 /// The views are turned around where the language is written from right to left.
 void setUpDirection() { QGuiApplication::setLayoutDirection(QLocale(notchLanguage()).textDirection()); }
 
-int runProgram(int argc, char *argv[], const QStringList &arguments)
+int runProgram(int argc, char *argv[], const LaunchRequest &request)
 {
     setUpMemory();
     if (!LocalServices::isEnvironmentValid()) {
@@ -120,7 +120,6 @@ int runProgram(int argc, char *argv[], const QStringList &arguments)
     setUpFont();
     setUpDirection();
 
-    const LaunchRequest request = LaunchRequest::parse(arguments);
     const QDBusConnection bus = QDBusConnection::sessionBus();
     SingleInstance instance(bus);
     std::unique_ptr<Application> program;
@@ -164,7 +163,7 @@ int main(int argc, char *argv[])
         arguments.append(QString::fromLocal8Bit(argv[i]));
     const CommandLine command = CommandLine::parse(arguments);
     if (command.verb == CommandLine::Verb::start)
-        return runProgram(argc, argv, arguments);
+        return runProgram(argc, argv, command.launch);
     const QCoreApplication application(argc, argv);
     return runCommand(command);
 }
