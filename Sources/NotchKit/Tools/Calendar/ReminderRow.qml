@@ -31,6 +31,7 @@ Item {
         anchors { left: parent.left; leftMargin: -5; verticalCenter: parent.verticalCenter }
         width: 24
         height: 24
+        //: A verb, on the circle before a reminder: mark it as done.
         help: qsTranslate("notch", "Complete")
         plain: true
         radius: 12

@@ -84,6 +84,7 @@ Row {
             TransportButton {
                 id: skip
 
+                //: The previous song.
                 help: qsTranslate("notch", "Previous")
                 symbol: "backward.fill"
                 compact: view.compact
@@ -97,6 +98,7 @@ Row {
                 onClicked: view.model.playPause()
             }
             TransportButton {
+                //: The next song.
                 help: qsTranslate("notch", "Next")
                 symbol: "forward.fill"
                 compact: view.compact

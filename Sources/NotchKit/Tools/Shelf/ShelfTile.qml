@@ -92,6 +92,7 @@ Tile {
         plain: true
         tipBelow: true
         visible: mouse.containsMouse || hovered || view.activeFocus || activeFocus
+        //: Take a file off the shelf; the file itself stays where it is.
         help: qsTranslate("notch", "Remove")
         background: Rectangle {
             radius: remove.radius

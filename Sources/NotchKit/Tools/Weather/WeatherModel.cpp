@@ -179,6 +179,7 @@ void WeatherModel::takeFix(const std::optional<Coordinate> &fix)
 {
     m_locating = false;
     if (fix)
+        //: In the place of a city’s name.
         setPlace(notchStrings(QT_TRANSLATE_NOOP("notch", "My location")), *fix);
     else
         fail(QT_TRANSLATE_NOOP("notch", "Location not available. Type a city instead."));
