@@ -1,5 +1,6 @@
 #include "AppState.h"
 
+#include "Log.h"
 #include "NotchKit/NotchStrings.h"
 #include "NotchKit/Platform/LoginItem.h"
 #include "NotchKit/Platform/RunningApplications.h"
@@ -10,6 +11,8 @@
 #include <cstdio>
 
 namespace Kestrune {
+
+Q_LOGGING_CATEGORY(appLog, "kestrune.app", QtWarningMsg)
 
 using namespace std::chrono_literals;
 
@@ -62,6 +65,8 @@ void AppState::checkFennivar()
 {
     const bool yield = m_platform.applications.isRunning(NotchBranding::suiteIdentifier()) &&
                        m_platform.suiteDefaults.value<bool>(QStringLiteral("notch.enabled")).value_or(false);
+    if (yield != yieldingToFennivar())
+        qCInfo(appLog, yield ? "makes way for the suite's notch" : "the suite's notch has gone");
     m_yieldingToFennivar = yield;
     if (yield)
         m_controller.stop();

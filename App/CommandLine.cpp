@@ -1,8 +1,9 @@
 #include "CommandLine.h"
 
 #include "NotchKit/Catalogue.h"
-#include "UsageReport.h"
 
+#include <QCommandLineParser>
+#include <QDir>
 #include <QMap>
 
 namespace Kestrune {
@@ -11,62 +12,121 @@ namespace {
 
 using Verb = CommandLine::Verb;
 
-CommandLine bad(const QString &fault) { return {Verb::bad, {}, fault}; }
+CommandLine bad(const QString &fault) { return {.verb = Verb::bad, .fault = fault}; }
 
-CommandLine parseStart(const QStringList &arguments)
+CommandLine unknown(const QString &argument)
+{
+    return bad(QStringLiteral("unknown argument %1").arg(argument));
+}
+
+QCommandLineOption option(const char *name, const char *value = "")
+{
+    return {QString::fromLatin1(name), {}, QString::fromLatin1(value)};
+}
+
+QCommandLineOption helpOption()
+{
+    return QCommandLineOption(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+}
+
+/// Parses a command's own options. Whether they are understood, and nothing else is among the words.
+bool parseOptions(QCommandLineParser &parser, const QStringList &words)
+{
+    return parser.parse(words) && parser.positionalArguments().isEmpty();
+}
+
+CommandLine parsePlain(Verb verb, const QString &name, qsizetype furtherWords)
+{
+    return furtherWords == 0 ? CommandLine{.verb = verb}
+                             : bad(QStringLiteral("%1 takes no argument").arg(name));
+}
+
+CommandLine parseOpen(const QStringList &words)
+{
+    if (words.size() > 2)
+        return bad(QStringLiteral("open takes at most one tool"));
+    if (words.size() == 2 && !fromRawValue<NotchTool>(words.at(1))) {
+        return bad(QStringLiteral("no tool is named %1; the tools are %2")
+                       .arg(words.at(1), rawValues(allCases<NotchTool>()).join(QLatin1Char(' '))));
+    }
+    return {.verb = Verb::open, .arguments = words.mid(1)};
+}
+
+CommandLine parseStatus(const QStringList &words)
+{
+    QCommandLineParser parser;
+    parser.addOption(option("json"));
+    if (!parseOptions(parser, words))
+        return bad(QStringLiteral("status takes only --json"));
+    return {.verb = Verb::status, .json = parser.isSet(QStringLiteral("json"))};
+}
+
+CommandLine parseSettings(const QStringList &words)
+{
+    static const QMap<QString, qsizetype> counts{{QStringLiteral("list"), 2},
+                                                 {QStringLiteral("open"), 2},
+                                                 {QStringLiteral("get"), 3},
+                                                 {QStringLiteral("set"), 4},
+                                                 {QStringLiteral("reset"), 3}};
+    if (counts.value(words.value(1), -1) != words.size())
+        return bad(QStringLiteral("settings takes open, list, get KEY, set KEY VALUE or reset KEY"));
+    return {.verb = Verb::settings, .arguments = words.mid(1)};
+}
+
+CommandLine parseUsage(const QStringList &words)
+{
+    const QString home = QStringLiteral("home");
+    const QString now = QStringLiteral("now");
+    QCommandLineParser parser;
+    parser.addOptions({option("json"), option("home", "DIR"), option("now", "TIME")});
+    if (!parseOptions(parser, words))
+        return bad(QStringLiteral("usage takes --json, --home DIR and --now TIME"));
+    UsageRequest request{parser.isSet(QStringLiteral("json")), QDir::homePath(),
+                         QDateTime::currentDateTimeUtc()};
+    if (parser.isSet(home))
+        request.home = parser.value(home);
+    if (parser.isSet(now))
+        request.now = QDateTime::fromString(parser.value(now), Qt::ISODateWithMs);
+    if (!request.now.isValid())
+        return bad(QStringLiteral("%1 is no ISO 8601 date and time").arg(parser.value(now)));
+    return {.verb = Verb::usage, .usage = request};
+}
+
+CommandLine parseCommand(const QStringList &words)
+{
+    static const QMap<QString, Verb> plain{{QStringLiteral("toggle"), Verb::toggle},
+                                           {QStringLiteral("close"), Verb::close},
+                                           {QStringLiteral("quit"), Verb::quit}};
+    const QString &name = words.constFirst();
+    if (const auto verb = plain.constFind(name); verb != plain.cend())
+        return parsePlain(*verb, name, words.size() - 1);
+    if (name == QLatin1String("open"))
+        return parseOpen(words);
+    if (name == QLatin1String("status"))
+        return parseStatus(words);
+    if (name == QLatin1String("settings"))
+        return parseSettings(words);
+    if (name == QLatin1String("usage"))
+        return parseUsage(words);
+    return unknown(name);
+}
+
+/// Says which option is not known, or has a value though it takes none.
+CommandLine badOption(const QCommandLineParser &parser)
+{
+    const QString name = parser.unknownOptionNames().value(0);
+    if (name.isEmpty())
+        return bad(parser.errorText().chopped(1)); // Without its full stop.
+    return unknown(QLatin1String(name.size() == 1 ? "-" : "--") + name);
+}
+
+/// `words` are what follows the options.
+CommandLine parseStart(const QStringList &words)
 {
     // "--open" takes any word after it: an unknown tool opens the default pane.
-    for (qsizetype i = 0; i < arguments.size(); ++i) {
-        if (arguments.at(i) == QLatin1String("--open")) {
-            if (i + 1 < arguments.size() && !arguments.at(i + 1).startsWith(QLatin1Char('-')))
-                ++i;
-        } else {
-            return bad(QStringLiteral("unknown argument %1").arg(arguments.at(i)));
-        }
-    }
-    return {Verb::start, arguments, {}};
-}
-
-CommandLine parseOpen(const QStringList &arguments)
-{
-    if (arguments.size() > 1)
-        return bad(QStringLiteral("open takes at most one tool"));
-    if (!arguments.isEmpty() && !fromRawValue<NotchTool>(arguments.constFirst())) {
-        return bad(QStringLiteral("no tool is named %1; the tools are %2")
-                       .arg(arguments.constFirst(), rawValues(allCases<NotchTool>()).join(QLatin1Char(' '))));
-    }
-    return {Verb::open, arguments, {}};
-}
-
-CommandLine parseStatus(const QStringList &arguments)
-{
-    const bool valid = arguments.isEmpty() || arguments == QStringList{QStringLiteral("--json")};
-    return valid ? CommandLine{Verb::status, arguments, {}} : bad(QStringLiteral("status takes only --json"));
-}
-
-CommandLine parseSettings(const QStringList &arguments)
-{
-    static const QMap<QString, qsizetype> counts{{QStringLiteral("list"), 1},
-                                                 {QStringLiteral("open"), 1},
-                                                 {QStringLiteral("get"), 2},
-                                                 {QStringLiteral("set"), 3},
-                                                 {QStringLiteral("reset"), 2}};
-    if (arguments.isEmpty() || counts.value(arguments.constFirst(), -1) != arguments.size())
-        return bad(QStringLiteral("settings takes open, list, get KEY, set KEY VALUE or reset KEY"));
-    return {Verb::settings, arguments, {}};
-}
-
-CommandLine parseUsage(const QStringList &arguments)
-{
-    QString fault;
-    const auto request = UsageRequest::parse(arguments, fault);
-    return request ? CommandLine{Verb::usage, arguments, {}} : bad(fault);
-}
-
-CommandLine parsePlain(Verb verb, const QString &name, const QStringList &arguments)
-{
-    return arguments.isEmpty() ? CommandLine{verb, {}, {}}
-                               : bad(QStringLiteral("%1 takes no argument").arg(name));
+    if (words.size() > 1)
+        return unknown(words.at(1));
+    return {.launch = {true, fromRawValue<NotchTool>(words.value(0))}};
 }
 
 } // namespace
@@ -75,24 +135,22 @@ CommandLine CommandLine::parse(const QStringList &arguments)
 {
     if (arguments.isEmpty())
         return {};
-    const QString &first = arguments.constFirst();
-    const QStringList rest = arguments.mid(1);
-    static const QMap<QString, Verb> plain{
-        {QStringLiteral("--help"), Verb::help},       {QStringLiteral("-h"), Verb::help},
-        {QStringLiteral("--version"), Verb::version}, {QStringLiteral("toggle"), Verb::toggle},
-        {QStringLiteral("close"), Verb::close},       {QStringLiteral("quit"), Verb::quit},
-    };
-    if (const auto verb = plain.constFind(first); verb != plain.cend())
-        return parsePlain(*verb, first, rest);
-    if (first == QLatin1String("open"))
-        return parseOpen(rest);
-    if (first == QLatin1String("status"))
-        return parseStatus(rest);
-    if (first == QLatin1String("settings"))
-        return parseSettings(rest);
-    if (first == QLatin1String("usage"))
-        return parseUsage(rest);
-    return parseStart(arguments);
+    QCommandLineParser parser;
+    // A command's own arguments, values that begin with a minus among them, are left to it.
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    parser.addOptions({option("open"), helpOption(), option("version")});
+    if (!parser.parse(QStringList{QString()} + arguments))
+        return badOption(parser);
+    const QStringList words = parser.positionalArguments();
+    const QStringList options = parser.optionNames();
+    for (const auto &[name, verb] : {std::pair("help", Verb::help), std::pair("version", Verb::version)}) {
+        if (parser.isSet(QString::fromLatin1(name)))
+            return parsePlain(verb, QStringLiteral("--%1").arg(QLatin1String(name)),
+                              options.size() - 1 + words.size());
+    }
+    if (!options.isEmpty())
+        return parseStart(words);
+    return words.isEmpty() ? CommandLine{} : parseCommand(words);
 }
 
 QString CommandLine::helpText()

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <QStringList>
+#include "LaunchRequest.h"
+#include "UsageReport.h"
 
-#include <optional>
+#include <QStringList>
 
 namespace Kestrune {
 
@@ -12,8 +13,11 @@ struct CommandLine
     enum class Verb { start, help, version, toggle, open, close, quit, status, settings, usage, bad };
 
     Verb verb = Verb::start;
-    QStringList arguments; ///< What follows the verb.
-    QString fault;         ///< What is wrong, for `bad`.
+    LaunchRequest launch = {};  ///< For `start`.
+    QStringList arguments = {}; ///< For `open` the tool, if one is named; for `settings` what follows.
+    bool json = false;          ///< For `status`.
+    UsageRequest usage = {};    ///< For `usage`.
+    QString fault = {};         ///< What is wrong, for `bad`.
 
     /// Reads the arguments after the program's name.
     static CommandLine parse(const QStringList &arguments);

@@ -4,7 +4,6 @@
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "NotchKit/NotchSettings.h"
 #include "StandardSettings.h"
-#include "UsageReport.h"
 #include "Watchdog.h"
 
 #include <QCoreApplication>
@@ -178,13 +177,11 @@ int runSettings(const QStringList &arguments)
     return status;
 }
 
-int printUsage(const QStringList &arguments)
+int printUsage(const UsageRequest &request)
 {
-    QString fault;
-    const auto request = UsageRequest::parse(arguments, fault);
-    if (!request || !QDir(request->home).exists())
-        return fail(2, request ? QStringLiteral("there is no folder %1").arg(request->home) : fault);
-    const QByteArray report = usageReport(*request);
+    if (!QDir(request.home).exists())
+        return fail(2, QStringLiteral("there is no folder %1").arg(request.home));
+    const QByteArray report = usageReport(request);
     std::fwrite(report.constData(), 1, static_cast<std::size_t>(report.size()), stdout);
     return 0;
 }
@@ -209,11 +206,11 @@ int runCommand(const CommandLine &command)
     case Verb::quit:
         return outcome(call(QStringLiteral("Quit")));
     case Verb::status:
-        return printStatus(!command.arguments.isEmpty());
+        return printStatus(command.json);
     case Verb::settings:
         return runSettings(command.arguments);
     case Verb::usage:
-        return printUsage(command.arguments);
+        return printUsage(command.usage);
     case Verb::bad:
         return fail(2, command.fault + QStringLiteral("; see kestrune --help"));
     case Verb::start:

@@ -12,9 +12,6 @@ struct LaunchRequest
     bool open = false;             ///< "--open" was given.
     std::optional<NotchTool> tool; ///< The tool after it; nothing when it names none.
 
-    /// Reads it from the process's arguments, the program's own name excluded.
-    static LaunchRequest parse(const QStringList &arguments);
-
     bool operator==(const LaunchRequest &) const = default;
 };
 

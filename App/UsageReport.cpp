@@ -5,7 +5,6 @@
 #include "NotchKit/Tools/AIUsage/ClaudeLogReader.h"
 #include "NotchKit/Tools/AIUsage/CodexReader.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -115,29 +114,6 @@ private:
 };
 
 } // namespace
-
-std::optional<UsageRequest> UsageRequest::parse(const QStringList &arguments, QString &fault)
-{
-    UsageRequest request{false, QDir::homePath(), QDateTime::currentDateTimeUtc()};
-    for (auto argument = arguments.cbegin(); argument != arguments.cend(); ++argument) {
-        const bool hasValue = argument + 1 != arguments.cend();
-        if (*argument == QLatin1String("--json")) {
-            request.json = true;
-        } else if (*argument == QLatin1String("--home") && hasValue) {
-            request.home = *++argument;
-        } else if (*argument == QLatin1String("--now") && hasValue) {
-            request.now = QDateTime::fromString(*++argument, Qt::ISODateWithMs);
-            if (!request.now.isValid()) {
-                fault = QStringLiteral("%1 is no ISO 8601 date and time").arg(*argument);
-                return std::nullopt;
-            }
-        } else {
-            fault = QStringLiteral("usage takes --json, --home DIR and --now TIME");
-            return std::nullopt;
-        }
-    }
-    return request;
-}
 
 QByteArray usageReport(const UsageRequest &request)
 {

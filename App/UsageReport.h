@@ -2,9 +2,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
-#include <QStringList>
-
-#include <optional>
+#include <QString>
 
 namespace Kestrune {
 
@@ -14,9 +12,6 @@ struct UsageRequest
     bool json = false;
     QString home;  ///< The folder that holds both assistants' own; the user's home unless one is given.
     QDateTime now; ///< The moment to report for.
-
-    /// Reads the arguments after "usage"; nothing, and what is wrong in `fault`, when they are bad.
-    static std::optional<UsageRequest> parse(const QStringList &arguments, QString &fault);
 };
 
 /// Reads both assistants' logs, whatever the settings say, and reports their figures as JSON or as text. May

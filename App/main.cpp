@@ -2,6 +2,7 @@
 #include "Async/Threads.h"
 #include "CommandLine.h"
 #include "LocalServices.h"
+#include "Log.h"
 #include "NotchKit/NotchStrings.h"
 #include "SingleInstance.h"
 #include "Watchdog.h"
@@ -98,7 +99,7 @@ void setUpFont()
 /// The views are turned around where the language is written from right to left.
 void setUpDirection() { QGuiApplication::setLayoutDirection(QLocale(notchLanguage()).textDirection()); }
 
-int runProgram(int argc, char *argv[], const QStringList &arguments)
+int runProgram(int argc, char *argv[], const LaunchRequest &request)
 {
     setUpMemory();
     if (!LocalServices::isEnvironmentValid()) {
@@ -114,16 +115,17 @@ int runProgram(int argc, char *argv[], const QStringList &arguments)
     TemporaryEnvironment environment = setUpPlatform(*windows);
     QGuiApplication application(argc, argv);
     environment.restore();
+    qCInfo(appLog, "version " KESTRUNE_VERSION ", windows by %s", windows->qtPlatform);
     QGuiApplication::setQuitOnLastWindowClosed(false);
     setUpFont();
     setUpDirection();
 
-    const LaunchRequest request = LaunchRequest::parse(arguments);
     const QDBusConnection bus = QDBusConnection::sessionBus();
     SingleInstance instance(bus);
     std::unique_ptr<Application> program;
     instance.claim([&](SingleInstance::Outcome outcome) {
         if (outcome == SingleInstance::Outcome::second) {
+            qCInfo(appLog, "one is running already: it is handed the request");
             const QString tool = request.tool ? rawValue(*request.tool) : QString();
             instance.handOver(tool, [](bool taken) {
                 if (!taken)
@@ -161,7 +163,7 @@ int main(int argc, char *argv[])
         arguments.append(QString::fromLocal8Bit(argv[i]));
     const CommandLine command = CommandLine::parse(arguments);
     if (command.verb == CommandLine::Verb::start)
-        return runProgram(argc, argv, arguments);
+        return runProgram(argc, argv, command.launch);
     const QCoreApplication application(argc, argv);
     return runCommand(command);
 }

@@ -5,6 +5,7 @@
     <name>notch</name>
     <message>
         <source>Unpin</source>
+        <extracomment>Let the notch close by itself again; the opposite of “Keep open”.</extracomment>
         <translation>إلغاء التثبيت</translation>
     </message>
     <message>
@@ -37,6 +38,7 @@
     </message>
     <message>
         <source>Note</source>
+        <extracomment>A note to oneself, such as one jots down.</extracomment>
         <translation>ملاحظة</translation>
     </message>
     <message>
@@ -61,19 +63,32 @@
     </message>
     <message>
         <source>Start</source>
+        <extracomment>Start the timer.</extracomment>
         <translation>بدء</translation>
     </message>
     <message>
         <source>Reset</source>
+        <extracomment>Set the timer back to its beginning.</extracomment>
         <translation>إعادة ضبط</translation>
     </message>
     <message>
         <source>Done</source>
+        <extracomment>A button of the script: “Edit” begins to change it, “Done” ends that.
+----------
+The time of the timer is over.</extracomment>
         <translation>تم</translation>
     </message>
-    <message>
-        <source>%d min</source>
-        <translation>%d د</translation>
+    <message numerus="yes">
+        <source>%Ln min</source>
+        <extracomment>A button that starts a timer; “min” is short for minutes. There is little room.</extracomment>
+        <translation>
+            <numerusform>%Ln د</numerusform>
+            <numerusform>%Ln د</numerusform>
+            <numerusform>%Ln د</numerusform>
+            <numerusform>%Ln د</numerusform>
+            <numerusform>%Ln د</numerusform>
+            <numerusform>%Ln د</numerusform>
+        </translation>
     </message>
     <message>
         <source>The time stays visible beside the closed notch.</source>
@@ -89,6 +104,7 @@
     </message>
     <message>
         <source>Home</source>
+        <extracomment>The page that the notch opens with, like that of a telephone.</extracomment>
         <translation>الرئيسية</translation>
     </message>
     <message>
@@ -109,6 +125,7 @@
     </message>
     <message>
         <source>Shelf</source>
+        <extracomment>A place where files are put down for a while.</extracomment>
         <translation>الرف</translation>
     </message>
     <message>
@@ -121,6 +138,7 @@
     </message>
     <message>
         <source>Stocks</source>
+        <extracomment>The prices of shares.</extracomment>
         <translation>الأسهم</translation>
     </message>
     <message>
@@ -133,6 +151,7 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Processor, memory, disk and battery of this computer.</extracomment>
         <translation>النظام</translation>
     </message>
     <message>
@@ -157,6 +176,7 @@
     </message>
     <message>
         <source>Hidden</source>
+        <extracomment>Where a block of Home stands: nowhere. The others are its three columns.</extracomment>
         <translation>مخفي</translation>
     </message>
     <message>
@@ -173,6 +193,7 @@
     </message>
     <message>
         <source>On hover</source>
+        <extracomment>Completes “Open the notch”: when the pointer rests on it.</extracomment>
         <translation>عند مرور المؤشر</translation>
     </message>
     <message>
@@ -185,6 +206,7 @@
     </message>
     <message>
         <source>this app</source>
+        <extracomment>Stands for the name of the program where it has none.</extracomment>
         <translation>هذا التطبيق</translation>
     </message>
     <message>
@@ -209,22 +231,27 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>In the menu of an entry: delete it from the history.</extracomment>
         <translation>حذف</translation>
     </message>
     <message>
         <source>Copied</source>
+        <extracomment>Shown in the place of what was just copied again.</extracomment>
         <translation>تم النسخ</translation>
     </message>
     <message>
         <source>Search</source>
+        <extracomment>What an empty search field says, and the button that looks for a city.</extracomment>
         <translation>بحث</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>What the list shows: copies of every kind.</extracomment>
         <translation>الكل</translation>
     </message>
     <message>
         <source>Text</source>
+        <extracomment>What the list shows: the copies that are texts.</extracomment>
         <translation>نص</translation>
     </message>
     <message>
@@ -241,6 +268,7 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Image</source>
+        <extracomment>The title of a copied picture, before its size.</extracomment>
         <translation>صورة</translation>
     </message>
     <message>
@@ -265,19 +293,37 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Read again</source>
+        <extracomment>On a round button: read the logs once more.</extracomment>
         <translation>قراءة من جديد</translation>
     </message>
     <message>
         <source>Connect</source>
+        <extracomment>A button: begin to read the usage of a program.</extracomment>
         <translation>ربط</translation>
     </message>
-    <message>
-        <source>%@ tokens</source>
-        <translation>%@ رمز مميز</translation>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <extracomment>%1 is the number of tokens, the pieces of text that a language model counts in.</extracomment>
+        <translation>
+            <numerusform>%1 رمز مميز</numerusform>
+            <numerusform>%1 رمز مميز</numerusform>
+            <numerusform>%1 رمزان مميزان</numerusform>
+            <numerusform>%1 رموز مميزة</numerusform>
+            <numerusform>%1 رمزًا مميزًا</numerusform>
+            <numerusform>%1 رمز مميز</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%d%% left</source>
-        <translation>بقي %d%%</translation>
+    <message numerus="yes">
+        <source>%Ln% left</source>
+        <extracomment>What is left of a limit, in per cent.</extracomment>
+        <translation>
+            <numerusform>بقي %Ln%</numerusform>
+            <numerusform>بقي %Ln%</numerusform>
+            <numerusform>بقي %Ln%</numerusform>
+            <numerusform>بقي %Ln%</numerusform>
+            <numerusform>بقي %Ln%</numerusform>
+            <numerusform>بقي %Ln%</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -288,15 +334,18 @@ Turn it on in Settings.</source>
         <translation>لم يُعثر على نشاط Codex بعد. استخدم Codex مرة واحدة ليظهر هنا.</translation>
     </message>
     <message>
-        <source>Updated %@</source>
-        <translation>آخر تحديث: %@</translation>
+        <source>Updated %1</source>
+        <extracomment>%1 is a time, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>آخر تحديث: %1</translation>
     </message>
     <message>
         <source>5-hour window</source>
+        <extracomment>The name of a limit that holds for five hours.</extracomment>
         <translation>نافذة خمس ساعات</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>The name of a limit that holds for a week.</extracomment>
         <translation>أسبوعيًا</translation>
     </message>
     <message>
@@ -304,24 +353,28 @@ Turn it on in Settings.</source>
         <translation>لم يُعثر على نشاط Claude Code.</translation>
     </message>
     <message>
-        <source>%d%% of your budget</source>
-        <translation>%d%% من ميزانيتك</translation>
+        <source>%1% of your budget</source>
+        <extracomment>%1 is a number. There is little room.</extracomment>
+        <translation>%1% من ميزانيتك</translation>
     </message>
     <message>
-        <source>%d%% of your busiest block this week</source>
-        <translation>%d%% من أنشط فترة هذا الأسبوع</translation>
+        <source>%1% of your busiest block this week</source>
+        <extracomment>%1 is a number; a block is five hours of work. There is little room.</extracomment>
+        <translation>%1% من أنشط فترة هذا الأسبوع</translation>
     </message>
     <message>
         <source>This 5-hour block</source>
         <translation>فترة الخمس ساعات الحالية</translation>
     </message>
     <message>
-        <source>Resets: %@</source>
-        <translation>التجديد: %@</translation>
+        <source>Resets: %1</source>
+        <extracomment>When a limit begins anew; %1 is a time, such as “14:05” or “Mon 14:05”. There is little room.</extracomment>
+        <translation>التجديد: %1</translation>
     </message>
     <message>
-        <source>%d%%</source>
-        <translation>%d%%</translation>
+        <source>%1%</source>
+        <extracomment>%1 is a number, with decimals where it is the change of a share’s price.</extracomment>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Drop files here to keep them handy.
@@ -330,9 +383,10 @@ Drag them out anywhere, or AirDrop them.</source>
 اسحبها إلى أي مكان أو أرسلها عبر AirDrop.</translation>
     </message>
     <message>
-        <source>Allow %@ to read your screenshots folder in
+        <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
-        <translation>اسمح لـ %@ بقراءة مجلد لقطات الشاشة من
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>اسمح لـ %1 بقراءة مجلد لقطات الشاشة من
 إعدادات النظام › الخصوصية والأمن › الملفات والمجلدات.</translation>
     </message>
     <message>
@@ -343,6 +397,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>A button that opens the settings of the desktop.</extracomment>
         <translation>فتح الإعدادات</translation>
     </message>
     <message>
@@ -359,10 +414,12 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>A button: take all files off the shelf.</extracomment>
         <translation>إفراغ</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Take a file off the shelf; the file itself stays where it is.</extracomment>
         <translation>إزالة</translation>
     </message>
     <message>
@@ -371,6 +428,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Script</source>
+        <extracomment>Name of the field for the text that is read aloud.</extracomment>
         <translation>النص</translation>
     </message>
     <message>
@@ -379,15 +437,18 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Restart</source>
+        <extracomment>A button: scroll the script from its beginning again.</extracomment>
         <translation>من البداية</translation>
     </message>
     <message>
         <source>Speed</source>
+        <extracomment>How fast the script scrolls.</extracomment>
         <translation>السرعة</translation>
     </message>
     <message>
-        <source>Text %d</source>
-        <translation>الخط %d</translation>
+        <source>Text %1</source>
+        <extracomment>%1 is the size of the letters in points. There is little room.</extracomment>
+        <translation>الخط %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
@@ -407,6 +468,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>In the menu of a screenshot: copy the picture.</extracomment>
         <translation>نسخ</translation>
     </message>
     <message>
@@ -431,6 +493,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>City</source>
+        <extracomment>What the empty field for the name of a city says.</extracomment>
         <translation>المدينة</translation>
     </message>
     <message>
@@ -455,6 +518,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>My location</source>
+        <extracomment>In the place of a city’s name.</extracomment>
         <translation>موقعي</translation>
     </message>
     <message>
@@ -462,25 +526,29 @@ Drag it into any app, or right-click for more.</source>
         <translation>الموقع غير متاح. اكتب اسم مدينة بدلًا منه.</translation>
     </message>
     <message>
-        <source>Not found: %@</source>
-        <translation>لم يُعثر على: %@</translation>
+        <source>Not found: %1</source>
+        <extracomment>%1 is a list of the symbols of shares.</extracomment>
+        <translation>لم يُعثر على: %1</translation>
     </message>
     <message>
-        <source>Wind %@ mph</source>
-        <translation>الرياح %@ ميل/س</translation>
+        <source>Wind %1 mph</source>
+        <extracomment>%1 is a speed in miles an hour.</extracomment>
+        <translation>الرياح %1 ميل/س</translation>
     </message>
     <message>
-        <source>Wind %@ km/h</source>
-        <translation>الرياح %@ كم/س</translation>
+        <source>Wind %1 km/h</source>
+        <extracomment>%1 is a speed in kilometres an hour.</extracomment>
+        <translation>الرياح %1 كم/س</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>اليوم</translation>
     </message>
     <message>
-        <source>Allow %@ to control Music or Spotify in
+        <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
-        <translation>اسمح لـ %@ بالتحكم في Music أو Spotify من
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>اسمح لـ %1 بالتحكم في Music أو Spotify من
 إعدادات النظام › الخصوصية والأمن › الأتمتة.</translation>
     </message>
     <message>
@@ -491,14 +559,17 @@ and it shows up here.</source>
     </message>
     <message>
         <source>Previous</source>
+        <extracomment>The previous song.</extracomment>
         <translation>السابق</translation>
     </message>
     <message>
         <source>Next</source>
+        <extracomment>The next song.</extracomment>
         <translation>التالي</translation>
     </message>
     <message>
         <source>charging</source>
+        <extracomment>Of the battery, after its level: “80% · charging”.</extracomment>
         <translation>قيد الشحن</translation>
     </message>
     <message>
@@ -507,10 +578,12 @@ and it shows up here.</source>
     </message>
     <message>
         <source>CPU</source>
+        <extracomment>The processor and how busy it is. There is little room.</extracomment>
         <translation>المعالج</translation>
     </message>
     <message>
         <source>Memory</source>
+        <extracomment>The working memory (RAM).</extracomment>
         <translation>الذاكرة</translation>
     </message>
     <message>
@@ -518,21 +591,24 @@ and it shows up here.</source>
         <translation>القرص</translation>
     </message>
     <message>
-        <source>%@ free</source>
-        <translation>متاح %@</translation>
+        <source>%1 free</source>
+        <extracomment>%1 is an amount with its unit, such as 12.3 GB.</extracomment>
+        <translation>متاح %1</translation>
     </message>
     <message>
         <source>No camera found.</source>
         <translation>لم يُعثر على كاميرا.</translation>
     </message>
     <message>
-        <source>Allow %@ to use the camera in
+        <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
-        <translation>اسمح لـ %@ باستخدام الكاميرا من
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>اسمح لـ %1 باستخدام الكاميرا من
 إعدادات النظام › الخصوصية والأمن › الكاميرا.</translation>
     </message>
     <message>
         <source>Events</source>
+        <extracomment>Heading of the list of appointments.</extracomment>
         <translation>الأحداث</translation>
     </message>
     <message>
@@ -549,6 +625,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>All done</source>
+        <extracomment>Instead of a list: no reminder is left.</extracomment>
         <translation>اكتمل كل شيء</translation>
     </message>
     <message>
@@ -557,10 +634,12 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Complete</source>
+        <extracomment>A verb, on the circle before a reminder: mark it as done.</extracomment>
         <translation>إكمال</translation>
     </message>
     <message>
         <source>Event</source>
+        <extracomment>The title of an appointment that has none.</extracomment>
         <translation>حدث</translation>
     </message>
     <message>
@@ -569,6 +648,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>All day</source>
+        <extracomment>In the place of an appointment’s time.</extracomment>
         <translation>طوال اليوم</translation>
     </message>
     <message>
@@ -613,14 +693,17 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Opening</source>
+        <extracomment>Heading of the settings that say how the notch opens.</extracomment>
         <translation>الفتح</translation>
     </message>
     <message>
         <source>Open the notch</source>
+        <extracomment>Followed by the choice of “On hover” and “On click”.</extracomment>
         <translation>فتح النتوء</translation>
     </message>
     <message>
         <source>Hover delay</source>
+        <extracomment>How long the pointer rests on the notch before it opens; beside a slider.</extracomment>
         <translation>مهلة مرور المؤشر</translation>
     </message>
     <message>
@@ -637,6 +720,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Displays</source>
+        <extracomment>Heading of the settings that are about monitors.</extracomment>
         <translation>الشاشات</translation>
     </message>
     <message>
@@ -729,6 +813,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>%1 is a number of milliseconds.</extracomment>
         <translation>%1 م.ث</translation>
     </message>
     <message>
@@ -776,28 +861,33 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <translation>‏Kestrune محدَّث</translation>
     </message>
     <message>
-        <source>Kestrune %@ is available</source>
-        <translation>يتوفر Kestrune %@</translation>
+        <source>Kestrune %1 is available</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>يتوفر Kestrune %1</translation>
     </message>
     <message>
-        <source>Downloading Kestrune %@…</source>
-        <translation>جارٍ تنزيل Kestrune %@…</translation>
+        <source>Downloading Kestrune %1…</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>جارٍ تنزيل Kestrune %1…</translation>
     </message>
     <message>
-        <source>Kestrune %@ is ready to install</source>
-        <translation>‏Kestrune %@ جاهز للتثبيت</translation>
+        <source>Kestrune %1 is ready to install</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>‏Kestrune %1 جاهز للتثبيت</translation>
     </message>
     <message>
         <source>Kestrune could not be updated</source>
         <translation>تعذّر تحديث Kestrune</translation>
     </message>
     <message>
-        <source>Version %@ is the newest one.</source>
-        <translation>الإصدار %@ هو الأحدث.</translation>
+        <source>Version %1 is the newest one.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>الإصدار %1 هو الأحدث.</translation>
     </message>
     <message>
-        <source>You have version %@.</source>
-        <translation>لديك الإصدار %@.</translation>
+        <source>You have version %1.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>لديك الإصدار %1.</translation>
     </message>
     <message>
         <source>It was checked: it comes from Kestrune’s makers.</source>
@@ -805,6 +895,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Download</source>
+        <extracomment>A verb, on a button.</extracomment>
         <translation>تنزيل</translation>
     </message>
     <message>
@@ -817,6 +908,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>A button that closes the window of an update.</extracomment>
         <translation>لاحقًا</translation>
     </message>
     <message>

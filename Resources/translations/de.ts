@@ -5,6 +5,7 @@
     <name>notch</name>
     <message>
         <source>Unpin</source>
+        <extracomment>Let the notch close by itself again; the opposite of “Keep open”.</extracomment>
         <translation>Loslösen</translation>
     </message>
     <message>
@@ -37,6 +38,7 @@
     </message>
     <message>
         <source>Note</source>
+        <extracomment>A note to oneself, such as one jots down.</extracomment>
         <translation>Notiz</translation>
     </message>
     <message>
@@ -61,19 +63,28 @@
     </message>
     <message>
         <source>Start</source>
+        <extracomment>Start the timer.</extracomment>
         <translation>Starten</translation>
     </message>
     <message>
         <source>Reset</source>
+        <extracomment>Set the timer back to its beginning.</extracomment>
         <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>Done</source>
+        <extracomment>A button of the script: “Edit” begins to change it, “Done” ends that.
+----------
+The time of the timer is over.</extracomment>
         <translation>Fertig</translation>
     </message>
-    <message>
-        <source>%d min</source>
-        <translation>%d Min.</translation>
+    <message numerus="yes">
+        <source>%Ln min</source>
+        <extracomment>A button that starts a timer; “min” is short for minutes. There is little room.</extracomment>
+        <translation>
+            <numerusform>%Ln Min.</numerusform>
+            <numerusform>%Ln Min.</numerusform>
+        </translation>
     </message>
     <message>
         <source>The time stays visible beside the closed notch.</source>
@@ -89,6 +100,7 @@
     </message>
     <message>
         <source>Home</source>
+        <extracomment>The page that the notch opens with, like that of a telephone.</extracomment>
         <translation>Start</translation>
     </message>
     <message>
@@ -109,6 +121,7 @@
     </message>
     <message>
         <source>Shelf</source>
+        <extracomment>A place where files are put down for a while.</extracomment>
         <translation>Ablage</translation>
     </message>
     <message>
@@ -121,6 +134,7 @@
     </message>
     <message>
         <source>Stocks</source>
+        <extracomment>The prices of shares.</extracomment>
         <translation>Aktien</translation>
     </message>
     <message>
@@ -133,6 +147,7 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Processor, memory, disk and battery of this computer.</extracomment>
         <translation>System</translation>
     </message>
     <message>
@@ -157,6 +172,7 @@
     </message>
     <message>
         <source>Hidden</source>
+        <extracomment>Where a block of Home stands: nowhere. The others are its three columns.</extracomment>
         <translation>Ausgeblendet</translation>
     </message>
     <message>
@@ -173,6 +189,7 @@
     </message>
     <message>
         <source>On hover</source>
+        <extracomment>Completes “Open the notch”: when the pointer rests on it.</extracomment>
         <translation>Beim Verweilen</translation>
     </message>
     <message>
@@ -185,6 +202,7 @@
     </message>
     <message>
         <source>this app</source>
+        <extracomment>Stands for the name of the program where it has none.</extracomment>
         <translation>dieser App</translation>
     </message>
     <message>
@@ -209,22 +227,27 @@ Schalte ihn in den Einstellungen ein.</translation>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>In the menu of an entry: delete it from the history.</extracomment>
         <translation>Löschen</translation>
     </message>
     <message>
         <source>Copied</source>
+        <extracomment>Shown in the place of what was just copied again.</extracomment>
         <translation>Kopiert</translation>
     </message>
     <message>
         <source>Search</source>
+        <extracomment>What an empty search field says, and the button that looks for a city.</extracomment>
         <translation>Suchen</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>What the list shows: copies of every kind.</extracomment>
         <translation>Alle</translation>
     </message>
     <message>
         <source>Text</source>
+        <extracomment>What the list shows: the copies that are texts.</extracomment>
         <translation>Text</translation>
     </message>
     <message>
@@ -241,6 +264,7 @@ Schalte ihn in den Einstellungen ein.</translation>
     </message>
     <message>
         <source>Image</source>
+        <extracomment>The title of a copied picture, before its size.</extracomment>
         <translation>Bild</translation>
     </message>
     <message>
@@ -265,19 +289,29 @@ Schalte ihn in den Einstellungen ein.</translation>
     </message>
     <message>
         <source>Read again</source>
+        <extracomment>On a round button: read the logs once more.</extracomment>
         <translation>Neu lesen</translation>
     </message>
     <message>
         <source>Connect</source>
+        <extracomment>A button: begin to read the usage of a program.</extracomment>
         <translation>Verbinden</translation>
     </message>
-    <message>
-        <source>%@ tokens</source>
-        <translation>%@ Tokens</translation>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <extracomment>%1 is the number of tokens, the pieces of text that a language model counts in.</extracomment>
+        <translation>
+            <numerusform>%1 Token</numerusform>
+            <numerusform>%1 Tokens</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%d%% left</source>
-        <translation>%d %% übrig</translation>
+    <message numerus="yes">
+        <source>%Ln% left</source>
+        <extracomment>What is left of a limit, in per cent.</extracomment>
+        <translation>
+            <numerusform>%Ln % übrig</numerusform>
+            <numerusform>%Ln % übrig</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -288,15 +322,18 @@ Schalte ihn in den Einstellungen ein.</translation>
         <translation>Noch keine Codex-Aktivität gefunden. Benutze Codex einmal, dann erscheint sie hier.</translation>
     </message>
     <message>
-        <source>Updated %@</source>
-        <translation>Aktualisiert %@</translation>
+        <source>Updated %1</source>
+        <extracomment>%1 is a time, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>Aktualisiert %1</translation>
     </message>
     <message>
         <source>5-hour window</source>
+        <extracomment>The name of a limit that holds for five hours.</extracomment>
         <translation>5-Stunden-Fenster</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>The name of a limit that holds for a week.</extracomment>
         <translation>Wöchentlich</translation>
     </message>
     <message>
@@ -304,24 +341,28 @@ Schalte ihn in den Einstellungen ein.</translation>
         <translation>Keine Claude-Code-Aktivität gefunden.</translation>
     </message>
     <message>
-        <source>%d%% of your budget</source>
-        <translation>%d %% deines Budgets</translation>
+        <source>%1% of your budget</source>
+        <extracomment>%1 is a number. There is little room.</extracomment>
+        <translation>%1 % deines Budgets</translation>
     </message>
     <message>
-        <source>%d%% of your busiest block this week</source>
-        <translation>%d %% deines stärksten Blocks der Woche</translation>
+        <source>%1% of your busiest block this week</source>
+        <extracomment>%1 is a number; a block is five hours of work. There is little room.</extracomment>
+        <translation>%1 % deines stärksten Blocks der Woche</translation>
     </message>
     <message>
         <source>This 5-hour block</source>
         <translation>Dieser 5-Stunden-Block</translation>
     </message>
     <message>
-        <source>Resets: %@</source>
-        <translation>Neu ab: %@</translation>
+        <source>Resets: %1</source>
+        <extracomment>When a limit begins anew; %1 is a time, such as “14:05” or “Mon 14:05”. There is little room.</extracomment>
+        <translation>Neu ab: %1</translation>
     </message>
     <message>
-        <source>%d%%</source>
-        <translation>%d %%</translation>
+        <source>%1%</source>
+        <extracomment>%1 is a number, with decimals where it is the change of a share’s price.</extracomment>
+        <translation>%1 %</translation>
     </message>
     <message>
         <source>Drop files here to keep them handy.
@@ -330,9 +371,10 @@ Drag them out anywhere, or AirDrop them.</source>
 Von hier lassen sie sich überallhin ziehen oder mit AirDrop senden.</translation>
     </message>
     <message>
-        <source>Allow %@ to read your screenshots folder in
+        <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
-        <translation>%@ braucht Zugriff auf den Ordner mit den Bildschirmfotos:
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>%1 braucht Zugriff auf den Ordner mit den Bildschirmfotos:
 Systemeinstellungen › Datenschutz &amp; Sicherheit › Dateien und Ordner.</translation>
     </message>
     <message>
@@ -343,6 +385,7 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>A button that opens the settings of the desktop.</extracomment>
         <translation>Einstellungen öffnen</translation>
     </message>
     <message>
@@ -359,10 +402,12 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>A button: take all files off the shelf.</extracomment>
         <translation>Leeren</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Take a file off the shelf; the file itself stays where it is.</extracomment>
         <translation>Entfernen</translation>
     </message>
     <message>
@@ -371,6 +416,7 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
     </message>
     <message>
         <source>Script</source>
+        <extracomment>Name of the field for the text that is read aloud.</extracomment>
         <translation>Sprechtext</translation>
     </message>
     <message>
@@ -379,15 +425,18 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
     </message>
     <message>
         <source>Restart</source>
+        <extracomment>A button: scroll the script from its beginning again.</extracomment>
         <translation>Zum Anfang</translation>
     </message>
     <message>
         <source>Speed</source>
+        <extracomment>How fast the script scrolls.</extracomment>
         <translation>Geschwindigkeit</translation>
     </message>
     <message>
-        <source>Text %d</source>
-        <translation>Schrift %d</translation>
+        <source>Text %1</source>
+        <extracomment>%1 is the size of the letters in points. There is little room.</extracomment>
+        <translation>Schrift %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
@@ -407,6 +456,7 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>In the menu of a screenshot: copy the picture.</extracomment>
         <translation>Kopieren</translation>
     </message>
     <message>
@@ -431,6 +481,7 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
     </message>
     <message>
         <source>City</source>
+        <extracomment>What the empty field for the name of a city says.</extracomment>
         <translation>Stadt</translation>
     </message>
     <message>
@@ -455,6 +506,7 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
     </message>
     <message>
         <source>My location</source>
+        <extracomment>In the place of a city’s name.</extracomment>
         <translation>Mein Standort</translation>
     </message>
     <message>
@@ -462,25 +514,29 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
         <translation>Standort nicht verfügbar. Gib stattdessen eine Stadt ein.</translation>
     </message>
     <message>
-        <source>Not found: %@</source>
-        <translation>Nicht gefunden: %@</translation>
+        <source>Not found: %1</source>
+        <extracomment>%1 is a list of the symbols of shares.</extracomment>
+        <translation>Nicht gefunden: %1</translation>
     </message>
     <message>
-        <source>Wind %@ mph</source>
-        <translation>Wind %@ mph</translation>
+        <source>Wind %1 mph</source>
+        <extracomment>%1 is a speed in miles an hour.</extracomment>
+        <translation>Wind %1 mph</translation>
     </message>
     <message>
-        <source>Wind %@ km/h</source>
-        <translation>Wind %@ km/h</translation>
+        <source>Wind %1 km/h</source>
+        <extracomment>%1 is a speed in kilometres an hour.</extracomment>
+        <translation>Wind %1 km/h</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>Heute</translation>
     </message>
     <message>
-        <source>Allow %@ to control Music or Spotify in
+        <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
-        <translation>Erlaube %@ die Steuerung von Musik oder Spotify in
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Erlaube %1 die Steuerung von Musik oder Spotify in
 Systemeinstellungen › Datenschutz &amp; Sicherheit › Automation.</translation>
     </message>
     <message>
@@ -491,14 +547,17 @@ und es erscheint hier.</translation>
     </message>
     <message>
         <source>Previous</source>
+        <extracomment>The previous song.</extracomment>
         <translation>Zurück</translation>
     </message>
     <message>
         <source>Next</source>
+        <extracomment>The next song.</extracomment>
         <translation>Weiter</translation>
     </message>
     <message>
         <source>charging</source>
+        <extracomment>Of the battery, after its level: “80% · charging”.</extracomment>
         <translation>lädt</translation>
     </message>
     <message>
@@ -507,10 +566,12 @@ und es erscheint hier.</translation>
     </message>
     <message>
         <source>CPU</source>
+        <extracomment>The processor and how busy it is. There is little room.</extracomment>
         <translation>CPU</translation>
     </message>
     <message>
         <source>Memory</source>
+        <extracomment>The working memory (RAM).</extracomment>
         <translation>Speicher</translation>
     </message>
     <message>
@@ -518,21 +579,24 @@ und es erscheint hier.</translation>
         <translation>Festplatte</translation>
     </message>
     <message>
-        <source>%@ free</source>
-        <translation>%@ frei</translation>
+        <source>%1 free</source>
+        <extracomment>%1 is an amount with its unit, such as 12.3 GB.</extracomment>
+        <translation>%1 frei</translation>
     </message>
     <message>
         <source>No camera found.</source>
         <translation>Keine Kamera gefunden.</translation>
     </message>
     <message>
-        <source>Allow %@ to use the camera in
+        <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
-        <translation>Erlaube %@ den Zugriff auf die Kamera in
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Erlaube %1 den Zugriff auf die Kamera in
 Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>Events</source>
+        <extracomment>Heading of the list of appointments.</extracomment>
         <translation>Termine</translation>
     </message>
     <message>
@@ -549,6 +613,7 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>All done</source>
+        <extracomment>Instead of a list: no reminder is left.</extracomment>
         <translation>Alles erledigt</translation>
     </message>
     <message>
@@ -557,10 +622,12 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>Complete</source>
+        <extracomment>A verb, on the circle before a reminder: mark it as done.</extracomment>
         <translation>Erledigen</translation>
     </message>
     <message>
         <source>Event</source>
+        <extracomment>The title of an appointment that has none.</extracomment>
         <translation>Termin</translation>
     </message>
     <message>
@@ -569,6 +636,7 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>All day</source>
+        <extracomment>In the place of an appointment’s time.</extracomment>
         <translation>Ganztägig</translation>
     </message>
     <message>
@@ -613,14 +681,17 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>Opening</source>
+        <extracomment>Heading of the settings that say how the notch opens.</extracomment>
         <translation>Öffnen</translation>
     </message>
     <message>
         <source>Open the notch</source>
+        <extracomment>Followed by the choice of “On hover” and “On click”.</extracomment>
         <translation>Notch öffnen</translation>
     </message>
     <message>
         <source>Hover delay</source>
+        <extracomment>How long the pointer rests on the notch before it opens; beside a slider.</extracomment>
         <translation>Verzögerung beim Verweilen</translation>
     </message>
     <message>
@@ -637,6 +708,7 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>Displays</source>
+        <extracomment>Heading of the settings that are about monitors.</extracomment>
         <translation>Bildschirme</translation>
     </message>
     <message>
@@ -729,6 +801,7 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>%1 is a number of milliseconds.</extracomment>
         <translation>%1 ms</translation>
     </message>
     <message>
@@ -776,28 +849,33 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <translation>Kestrune ist auf dem neuesten Stand</translation>
     </message>
     <message>
-        <source>Kestrune %@ is available</source>
-        <translation>Kestrune %@ ist verfügbar</translation>
+        <source>Kestrune %1 is available</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 ist verfügbar</translation>
     </message>
     <message>
-        <source>Downloading Kestrune %@…</source>
-        <translation>Kestrune %@ wird geladen …</translation>
+        <source>Downloading Kestrune %1…</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 wird geladen …</translation>
     </message>
     <message>
-        <source>Kestrune %@ is ready to install</source>
-        <translation>Kestrune %@ kann installiert werden</translation>
+        <source>Kestrune %1 is ready to install</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 kann installiert werden</translation>
     </message>
     <message>
         <source>Kestrune could not be updated</source>
         <translation>Kestrune konnte nicht aktualisiert werden</translation>
     </message>
     <message>
-        <source>Version %@ is the newest one.</source>
-        <translation>Version %@ ist die neueste.</translation>
+        <source>Version %1 is the newest one.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Version %1 ist die neueste.</translation>
     </message>
     <message>
-        <source>You have version %@.</source>
-        <translation>Du hast Version %@.</translation>
+        <source>You have version %1.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Du hast Version %1.</translation>
     </message>
     <message>
         <source>It was checked: it comes from Kestrune’s makers.</source>
@@ -805,6 +883,7 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>Download</source>
+        <extracomment>A verb, on a button.</extracomment>
         <translation>Laden</translation>
     </message>
     <message>
@@ -817,6 +896,7 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>A button that closes the window of an update.</extracomment>
         <translation>Später</translation>
     </message>
     <message>

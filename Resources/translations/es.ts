@@ -5,6 +5,7 @@
     <name>notch</name>
     <message>
         <source>Unpin</source>
+        <extracomment>Let the notch close by itself again; the opposite of “Keep open”.</extracomment>
         <translation>Desanclar</translation>
     </message>
     <message>
@@ -37,6 +38,7 @@
     </message>
     <message>
         <source>Note</source>
+        <extracomment>A note to oneself, such as one jots down.</extracomment>
         <translation>Nota</translation>
     </message>
     <message>
@@ -61,19 +63,28 @@
     </message>
     <message>
         <source>Start</source>
+        <extracomment>Start the timer.</extracomment>
         <translation>Iniciar</translation>
     </message>
     <message>
         <source>Reset</source>
+        <extracomment>Set the timer back to its beginning.</extracomment>
         <translation>Restablecer</translation>
     </message>
     <message>
         <source>Done</source>
+        <extracomment>A button of the script: “Edit” begins to change it, “Done” ends that.
+----------
+The time of the timer is over.</extracomment>
         <translation>Listo</translation>
     </message>
-    <message>
-        <source>%d min</source>
-        <translation>%d&#xa0;min</translation>
+    <message numerus="yes">
+        <source>%Ln min</source>
+        <extracomment>A button that starts a timer; “min” is short for minutes. There is little room.</extracomment>
+        <translation>
+            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln min</numerusform>
+        </translation>
     </message>
     <message>
         <source>The time stays visible beside the closed notch.</source>
@@ -89,6 +100,7 @@
     </message>
     <message>
         <source>Home</source>
+        <extracomment>The page that the notch opens with, like that of a telephone.</extracomment>
         <translation>Inicio</translation>
     </message>
     <message>
@@ -109,6 +121,7 @@
     </message>
     <message>
         <source>Shelf</source>
+        <extracomment>A place where files are put down for a while.</extracomment>
         <translation>Estante</translation>
     </message>
     <message>
@@ -121,6 +134,7 @@
     </message>
     <message>
         <source>Stocks</source>
+        <extracomment>The prices of shares.</extracomment>
         <translation>Bolsa</translation>
     </message>
     <message>
@@ -133,6 +147,7 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Processor, memory, disk and battery of this computer.</extracomment>
         <translation>Sistema</translation>
     </message>
     <message>
@@ -157,6 +172,7 @@
     </message>
     <message>
         <source>Hidden</source>
+        <extracomment>Where a block of Home stands: nowhere. The others are its three columns.</extracomment>
         <translation>Oculto</translation>
     </message>
     <message>
@@ -173,6 +189,7 @@
     </message>
     <message>
         <source>On hover</source>
+        <extracomment>Completes “Open the notch”: when the pointer rests on it.</extracomment>
         <translation>Al apuntar</translation>
     </message>
     <message>
@@ -185,6 +202,7 @@
     </message>
     <message>
         <source>this app</source>
+        <extracomment>Stands for the name of the program where it has none.</extracomment>
         <translation>esta app</translation>
     </message>
     <message>
@@ -209,22 +227,27 @@ Actívalo en Ajustes.</translation>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>In the menu of an entry: delete it from the history.</extracomment>
         <translation>Eliminar</translation>
     </message>
     <message>
         <source>Copied</source>
+        <extracomment>Shown in the place of what was just copied again.</extracomment>
         <translation>Copiado</translation>
     </message>
     <message>
         <source>Search</source>
+        <extracomment>What an empty search field says, and the button that looks for a city.</extracomment>
         <translation>Buscar</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>What the list shows: copies of every kind.</extracomment>
         <translation>Todo</translation>
     </message>
     <message>
         <source>Text</source>
+        <extracomment>What the list shows: the copies that are texts.</extracomment>
         <translation>Texto</translation>
     </message>
     <message>
@@ -241,6 +264,7 @@ Actívalo en Ajustes.</translation>
     </message>
     <message>
         <source>Image</source>
+        <extracomment>The title of a copied picture, before its size.</extracomment>
         <translation>Imagen</translation>
     </message>
     <message>
@@ -265,19 +289,29 @@ Actívalo en Ajustes.</translation>
     </message>
     <message>
         <source>Read again</source>
+        <extracomment>On a round button: read the logs once more.</extracomment>
         <translation>Volver a leer</translation>
     </message>
     <message>
         <source>Connect</source>
+        <extracomment>A button: begin to read the usage of a program.</extracomment>
         <translation>Conectar</translation>
     </message>
-    <message>
-        <source>%@ tokens</source>
-        <translation>%@ tokens</translation>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <extracomment>%1 is the number of tokens, the pieces of text that a language model counts in.</extracomment>
+        <translation>
+            <numerusform>%1 token</numerusform>
+            <numerusform>%1 tokens</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%d%% left</source>
-        <translation>%d&#xa0;%% restante</translation>
+    <message numerus="yes">
+        <source>%Ln% left</source>
+        <extracomment>What is left of a limit, in per cent.</extracomment>
+        <translation>
+            <numerusform>%Ln % restante</numerusform>
+            <numerusform>%Ln % restante</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -288,15 +322,18 @@ Actívalo en Ajustes.</translation>
         <translation>Aún no hay actividad de Codex. Usa Codex una vez y aparecerá aquí.</translation>
     </message>
     <message>
-        <source>Updated %@</source>
-        <translation>Actualizado: %@</translation>
+        <source>Updated %1</source>
+        <extracomment>%1 is a time, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>Actualizado: %1</translation>
     </message>
     <message>
         <source>5-hour window</source>
+        <extracomment>The name of a limit that holds for five hours.</extracomment>
         <translation>Periodo de 5&#xa0;h</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>The name of a limit that holds for a week.</extracomment>
         <translation>Semanal</translation>
     </message>
     <message>
@@ -304,24 +341,28 @@ Actívalo en Ajustes.</translation>
         <translation>No hay actividad de Claude Code.</translation>
     </message>
     <message>
-        <source>%d%% of your budget</source>
-        <translation>%d&#xa0;%% de tu presupuesto</translation>
+        <source>%1% of your budget</source>
+        <extracomment>%1 is a number. There is little room.</extracomment>
+        <translation>%1&#xa0;% de tu presupuesto</translation>
     </message>
     <message>
-        <source>%d%% of your busiest block this week</source>
-        <translation>%d&#xa0;%% de tu mayor bloque semanal</translation>
+        <source>%1% of your busiest block this week</source>
+        <extracomment>%1 is a number; a block is five hours of work. There is little room.</extracomment>
+        <translation>%1&#xa0;% de tu mayor bloque semanal</translation>
     </message>
     <message>
         <source>This 5-hour block</source>
         <translation>Este bloque de 5&#xa0;h</translation>
     </message>
     <message>
-        <source>Resets: %@</source>
-        <translation>Se renueva: %@</translation>
+        <source>Resets: %1</source>
+        <extracomment>When a limit begins anew; %1 is a time, such as “14:05” or “Mon 14:05”. There is little room.</extracomment>
+        <translation>Se renueva: %1</translation>
     </message>
     <message>
-        <source>%d%%</source>
-        <translation>%d&#xa0;%%</translation>
+        <source>%1%</source>
+        <extracomment>%1 is a number, with decimals where it is the change of a share’s price.</extracomment>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Drop files here to keep them handy.
@@ -330,9 +371,10 @@ Drag them out anywhere, or AirDrop them.</source>
 Arrástralos adonde quieras o envíalos con AirDrop.</translation>
     </message>
     <message>
-        <source>Allow %@ to read your screenshots folder in
+        <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
-        <translation>Permite que %@ lea tu carpeta de capturas en
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Permite que %1 lea tu carpeta de capturas en
 Ajustes del sistema › Privacidad y seguridad › Archivos y carpetas.</translation>
     </message>
     <message>
@@ -343,6 +385,7 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>A button that opens the settings of the desktop.</extracomment>
         <translation>Abrir Ajustes</translation>
     </message>
     <message>
@@ -359,10 +402,12 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>A button: take all files off the shelf.</extracomment>
         <translation>Vaciar</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Take a file off the shelf; the file itself stays where it is.</extracomment>
         <translation>Quitar</translation>
     </message>
     <message>
@@ -371,6 +416,7 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
     </message>
     <message>
         <source>Script</source>
+        <extracomment>Name of the field for the text that is read aloud.</extracomment>
         <translation>Guion</translation>
     </message>
     <message>
@@ -379,15 +425,18 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
     </message>
     <message>
         <source>Restart</source>
+        <extracomment>A button: scroll the script from its beginning again.</extracomment>
         <translation>Reiniciar</translation>
     </message>
     <message>
         <source>Speed</source>
+        <extracomment>How fast the script scrolls.</extracomment>
         <translation>Velocidad</translation>
     </message>
     <message>
-        <source>Text %d</source>
-        <translation>Texto %d</translation>
+        <source>Text %1</source>
+        <extracomment>%1 is the size of the letters in points. There is little room.</extracomment>
+        <translation>Texto %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
@@ -407,6 +456,7 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>In the menu of a screenshot: copy the picture.</extracomment>
         <translation>Copiar</translation>
     </message>
     <message>
@@ -431,6 +481,7 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
     </message>
     <message>
         <source>City</source>
+        <extracomment>What the empty field for the name of a city says.</extracomment>
         <translation>Ciudad</translation>
     </message>
     <message>
@@ -455,6 +506,7 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
     </message>
     <message>
         <source>My location</source>
+        <extracomment>In the place of a city’s name.</extracomment>
         <translation>Mi ubicación</translation>
     </message>
     <message>
@@ -462,25 +514,29 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
         <translation>Ubicación no disponible. Escribe una ciudad.</translation>
     </message>
     <message>
-        <source>Not found: %@</source>
-        <translation>No encontrado: %@</translation>
+        <source>Not found: %1</source>
+        <extracomment>%1 is a list of the symbols of shares.</extracomment>
+        <translation>No encontrado: %1</translation>
     </message>
     <message>
-        <source>Wind %@ mph</source>
-        <translation>Viento %@&#xa0;mph</translation>
+        <source>Wind %1 mph</source>
+        <extracomment>%1 is a speed in miles an hour.</extracomment>
+        <translation>Viento %1&#xa0;mph</translation>
     </message>
     <message>
-        <source>Wind %@ km/h</source>
-        <translation>Viento %@&#xa0;km/h</translation>
+        <source>Wind %1 km/h</source>
+        <extracomment>%1 is a speed in kilometres an hour.</extracomment>
+        <translation>Viento %1&#xa0;km/h</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>Hoy</translation>
     </message>
     <message>
-        <source>Allow %@ to control Music or Spotify in
+        <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
-        <translation>Permite que %@ controle Music o Spotify en
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Permite que %1 controle Music o Spotify en
 Ajustes del sistema › Privacidad y seguridad › Automatización.</translation>
     </message>
     <message>
@@ -491,14 +547,17 @@ y aparecerá aquí.</translation>
     </message>
     <message>
         <source>Previous</source>
+        <extracomment>The previous song.</extracomment>
         <translation>Anterior</translation>
     </message>
     <message>
         <source>Next</source>
+        <extracomment>The next song.</extracomment>
         <translation>Siguiente</translation>
     </message>
     <message>
         <source>charging</source>
+        <extracomment>Of the battery, after its level: “80% · charging”.</extracomment>
         <translation>cargando</translation>
     </message>
     <message>
@@ -507,10 +566,12 @@ y aparecerá aquí.</translation>
     </message>
     <message>
         <source>CPU</source>
+        <extracomment>The processor and how busy it is. There is little room.</extracomment>
         <translation>CPU</translation>
     </message>
     <message>
         <source>Memory</source>
+        <extracomment>The working memory (RAM).</extracomment>
         <translation>Memoria</translation>
     </message>
     <message>
@@ -518,21 +579,24 @@ y aparecerá aquí.</translation>
         <translation>Disco</translation>
     </message>
     <message>
-        <source>%@ free</source>
-        <translation>%@ libres</translation>
+        <source>%1 free</source>
+        <extracomment>%1 is an amount with its unit, such as 12.3 GB.</extracomment>
+        <translation>%1 libres</translation>
     </message>
     <message>
         <source>No camera found.</source>
         <translation>No se encontró ninguna cámara.</translation>
     </message>
     <message>
-        <source>Allow %@ to use the camera in
+        <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
-        <translation>Permite que %@ use la cámara en
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Permite que %1 use la cámara en
 Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>Events</source>
+        <extracomment>Heading of the list of appointments.</extracomment>
         <translation>Eventos</translation>
     </message>
     <message>
@@ -549,6 +613,7 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>All done</source>
+        <extracomment>Instead of a list: no reminder is left.</extracomment>
         <translation>Todo hecho</translation>
     </message>
     <message>
@@ -557,10 +622,12 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>Complete</source>
+        <extracomment>A verb, on the circle before a reminder: mark it as done.</extracomment>
         <translation>Completar</translation>
     </message>
     <message>
         <source>Event</source>
+        <extracomment>The title of an appointment that has none.</extracomment>
         <translation>Evento</translation>
     </message>
     <message>
@@ -569,6 +636,7 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>All day</source>
+        <extracomment>In the place of an appointment’s time.</extracomment>
         <translation>Todo el día</translation>
     </message>
     <message>
@@ -613,14 +681,17 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>Opening</source>
+        <extracomment>Heading of the settings that say how the notch opens.</extracomment>
         <translation>Apertura</translation>
     </message>
     <message>
         <source>Open the notch</source>
+        <extracomment>Followed by the choice of “On hover” and “On click”.</extracomment>
         <translation>Abrir la muesca</translation>
     </message>
     <message>
         <source>Hover delay</source>
+        <extracomment>How long the pointer rests on the notch before it opens; beside a slider.</extracomment>
         <translation>Retardo al apuntar</translation>
     </message>
     <message>
@@ -637,6 +708,7 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>Displays</source>
+        <extracomment>Heading of the settings that are about monitors.</extracomment>
         <translation>Pantallas</translation>
     </message>
     <message>
@@ -729,6 +801,7 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>%1 is a number of milliseconds.</extracomment>
         <translation>%1&#xa0;ms</translation>
     </message>
     <message>
@@ -776,28 +849,33 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
         <translation>Kestrune está actualizado</translation>
     </message>
     <message>
-        <source>Kestrune %@ is available</source>
-        <translation>Kestrune %@ está disponible</translation>
+        <source>Kestrune %1 is available</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 está disponible</translation>
     </message>
     <message>
-        <source>Downloading Kestrune %@…</source>
-        <translation>Descargando Kestrune %@…</translation>
+        <source>Downloading Kestrune %1…</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Descargando Kestrune %1…</translation>
     </message>
     <message>
-        <source>Kestrune %@ is ready to install</source>
-        <translation>Kestrune %@ está listo para instalarse</translation>
+        <source>Kestrune %1 is ready to install</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 está listo para instalarse</translation>
     </message>
     <message>
         <source>Kestrune could not be updated</source>
         <translation>No se ha podido actualizar Kestrune</translation>
     </message>
     <message>
-        <source>Version %@ is the newest one.</source>
-        <translation>La versión %@ es la más reciente.</translation>
+        <source>Version %1 is the newest one.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>La versión %1 es la más reciente.</translation>
     </message>
     <message>
-        <source>You have version %@.</source>
-        <translation>Tienes la versión %@.</translation>
+        <source>You have version %1.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Tienes la versión %1.</translation>
     </message>
     <message>
         <source>It was checked: it comes from Kestrune’s makers.</source>
@@ -805,6 +883,7 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>Download</source>
+        <extracomment>A verb, on a button.</extracomment>
         <translation>Descargar</translation>
     </message>
     <message>
@@ -817,6 +896,7 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>A button that closes the window of an update.</extracomment>
         <translation>Más tarde</translation>
     </message>
     <message>

@@ -5,6 +5,7 @@
     <name>notch</name>
     <message>
         <source>Unpin</source>
+        <extracomment>Let the notch close by itself again; the opposite of “Keep open”.</extracomment>
         <translation>Détacher</translation>
     </message>
     <message>
@@ -37,6 +38,7 @@
     </message>
     <message>
         <source>Note</source>
+        <extracomment>A note to oneself, such as one jots down.</extracomment>
         <translation>Note</translation>
     </message>
     <message>
@@ -61,19 +63,28 @@
     </message>
     <message>
         <source>Start</source>
+        <extracomment>Start the timer.</extracomment>
         <translation>Démarrer</translation>
     </message>
     <message>
         <source>Reset</source>
+        <extracomment>Set the timer back to its beginning.</extracomment>
         <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Done</source>
+        <extracomment>A button of the script: “Edit” begins to change it, “Done” ends that.
+----------
+The time of the timer is over.</extracomment>
         <translation>Terminé</translation>
     </message>
-    <message>
-        <source>%d min</source>
-        <translation>%d&#x202f;min</translation>
+    <message numerus="yes">
+        <source>%Ln min</source>
+        <extracomment>A button that starts a timer; “min” is short for minutes. There is little room.</extracomment>
+        <translation>
+            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln min</numerusform>
+        </translation>
     </message>
     <message>
         <source>The time stays visible beside the closed notch.</source>
@@ -89,6 +100,7 @@
     </message>
     <message>
         <source>Home</source>
+        <extracomment>The page that the notch opens with, like that of a telephone.</extracomment>
         <translation>Accueil</translation>
     </message>
     <message>
@@ -109,6 +121,7 @@
     </message>
     <message>
         <source>Shelf</source>
+        <extracomment>A place where files are put down for a while.</extracomment>
         <translation>Étagère</translation>
     </message>
     <message>
@@ -121,6 +134,7 @@
     </message>
     <message>
         <source>Stocks</source>
+        <extracomment>The prices of shares.</extracomment>
         <translation>Bourse</translation>
     </message>
     <message>
@@ -133,6 +147,7 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Processor, memory, disk and battery of this computer.</extracomment>
         <translation>Système</translation>
     </message>
     <message>
@@ -157,6 +172,7 @@
     </message>
     <message>
         <source>Hidden</source>
+        <extracomment>Where a block of Home stands: nowhere. The others are its three columns.</extracomment>
         <translation>Masqué</translation>
     </message>
     <message>
@@ -173,6 +189,7 @@
     </message>
     <message>
         <source>On hover</source>
+        <extracomment>Completes “Open the notch”: when the pointer rests on it.</extracomment>
         <translation>Au survol</translation>
     </message>
     <message>
@@ -185,6 +202,7 @@
     </message>
     <message>
         <source>this app</source>
+        <extracomment>Stands for the name of the program where it has none.</extracomment>
         <translation>cette app</translation>
     </message>
     <message>
@@ -209,22 +227,27 @@ Activez-le dans les paramètres.</translation>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>In the menu of an entry: delete it from the history.</extracomment>
         <translation>Supprimer</translation>
     </message>
     <message>
         <source>Copied</source>
+        <extracomment>Shown in the place of what was just copied again.</extracomment>
         <translation>Copié</translation>
     </message>
     <message>
         <source>Search</source>
+        <extracomment>What an empty search field says, and the button that looks for a city.</extracomment>
         <translation>Rechercher</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>What the list shows: copies of every kind.</extracomment>
         <translation>Tout</translation>
     </message>
     <message>
         <source>Text</source>
+        <extracomment>What the list shows: the copies that are texts.</extracomment>
         <translation>Texte</translation>
     </message>
     <message>
@@ -241,6 +264,7 @@ Activez-le dans les paramètres.</translation>
     </message>
     <message>
         <source>Image</source>
+        <extracomment>The title of a copied picture, before its size.</extracomment>
         <translation>Image</translation>
     </message>
     <message>
@@ -265,19 +289,29 @@ Activez-le dans les paramètres.</translation>
     </message>
     <message>
         <source>Read again</source>
+        <extracomment>On a round button: read the logs once more.</extracomment>
         <translation>Relire</translation>
     </message>
     <message>
         <source>Connect</source>
+        <extracomment>A button: begin to read the usage of a program.</extracomment>
         <translation>Connecter</translation>
     </message>
-    <message>
-        <source>%@ tokens</source>
-        <translation>%@ tokens</translation>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <extracomment>%1 is the number of tokens, the pieces of text that a language model counts in.</extracomment>
+        <translation>
+            <numerusform>%1 token</numerusform>
+            <numerusform>%1 tokens</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%d%% left</source>
-        <translation>%d&#x202f;%% restants</translation>
+    <message numerus="yes">
+        <source>%Ln% left</source>
+        <extracomment>What is left of a limit, in per cent.</extracomment>
+        <translation>
+            <numerusform>%Ln % restant</numerusform>
+            <numerusform>%Ln % restants</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -288,15 +322,18 @@ Activez-le dans les paramètres.</translation>
         <translation>Aucune activité de Codex pour l’instant. Utilisez Codex une fois et elle apparaîtra ici.</translation>
     </message>
     <message>
-        <source>Updated %@</source>
-        <translation>Actualisé&#x202f;: %@</translation>
+        <source>Updated %1</source>
+        <extracomment>%1 is a time, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>Actualisé&#x202f;: %1</translation>
     </message>
     <message>
         <source>5-hour window</source>
+        <extracomment>The name of a limit that holds for five hours.</extracomment>
         <translation>Période de 5&#x202f;h</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>The name of a limit that holds for a week.</extracomment>
         <translation>Semaine</translation>
     </message>
     <message>
@@ -304,24 +341,28 @@ Activez-le dans les paramètres.</translation>
         <translation>Aucune activité de Claude Code.</translation>
     </message>
     <message>
-        <source>%d%% of your budget</source>
-        <translation>%d&#x202f;%% de votre budget</translation>
+        <source>%1% of your budget</source>
+        <extracomment>%1 is a number. There is little room.</extracomment>
+        <translation>%1&#x202f;% de votre budget</translation>
     </message>
     <message>
-        <source>%d%% of your busiest block this week</source>
-        <translation>%d&#x202f;%% du plus gros bloc de la semaine</translation>
+        <source>%1% of your busiest block this week</source>
+        <extracomment>%1 is a number; a block is five hours of work. There is little room.</extracomment>
+        <translation>%1&#x202f;% du plus gros bloc de la semaine</translation>
     </message>
     <message>
         <source>This 5-hour block</source>
         <translation>Ce bloc de 5&#x202f;h</translation>
     </message>
     <message>
-        <source>Resets: %@</source>
-        <translation>Réinit.&#x202f;: %@</translation>
+        <source>Resets: %1</source>
+        <extracomment>When a limit begins anew; %1 is a time, such as “14:05” or “Mon 14:05”. There is little room.</extracomment>
+        <translation>Réinit.&#x202f;: %1</translation>
     </message>
     <message>
-        <source>%d%%</source>
-        <translation>%d&#x202f;%%</translation>
+        <source>%1%</source>
+        <extracomment>%1 is a number, with decimals where it is the change of a share’s price.</extracomment>
+        <translation>%1&#x202f;%</translation>
     </message>
     <message>
         <source>Drop files here to keep them handy.
@@ -330,9 +371,10 @@ Drag them out anywhere, or AirDrop them.</source>
 Glissez-les où vous voulez ou envoyez-les avec AirDrop.</translation>
     </message>
     <message>
-        <source>Allow %@ to read your screenshots folder in
+        <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
-        <translation>Autorisez %@ à lire votre dossier de captures d’écran dans
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Autorisez %1 à lire votre dossier de captures d’écran dans
 Paramètres système › Confidentialité et sécurité › Fichiers et dossiers.</translation>
     </message>
     <message>
@@ -343,6 +385,7 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>A button that opens the settings of the desktop.</extracomment>
         <translation>Aller aux paramètres</translation>
     </message>
     <message>
@@ -359,10 +402,12 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>A button: take all files off the shelf.</extracomment>
         <translation>Vider</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Take a file off the shelf; the file itself stays where it is.</extracomment>
         <translation>Retirer</translation>
     </message>
     <message>
@@ -371,6 +416,7 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
     </message>
     <message>
         <source>Script</source>
+        <extracomment>Name of the field for the text that is read aloud.</extracomment>
         <translation>Texte à lire</translation>
     </message>
     <message>
@@ -379,15 +425,18 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
     </message>
     <message>
         <source>Restart</source>
+        <extracomment>A button: scroll the script from its beginning again.</extracomment>
         <translation>Recommencer</translation>
     </message>
     <message>
         <source>Speed</source>
+        <extracomment>How fast the script scrolls.</extracomment>
         <translation>Vitesse</translation>
     </message>
     <message>
-        <source>Text %d</source>
-        <translation>Texte %d</translation>
+        <source>Text %1</source>
+        <extracomment>%1 is the size of the letters in points. There is little room.</extracomment>
+        <translation>Texte %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
@@ -407,6 +456,7 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>In the menu of a screenshot: copy the picture.</extracomment>
         <translation>Copier</translation>
     </message>
     <message>
@@ -431,6 +481,7 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
     </message>
     <message>
         <source>City</source>
+        <extracomment>What the empty field for the name of a city says.</extracomment>
         <translation>Ville</translation>
     </message>
     <message>
@@ -455,6 +506,7 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
     </message>
     <message>
         <source>My location</source>
+        <extracomment>In the place of a city’s name.</extracomment>
         <translation>Ma position</translation>
     </message>
     <message>
@@ -462,25 +514,29 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
         <translation>Position indisponible. Saisissez plutôt une ville.</translation>
     </message>
     <message>
-        <source>Not found: %@</source>
-        <translation>Introuvable&#x202f;: %@</translation>
+        <source>Not found: %1</source>
+        <extracomment>%1 is a list of the symbols of shares.</extracomment>
+        <translation>Introuvable&#x202f;: %1</translation>
     </message>
     <message>
-        <source>Wind %@ mph</source>
-        <translation>Vent %@&#x202f;mph</translation>
+        <source>Wind %1 mph</source>
+        <extracomment>%1 is a speed in miles an hour.</extracomment>
+        <translation>Vent %1&#x202f;mph</translation>
     </message>
     <message>
-        <source>Wind %@ km/h</source>
-        <translation>Vent %@&#x202f;km/h</translation>
+        <source>Wind %1 km/h</source>
+        <extracomment>%1 is a speed in kilometres an hour.</extracomment>
+        <translation>Vent %1&#x202f;km/h</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>Aujourd’hui</translation>
     </message>
     <message>
-        <source>Allow %@ to control Music or Spotify in
+        <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
-        <translation>Autorisez %@ à contrôler Music ou Spotify dans
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Autorisez %1 à contrôler Music ou Spotify dans
 Paramètres système › Confidentialité et sécurité › Automatisation.</translation>
     </message>
     <message>
@@ -491,14 +547,17 @@ et il apparaît ici.</translation>
     </message>
     <message>
         <source>Previous</source>
+        <extracomment>The previous song.</extracomment>
         <translation>Précédent</translation>
     </message>
     <message>
         <source>Next</source>
+        <extracomment>The next song.</extracomment>
         <translation>Suivant</translation>
     </message>
     <message>
         <source>charging</source>
+        <extracomment>Of the battery, after its level: “80% · charging”.</extracomment>
         <translation>en charge</translation>
     </message>
     <message>
@@ -507,10 +566,12 @@ et il apparaît ici.</translation>
     </message>
     <message>
         <source>CPU</source>
+        <extracomment>The processor and how busy it is. There is little room.</extracomment>
         <translation>CPU</translation>
     </message>
     <message>
         <source>Memory</source>
+        <extracomment>The working memory (RAM).</extracomment>
         <translation>Mémoire</translation>
     </message>
     <message>
@@ -518,21 +579,24 @@ et il apparaît ici.</translation>
         <translation>Disque</translation>
     </message>
     <message>
-        <source>%@ free</source>
-        <translation>%@ libres</translation>
+        <source>%1 free</source>
+        <extracomment>%1 is an amount with its unit, such as 12.3 GB.</extracomment>
+        <translation>%1 libres</translation>
     </message>
     <message>
         <source>No camera found.</source>
         <translation>Aucune caméra trouvée.</translation>
     </message>
     <message>
-        <source>Allow %@ to use the camera in
+        <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
-        <translation>Autorisez %@ à utiliser la caméra dans
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Autorisez %1 à utiliser la caméra dans
 Paramètres système › Confidentialité et sécurité › Caméra.</translation>
     </message>
     <message>
         <source>Events</source>
+        <extracomment>Heading of the list of appointments.</extracomment>
         <translation>Événements</translation>
     </message>
     <message>
@@ -549,6 +613,7 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>All done</source>
+        <extracomment>Instead of a list: no reminder is left.</extracomment>
         <translation>Tout est fait</translation>
     </message>
     <message>
@@ -557,10 +622,12 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>Complete</source>
+        <extracomment>A verb, on the circle before a reminder: mark it as done.</extracomment>
         <translation>Terminer</translation>
     </message>
     <message>
         <source>Event</source>
+        <extracomment>The title of an appointment that has none.</extracomment>
         <translation>Événement</translation>
     </message>
     <message>
@@ -569,6 +636,7 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>All day</source>
+        <extracomment>In the place of an appointment’s time.</extracomment>
         <translation>Toute la journée</translation>
     </message>
     <message>
@@ -613,14 +681,17 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>Opening</source>
+        <extracomment>Heading of the settings that say how the notch opens.</extracomment>
         <translation>Ouverture</translation>
     </message>
     <message>
         <source>Open the notch</source>
+        <extracomment>Followed by the choice of “On hover” and “On click”.</extracomment>
         <translation>Ouvrir l’encoche</translation>
     </message>
     <message>
         <source>Hover delay</source>
+        <extracomment>How long the pointer rests on the notch before it opens; beside a slider.</extracomment>
         <translation>Délai de survol</translation>
     </message>
     <message>
@@ -637,6 +708,7 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>Displays</source>
+        <extracomment>Heading of the settings that are about monitors.</extracomment>
         <translation>Écrans</translation>
     </message>
     <message>
@@ -729,6 +801,7 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>%1 is a number of milliseconds.</extracomment>
         <translation>%1&#x202f;ms</translation>
     </message>
     <message>
@@ -776,28 +849,33 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <translation>Kestrune est à jour</translation>
     </message>
     <message>
-        <source>Kestrune %@ is available</source>
-        <translation>Kestrune %@ est disponible</translation>
+        <source>Kestrune %1 is available</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 est disponible</translation>
     </message>
     <message>
-        <source>Downloading Kestrune %@…</source>
-        <translation>Téléchargement de Kestrune %@…</translation>
+        <source>Downloading Kestrune %1…</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Téléchargement de Kestrune %1…</translation>
     </message>
     <message>
-        <source>Kestrune %@ is ready to install</source>
-        <translation>Kestrune %@ est prêt à être installé</translation>
+        <source>Kestrune %1 is ready to install</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 est prêt à être installé</translation>
     </message>
     <message>
         <source>Kestrune could not be updated</source>
         <translation>Kestrune n’a pas pu être mis à jour</translation>
     </message>
     <message>
-        <source>Version %@ is the newest one.</source>
-        <translation>La version %@ est la plus récente.</translation>
+        <source>Version %1 is the newest one.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>La version %1 est la plus récente.</translation>
     </message>
     <message>
-        <source>You have version %@.</source>
-        <translation>Vous avez la version %@.</translation>
+        <source>You have version %1.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Vous avez la version %1.</translation>
     </message>
     <message>
         <source>It was checked: it comes from Kestrune’s makers.</source>
@@ -805,6 +883,7 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>Download</source>
+        <extracomment>A verb, on a button.</extracomment>
         <translation>Télécharger</translation>
     </message>
     <message>
@@ -817,6 +896,7 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>Later</source>
+        <extracomment>A button that closes the window of an update.</extracomment>
         <translation>Plus tard</translation>
     </message>
     <message>

@@ -5,6 +5,7 @@
     <name>notch</name>
     <message>
         <source>Unpin</source>
+        <extracomment>Let the notch close by itself again; the opposite of “Keep open”.</extracomment>
         <translation>Sblocca</translation>
     </message>
     <message>
@@ -37,6 +38,7 @@
     </message>
     <message>
         <source>Note</source>
+        <extracomment>A note to oneself, such as one jots down.</extracomment>
         <translation>Nota</translation>
     </message>
     <message>
@@ -61,19 +63,28 @@
     </message>
     <message>
         <source>Start</source>
+        <extracomment>Start the timer.</extracomment>
         <translation>Avvia</translation>
     </message>
     <message>
         <source>Reset</source>
+        <extracomment>Set the timer back to its beginning.</extracomment>
         <translation>Azzera</translation>
     </message>
     <message>
         <source>Done</source>
+        <extracomment>A button of the script: “Edit” begins to change it, “Done” ends that.
+----------
+The time of the timer is over.</extracomment>
         <translation>Fine</translation>
     </message>
-    <message>
-        <source>%d min</source>
-        <translation>%d min</translation>
+    <message numerus="yes">
+        <source>%Ln min</source>
+        <extracomment>A button that starts a timer; “min” is short for minutes. There is little room.</extracomment>
+        <translation>
+            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln min</numerusform>
+        </translation>
     </message>
     <message>
         <source>The time stays visible beside the closed notch.</source>
@@ -89,6 +100,7 @@
     </message>
     <message>
         <source>Home</source>
+        <extracomment>The page that the notch opens with, like that of a telephone.</extracomment>
         <translation>Home</translation>
     </message>
     <message>
@@ -109,6 +121,7 @@
     </message>
     <message>
         <source>Shelf</source>
+        <extracomment>A place where files are put down for a while.</extracomment>
         <translation>Mensola</translation>
     </message>
     <message>
@@ -121,6 +134,7 @@
     </message>
     <message>
         <source>Stocks</source>
+        <extracomment>The prices of shares.</extracomment>
         <translation>Borsa</translation>
     </message>
     <message>
@@ -133,6 +147,7 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Processor, memory, disk and battery of this computer.</extracomment>
         <translation>Sistema</translation>
     </message>
     <message>
@@ -157,6 +172,7 @@
     </message>
     <message>
         <source>Hidden</source>
+        <extracomment>Where a block of Home stands: nowhere. The others are its three columns.</extracomment>
         <translation>Nascosto</translation>
     </message>
     <message>
@@ -173,6 +189,7 @@
     </message>
     <message>
         <source>On hover</source>
+        <extracomment>Completes “Open the notch”: when the pointer rests on it.</extracomment>
         <translation>Al passaggio</translation>
     </message>
     <message>
@@ -185,6 +202,7 @@
     </message>
     <message>
         <source>this app</source>
+        <extracomment>Stands for the name of the program where it has none.</extracomment>
         <translation>questa app</translation>
     </message>
     <message>
@@ -209,22 +227,27 @@ Attivala in Impostazioni.</translation>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>In the menu of an entry: delete it from the history.</extracomment>
         <translation>Elimina</translation>
     </message>
     <message>
         <source>Copied</source>
+        <extracomment>Shown in the place of what was just copied again.</extracomment>
         <translation>Copiato</translation>
     </message>
     <message>
         <source>Search</source>
+        <extracomment>What an empty search field says, and the button that looks for a city.</extracomment>
         <translation>Cerca</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>What the list shows: copies of every kind.</extracomment>
         <translation>Tutto</translation>
     </message>
     <message>
         <source>Text</source>
+        <extracomment>What the list shows: the copies that are texts.</extracomment>
         <translation>Testo</translation>
     </message>
     <message>
@@ -241,6 +264,7 @@ Attivala in Impostazioni.</translation>
     </message>
     <message>
         <source>Image</source>
+        <extracomment>The title of a copied picture, before its size.</extracomment>
         <translation>Immagine</translation>
     </message>
     <message>
@@ -265,19 +289,29 @@ Attivala in Impostazioni.</translation>
     </message>
     <message>
         <source>Read again</source>
+        <extracomment>On a round button: read the logs once more.</extracomment>
         <translation>Rileggi</translation>
     </message>
     <message>
         <source>Connect</source>
+        <extracomment>A button: begin to read the usage of a program.</extracomment>
         <translation>Connetti</translation>
     </message>
-    <message>
-        <source>%@ tokens</source>
-        <translation>%@ token</translation>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <extracomment>%1 is the number of tokens, the pieces of text that a language model counts in.</extracomment>
+        <translation>
+            <numerusform>%1 token</numerusform>
+            <numerusform>%1 token</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%d%% left</source>
-        <translation>%d%% residuo</translation>
+    <message numerus="yes">
+        <source>%Ln% left</source>
+        <extracomment>What is left of a limit, in per cent.</extracomment>
+        <translation>
+            <numerusform>%Ln% residuo</numerusform>
+            <numerusform>%Ln% residuo</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -288,15 +322,18 @@ Attivala in Impostazioni.</translation>
         <translation>Ancora nessuna attività di Codex. Usa Codex una volta e apparirà qui.</translation>
     </message>
     <message>
-        <source>Updated %@</source>
-        <translation>Aggiornato: %@</translation>
+        <source>Updated %1</source>
+        <extracomment>%1 is a time, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>Aggiornato: %1</translation>
     </message>
     <message>
         <source>5-hour window</source>
+        <extracomment>The name of a limit that holds for five hours.</extracomment>
         <translation>Periodo di 5 ore</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>The name of a limit that holds for a week.</extracomment>
         <translation>Settimanale</translation>
     </message>
     <message>
@@ -304,24 +341,28 @@ Attivala in Impostazioni.</translation>
         <translation>Nessuna attività di Claude Code.</translation>
     </message>
     <message>
-        <source>%d%% of your budget</source>
-        <translation>%d%% del tuo budget</translation>
+        <source>%1% of your budget</source>
+        <extracomment>%1 is a number. There is little room.</extracomment>
+        <translation>%1% del tuo budget</translation>
     </message>
     <message>
-        <source>%d%% of your busiest block this week</source>
-        <translation>%d%% del blocco di picco settimanale</translation>
+        <source>%1% of your busiest block this week</source>
+        <extracomment>%1 is a number; a block is five hours of work. There is little room.</extracomment>
+        <translation>%1% del blocco di picco settimanale</translation>
     </message>
     <message>
         <source>This 5-hour block</source>
         <translation>Questo blocco di 5 ore</translation>
     </message>
     <message>
-        <source>Resets: %@</source>
-        <translation>Rinnovo: %@</translation>
+        <source>Resets: %1</source>
+        <extracomment>When a limit begins anew; %1 is a time, such as “14:05” or “Mon 14:05”. There is little room.</extracomment>
+        <translation>Rinnovo: %1</translation>
     </message>
     <message>
-        <source>%d%%</source>
-        <translation>%d%%</translation>
+        <source>%1%</source>
+        <extracomment>%1 is a number, with decimals where it is the change of a share’s price.</extracomment>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Drop files here to keep them handy.
@@ -330,9 +371,10 @@ Drag them out anywhere, or AirDrop them.</source>
 Poi trascinali dove vuoi o inviali con AirDrop.</translation>
     </message>
     <message>
-        <source>Allow %@ to read your screenshots folder in
+        <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
-        <translation>Consenti a %@ di leggere la cartella degli screenshot in
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Consenti a %1 di leggere la cartella degli screenshot in
 Impostazioni di sistema › Privacy e sicurezza › File e cartelle.</translation>
     </message>
     <message>
@@ -343,6 +385,7 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>A button that opens the settings of the desktop.</extracomment>
         <translation>Apri impostazioni</translation>
     </message>
     <message>
@@ -359,10 +402,12 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>A button: take all files off the shelf.</extracomment>
         <translation>Svuota</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Take a file off the shelf; the file itself stays where it is.</extracomment>
         <translation>Rimuovi</translation>
     </message>
     <message>
@@ -371,6 +416,7 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
     </message>
     <message>
         <source>Script</source>
+        <extracomment>Name of the field for the text that is read aloud.</extracomment>
         <translation>Copione</translation>
     </message>
     <message>
@@ -379,15 +425,18 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
     </message>
     <message>
         <source>Restart</source>
+        <extracomment>A button: scroll the script from its beginning again.</extracomment>
         <translation>Ricomincia</translation>
     </message>
     <message>
         <source>Speed</source>
+        <extracomment>How fast the script scrolls.</extracomment>
         <translation>Velocità</translation>
     </message>
     <message>
-        <source>Text %d</source>
-        <translation>Testo %d</translation>
+        <source>Text %1</source>
+        <extracomment>%1 is the size of the letters in points. There is little room.</extracomment>
+        <translation>Testo %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
@@ -407,6 +456,7 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>In the menu of a screenshot: copy the picture.</extracomment>
         <translation>Copia</translation>
     </message>
     <message>
@@ -431,6 +481,7 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
     </message>
     <message>
         <source>City</source>
+        <extracomment>What the empty field for the name of a city says.</extracomment>
         <translation>Città</translation>
     </message>
     <message>
@@ -455,6 +506,7 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
     </message>
     <message>
         <source>My location</source>
+        <extracomment>In the place of a city’s name.</extracomment>
         <translation>La mia posizione</translation>
     </message>
     <message>
@@ -462,25 +514,29 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
         <translation>Posizione non disponibile. Scrivi una città.</translation>
     </message>
     <message>
-        <source>Not found: %@</source>
-        <translation>Non trovato: %@</translation>
+        <source>Not found: %1</source>
+        <extracomment>%1 is a list of the symbols of shares.</extracomment>
+        <translation>Non trovato: %1</translation>
     </message>
     <message>
-        <source>Wind %@ mph</source>
-        <translation>Vento %@ mph</translation>
+        <source>Wind %1 mph</source>
+        <extracomment>%1 is a speed in miles an hour.</extracomment>
+        <translation>Vento %1 mph</translation>
     </message>
     <message>
-        <source>Wind %@ km/h</source>
-        <translation>Vento %@ km/h</translation>
+        <source>Wind %1 km/h</source>
+        <extracomment>%1 is a speed in kilometres an hour.</extracomment>
+        <translation>Vento %1 km/h</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>Oggi</translation>
     </message>
     <message>
-        <source>Allow %@ to control Music or Spotify in
+        <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
-        <translation>Consenti a %@ di controllare Music o Spotify in
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Consenti a %1 di controllare Music o Spotify in
 Impostazioni di sistema › Privacy e sicurezza › Automazione.</translation>
     </message>
     <message>
@@ -491,14 +547,17 @@ e apparirà qui.</translation>
     </message>
     <message>
         <source>Previous</source>
+        <extracomment>The previous song.</extracomment>
         <translation>Precedente</translation>
     </message>
     <message>
         <source>Next</source>
+        <extracomment>The next song.</extracomment>
         <translation>Successivo</translation>
     </message>
     <message>
         <source>charging</source>
+        <extracomment>Of the battery, after its level: “80% · charging”.</extracomment>
         <translation>in carica</translation>
     </message>
     <message>
@@ -507,10 +566,12 @@ e apparirà qui.</translation>
     </message>
     <message>
         <source>CPU</source>
+        <extracomment>The processor and how busy it is. There is little room.</extracomment>
         <translation>CPU</translation>
     </message>
     <message>
         <source>Memory</source>
+        <extracomment>The working memory (RAM).</extracomment>
         <translation>Memoria</translation>
     </message>
     <message>
@@ -518,21 +579,24 @@ e apparirà qui.</translation>
         <translation>Disco</translation>
     </message>
     <message>
-        <source>%@ free</source>
-        <translation>%@ liberi</translation>
+        <source>%1 free</source>
+        <extracomment>%1 is an amount with its unit, such as 12.3 GB.</extracomment>
+        <translation>%1 liberi</translation>
     </message>
     <message>
         <source>No camera found.</source>
         <translation>Nessuna fotocamera trovata.</translation>
     </message>
     <message>
-        <source>Allow %@ to use the camera in
+        <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
-        <translation>Consenti a %@ di usare la fotocamera in
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Consenti a %1 di usare la fotocamera in
 Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>Events</source>
+        <extracomment>Heading of the list of appointments.</extracomment>
         <translation>Eventi</translation>
     </message>
     <message>
@@ -549,6 +613,7 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>All done</source>
+        <extracomment>Instead of a list: no reminder is left.</extracomment>
         <translation>Tutto fatto</translation>
     </message>
     <message>
@@ -557,10 +622,12 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>Complete</source>
+        <extracomment>A verb, on the circle before a reminder: mark it as done.</extracomment>
         <translation>Completa</translation>
     </message>
     <message>
         <source>Event</source>
+        <extracomment>The title of an appointment that has none.</extracomment>
         <translation>Evento</translation>
     </message>
     <message>
@@ -569,6 +636,7 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>All day</source>
+        <extracomment>In the place of an appointment’s time.</extracomment>
         <translation>Tutto il giorno</translation>
     </message>
     <message>
@@ -613,14 +681,17 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>Opening</source>
+        <extracomment>Heading of the settings that say how the notch opens.</extracomment>
         <translation>Apertura</translation>
     </message>
     <message>
         <source>Open the notch</source>
+        <extracomment>Followed by the choice of “On hover” and “On click”.</extracomment>
         <translation>Apri il notch</translation>
     </message>
     <message>
         <source>Hover delay</source>
+        <extracomment>How long the pointer rests on the notch before it opens; beside a slider.</extracomment>
         <translation>Ritardo al passaggio</translation>
     </message>
     <message>
@@ -637,6 +708,7 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>Displays</source>
+        <extracomment>Heading of the settings that are about monitors.</extracomment>
         <translation>Schermi</translation>
     </message>
     <message>
@@ -729,6 +801,7 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>%1 is a number of milliseconds.</extracomment>
         <translation>%1 ms</translation>
     </message>
     <message>
@@ -776,28 +849,33 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
         <translation>Kestrune è aggiornato</translation>
     </message>
     <message>
-        <source>Kestrune %@ is available</source>
-        <translation>Kestrune %@ è disponibile</translation>
+        <source>Kestrune %1 is available</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 è disponibile</translation>
     </message>
     <message>
-        <source>Downloading Kestrune %@…</source>
-        <translation>Download di Kestrune %@…</translation>
+        <source>Downloading Kestrune %1…</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Download di Kestrune %1…</translation>
     </message>
     <message>
-        <source>Kestrune %@ is ready to install</source>
-        <translation>Kestrune %@ è pronto per l’installazione</translation>
+        <source>Kestrune %1 is ready to install</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 è pronto per l’installazione</translation>
     </message>
     <message>
         <source>Kestrune could not be updated</source>
         <translation>Impossibile aggiornare Kestrune</translation>
     </message>
     <message>
-        <source>Version %@ is the newest one.</source>
-        <translation>La versione %@ è la più recente.</translation>
+        <source>Version %1 is the newest one.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>La versione %1 è la più recente.</translation>
     </message>
     <message>
-        <source>You have version %@.</source>
-        <translation>Hai la versione %@.</translation>
+        <source>You have version %1.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Hai la versione %1.</translation>
     </message>
     <message>
         <source>It was checked: it comes from Kestrune’s makers.</source>
@@ -805,6 +883,7 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>Download</source>
+        <extracomment>A verb, on a button.</extracomment>
         <translation>Scarica</translation>
     </message>
     <message>
@@ -817,6 +896,7 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>A button that closes the window of an update.</extracomment>
         <translation>Più tardi</translation>
     </message>
     <message>

@@ -5,6 +5,7 @@
     <name>notch</name>
     <message>
         <source>Unpin</source>
+        <extracomment>Let the notch close by itself again; the opposite of “Keep open”.</extracomment>
         <translation>固定を解除</translation>
     </message>
     <message>
@@ -37,6 +38,7 @@
     </message>
     <message>
         <source>Note</source>
+        <extracomment>A note to oneself, such as one jots down.</extracomment>
         <translation>メモ</translation>
     </message>
     <message>
@@ -61,19 +63,27 @@
     </message>
     <message>
         <source>Start</source>
+        <extracomment>Start the timer.</extracomment>
         <translation>開始</translation>
     </message>
     <message>
         <source>Reset</source>
+        <extracomment>Set the timer back to its beginning.</extracomment>
         <translation>リセット</translation>
     </message>
     <message>
         <source>Done</source>
+        <extracomment>A button of the script: “Edit” begins to change it, “Done” ends that.
+----------
+The time of the timer is over.</extracomment>
         <translation>完了</translation>
     </message>
-    <message>
-        <source>%d min</source>
-        <translation>%d分</translation>
+    <message numerus="yes">
+        <source>%Ln min</source>
+        <extracomment>A button that starts a timer; “min” is short for minutes. There is little room.</extracomment>
+        <translation>
+            <numerusform>%Ln分</numerusform>
+        </translation>
     </message>
     <message>
         <source>The time stays visible beside the closed notch.</source>
@@ -89,6 +99,7 @@
     </message>
     <message>
         <source>Home</source>
+        <extracomment>The page that the notch opens with, like that of a telephone.</extracomment>
         <translation>ホーム</translation>
     </message>
     <message>
@@ -109,6 +120,7 @@
     </message>
     <message>
         <source>Shelf</source>
+        <extracomment>A place where files are put down for a while.</extracomment>
         <translation>シェルフ</translation>
     </message>
     <message>
@@ -121,6 +133,7 @@
     </message>
     <message>
         <source>Stocks</source>
+        <extracomment>The prices of shares.</extracomment>
         <translation>株価</translation>
     </message>
     <message>
@@ -133,6 +146,7 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Processor, memory, disk and battery of this computer.</extracomment>
         <translation>システム</translation>
     </message>
     <message>
@@ -157,6 +171,7 @@
     </message>
     <message>
         <source>Hidden</source>
+        <extracomment>Where a block of Home stands: nowhere. The others are its three columns.</extracomment>
         <translation>非表示</translation>
     </message>
     <message>
@@ -173,6 +188,7 @@
     </message>
     <message>
         <source>On hover</source>
+        <extracomment>Completes “Open the notch”: when the pointer rests on it.</extracomment>
         <translation>ホバー時</translation>
     </message>
     <message>
@@ -185,6 +201,7 @@
     </message>
     <message>
         <source>this app</source>
+        <extracomment>Stands for the name of the program where it has none.</extracomment>
         <translation>このアプリ</translation>
     </message>
     <message>
@@ -209,22 +226,27 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>In the menu of an entry: delete it from the history.</extracomment>
         <translation>削除</translation>
     </message>
     <message>
         <source>Copied</source>
+        <extracomment>Shown in the place of what was just copied again.</extracomment>
         <translation>コピー済み</translation>
     </message>
     <message>
         <source>Search</source>
+        <extracomment>What an empty search field says, and the button that looks for a city.</extracomment>
         <translation>検索</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>What the list shows: copies of every kind.</extracomment>
         <translation>すべて</translation>
     </message>
     <message>
         <source>Text</source>
+        <extracomment>What the list shows: the copies that are texts.</extracomment>
         <translation>テキスト</translation>
     </message>
     <message>
@@ -241,6 +263,7 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Image</source>
+        <extracomment>The title of a copied picture, before its size.</extracomment>
         <translation>画像</translation>
     </message>
     <message>
@@ -265,19 +288,27 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Read again</source>
+        <extracomment>On a round button: read the logs once more.</extracomment>
         <translation>再読み込み</translation>
     </message>
     <message>
         <source>Connect</source>
+        <extracomment>A button: begin to read the usage of a program.</extracomment>
         <translation>接続</translation>
     </message>
-    <message>
-        <source>%@ tokens</source>
-        <translation>%@トークン</translation>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <extracomment>%1 is the number of tokens, the pieces of text that a language model counts in.</extracomment>
+        <translation>
+            <numerusform>%1トークン</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%d%% left</source>
-        <translation>残り%d%%</translation>
+    <message numerus="yes">
+        <source>%Ln% left</source>
+        <extracomment>What is left of a limit, in per cent.</extracomment>
+        <translation>
+            <numerusform>残り%Ln%</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -288,15 +319,18 @@ Turn it on in Settings.</source>
         <translation>Codexの使用記録がまだありません。Codexを一度使うと、ここに表示されます。</translation>
     </message>
     <message>
-        <source>Updated %@</source>
-        <translation>更新：%@</translation>
+        <source>Updated %1</source>
+        <extracomment>%1 is a time, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>更新：%1</translation>
     </message>
     <message>
         <source>5-hour window</source>
+        <extracomment>The name of a limit that holds for five hours.</extracomment>
         <translation>5時間枠</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>The name of a limit that holds for a week.</extracomment>
         <translation>週間</translation>
     </message>
     <message>
@@ -304,24 +338,28 @@ Turn it on in Settings.</source>
         <translation>Claude Codeの使用記録がありません。</translation>
     </message>
     <message>
-        <source>%d%% of your budget</source>
-        <translation>予算の%d%%</translation>
+        <source>%1% of your budget</source>
+        <extracomment>%1 is a number. There is little room.</extracomment>
+        <translation>予算の%1%</translation>
     </message>
     <message>
-        <source>%d%% of your busiest block this week</source>
-        <translation>今週最多ブロックの%d%%</translation>
+        <source>%1% of your busiest block this week</source>
+        <extracomment>%1 is a number; a block is five hours of work. There is little room.</extracomment>
+        <translation>今週最多ブロックの%1%</translation>
     </message>
     <message>
         <source>This 5-hour block</source>
         <translation>この5時間ブロック</translation>
     </message>
     <message>
-        <source>Resets: %@</source>
-        <translation>リセット：%@</translation>
+        <source>Resets: %1</source>
+        <extracomment>When a limit begins anew; %1 is a time, such as “14:05” or “Mon 14:05”. There is little room.</extracomment>
+        <translation>リセット：%1</translation>
     </message>
     <message>
-        <source>%d%%</source>
-        <translation>%d%%</translation>
+        <source>%1%</source>
+        <extracomment>%1 is a number, with decimals where it is the change of a share’s price.</extracomment>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Drop files here to keep them handy.
@@ -330,9 +368,10 @@ Drag them out anywhere, or AirDrop them.</source>
 ここからどこへでもドラッグでき、AirDropでも送れます。</translation>
     </message>
     <message>
-        <source>Allow %@ to read your screenshots folder in
+        <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
-        <translation>%@にスクリーンショットのフォルダの読み取りを許可してください：
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>%1にスクリーンショットのフォルダの読み取りを許可してください：
 システム設定 › プライバシーとセキュリティ › ファイルとフォルダ</translation>
     </message>
     <message>
@@ -343,6 +382,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>A button that opens the settings of the desktop.</extracomment>
         <translation>設定を開く</translation>
     </message>
     <message>
@@ -359,10 +399,12 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>A button: take all files off the shelf.</extracomment>
         <translation>クリア</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Take a file off the shelf; the file itself stays where it is.</extracomment>
         <translation>取り除く</translation>
     </message>
     <message>
@@ -371,6 +413,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Script</source>
+        <extracomment>Name of the field for the text that is read aloud.</extracomment>
         <translation>原稿</translation>
     </message>
     <message>
@@ -379,15 +422,18 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Restart</source>
+        <extracomment>A button: scroll the script from its beginning again.</extracomment>
         <translation>最初から</translation>
     </message>
     <message>
         <source>Speed</source>
+        <extracomment>How fast the script scrolls.</extracomment>
         <translation>速度</translation>
     </message>
     <message>
-        <source>Text %d</source>
-        <translation>文字 %d</translation>
+        <source>Text %1</source>
+        <extracomment>%1 is the size of the letters in points. There is little room.</extracomment>
+        <translation>文字 %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
@@ -407,6 +453,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>In the menu of a screenshot: copy the picture.</extracomment>
         <translation>コピー</translation>
     </message>
     <message>
@@ -431,6 +478,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>City</source>
+        <extracomment>What the empty field for the name of a city says.</extracomment>
         <translation>都市</translation>
     </message>
     <message>
@@ -455,6 +503,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>My location</source>
+        <extracomment>In the place of a city’s name.</extracomment>
         <translation>現在地</translation>
     </message>
     <message>
@@ -462,25 +511,29 @@ Drag it into any app, or right-click for more.</source>
         <translation>現在地を取得できません。都市を入力してください。</translation>
     </message>
     <message>
-        <source>Not found: %@</source>
-        <translation>見つかりません：%@</translation>
+        <source>Not found: %1</source>
+        <extracomment>%1 is a list of the symbols of shares.</extracomment>
+        <translation>見つかりません：%1</translation>
     </message>
     <message>
-        <source>Wind %@ mph</source>
-        <translation>風速 %@ mph</translation>
+        <source>Wind %1 mph</source>
+        <extracomment>%1 is a speed in miles an hour.</extracomment>
+        <translation>風速 %1 mph</translation>
     </message>
     <message>
-        <source>Wind %@ km/h</source>
-        <translation>風速 %@ km/h</translation>
+        <source>Wind %1 km/h</source>
+        <extracomment>%1 is a speed in kilometres an hour.</extracomment>
+        <translation>風速 %1 km/h</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>今日</translation>
     </message>
     <message>
-        <source>Allow %@ to control Music or Spotify in
+        <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
-        <translation>%@にMusicまたはSpotifyの操作を許可してください：
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>%1にMusicまたはSpotifyの操作を許可してください：
 システム設定 › プライバシーとセキュリティ › オートメーション</translation>
     </message>
     <message>
@@ -491,14 +544,17 @@ and it shows up here.</source>
     </message>
     <message>
         <source>Previous</source>
+        <extracomment>The previous song.</extracomment>
         <translation>前へ</translation>
     </message>
     <message>
         <source>Next</source>
+        <extracomment>The next song.</extracomment>
         <translation>次へ</translation>
     </message>
     <message>
         <source>charging</source>
+        <extracomment>Of the battery, after its level: “80% · charging”.</extracomment>
         <translation>充電中</translation>
     </message>
     <message>
@@ -507,10 +563,12 @@ and it shows up here.</source>
     </message>
     <message>
         <source>CPU</source>
+        <extracomment>The processor and how busy it is. There is little room.</extracomment>
         <translation>CPU</translation>
     </message>
     <message>
         <source>Memory</source>
+        <extracomment>The working memory (RAM).</extracomment>
         <translation>メモリ</translation>
     </message>
     <message>
@@ -518,21 +576,24 @@ and it shows up here.</source>
         <translation>ディスク</translation>
     </message>
     <message>
-        <source>%@ free</source>
-        <translation>空き%@</translation>
+        <source>%1 free</source>
+        <extracomment>%1 is an amount with its unit, such as 12.3 GB.</extracomment>
+        <translation>空き%1</translation>
     </message>
     <message>
         <source>No camera found.</source>
         <translation>カメラが見つかりません。</translation>
     </message>
     <message>
-        <source>Allow %@ to use the camera in
+        <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
-        <translation>%@にカメラの使用を許可してください：
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>%1にカメラの使用を許可してください：
 システム設定 › プライバシーとセキュリティ › カメラ</translation>
     </message>
     <message>
         <source>Events</source>
+        <extracomment>Heading of the list of appointments.</extracomment>
         <translation>予定</translation>
     </message>
     <message>
@@ -549,6 +610,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>All done</source>
+        <extracomment>Instead of a list: no reminder is left.</extracomment>
         <translation>すべて完了</translation>
     </message>
     <message>
@@ -557,10 +619,12 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Complete</source>
+        <extracomment>A verb, on the circle before a reminder: mark it as done.</extracomment>
         <translation>完了にする</translation>
     </message>
     <message>
         <source>Event</source>
+        <extracomment>The title of an appointment that has none.</extracomment>
         <translation>予定</translation>
     </message>
     <message>
@@ -569,6 +633,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>All day</source>
+        <extracomment>In the place of an appointment’s time.</extracomment>
         <translation>終日</translation>
     </message>
     <message>
@@ -613,14 +678,17 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Opening</source>
+        <extracomment>Heading of the settings that say how the notch opens.</extracomment>
         <translation>開き方</translation>
     </message>
     <message>
         <source>Open the notch</source>
+        <extracomment>Followed by the choice of “On hover” and “On click”.</extracomment>
         <translation>ノッチを開く</translation>
     </message>
     <message>
         <source>Hover delay</source>
+        <extracomment>How long the pointer rests on the notch before it opens; beside a slider.</extracomment>
         <translation>ホバー時の待ち時間</translation>
     </message>
     <message>
@@ -637,6 +705,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Displays</source>
+        <extracomment>Heading of the settings that are about monitors.</extracomment>
         <translation>ディスプレイ</translation>
     </message>
     <message>
@@ -729,6 +798,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>%1 is a number of milliseconds.</extracomment>
         <translation>%1 ms</translation>
     </message>
     <message>
@@ -776,28 +846,33 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <translation>Kestruneは最新です</translation>
     </message>
     <message>
-        <source>Kestrune %@ is available</source>
-        <translation>Kestrune %@を利用できます</translation>
+        <source>Kestrune %1 is available</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1を利用できます</translation>
     </message>
     <message>
-        <source>Downloading Kestrune %@…</source>
-        <translation>Kestrune %@をダウンロード中…</translation>
+        <source>Downloading Kestrune %1…</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1をダウンロード中…</translation>
     </message>
     <message>
-        <source>Kestrune %@ is ready to install</source>
-        <translation>Kestrune %@をインストールできます</translation>
+        <source>Kestrune %1 is ready to install</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1をインストールできます</translation>
     </message>
     <message>
         <source>Kestrune could not be updated</source>
         <translation>Kestruneをアップデートできませんでした</translation>
     </message>
     <message>
-        <source>Version %@ is the newest one.</source>
-        <translation>バージョン%@が最新です。</translation>
+        <source>Version %1 is the newest one.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>バージョン%1が最新です。</translation>
     </message>
     <message>
-        <source>You have version %@.</source>
-        <translation>現在のバージョンは%@です。</translation>
+        <source>You have version %1.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>現在のバージョンは%1です。</translation>
     </message>
     <message>
         <source>It was checked: it comes from Kestrune’s makers.</source>
@@ -805,6 +880,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Download</source>
+        <extracomment>A verb, on a button.</extracomment>
         <translation>ダウンロード</translation>
     </message>
     <message>
@@ -817,6 +893,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>A button that closes the window of an update.</extracomment>
         <translation>あとで</translation>
     </message>
     <message>

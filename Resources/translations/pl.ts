@@ -5,6 +5,7 @@
     <name>notch</name>
     <message>
         <source>Unpin</source>
+        <extracomment>Let the notch close by itself again; the opposite of “Keep open”.</extracomment>
         <translation>Odepnij</translation>
     </message>
     <message>
@@ -37,6 +38,7 @@
     </message>
     <message>
         <source>Note</source>
+        <extracomment>A note to oneself, such as one jots down.</extracomment>
         <translation>Notatka</translation>
     </message>
     <message>
@@ -61,19 +63,29 @@
     </message>
     <message>
         <source>Start</source>
+        <extracomment>Start the timer.</extracomment>
         <translation>Start</translation>
     </message>
     <message>
         <source>Reset</source>
+        <extracomment>Set the timer back to its beginning.</extracomment>
         <translation>Wyzeruj</translation>
     </message>
     <message>
         <source>Done</source>
+        <extracomment>A button of the script: “Edit” begins to change it, “Done” ends that.
+----------
+The time of the timer is over.</extracomment>
         <translation>Gotowe</translation>
     </message>
-    <message>
-        <source>%d min</source>
-        <translation>%d min</translation>
+    <message numerus="yes">
+        <source>%Ln min</source>
+        <extracomment>A button that starts a timer; “min” is short for minutes. There is little room.</extracomment>
+        <translation>
+            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln min</numerusform>
+        </translation>
     </message>
     <message>
         <source>The time stays visible beside the closed notch.</source>
@@ -89,6 +101,7 @@
     </message>
     <message>
         <source>Home</source>
+        <extracomment>The page that the notch opens with, like that of a telephone.</extracomment>
         <translation>Start</translation>
     </message>
     <message>
@@ -109,6 +122,7 @@
     </message>
     <message>
         <source>Shelf</source>
+        <extracomment>A place where files are put down for a while.</extracomment>
         <translation>Półka</translation>
     </message>
     <message>
@@ -121,6 +135,7 @@
     </message>
     <message>
         <source>Stocks</source>
+        <extracomment>The prices of shares.</extracomment>
         <translation>Giełda</translation>
     </message>
     <message>
@@ -133,6 +148,7 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Processor, memory, disk and battery of this computer.</extracomment>
         <translation>System</translation>
     </message>
     <message>
@@ -157,6 +173,7 @@
     </message>
     <message>
         <source>Hidden</source>
+        <extracomment>Where a block of Home stands: nowhere. The others are its three columns.</extracomment>
         <translation>Ukryte</translation>
     </message>
     <message>
@@ -173,6 +190,7 @@
     </message>
     <message>
         <source>On hover</source>
+        <extracomment>Completes “Open the notch”: when the pointer rests on it.</extracomment>
         <translation>Po najechaniu</translation>
     </message>
     <message>
@@ -185,6 +203,7 @@
     </message>
     <message>
         <source>this app</source>
+        <extracomment>Stands for the name of the program where it has none.</extracomment>
         <translation>tej aplikacji</translation>
     </message>
     <message>
@@ -209,22 +228,27 @@ Włącz ją w ustawieniach.</translation>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>In the menu of an entry: delete it from the history.</extracomment>
         <translation>Usuń</translation>
     </message>
     <message>
         <source>Copied</source>
+        <extracomment>Shown in the place of what was just copied again.</extracomment>
         <translation>Skopiowano</translation>
     </message>
     <message>
         <source>Search</source>
+        <extracomment>What an empty search field says, and the button that looks for a city.</extracomment>
         <translation>Szukaj</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>What the list shows: copies of every kind.</extracomment>
         <translation>Wszystko</translation>
     </message>
     <message>
         <source>Text</source>
+        <extracomment>What the list shows: the copies that are texts.</extracomment>
         <translation>Tekst</translation>
     </message>
     <message>
@@ -241,6 +265,7 @@ Włącz ją w ustawieniach.</translation>
     </message>
     <message>
         <source>Image</source>
+        <extracomment>The title of a copied picture, before its size.</extracomment>
         <translation>Obraz</translation>
     </message>
     <message>
@@ -265,19 +290,31 @@ Włącz ją w ustawieniach.</translation>
     </message>
     <message>
         <source>Read again</source>
+        <extracomment>On a round button: read the logs once more.</extracomment>
         <translation>Odczytaj ponownie</translation>
     </message>
     <message>
         <source>Connect</source>
+        <extracomment>A button: begin to read the usage of a program.</extracomment>
         <translation>Połącz</translation>
     </message>
-    <message>
-        <source>%@ tokens</source>
-        <translation>%@ tokenów</translation>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <extracomment>%1 is the number of tokens, the pieces of text that a language model counts in.</extracomment>
+        <translation>
+            <numerusform>%1 token</numerusform>
+            <numerusform>%1 tokeny</numerusform>
+            <numerusform>%1 tokenów</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%d%% left</source>
-        <translation>zostało %d%%</translation>
+    <message numerus="yes">
+        <source>%Ln% left</source>
+        <extracomment>What is left of a limit, in per cent.</extracomment>
+        <translation>
+            <numerusform>został %Ln%</numerusform>
+            <numerusform>zostały %Ln%</numerusform>
+            <numerusform>zostało %Ln%</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -288,15 +325,18 @@ Włącz ją w ustawieniach.</translation>
         <translation>Nie znaleziono jeszcze aktywności Codex. Użyj Codex raz, a pojawi się tutaj.</translation>
     </message>
     <message>
-        <source>Updated %@</source>
-        <translation>Stan na %@</translation>
+        <source>Updated %1</source>
+        <extracomment>%1 is a time, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>Stan na %1</translation>
     </message>
     <message>
         <source>5-hour window</source>
+        <extracomment>The name of a limit that holds for five hours.</extracomment>
         <translation>Okno 5-godzinne</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>The name of a limit that holds for a week.</extracomment>
         <translation>Tygodniowe</translation>
     </message>
     <message>
@@ -304,24 +344,28 @@ Włącz ją w ustawieniach.</translation>
         <translation>Nie znaleziono aktywności Claude Code.</translation>
     </message>
     <message>
-        <source>%d%% of your budget</source>
-        <translation>%d%% twojego budżetu</translation>
+        <source>%1% of your budget</source>
+        <extracomment>%1 is a number. There is little room.</extracomment>
+        <translation>%1% twojego budżetu</translation>
     </message>
     <message>
-        <source>%d%% of your busiest block this week</source>
-        <translation>%d%% szczytu tygodnia</translation>
+        <source>%1% of your busiest block this week</source>
+        <extracomment>%1 is a number; a block is five hours of work. There is little room.</extracomment>
+        <translation>%1% szczytu tygodnia</translation>
     </message>
     <message>
         <source>This 5-hour block</source>
         <translation>Ten 5-godzinny blok</translation>
     </message>
     <message>
-        <source>Resets: %@</source>
-        <translation>Odnowi się: %@</translation>
+        <source>Resets: %1</source>
+        <extracomment>When a limit begins anew; %1 is a time, such as “14:05” or “Mon 14:05”. There is little room.</extracomment>
+        <translation>Odnowi się: %1</translation>
     </message>
     <message>
-        <source>%d%%</source>
-        <translation>%d%%</translation>
+        <source>%1%</source>
+        <extracomment>%1 is a number, with decimals where it is the change of a share’s price.</extracomment>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Drop files here to keep them handy.
@@ -330,9 +374,10 @@ Drag them out anywhere, or AirDrop them.</source>
 Przeciągnij je stąd dokądkolwiek lub wyślij przez AirDrop.</translation>
     </message>
     <message>
-        <source>Allow %@ to read your screenshots folder in
+        <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
-        <translation>Zezwól %@ na odczyt folderu zrzutów ekranu:
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Zezwól %1 na odczyt folderu zrzutów ekranu:
 Ustawienia systemowe › Prywatność i ochrona › Pliki i foldery.</translation>
     </message>
     <message>
@@ -343,6 +388,7 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>A button that opens the settings of the desktop.</extracomment>
         <translation>Otwórz ustawienia</translation>
     </message>
     <message>
@@ -359,10 +405,12 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>A button: take all files off the shelf.</extracomment>
         <translation>Wyczyść</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Take a file off the shelf; the file itself stays where it is.</extracomment>
         <translation>Zdejmij</translation>
     </message>
     <message>
@@ -371,6 +419,7 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
     </message>
     <message>
         <source>Script</source>
+        <extracomment>Name of the field for the text that is read aloud.</extracomment>
         <translation>Tekst wystąpienia</translation>
     </message>
     <message>
@@ -379,15 +428,18 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
     </message>
     <message>
         <source>Restart</source>
+        <extracomment>A button: scroll the script from its beginning again.</extracomment>
         <translation>Od nowa</translation>
     </message>
     <message>
         <source>Speed</source>
+        <extracomment>How fast the script scrolls.</extracomment>
         <translation>Szybkość</translation>
     </message>
     <message>
-        <source>Text %d</source>
-        <translation>Tekst %d</translation>
+        <source>Text %1</source>
+        <extracomment>%1 is the size of the letters in points. There is little room.</extracomment>
+        <translation>Tekst %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
@@ -407,6 +459,7 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>In the menu of a screenshot: copy the picture.</extracomment>
         <translation>Kopiuj</translation>
     </message>
     <message>
@@ -431,6 +484,7 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
     </message>
     <message>
         <source>City</source>
+        <extracomment>What the empty field for the name of a city says.</extracomment>
         <translation>Miasto</translation>
     </message>
     <message>
@@ -455,6 +509,7 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
     </message>
     <message>
         <source>My location</source>
+        <extracomment>In the place of a city’s name.</extracomment>
         <translation>Moja lokalizacja</translation>
     </message>
     <message>
@@ -462,25 +517,29 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
         <translation>Lokalizacja niedostępna. Wpisz miasto.</translation>
     </message>
     <message>
-        <source>Not found: %@</source>
-        <translation>Nie znaleziono: %@</translation>
+        <source>Not found: %1</source>
+        <extracomment>%1 is a list of the symbols of shares.</extracomment>
+        <translation>Nie znaleziono: %1</translation>
     </message>
     <message>
-        <source>Wind %@ mph</source>
-        <translation>Wiatr %@ mph</translation>
+        <source>Wind %1 mph</source>
+        <extracomment>%1 is a speed in miles an hour.</extracomment>
+        <translation>Wiatr %1 mph</translation>
     </message>
     <message>
-        <source>Wind %@ km/h</source>
-        <translation>Wiatr %@ km/h</translation>
+        <source>Wind %1 km/h</source>
+        <extracomment>%1 is a speed in kilometres an hour.</extracomment>
+        <translation>Wiatr %1 km/h</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>Dziś</translation>
     </message>
     <message>
-        <source>Allow %@ to control Music or Spotify in
+        <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
-        <translation>Zezwól %@ na sterowanie Music lub Spotify:
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Zezwól %1 na sterowanie Music lub Spotify:
 Ustawienia systemowe › Prywatność i ochrona › Automatyzacja.</translation>
     </message>
     <message>
@@ -491,14 +550,17 @@ a pojawi się tutaj.</translation>
     </message>
     <message>
         <source>Previous</source>
+        <extracomment>The previous song.</extracomment>
         <translation>Poprzedni</translation>
     </message>
     <message>
         <source>Next</source>
+        <extracomment>The next song.</extracomment>
         <translation>Następny</translation>
     </message>
     <message>
         <source>charging</source>
+        <extracomment>Of the battery, after its level: “80% · charging”.</extracomment>
         <translation>ładowanie</translation>
     </message>
     <message>
@@ -507,10 +569,12 @@ a pojawi się tutaj.</translation>
     </message>
     <message>
         <source>CPU</source>
+        <extracomment>The processor and how busy it is. There is little room.</extracomment>
         <translation>CPU</translation>
     </message>
     <message>
         <source>Memory</source>
+        <extracomment>The working memory (RAM).</extracomment>
         <translation>Pamięć</translation>
     </message>
     <message>
@@ -518,21 +582,24 @@ a pojawi się tutaj.</translation>
         <translation>Dysk</translation>
     </message>
     <message>
-        <source>%@ free</source>
-        <translation>%@ wolne</translation>
+        <source>%1 free</source>
+        <extracomment>%1 is an amount with its unit, such as 12.3 GB.</extracomment>
+        <translation>%1 wolne</translation>
     </message>
     <message>
         <source>No camera found.</source>
         <translation>Nie znaleziono kamery.</translation>
     </message>
     <message>
-        <source>Allow %@ to use the camera in
+        <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
-        <translation>Zezwól %@ na dostęp do kamery:
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Zezwól %1 na dostęp do kamery:
 Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>Events</source>
+        <extracomment>Heading of the list of appointments.</extracomment>
         <translation>Wydarzenia</translation>
     </message>
     <message>
@@ -549,6 +616,7 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>All done</source>
+        <extracomment>Instead of a list: no reminder is left.</extracomment>
         <translation>Wszystko zrobione</translation>
     </message>
     <message>
@@ -557,10 +625,12 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>Complete</source>
+        <extracomment>A verb, on the circle before a reminder: mark it as done.</extracomment>
         <translation>Ukończ</translation>
     </message>
     <message>
         <source>Event</source>
+        <extracomment>The title of an appointment that has none.</extracomment>
         <translation>Wydarzenie</translation>
     </message>
     <message>
@@ -569,6 +639,7 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>All day</source>
+        <extracomment>In the place of an appointment’s time.</extracomment>
         <translation>Cały dzień</translation>
     </message>
     <message>
@@ -613,14 +684,17 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>Opening</source>
+        <extracomment>Heading of the settings that say how the notch opens.</extracomment>
         <translation>Otwieranie</translation>
     </message>
     <message>
         <source>Open the notch</source>
+        <extracomment>Followed by the choice of “On hover” and “On click”.</extracomment>
         <translation>Otwieraj notch</translation>
     </message>
     <message>
         <source>Hover delay</source>
+        <extracomment>How long the pointer rests on the notch before it opens; beside a slider.</extracomment>
         <translation>Opóźnienie po najechaniu</translation>
     </message>
     <message>
@@ -637,6 +711,7 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>Displays</source>
+        <extracomment>Heading of the settings that are about monitors.</extracomment>
         <translation>Ekrany</translation>
     </message>
     <message>
@@ -729,6 +804,7 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>%1 is a number of milliseconds.</extracomment>
         <translation>%1 ms</translation>
     </message>
     <message>
@@ -776,28 +852,33 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
         <translation>Kestrune jest aktualny</translation>
     </message>
     <message>
-        <source>Kestrune %@ is available</source>
-        <translation>Dostępny jest Kestrune %@</translation>
+        <source>Kestrune %1 is available</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Dostępny jest Kestrune %1</translation>
     </message>
     <message>
-        <source>Downloading Kestrune %@…</source>
-        <translation>Pobieranie Kestrune %@…</translation>
+        <source>Downloading Kestrune %1…</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Pobieranie Kestrune %1…</translation>
     </message>
     <message>
-        <source>Kestrune %@ is ready to install</source>
-        <translation>Kestrune %@ jest gotowy do instalacji</translation>
+        <source>Kestrune %1 is ready to install</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 jest gotowy do instalacji</translation>
     </message>
     <message>
         <source>Kestrune could not be updated</source>
         <translation>Nie udało się zaktualizować Kestrune</translation>
     </message>
     <message>
-        <source>Version %@ is the newest one.</source>
-        <translation>Wersja %@ jest najnowsza.</translation>
+        <source>Version %1 is the newest one.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Wersja %1 jest najnowsza.</translation>
     </message>
     <message>
-        <source>You have version %@.</source>
-        <translation>Masz wersję %@.</translation>
+        <source>You have version %1.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Masz wersję %1.</translation>
     </message>
     <message>
         <source>It was checked: it comes from Kestrune’s makers.</source>
@@ -805,6 +886,7 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>Download</source>
+        <extracomment>A verb, on a button.</extracomment>
         <translation>Pobierz</translation>
     </message>
     <message>
@@ -817,6 +899,7 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>A button that closes the window of an update.</extracomment>
         <translation>Później</translation>
     </message>
     <message>

@@ -5,6 +5,7 @@
     <name>notch</name>
     <message>
         <source>Unpin</source>
+        <extracomment>Let the notch close by itself again; the opposite of “Keep open”.</extracomment>
         <translation>Desafixar</translation>
     </message>
     <message>
@@ -37,6 +38,7 @@
     </message>
     <message>
         <source>Note</source>
+        <extracomment>A note to oneself, such as one jots down.</extracomment>
         <translation>Nota</translation>
     </message>
     <message>
@@ -61,19 +63,28 @@
     </message>
     <message>
         <source>Start</source>
+        <extracomment>Start the timer.</extracomment>
         <translation>Iniciar</translation>
     </message>
     <message>
         <source>Reset</source>
+        <extracomment>Set the timer back to its beginning.</extracomment>
         <translation>Zerar</translation>
     </message>
     <message>
         <source>Done</source>
+        <extracomment>A button of the script: “Edit” begins to change it, “Done” ends that.
+----------
+The time of the timer is over.</extracomment>
         <translation>Concluído</translation>
     </message>
-    <message>
-        <source>%d min</source>
-        <translation>%d min</translation>
+    <message numerus="yes">
+        <source>%Ln min</source>
+        <extracomment>A button that starts a timer; “min” is short for minutes. There is little room.</extracomment>
+        <translation>
+            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln min</numerusform>
+        </translation>
     </message>
     <message>
         <source>The time stays visible beside the closed notch.</source>
@@ -89,6 +100,7 @@
     </message>
     <message>
         <source>Home</source>
+        <extracomment>The page that the notch opens with, like that of a telephone.</extracomment>
         <translation>Início</translation>
     </message>
     <message>
@@ -109,6 +121,7 @@
     </message>
     <message>
         <source>Shelf</source>
+        <extracomment>A place where files are put down for a while.</extracomment>
         <translation>Prateleira</translation>
     </message>
     <message>
@@ -121,6 +134,7 @@
     </message>
     <message>
         <source>Stocks</source>
+        <extracomment>The prices of shares.</extracomment>
         <translation>Bolsa</translation>
     </message>
     <message>
@@ -133,6 +147,7 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Processor, memory, disk and battery of this computer.</extracomment>
         <translation>Sistema</translation>
     </message>
     <message>
@@ -157,6 +172,7 @@
     </message>
     <message>
         <source>Hidden</source>
+        <extracomment>Where a block of Home stands: nowhere. The others are its three columns.</extracomment>
         <translation>Oculto</translation>
     </message>
     <message>
@@ -173,6 +189,7 @@
     </message>
     <message>
         <source>On hover</source>
+        <extracomment>Completes “Open the notch”: when the pointer rests on it.</extracomment>
         <translation>Ao apontar</translation>
     </message>
     <message>
@@ -185,6 +202,7 @@
     </message>
     <message>
         <source>this app</source>
+        <extracomment>Stands for the name of the program where it has none.</extracomment>
         <translation>este app</translation>
     </message>
     <message>
@@ -209,22 +227,27 @@ Ative-o em Configurações.</translation>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>In the menu of an entry: delete it from the history.</extracomment>
         <translation>Excluir</translation>
     </message>
     <message>
         <source>Copied</source>
+        <extracomment>Shown in the place of what was just copied again.</extracomment>
         <translation>Copiado</translation>
     </message>
     <message>
         <source>Search</source>
+        <extracomment>What an empty search field says, and the button that looks for a city.</extracomment>
         <translation>Buscar</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>What the list shows: copies of every kind.</extracomment>
         <translation>Tudo</translation>
     </message>
     <message>
         <source>Text</source>
+        <extracomment>What the list shows: the copies that are texts.</extracomment>
         <translation>Texto</translation>
     </message>
     <message>
@@ -241,6 +264,7 @@ Ative-o em Configurações.</translation>
     </message>
     <message>
         <source>Image</source>
+        <extracomment>The title of a copied picture, before its size.</extracomment>
         <translation>Imagem</translation>
     </message>
     <message>
@@ -265,19 +289,29 @@ Ative-o em Configurações.</translation>
     </message>
     <message>
         <source>Read again</source>
+        <extracomment>On a round button: read the logs once more.</extracomment>
         <translation>Ler de novo</translation>
     </message>
     <message>
         <source>Connect</source>
+        <extracomment>A button: begin to read the usage of a program.</extracomment>
         <translation>Conectar</translation>
     </message>
-    <message>
-        <source>%@ tokens</source>
-        <translation>%@ tokens</translation>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <extracomment>%1 is the number of tokens, the pieces of text that a language model counts in.</extracomment>
+        <translation>
+            <numerusform>%1 token</numerusform>
+            <numerusform>%1 tokens</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%d%% left</source>
-        <translation>%d%% restantes</translation>
+    <message numerus="yes">
+        <source>%Ln% left</source>
+        <extracomment>What is left of a limit, in per cent.</extracomment>
+        <translation>
+            <numerusform>%Ln% restante</numerusform>
+            <numerusform>%Ln% restantes</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -288,15 +322,18 @@ Ative-o em Configurações.</translation>
         <translation>Ainda não há atividade do Codex. Use o Codex uma vez e ela aparecerá aqui.</translation>
     </message>
     <message>
-        <source>Updated %@</source>
-        <translation>Atualizado: %@</translation>
+        <source>Updated %1</source>
+        <extracomment>%1 is a time, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>Atualizado: %1</translation>
     </message>
     <message>
         <source>5-hour window</source>
+        <extracomment>The name of a limit that holds for five hours.</extracomment>
         <translation>Período de 5 h</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>The name of a limit that holds for a week.</extracomment>
         <translation>Semanal</translation>
     </message>
     <message>
@@ -304,24 +341,28 @@ Ative-o em Configurações.</translation>
         <translation>Nenhuma atividade do Claude Code.</translation>
     </message>
     <message>
-        <source>%d%% of your budget</source>
-        <translation>%d%% do seu orçamento</translation>
+        <source>%1% of your budget</source>
+        <extracomment>%1 is a number. There is little room.</extracomment>
+        <translation>%1% do seu orçamento</translation>
     </message>
     <message>
-        <source>%d%% of your busiest block this week</source>
-        <translation>%d%% do seu maior bloco da semana</translation>
+        <source>%1% of your busiest block this week</source>
+        <extracomment>%1 is a number; a block is five hours of work. There is little room.</extracomment>
+        <translation>%1% do seu maior bloco da semana</translation>
     </message>
     <message>
         <source>This 5-hour block</source>
         <translation>Este bloco de 5 h</translation>
     </message>
     <message>
-        <source>Resets: %@</source>
-        <translation>Renovação: %@</translation>
+        <source>Resets: %1</source>
+        <extracomment>When a limit begins anew; %1 is a time, such as “14:05” or “Mon 14:05”. There is little room.</extracomment>
+        <translation>Renovação: %1</translation>
     </message>
     <message>
-        <source>%d%%</source>
-        <translation>%d%%</translation>
+        <source>%1%</source>
+        <extracomment>%1 is a number, with decimals where it is the change of a share’s price.</extracomment>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Drop files here to keep them handy.
@@ -330,9 +371,10 @@ Drag them out anywhere, or AirDrop them.</source>
 Arraste-os para onde quiser ou envie-os com AirDrop.</translation>
     </message>
     <message>
-        <source>Allow %@ to read your screenshots folder in
+        <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
-        <translation>Permita que %@ leia sua pasta de capturas de tela em
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Permita que %1 leia sua pasta de capturas de tela em
 Configurações do sistema › Privacidade e segurança › Arquivos e pastas.</translation>
     </message>
     <message>
@@ -343,6 +385,7 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>A button that opens the settings of the desktop.</extracomment>
         <translation>Abrir configurações</translation>
     </message>
     <message>
@@ -359,10 +402,12 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>A button: take all files off the shelf.</extracomment>
         <translation>Esvaziar</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Take a file off the shelf; the file itself stays where it is.</extracomment>
         <translation>Remover</translation>
     </message>
     <message>
@@ -371,6 +416,7 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
     </message>
     <message>
         <source>Script</source>
+        <extracomment>Name of the field for the text that is read aloud.</extracomment>
         <translation>Roteiro</translation>
     </message>
     <message>
@@ -379,15 +425,18 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
     </message>
     <message>
         <source>Restart</source>
+        <extracomment>A button: scroll the script from its beginning again.</extracomment>
         <translation>Recomeçar</translation>
     </message>
     <message>
         <source>Speed</source>
+        <extracomment>How fast the script scrolls.</extracomment>
         <translation>Velocidade</translation>
     </message>
     <message>
-        <source>Text %d</source>
-        <translation>Texto %d</translation>
+        <source>Text %1</source>
+        <extracomment>%1 is the size of the letters in points. There is little room.</extracomment>
+        <translation>Texto %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
@@ -407,6 +456,7 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>In the menu of a screenshot: copy the picture.</extracomment>
         <translation>Copiar</translation>
     </message>
     <message>
@@ -431,6 +481,7 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
     </message>
     <message>
         <source>City</source>
+        <extracomment>What the empty field for the name of a city says.</extracomment>
         <translation>Cidade</translation>
     </message>
     <message>
@@ -455,6 +506,7 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
     </message>
     <message>
         <source>My location</source>
+        <extracomment>In the place of a city’s name.</extracomment>
         <translation>Minha localização</translation>
     </message>
     <message>
@@ -462,25 +514,29 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
         <translation>Localização não disponível. Digite uma cidade.</translation>
     </message>
     <message>
-        <source>Not found: %@</source>
-        <translation>Não encontrado: %@</translation>
+        <source>Not found: %1</source>
+        <extracomment>%1 is a list of the symbols of shares.</extracomment>
+        <translation>Não encontrado: %1</translation>
     </message>
     <message>
-        <source>Wind %@ mph</source>
-        <translation>Vento %@ mph</translation>
+        <source>Wind %1 mph</source>
+        <extracomment>%1 is a speed in miles an hour.</extracomment>
+        <translation>Vento %1 mph</translation>
     </message>
     <message>
-        <source>Wind %@ km/h</source>
-        <translation>Vento %@ km/h</translation>
+        <source>Wind %1 km/h</source>
+        <extracomment>%1 is a speed in kilometres an hour.</extracomment>
+        <translation>Vento %1 km/h</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>Hoje</translation>
     </message>
     <message>
-        <source>Allow %@ to control Music or Spotify in
+        <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
-        <translation>Permita que %@ controle o Music ou o Spotify em
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Permita que %1 controle o Music ou o Spotify em
 Configurações do sistema › Privacidade e segurança › Automação.</translation>
     </message>
     <message>
@@ -491,14 +547,17 @@ e aparecerá aqui.</translation>
     </message>
     <message>
         <source>Previous</source>
+        <extracomment>The previous song.</extracomment>
         <translation>Anterior</translation>
     </message>
     <message>
         <source>Next</source>
+        <extracomment>The next song.</extracomment>
         <translation>Próxima</translation>
     </message>
     <message>
         <source>charging</source>
+        <extracomment>Of the battery, after its level: “80% · charging”.</extracomment>
         <translation>carregando</translation>
     </message>
     <message>
@@ -507,10 +566,12 @@ e aparecerá aqui.</translation>
     </message>
     <message>
         <source>CPU</source>
+        <extracomment>The processor and how busy it is. There is little room.</extracomment>
         <translation>CPU</translation>
     </message>
     <message>
         <source>Memory</source>
+        <extracomment>The working memory (RAM).</extracomment>
         <translation>Memória</translation>
     </message>
     <message>
@@ -518,21 +579,24 @@ e aparecerá aqui.</translation>
         <translation>Disco</translation>
     </message>
     <message>
-        <source>%@ free</source>
-        <translation>%@ livres</translation>
+        <source>%1 free</source>
+        <extracomment>%1 is an amount with its unit, such as 12.3 GB.</extracomment>
+        <translation>%1 livres</translation>
     </message>
     <message>
         <source>No camera found.</source>
         <translation>Nenhuma câmera encontrada.</translation>
     </message>
     <message>
-        <source>Allow %@ to use the camera in
+        <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
-        <translation>Permita que %@ use a câmera em
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>Permita que %1 use a câmera em
 Configurações do sistema › Privacidade e segurança › Câmera.</translation>
     </message>
     <message>
         <source>Events</source>
+        <extracomment>Heading of the list of appointments.</extracomment>
         <translation>Eventos</translation>
     </message>
     <message>
@@ -549,6 +613,7 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>All done</source>
+        <extracomment>Instead of a list: no reminder is left.</extracomment>
         <translation>Tudo feito</translation>
     </message>
     <message>
@@ -557,10 +622,12 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>Complete</source>
+        <extracomment>A verb, on the circle before a reminder: mark it as done.</extracomment>
         <translation>Concluir</translation>
     </message>
     <message>
         <source>Event</source>
+        <extracomment>The title of an appointment that has none.</extracomment>
         <translation>Evento</translation>
     </message>
     <message>
@@ -569,6 +636,7 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>All day</source>
+        <extracomment>In the place of an appointment’s time.</extracomment>
         <translation>Dia inteiro</translation>
     </message>
     <message>
@@ -613,14 +681,17 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>Opening</source>
+        <extracomment>Heading of the settings that say how the notch opens.</extracomment>
         <translation>Abertura</translation>
     </message>
     <message>
         <source>Open the notch</source>
+        <extracomment>Followed by the choice of “On hover” and “On click”.</extracomment>
         <translation>Abrir o notch</translation>
     </message>
     <message>
         <source>Hover delay</source>
+        <extracomment>How long the pointer rests on the notch before it opens; beside a slider.</extracomment>
         <translation>Atraso ao apontar</translation>
     </message>
     <message>
@@ -637,6 +708,7 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>Displays</source>
+        <extracomment>Heading of the settings that are about monitors.</extracomment>
         <translation>Telas</translation>
     </message>
     <message>
@@ -729,6 +801,7 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>%1 is a number of milliseconds.</extracomment>
         <translation>%1 ms</translation>
     </message>
     <message>
@@ -776,28 +849,33 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
         <translation>O Kestrune está atualizado</translation>
     </message>
     <message>
-        <source>Kestrune %@ is available</source>
-        <translation>O Kestrune %@ está disponível</translation>
+        <source>Kestrune %1 is available</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>O Kestrune %1 está disponível</translation>
     </message>
     <message>
-        <source>Downloading Kestrune %@…</source>
-        <translation>Baixando o Kestrune %@…</translation>
+        <source>Downloading Kestrune %1…</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Baixando o Kestrune %1…</translation>
     </message>
     <message>
-        <source>Kestrune %@ is ready to install</source>
-        <translation>O Kestrune %@ está pronto para instalar</translation>
+        <source>Kestrune %1 is ready to install</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>O Kestrune %1 está pronto para instalar</translation>
     </message>
     <message>
         <source>Kestrune could not be updated</source>
         <translation>Não foi possível atualizar o Kestrune</translation>
     </message>
     <message>
-        <source>Version %@ is the newest one.</source>
-        <translation>A versão %@ é a mais recente.</translation>
+        <source>Version %1 is the newest one.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>A versão %1 é a mais recente.</translation>
     </message>
     <message>
-        <source>You have version %@.</source>
-        <translation>Você tem a versão %@.</translation>
+        <source>You have version %1.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Você tem a versão %1.</translation>
     </message>
     <message>
         <source>It was checked: it comes from Kestrune’s makers.</source>
@@ -805,6 +883,7 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>Download</source>
+        <extracomment>A verb, on a button.</extracomment>
         <translation>Baixar</translation>
     </message>
     <message>
@@ -817,6 +896,7 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>Later</source>
+        <extracomment>A button that closes the window of an update.</extracomment>
         <translation>Mais tarde</translation>
     </message>
     <message>

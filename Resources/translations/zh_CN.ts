@@ -5,6 +5,7 @@
     <name>notch</name>
     <message>
         <source>Unpin</source>
+        <extracomment>Let the notch close by itself again; the opposite of “Keep open”.</extracomment>
         <translation>取消固定</translation>
     </message>
     <message>
@@ -37,6 +38,7 @@
     </message>
     <message>
         <source>Note</source>
+        <extracomment>A note to oneself, such as one jots down.</extracomment>
         <translation>便笺</translation>
     </message>
     <message>
@@ -61,19 +63,27 @@
     </message>
     <message>
         <source>Start</source>
+        <extracomment>Start the timer.</extracomment>
         <translation>开始</translation>
     </message>
     <message>
         <source>Reset</source>
+        <extracomment>Set the timer back to its beginning.</extracomment>
         <translation>重置</translation>
     </message>
     <message>
         <source>Done</source>
+        <extracomment>A button of the script: “Edit” begins to change it, “Done” ends that.
+----------
+The time of the timer is over.</extracomment>
         <translation>完成</translation>
     </message>
-    <message>
-        <source>%d min</source>
-        <translation>%d 分钟</translation>
+    <message numerus="yes">
+        <source>%Ln min</source>
+        <extracomment>A button that starts a timer; “min” is short for minutes. There is little room.</extracomment>
+        <translation>
+            <numerusform>%Ln 分钟</numerusform>
+        </translation>
     </message>
     <message>
         <source>The time stays visible beside the closed notch.</source>
@@ -89,6 +99,7 @@
     </message>
     <message>
         <source>Home</source>
+        <extracomment>The page that the notch opens with, like that of a telephone.</extracomment>
         <translation>主页</translation>
     </message>
     <message>
@@ -109,6 +120,7 @@
     </message>
     <message>
         <source>Shelf</source>
+        <extracomment>A place where files are put down for a while.</extracomment>
         <translation>中转站</translation>
     </message>
     <message>
@@ -121,6 +133,7 @@
     </message>
     <message>
         <source>Stocks</source>
+        <extracomment>The prices of shares.</extracomment>
         <translation>股票</translation>
     </message>
     <message>
@@ -133,6 +146,7 @@
     </message>
     <message>
         <source>System</source>
+        <extracomment>Processor, memory, disk and battery of this computer.</extracomment>
         <translation>系统</translation>
     </message>
     <message>
@@ -157,6 +171,7 @@
     </message>
     <message>
         <source>Hidden</source>
+        <extracomment>Where a block of Home stands: nowhere. The others are its three columns.</extracomment>
         <translation>隐藏</translation>
     </message>
     <message>
@@ -173,6 +188,7 @@
     </message>
     <message>
         <source>On hover</source>
+        <extracomment>Completes “Open the notch”: when the pointer rests on it.</extracomment>
         <translation>悬停时</translation>
     </message>
     <message>
@@ -185,6 +201,7 @@
     </message>
     <message>
         <source>this app</source>
+        <extracomment>Stands for the name of the program where it has none.</extracomment>
         <translation>此应用</translation>
     </message>
     <message>
@@ -209,22 +226,27 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Delete</source>
+        <extracomment>In the menu of an entry: delete it from the history.</extracomment>
         <translation>删除</translation>
     </message>
     <message>
         <source>Copied</source>
+        <extracomment>Shown in the place of what was just copied again.</extracomment>
         <translation>已复制</translation>
     </message>
     <message>
         <source>Search</source>
+        <extracomment>What an empty search field says, and the button that looks for a city.</extracomment>
         <translation>搜索</translation>
     </message>
     <message>
         <source>All</source>
+        <extracomment>What the list shows: copies of every kind.</extracomment>
         <translation>全部</translation>
     </message>
     <message>
         <source>Text</source>
+        <extracomment>What the list shows: the copies that are texts.</extracomment>
         <translation>文本</translation>
     </message>
     <message>
@@ -241,6 +263,7 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Image</source>
+        <extracomment>The title of a copied picture, before its size.</extracomment>
         <translation>图片</translation>
     </message>
     <message>
@@ -265,19 +288,27 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Read again</source>
+        <extracomment>On a round button: read the logs once more.</extracomment>
         <translation>重新读取</translation>
     </message>
     <message>
         <source>Connect</source>
+        <extracomment>A button: begin to read the usage of a program.</extracomment>
         <translation>连接</translation>
     </message>
-    <message>
-        <source>%@ tokens</source>
-        <translation>%@ token</translation>
+    <message numerus="yes">
+        <source>%1 tokens</source>
+        <extracomment>%1 is the number of tokens, the pieces of text that a language model counts in.</extracomment>
+        <translation>
+            <numerusform>%1 token</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>%d%% left</source>
-        <translation>剩余 %d%%</translation>
+    <message numerus="yes">
+        <source>%Ln% left</source>
+        <extracomment>What is left of a limit, in per cent.</extracomment>
+        <translation>
+            <numerusform>剩余 %Ln%</numerusform>
+        </translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -288,15 +319,18 @@ Turn it on in Settings.</source>
         <translation>尚未找到 Codex 活动。使用一次 Codex 后会显示在这里。</translation>
     </message>
     <message>
-        <source>Updated %@</source>
-        <translation>更新于 %@</translation>
+        <source>Updated %1</source>
+        <extracomment>%1 is a time, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>更新于 %1</translation>
     </message>
     <message>
         <source>5-hour window</source>
+        <extracomment>The name of a limit that holds for five hours.</extracomment>
         <translation>5 小时窗口</translation>
     </message>
     <message>
         <source>Weekly</source>
+        <extracomment>The name of a limit that holds for a week.</extracomment>
         <translation>每周</translation>
     </message>
     <message>
@@ -304,24 +338,28 @@ Turn it on in Settings.</source>
         <translation>未找到 Claude Code 活动。</translation>
     </message>
     <message>
-        <source>%d%% of your budget</source>
-        <translation>预算的 %d%%</translation>
+        <source>%1% of your budget</source>
+        <extracomment>%1 is a number. There is little room.</extracomment>
+        <translation>预算的 %1%</translation>
     </message>
     <message>
-        <source>%d%% of your busiest block this week</source>
-        <translation>本周最忙时段的 %d%%</translation>
+        <source>%1% of your busiest block this week</source>
+        <extracomment>%1 is a number; a block is five hours of work. There is little room.</extracomment>
+        <translation>本周最忙时段的 %1%</translation>
     </message>
     <message>
         <source>This 5-hour block</source>
         <translation>当前 5 小时时段</translation>
     </message>
     <message>
-        <source>Resets: %@</source>
-        <translation>重置：%@</translation>
+        <source>Resets: %1</source>
+        <extracomment>When a limit begins anew; %1 is a time, such as “14:05” or “Mon 14:05”. There is little room.</extracomment>
+        <translation>重置：%1</translation>
     </message>
     <message>
-        <source>%d%%</source>
-        <translation>%d%%</translation>
+        <source>%1%</source>
+        <extracomment>%1 is a number, with decimals where it is the change of a share’s price.</extracomment>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Drop files here to keep them handy.
@@ -330,9 +368,10 @@ Drag them out anywhere, or AirDrop them.</source>
 可将其拖到任意位置，或用 AirDrop 发送。</translation>
     </message>
     <message>
-        <source>Allow %@ to read your screenshots folder in
+        <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
-        <translation>请允许 %@ 读取截图文件夹：
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>请允许 %1 读取截图文件夹：
 系统设置 › 隐私与安全性 › 文件与文件夹。</translation>
     </message>
     <message>
@@ -343,6 +382,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>A button that opens the settings of the desktop.</extracomment>
         <translation>打开设置</translation>
     </message>
     <message>
@@ -359,10 +399,12 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Clear</source>
+        <extracomment>A button: take all files off the shelf.</extracomment>
         <translation>清空</translation>
     </message>
     <message>
         <source>Remove</source>
+        <extracomment>Take a file off the shelf; the file itself stays where it is.</extracomment>
         <translation>移除</translation>
     </message>
     <message>
@@ -371,6 +413,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Script</source>
+        <extracomment>Name of the field for the text that is read aloud.</extracomment>
         <translation>讲稿</translation>
     </message>
     <message>
@@ -379,15 +422,18 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Restart</source>
+        <extracomment>A button: scroll the script from its beginning again.</extracomment>
         <translation>从头开始</translation>
     </message>
     <message>
         <source>Speed</source>
+        <extracomment>How fast the script scrolls.</extracomment>
         <translation>速度</translation>
     </message>
     <message>
-        <source>Text %d</source>
-        <translation>字号 %d</translation>
+        <source>Text %1</source>
+        <extracomment>%1 is the size of the letters in points. There is little room.</extracomment>
+        <translation>字号 %1</translation>
     </message>
     <message>
         <source>Smaller text</source>
@@ -407,6 +453,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>In the menu of a screenshot: copy the picture.</extracomment>
         <translation>复制</translation>
     </message>
     <message>
@@ -431,6 +478,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>City</source>
+        <extracomment>What the empty field for the name of a city says.</extracomment>
         <translation>城市</translation>
     </message>
     <message>
@@ -455,6 +503,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>My location</source>
+        <extracomment>In the place of a city’s name.</extracomment>
         <translation>我的位置</translation>
     </message>
     <message>
@@ -462,25 +511,29 @@ Drag it into any app, or right-click for more.</source>
         <translation>无法获取位置。请改为输入城市。</translation>
     </message>
     <message>
-        <source>Not found: %@</source>
-        <translation>未找到：%@</translation>
+        <source>Not found: %1</source>
+        <extracomment>%1 is a list of the symbols of shares.</extracomment>
+        <translation>未找到：%1</translation>
     </message>
     <message>
-        <source>Wind %@ mph</source>
-        <translation>风速 %@ mph</translation>
+        <source>Wind %1 mph</source>
+        <extracomment>%1 is a speed in miles an hour.</extracomment>
+        <translation>风速 %1 mph</translation>
     </message>
     <message>
-        <source>Wind %@ km/h</source>
-        <translation>风速 %@ km/h</translation>
+        <source>Wind %1 km/h</source>
+        <extracomment>%1 is a speed in kilometres an hour.</extracomment>
+        <translation>风速 %1 km/h</translation>
     </message>
     <message>
         <source>Today</source>
         <translation>今天</translation>
     </message>
     <message>
-        <source>Allow %@ to control Music or Spotify in
+        <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
-        <translation>请允许 %@ 控制 Music 或 Spotify：
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>请允许 %1 控制 Music 或 Spotify：
 系统设置 › 隐私与安全性 › 自动化。</translation>
     </message>
     <message>
@@ -491,14 +544,17 @@ and it shows up here.</source>
     </message>
     <message>
         <source>Previous</source>
+        <extracomment>The previous song.</extracomment>
         <translation>上一首</translation>
     </message>
     <message>
         <source>Next</source>
+        <extracomment>The next song.</extracomment>
         <translation>下一首</translation>
     </message>
     <message>
         <source>charging</source>
+        <extracomment>Of the battery, after its level: “80% · charging”.</extracomment>
         <translation>充电中</translation>
     </message>
     <message>
@@ -507,10 +563,12 @@ and it shows up here.</source>
     </message>
     <message>
         <source>CPU</source>
+        <extracomment>The processor and how busy it is. There is little room.</extracomment>
         <translation>CPU</translation>
     </message>
     <message>
         <source>Memory</source>
+        <extracomment>The working memory (RAM).</extracomment>
         <translation>内存</translation>
     </message>
     <message>
@@ -518,21 +576,24 @@ and it shows up here.</source>
         <translation>磁盘</translation>
     </message>
     <message>
-        <source>%@ free</source>
-        <translation>%@ 可用</translation>
+        <source>%1 free</source>
+        <extracomment>%1 is an amount with its unit, such as 12.3 GB.</extracomment>
+        <translation>%1 可用</translation>
     </message>
     <message>
         <source>No camera found.</source>
         <translation>未找到摄像头。</translation>
     </message>
     <message>
-        <source>Allow %@ to use the camera in
+        <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
-        <translation>请允许 %@ 使用摄像头：
+        <extracomment>%1 is the name of the program.</extracomment>
+        <translation>请允许 %1 使用摄像头：
 系统设置 › 隐私与安全性 › 摄像头。</translation>
     </message>
     <message>
         <source>Events</source>
+        <extracomment>Heading of the list of appointments.</extracomment>
         <translation>日程</translation>
     </message>
     <message>
@@ -549,6 +610,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>All done</source>
+        <extracomment>Instead of a list: no reminder is left.</extracomment>
         <translation>全部完成</translation>
     </message>
     <message>
@@ -557,10 +619,12 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Complete</source>
+        <extracomment>A verb, on the circle before a reminder: mark it as done.</extracomment>
         <translation>标为完成</translation>
     </message>
     <message>
         <source>Event</source>
+        <extracomment>The title of an appointment that has none.</extracomment>
         <translation>日程</translation>
     </message>
     <message>
@@ -569,6 +633,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>All day</source>
+        <extracomment>In the place of an appointment’s time.</extracomment>
         <translation>全天</translation>
     </message>
     <message>
@@ -613,14 +678,17 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Opening</source>
+        <extracomment>Heading of the settings that say how the notch opens.</extracomment>
         <translation>打开</translation>
     </message>
     <message>
         <source>Open the notch</source>
+        <extracomment>Followed by the choice of “On hover” and “On click”.</extracomment>
         <translation>打开刘海</translation>
     </message>
     <message>
         <source>Hover delay</source>
+        <extracomment>How long the pointer rests on the notch before it opens; beside a slider.</extracomment>
         <translation>悬停延迟</translation>
     </message>
     <message>
@@ -637,6 +705,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Displays</source>
+        <extracomment>Heading of the settings that are about monitors.</extracomment>
         <translation>显示器</translation>
     </message>
     <message>
@@ -729,6 +798,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>%1 ms</source>
+        <extracomment>%1 is a number of milliseconds.</extracomment>
         <translation>%1 ms</translation>
     </message>
     <message>
@@ -776,28 +846,33 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <translation>Kestrune 已是最新版本</translation>
     </message>
     <message>
-        <source>Kestrune %@ is available</source>
-        <translation>Kestrune %@ 可供下载</translation>
+        <source>Kestrune %1 is available</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 可供下载</translation>
     </message>
     <message>
-        <source>Downloading Kestrune %@…</source>
-        <translation>正在下载 Kestrune %@…</translation>
+        <source>Downloading Kestrune %1…</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>正在下载 Kestrune %1…</translation>
     </message>
     <message>
-        <source>Kestrune %@ is ready to install</source>
-        <translation>Kestrune %@ 可以安装了</translation>
+        <source>Kestrune %1 is ready to install</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>Kestrune %1 可以安装了</translation>
     </message>
     <message>
         <source>Kestrune could not be updated</source>
         <translation>无法更新 Kestrune</translation>
     </message>
     <message>
-        <source>Version %@ is the newest one.</source>
-        <translation>版本 %@ 是最新版本。</translation>
+        <source>Version %1 is the newest one.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>版本 %1 是最新版本。</translation>
     </message>
     <message>
-        <source>You have version %@.</source>
-        <translation>你的版本是 %@。</translation>
+        <source>You have version %1.</source>
+        <extracomment>%1 is a version, such as 1.2.0.</extracomment>
+        <translation>你的版本是 %1。</translation>
     </message>
     <message>
         <source>It was checked: it comes from Kestrune’s makers.</source>
@@ -805,6 +880,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Download</source>
+        <extracomment>A verb, on a button.</extracomment>
         <translation>下载</translation>
     </message>
     <message>
@@ -817,6 +893,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Later</source>
+        <extracomment>A button that closes the window of an update.</extracomment>
         <translation>稍后</translation>
     </message>
     <message>

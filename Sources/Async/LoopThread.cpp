@@ -1,5 +1,6 @@
 #include "LoopThread.h"
 
+#include "Log.h"
 #include "Threads.h"
 
 #include <QEventLoop>
@@ -115,7 +116,7 @@ void LoopThread::postWithin(std::chrono::milliseconds longest, Task task, std::f
         const auto question = m_questions.extract(number);
         if (!question.mapped()())
             return;
-        qWarning("%s: gave up what took too long", m_name.constData());
+        qCWarning(asyncLog, "%s: gave up what took too long", m_name.constData());
         if (!m_loop || m_loop != loop.lock())
             return;
         ++*m_hung;

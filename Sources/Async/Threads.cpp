@@ -1,12 +1,17 @@
 #include "Threads.h"
 
+#include "Log.h"
+
 #include <condition_variable>
+#include <cstring>
 #include <memory>
 #include <mutex>
 
 #include <pthread.h>
 
 namespace Kestrune {
+
+Q_LOGGING_CATEGORY(asyncLog, "kestrune.async", QtWarningMsg)
 
 namespace {
 
@@ -59,12 +64,16 @@ bool Threads::start(const QByteArray &name, std::function<void()> work, std::siz
     pthread_attr_setstacksize(&attributes, stack);
     Register::instance().add(1);
     pthread_t thread{};
-    const bool started = pthread_create(&thread, &attributes, carryOut, start.get()) == 0;
+    const int fault = pthread_create(&thread, &attributes, carryOut, start.get());
+    const bool started = fault == 0;
     pthread_attr_destroy(&attributes);
-    if (started)
+    if (started) {
         static_cast<void>(start.release()); // The thread's.
-    else
+    } else {
         Register::instance().add(-1);
+        qCWarning(asyncLog, "%s: no thread can be started: %s", start->name.constData(),
+                  std::strerror(fault));
+    }
     return started;
 }
 

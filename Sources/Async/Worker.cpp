@@ -1,5 +1,6 @@
 #include "Worker.h"
 
+#include "Log.h"
 #include "Threads.h"
 
 #include <deque>
@@ -42,7 +43,7 @@ public:
             ++m_hung;
             serve(refused);
             lock.unlock();
-            qWarning("%s: gave up what took too long", m_name.constData());
+            qCWarning(asyncLog, "%s: gave up what took too long", m_name.constData());
             giveUp();
             lock.lock();
         }
@@ -88,8 +89,10 @@ private:
             return;
         m_serving = !m_closed && m_hung < kMostHung &&
                     Threads::start(m_name, [queue = shared_from_this()] { queue->work(); });
-        if (!m_serving)
-            refused.swap(m_waiting);
+        if (m_serving)
+            return;
+        qCInfo(asyncLog, "%s: refused what waited; %d pieces hang", m_name.constData(), m_hung);
+        refused.swap(m_waiting);
     }
 
     /// On the thread.
@@ -99,7 +102,7 @@ private:
             try {
                 job->second.work();
             } catch (const std::exception &fault) {
-                qWarning("%s: %s", m_name.constData(), fault.what());
+                qCWarning(asyncLog, "%s: %s", m_name.constData(), fault.what());
             }
             if (!finish(job->first))
                 return;
@@ -124,10 +127,12 @@ private:
     {
         const std::lock_guard lock(m_mutex);
         const bool isPresent = m_present && m_present->number == number;
-        if (isPresent)
+        if (isPresent) {
             m_present.reset();
-        else
+        } else {
             --m_hung;
+            qCInfo(asyncLog, "%s: what was given up has ended", m_name.constData());
+        }
         return isPresent;
     }
 

@@ -34,6 +34,7 @@ using Context = const ToolContext &;
 
 constexpr std::array kTools{
     CatalogueEntry{.rawValue = "home",
+                   //: The page that the notch opens with, like that of a telephone.
                    .title = QT_TRANSLATE_NOOP("notch", "Home"),
                    .symbol = "square.grid.2x2.fill",
                    .view = "HomePane"},
@@ -78,6 +79,7 @@ constexpr std::array kTools{
                            return made<CalendarModel>(c.settings, c.platform.clock, c.platform.calendars);
                        }},
     CatalogueEntry{.rawValue = "shelf",
+                   //: A place where files are put down for a while.
                    .title = QT_TRANSLATE_NOOP("notch", "Shelf"),
                    .symbol = "tray.and.arrow.down",
                    .view = "ShelfPane",
@@ -106,6 +108,7 @@ constexpr std::array kTools{
                        }},
     CatalogueEntry{
         .rawValue = "stocks",
+        //: The prices of shares.
         .title = QT_TRANSLATE_NOOP("notch", "Stocks"),
         .symbol = "chart.xyaxis.line",
         .view = "StocksPane",
@@ -130,10 +133,12 @@ constexpr std::array kTools{
                    .view = "MirrorPane",
                    .makeModel = [](Context c) { return made<MirrorModel>(c.platform.camera); }},
     CatalogueEntry{.rawValue = "note",
+                   //: A note to oneself, such as one jots down.
                    .title = QT_TRANSLATE_NOOP("notch", "Note"),
                    .symbol = "note.text",
                    .view = "NotePane"},
     CatalogueEntry{.rawValue = "system",
+                   //: Processor, memory, disk and battery of this computer.
                    .title = QT_TRANSLATE_NOOP("notch", "System"),
                    .symbol = "gauge.with.dots.needle.33percent",
                    .view = "SystemPane",
@@ -191,6 +196,7 @@ constexpr std::array kWidgets{
 };
 
 constexpr std::array kColumns{
+    //: Where a block of Home stands: nowhere. The others are its three columns.
     CatalogueEntry{"hidden", QT_TRANSLATE_NOOP("notch", "Hidden")},
     CatalogueEntry{"left", QT_TRANSLATE_NOOP("notch", "Left")},
     CatalogueEntry{"center", QT_TRANSLATE_NOOP("notch", "Centre")},
@@ -198,6 +204,7 @@ constexpr std::array kColumns{
 };
 
 constexpr std::array kOpenModes{
+    //: Completes “Open the notch”: when the pointer rests on it.
     CatalogueEntry{"hover", QT_TRANSLATE_NOOP("notch", "On hover")},
     CatalogueEntry{"click", QT_TRANSLATE_NOOP("notch", "On click")},
 };

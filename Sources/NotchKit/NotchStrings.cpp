@@ -76,10 +76,10 @@ QString chooseLocalization(const QStringList &available, const QStringList &pref
     return QStringLiteral("en");
 }
 
-QString notchStrings(const char *english)
+QString notchStrings(const char *english, int number)
 {
     Translation::chosen();
-    return QCoreApplication::translate(kContext, english);
+    return QCoreApplication::translate(kContext, english, nullptr, number);
 }
 
 QString notchLanguage() { return Translation::chosen().language(); }
@@ -89,6 +89,7 @@ QString hostName()
     static const QString name = [] {
         const QString display = QCoreApplication::instance()->property("applicationDisplayName").toString();
         const QString base = display.isEmpty() ? QCoreApplication::applicationName() : display;
+        //: Stands for the name of the program where it has none.
         return base.isEmpty() ? notchStrings(QT_TRANSLATE_NOOP("notch", "this app")) : base;
     }();
     return name;

@@ -7,7 +7,9 @@ namespace Kestrune {
 
 /// The text for `english` in the user's language, or `english` itself where it has no translation.
 /// The language is chosen once, on first use, from the user's preference order, and kept.
-QString notchStrings(const char *english);
+/// A `number` from 0 on chooses the plural form and is put in the place of "%n" (of "%Ln" in
+/// the locale's digits).
+QString notchStrings(const char *english, int number = -1);
 
 /// The language that notchStrings speaks, a BCP 47 tag.
 QString notchLanguage();

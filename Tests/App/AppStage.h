@@ -1,6 +1,7 @@
 #pragma once
 
 #include "App/AppState.h"
+#include "App/CommandLine.h"
 #include "Support/FakePlatform.h"
 
 /// The application over fake ports; `launch` starts it.
@@ -24,7 +25,8 @@ struct AppStage : Kestrune::Fakes::Platform
             .showAlert = [this](const QString &message,
                                 const QString &details) { alerts << message << details; },
             .openSettings = [this] { ++settingsOpened; }};
-        app = std::make_unique<Kestrune::AppState>(ports(), shown, Kestrune::LaunchRequest::parse(arguments));
+        app = std::make_unique<Kestrune::AppState>(ports(), shown,
+                                                   Kestrune::CommandLine::parse(arguments).launch);
     }
 
     void setSuite(bool running, bool notch)

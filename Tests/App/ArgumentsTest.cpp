@@ -44,22 +44,34 @@ void ArgumentsTest::verbs_data()
     QTest::newRow("status in words") << "status" << Verb::status;
     QTest::newRow("status as XML") << "status --xml" << Verb::bad;
     QTest::newRow("set") << "settings set hoverDelay 0.3" << Verb::settings;
+    QTest::newRow("set to less than nothing") << "settings set x -12" << Verb::settings;
+    QTest::newRow("set to what an option is called") << "settings set note --help" << Verb::settings;
     QTest::newRow("set without a value") << "settings set hoverDelay" << Verb::bad;
     QTest::newRow("settings window") << "settings open" << Verb::settings;
     QTest::newRow("settings") << "settings" << Verb::bad;
     QTest::newRow("usage") << "usage --json --now 2026-03-10T12:00:00Z --home /" << Verb::usage;
     QTest::newRow("usage of no home") << "usage --home" << Verb::bad;
     QTest::newRow("usage of some time") << "usage --now noon" << Verb::bad;
+    QTest::newRow("usage of a home with a minus") << "usage --home -x" << Verb::usage;
+    QTest::newRow("usage of more") << "usage --json now" << Verb::bad;
     QTest::newRow("help") << "--help" << Verb::help;
+    QTest::newRow("help in short") << "-h" << Verb::help;
+    QTest::newRow("help with more") << "--help toggle" << Verb::bad;
+    QTest::newRow("version") << "--version" << Verb::version;
+    QTest::newRow("word alone") << "weather" << Verb::bad;
+    QTest::newRow("value of an option without one") << "--open=weather" << Verb::bad;
 }
 
 void ArgumentsTest::verbs()
 {
     QFETCH(const QString, line);
     QFETCH(const Verb, verb);
-    const CommandLine parsed = CommandLine::parse(line.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    const QStringList words = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    const CommandLine parsed = CommandLine::parse(words);
     QCOMPARE(parsed.verb, verb);
     QCOMPARE(parsed.fault.isEmpty(), verb != Verb::bad);
+    if (verb == Verb::settings)
+        QCOMPARE(parsed.arguments, words.mid(1));
 }
 
 void ArgumentsTest::settingsTexts_data()
@@ -102,10 +114,13 @@ void ArgumentsTest::usageAsJson()
         QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
     };
     const auto report = [&] {
-        QString fault;
-        const QStringList line{QStringLiteral("--now"), QStringLiteral("2026-03-10T13:00:00+01:00"),
-                               QStringLiteral("--home"), home.path(), QStringLiteral("--json")};
-        return QJsonDocument::fromJson(usageReport(UsageRequest::parse(line, fault).value()));
+        const QStringList line{QStringLiteral("usage"),
+                               QStringLiteral("--now"),
+                               QStringLiteral("2026-03-10T13:00:00+01:00"),
+                               QStringLiteral("--home"),
+                               home.path(),
+                               QStringLiteral("--json")};
+        return QJsonDocument::fromJson(usageReport(CommandLine::parse(line).usage));
     };
     QCOMPARE(report(), QJsonDocument::fromJson(R"({"claude": null, "codex": null})"));
     write(QStringLiteral(".claude/projects/p"),

@@ -75,6 +75,15 @@ private Q_SLOTS:
         QCOMPARE(stage().x.topWindows({880, 390}).size(), qsizetype(1));
     }
 
+    void tellsWhatItDoesWhenAsked()
+    {
+        QVERIFY(stage().run());
+        stage().session.environment().insert(u"QT_LOGGING_RULES"_s, u"kestrune.*=true"_s);
+        const Session::Result second = stage().session.command({});
+        QVERIFY2(second.errors.contains(u"kestrune.app: one is running already"_s),
+                 qPrintable(second.errors));
+    }
+
     void pausesWhileTheSuiteShowsItsNotch_data()
     {
         QTest::addColumn<bool>("endsByQuitting");

@@ -2,8 +2,11 @@
 
 #include "EvolutionCalendars.h"
 #include "FolderCalendars.h"
+#include "Log.h"
 
 namespace Kestrune {
+
+Q_LOGGING_CATEGORY(calendarLog, "kestrune.calendar", QtWarningMsg)
 
 ChosenCalendars::ChosenCalendars(const QDBusConnection &bus)
     : m_bus(bus)
@@ -20,8 +23,10 @@ CalendarSource &ChosenCalendars::source(const Choice &choice)
             return *m_evolution;
     }
     const QString root = FolderCalendars::rootFor(choice.folder);
-    if (!m_folders || m_root != root)
+    if (!m_folders || m_root != root) {
         m_folders = std::make_unique<FolderCalendars>(root);
+        qCInfo(calendarLog, "the calendars of a folder are read");
+    }
     m_root = root;
     return *m_folders;
 }

@@ -1,5 +1,7 @@
 #include "EvolutionBus.h"
 
+#include "Log.h"
+
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -93,15 +95,19 @@ QDBusPendingCall EvolutionBus::send(const QString &service, const QString &path,
 std::optional<QList<EvolutionSource>> EvolutionBus::sources() const
 {
     const QString service = newest(prefix() + QLatin1String("Sources"));
-    if (service.isEmpty())
+    if (service.isEmpty()) {
+        qCInfo(calendarLog, "no service of Evolution's calendars is on the bus");
         return std::nullopt;
+    }
     QDBusPendingCall call =
         send(service, QStringLiteral("/org/gnome/evolution/dataserver/SourceManager"),
              QStringLiteral("org.freedesktop.DBus.ObjectManager"), QStringLiteral("GetManagedObjects"), {});
     call.waitForFinished();
     const QDBusMessage reply = call.reply();
-    if (reply.signature() != QLatin1String("a{oa{sa{sv}}}"))
+    if (reply.signature() != QLatin1String("a{oa{sa{sv}}}")) {
+        qCInfo(calendarLog, "Evolution's sources are not to be had: %s", qUtf8Printable(reply.errorName()));
         return std::nullopt;
+    }
     return enabledSources(keyFiles(reply.arguments().value(0).value<QDBusArgument>()));
 }
 
@@ -152,8 +158,8 @@ QList<EvolutionCalendar> EvolutionBus::finish(std::vector<Opening> opening)
             opened.append(one.calendar);
         } else if (!m_reported.contains(uid)) {
             m_reported.insert(uid);
-            qWarning("Kestrune: the calendar %s cannot be opened: %s", qUtf8Printable(uid),
-                     qUtf8Printable(one.call.error().message()));
+            qCWarning(calendarLog, "the calendar %s cannot be opened: %s", qUtf8Printable(uid),
+                      qUtf8Printable(one.call.error().message()));
         }
     }
     return opened;
@@ -179,6 +185,7 @@ std::optional<QList<QByteArray>> EvolutionBus::texts(const EvolutionCalendar &ca
     call.waitForFinished();
     if (call.isError()) {
         const auto kind = call.error().type();
+        qCInfo(calendarLog, "a calendar of Evolution's answers %s", qUtf8Printable(call.error().name()));
         if (kind != QDBusError::Other && kind != QDBusError::NoReply)
             m_open.remove(calendar.source.uid);
         return std::nullopt;

@@ -1,5 +1,6 @@
 #include "FolderCalendars.h"
 
+#include "Log.h"
 #include "TaskCompletion.h"
 
 #include <QDir>
@@ -8,6 +9,8 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -58,8 +61,10 @@ Names namesIn(const QByteArray &folder)
 {
     Names names;
     DIR *open = ::opendir(folder.constData());
-    if (!open)
+    if (!open) {
+        qCDebug(calendarLog, "a folder of calendars cannot be read: %s", std::strerror(errno));
         return names;
+    }
     while (const dirent *entry = ::readdir(open)) {
         const QByteArray name(entry->d_name);
         if (name.startsWith('.'))
@@ -162,7 +167,7 @@ void FolderCalendars::read(const QByteArray &path, File &file, const QDateTime &
     const auto data = readFile(path);
     const auto contents = data ? m_reader.readCalendar(*data) : std::nullopt;
     if (!contents)
-        qWarning("Kestrune: %s is no whole calendar and is left out", path.constData());
+        qCWarning(calendarLog, "%s is no whole calendar and is left out", path.constData());
     file.contents = contents.value_or(IcalContents());
     const QDateTime kept = (from.isValid() ? from : QDateTime::currentDateTimeUtc()).addDays(-1);
     file.forgotten =
@@ -199,8 +204,12 @@ bool FolderCalendars::complete(const IcalTaskId &task)
              : std::nullopt;
     QSaveFile file(task.origin);
     // What only the flush says of a full disk is forgotten by the commit.
-    if (!done || !file.open(QFile::WriteOnly) || file.write(done->text) != done->text.size() || !file.flush())
+    if (!done || !file.open(QFile::WriteOnly) || file.write(done->text) != done->text.size() ||
+        !file.flush()) {
+        qCInfo(calendarLog, "a completed task was not saved: %s",
+               done ? qUtf8Printable(file.errorString()) : "it is not in its file");
         return false;
+    }
     // Another program may have saved it meanwhile; its change must not be lost.
     return readFile(path) == data && file.commit();
 }

@@ -1,6 +1,7 @@
 #include "CameraAccess.h"
 
 #include "Desktop/Bus/BusCall.h"
+#include "Log.h"
 
 #include <QDBusError>
 #include <QDBusObjectPath>
@@ -65,6 +66,8 @@ QFuture<bool> CameraAccess::request()
 void CameraAccess::takePresence(const QDBusMessage &reply)
 {
     const QVariant value = reply.arguments().value(0);
+    if (reply.type() == QDBusMessage::ErrorMessage)
+        qCInfo(cameraLog, "the portal does not tell of cameras: %s", qUtf8Printable(reply.errorName()));
     if (reply.type() == QDBusMessage::ReplyMessage && value.value<QDBusVariant>().variant().toBool())
         ask();
     else
@@ -82,13 +85,16 @@ void CameraAccess::ask()
                   SLOT(takeResponse(uint, QVariantMap)));
     m_watcher = std::make_unique<QDBusServiceWatcher>(cameraPortal(), m_bus,
                                                       QDBusServiceWatcher::WatchForUnregistration);
-    connect(m_watcher.get(), &QDBusServiceWatcher::serviceUnregistered, this,
-            [this] { finish(CameraAuthorization::denied); });
+    connect(m_watcher.get(), &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+        qCInfo(cameraLog, "the portal has gone");
+        finish(CameraAuthorization::denied);
+    });
     QDBusMessage call = makeCall("org.freedesktop.portal.Camera", "AccessCamera");
     call << QVariantMap{{QStringLiteral("handle_token"), token}};
     callBus(m_bus, call, kAccessTimeout, this, [this](const QDBusMessage &reply) {
         if (reply.type() != QDBusMessage::ErrorMessage)
             return;
+        qCInfo(cameraLog, "the portal refuses: %s", qUtf8Printable(reply.errorName()));
         const bool forbidden = reply.errorName() == QLatin1String("org.freedesktop.portal.Error.NotAllowed");
         finish(forbidden ? CameraAuthorization::restricted : CameraAuthorization::denied);
     });
@@ -96,6 +102,7 @@ void CameraAccess::ask()
 
 void CameraAccess::takeResponse(uint response, const QVariantMap & /*results*/)
 {
+    qCInfo(cameraLog, "the portal's response is %u", response);
     finish(response == 0 ? CameraAuthorization::authorized : CameraAuthorization::denied);
 }
 

@@ -1,5 +1,6 @@
 #include "CameraRun.h"
 
+#include "Log.h"
 #include "SharedPictures.h"
 
 #include <QMetaObject>
@@ -65,8 +66,11 @@ void CameraRun::takeReply()
 
 void CameraRun::lose()
 {
-    if (const auto lost = std::exchange(m_reports.lost, {}))
-        lost();
+    const auto lost = std::exchange(m_reports.lost, {});
+    if (!lost)
+        return;
+    qCInfo(cameraLog, "the helper ended: %s", qUtf8Printable(m_helper.errorString()));
+    lost();
 }
 
 } // namespace Kestrune

@@ -1,6 +1,7 @@
 #include "HelperCamera.h"
 
 #include "CameraRun.h"
+#include "Log.h"
 
 #include <QCoreApplication>
 #include <QProcess>
@@ -12,6 +13,8 @@
 #include <cmath>
 
 namespace Kestrune {
+
+Q_LOGGING_CATEGORY(cameraLog, "kestrune.camera", QtWarningMsg)
 
 using namespace std::chrono_literals;
 
@@ -43,6 +46,7 @@ public:
 private:
     void finish(bool usable)
     {
+        qCInfo(cameraLog, usable ? "a camera is there" : "no camera, or no helper to find one");
         m_pledge.give(usable);
         deleteLater();
     }

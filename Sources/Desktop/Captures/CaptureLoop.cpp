@@ -1,5 +1,7 @@
 #include "CaptureLoop.h"
 
+#include "Log.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -11,6 +13,8 @@
 #include <unistd.h>
 
 namespace Kestrune {
+
+Q_LOGGING_CATEGORY(capturesLog, "kestrune.captures", QtWarningMsg)
 
 namespace {
 
@@ -70,6 +74,7 @@ void CaptureLoop::sleep()
 void CaptureLoop::handle(const FolderWatch::Event &event)
 {
     if (event.lost) {
+        qCInfo(capturesLog, "too much happened at once: everything is looked at again");
         m_due = {true, true, true};
         return;
     }
@@ -110,6 +115,8 @@ void CaptureLoop::catchUp()
         m_due.settings = watch();
         m_due.files = m_due.files || m_due.folders || m_due.settings;
     }
+    if (m_due.settings || m_due.folders)
+        qCInfo(capturesLog, "the folders keep changing");
     if (m_due.files)
         m_list.gather(m_folders, m_names);
     m_due = {};
@@ -130,6 +137,9 @@ void CaptureLoop::tell()
     Findings findings{m_list.captures(), isMissingAccess(m_folders)};
     if (m_told == findings)
         return;
+    qCInfo(capturesLog, "%lld folders, %lld captures%s", static_cast<long long>(m_folders.size()),
+           static_cast<long long>(findings.captures.size()),
+           findings.accessMissing ? ", and no access to the first" : "");
     m_report(findings);
     m_told = std::move(findings);
 }

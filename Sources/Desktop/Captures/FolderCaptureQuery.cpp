@@ -1,6 +1,7 @@
 #include "FolderCaptureQuery.h"
 
 #include "Async/Threads.h"
+#include "Log.h"
 #include "NotchKit/Platform/UserDefaults.h"
 
 #include <QDir>
@@ -44,8 +45,10 @@ void FolderCaptureQuery::start()
 void FolderCaptureQuery::launch()
 {
     m_delayed = *m_threads >= kMostThreads;
-    if (m_delayed)
+    if (m_delayed) {
+        qCInfo(capturesLog, "waits for one of %d threads that hang", kMostThreads);
         return;
+    }
     const auto back = m_back.handle();
     const auto report = [this, run = m_orders.get(), back](const CaptureLoop::Findings &findings) {
         back.post([this, run, findings] { take(run, findings); });

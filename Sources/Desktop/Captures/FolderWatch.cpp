@@ -1,8 +1,12 @@
 #include "FolderWatch.h"
 
+#include "Log.h"
+
 #include <QFile>
 
 #include <array>
+#include <cerrno>
+#include <cstring>
 
 #include <sys/inotify.h>
 #include <unistd.h>
@@ -22,7 +26,10 @@ QString above(const QString &folder) { return folder.left(std::max<qsizetype>(fo
 
 FolderWatch::FolderWatch()
     : m_descriptor(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
-{}
+{
+    if (m_descriptor < 0)
+        qCWarning(capturesLog, "folders cannot be watched: %s", std::strerror(errno));
+}
 
 FolderWatch::~FolderWatch()
 {

@@ -1,6 +1,7 @@
 #include "Desktop/Defaults/Checkpointer.h"
 
 #include "Desktop/Defaults/DefaultsDatabase.h"
+#include "Desktop/Defaults/Log.h"
 
 #include <QFile>
 
@@ -64,7 +65,8 @@ bool bringIn(const QString &path, FileIdentity expected, bool mayLock)
         checkpoint(database);
         log.sync();
         return true;
-    } catch (const SqliteError &) {
+    } catch (const SqliteError &error) {
+        qCDebug(settingsLog, "the log stays for now: %s", error.what());
         return false;
     }
 }

@@ -1,5 +1,7 @@
 #include "Desktop/Defaults/DefaultsStore.h"
 
+#include "Desktop/Defaults/Log.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -62,6 +64,7 @@ std::invoke_result_t<Action> DefaultsStore::withRecovery(Action action)
         try {
             return action();
         } catch (const SqliteError &error) {
+            qCInfo(settingsLog, "error %d: %s", error.code(), error.what());
             if (retries == 0 || !recover(error))
                 throw;
         }
@@ -90,6 +93,7 @@ void DefaultsStore::follow(bool forWriting)
     const bool isReplaced = m_database && state && state->identity != m_database->identity();
     const bool mustCreate = forWriting && !state && isMissing(m_path);
     if (!m_database || isReplaced || mustCreate || (forWriting && m_isSuspect)) {
+        qCDebug(settingsLog, isReplaced ? "the file was replaced" : "the file is opened");
         reopen();
     } else if (state && state != m_seen) {
         m_database->forgetPages(); // a checkpoint, or a backup copied over the file

@@ -1,6 +1,7 @@
 #include "Desktop/Defaults/SqliteUserDefaults.h"
 
 #include "Desktop/Defaults/DefaultsStore.h"
+#include "Desktop/Defaults/Log.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -12,6 +13,8 @@
 namespace Kestrune {
 
 using std::chrono::milliseconds;
+
+Q_LOGGING_CATEGORY(settingsLog, "kestrune.settings", QtWarningMsg)
 
 namespace {
 
@@ -82,6 +85,7 @@ void SqliteUserDefaults::save()
         if (std::exchange(m_isFailing, false)) {
             m_retry.stop();
             m_store->setPatience(patience);
+            qCInfo(settingsLog, "the settings can be written again");
         }
     } catch (const std::exception &error) {
         keepInMemory(error.what());

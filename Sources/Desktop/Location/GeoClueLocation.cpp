@@ -1,6 +1,7 @@
 #include "GeoClueLocation.h"
 
 #include <QGeoPositionInfoSource>
+#include <QLoggingCategory>
 
 #include <chrono>
 
@@ -9,6 +10,8 @@ namespace Kestrune {
 using namespace std::chrono_literals;
 
 namespace {
+
+Q_LOGGING_CATEGORY(locationLog, "kestrune.location", QtWarningMsg)
 
 constexpr std::chrono::milliseconds kLongest = 30s;
 constexpr auto kSlack = 10s; // A loop that needs longer to notice hangs.
@@ -29,12 +32,16 @@ public:
     {
         m_pledge.whenGivenUp(this, [this] { finish({}); });
         if (!m_source) {
+            qCInfo(locationLog, "no plugin for GeoClue is installed");
             finish({});
             return;
         }
         using Source = QGeoPositionInfoSource;
         connect(m_source, &Source::positionUpdated, this, &Fix::take);
-        connect(m_source, &Source::errorOccurred, this, [this] { finish({}); });
+        connect(m_source, &Source::errorOccurred, this, [this](Source::Error error) {
+            qCInfo(locationLog, "no fix: error %d", error);
+            finish({});
+        });
         m_source->setPreferredPositioningMethods(Source::NonSatellitePositioningMethods);
         m_source->requestUpdate(static_cast<int>(kLongest.count()));
     }

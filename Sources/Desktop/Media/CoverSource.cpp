@@ -1,9 +1,13 @@
 #include "CoverSource.h"
 
+#include "Log.h"
 #include "NotchKit/Platform/PlayerScripts.h"
 
 #include <QFile>
 #include <QUrl>
+
+#include <cerrno>
+#include <cstring>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -17,8 +21,10 @@ namespace {
 ScriptOutcome readFile(const QString &path)
 {
     const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0)
+    if (descriptor < 0) {
+        qCInfo(playersLog, "a cover cannot be read: %s", std::strerror(errno));
         return ScriptFailed();
+    }
     struct stat status
     {};
     QFile file;

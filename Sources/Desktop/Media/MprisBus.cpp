@@ -1,5 +1,6 @@
 #include "MprisBus.h"
 
+#include "Log.h"
 #include "MprisNames.h"
 
 #include <QDBusPendingCallWatcher>
@@ -10,6 +11,8 @@
 #include <vector>
 
 namespace Kestrune {
+
+Q_LOGGING_CATEGORY(playersLog, "kestrune.players", QtWarningMsg)
 
 namespace {
 
@@ -65,6 +68,7 @@ QDBusConnection &MprisBus::bus()
         m_bus = m_address.isEmpty()
                     ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_connectionName)
                     : QDBusConnection::connectToBus(m_address, m_connectionName);
+        qCDebug(playersLog, m_bus.isConnected() ? "connected to the bus" : "the bus cannot be reached");
     }
     return m_bus;
 }
@@ -93,10 +97,12 @@ QHash<QString, QDBusMessage> MprisBus::properties(const QStringList &busNames)
     await(asked.values());
     QHash<QString, QDBusMessage> replies;
     for (auto call = asked.cbegin(); call != asked.cend(); ++call) {
-        if (call->isFinished())
+        if (call->isFinished()) {
             replies.insert(call.key(), call->reply());
-        else
+        } else {
+            qCInfo(playersLog, "%s does not answer", qUtf8Printable(call.key()));
             m_unanswered.insert(call.key(), *call);
+        }
     }
     return replies;
 }

@@ -1,6 +1,7 @@
 #include "MprisScripts.h"
 
 #include "CoverSource.h"
+#include "Log.h"
 #include "MprisNames.h"
 #include "NotchKit/Platform/PlayerScripts.h"
 
@@ -89,10 +90,16 @@ ScriptOutcome MprisScripts::status(MediaPlayer player)
             best = state;
     }
     if (best) {
-        m_chosen[player] = best->busName;
+        if (QString &chosen = m_chosen[player]; chosen != best->busName) {
+            chosen = best->busName;
+            qCInfo(playersLog, "followed: %s", qUtf8Printable(chosen));
+        }
         return best->toStatus(player);
     }
-    m_chosen.erase(player);
+    if (m_chosen.erase(player) > 0)
+        qCInfo(playersLog, "none followed any more");
+    if (refused)
+        qCDebug(playersLog, "the bus refuses to pass questions on");
     if (answered)
         return QString();
     return refused ? ScriptOutcome(ScriptNotPermitted()) : ScriptFailed();

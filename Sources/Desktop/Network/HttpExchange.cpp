@@ -1,5 +1,7 @@
 #include "HttpExchange.h"
 
+#include <QLoggingCategory>
+#include <QMetaEnum>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QSslConfiguration>
@@ -7,6 +9,8 @@
 namespace Kestrune {
 
 namespace {
+
+Q_LOGGING_CATEGORY(networkLog, "kestrune.network", QtWarningMsg)
 
 /// The request as Qt sends it, without anything that says more about the user than the caller does.
 QNetworkRequest prepare(const HttpRequest &request)
@@ -33,6 +37,12 @@ QNetworkRequest prepare(const HttpRequest &request)
     return prepared;
 }
 
+/// Qt's own name. Its sentence would hold the address.
+const char *errorName(QNetworkReply::NetworkError error)
+{
+    return QMetaEnum::fromType<QNetworkReply::NetworkError>().valueToKey(error);
+}
+
 } // namespace
 
 HttpExchange::HttpExchange(QNetworkAccessManager &manager, const HttpRequest &request,
@@ -42,8 +52,8 @@ HttpExchange::HttpExchange(QNetworkAccessManager &manager, const HttpRequest &re
     , m_pledge(pledge)
     , m_mostBytes(request.mostBytes)
 {
-    m_pledge.whenGivenUp(this, [this] { giveUp(); });
-    connect(&m_deadline, &QTimer::timeout, this, &HttpExchange::giveUp);
+    m_pledge.whenGivenUp(this, [this] { giveUp("nobody waits for it any more"); });
+    connect(&m_deadline, &QTimer::timeout, this, [this] { giveUp("it took too long"); });
     m_deadline.setSingleShot(true);
     m_deadline.start(request.timeout);
     ask(prepare(request));
@@ -62,7 +72,7 @@ void HttpExchange::ask(const QNetworkRequest &request)
 void HttpExchange::follow(const QUrl &url)
 {
     if (url.scheme() != QLatin1String("https") || ++m_redirections > kMostRedirections) {
-        giveUp();
+        giveUp("one redirection too many, or to an address without https");
         return;
     }
     QNetworkRequest next = m_reply->request();
@@ -78,7 +88,7 @@ void HttpExchange::read()
     // Bounded: what is compressed is unpacked as it is read.
     m_body += m_reply->read(m_mostBytes + 1 - m_body.size());
     if (m_body.size() > m_mostBytes)
-        giveUp();
+        giveUp("it is too long");
 }
 
 void HttpExchange::conclude()
@@ -96,11 +106,19 @@ void HttpExchange::conclude()
     if (status >= 400 || (status >= 200 && m_reply->error() == QNetworkReply::NoError))
         finish({status, m_body});
     else
-        giveUp();
+        giveUp(errorName(m_reply->error()));
+}
+
+void HttpExchange::giveUp(const char *reason)
+{
+    qCInfo(networkLog, "a request was given up: %s", reason);
+    finish({});
 }
 
 void HttpExchange::finish(const HttpReply &reply)
 {
+    qCDebug(networkLog, "a reply of status %d, %lld bytes", reply.status,
+            static_cast<long long>(reply.body.size()));
     m_reply->disconnect(this);
     m_pledge.give(reply);
     deleteLater(); // and with it the reply, which ends what still comes

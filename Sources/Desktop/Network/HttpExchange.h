@@ -27,7 +27,7 @@ private:
     void follow(const QUrl &url);
     void read();
     void conclude();
-    void giveUp() { finish({}); }
+    void giveUp(const char *reason);
     void finish(const HttpReply &reply);
 
     QNetworkAccessManager &m_manager;

@@ -1,6 +1,7 @@
 #include "BusApplications.h"
 
 #include "Desktop/Bus/BusDaemon.h"
+#include "Log.h"
 
 namespace Kestrune {
 
@@ -12,9 +13,15 @@ BusApplications::BusApplications(const QDBusConnection &bus, const QStringList &
     m_watcher.setConnection(m_bus);
     m_watcher.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
     QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, &m_watcher,
-                     [this](const QString &name) { m_running.insert(name); });
+                     [this](const QString &name) {
+                         qCInfo(sessionLog, "%s came", qUtf8Printable(name));
+                         m_running.insert(name);
+                     });
     QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, &m_watcher,
-                     [this](const QString &name) { m_running.remove(name); });
+                     [this](const QString &name) {
+                         qCInfo(sessionLog, "%s went", qUtf8Printable(name));
+                         m_running.remove(name);
+                     });
     for (const QString &name : bundleIdentifiers) {
         m_watcher.addWatchedService(name);
         m_unanswered.insert(name);

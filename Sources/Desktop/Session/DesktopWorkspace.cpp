@@ -1,6 +1,7 @@
 #include "DesktopWorkspace.h"
 
 #include "Desktop/Bus/BusCall.h"
+#include "Log.h"
 
 #include <QProcess>
 #include <QStandardPaths>
@@ -9,6 +10,8 @@
 #include <array>
 
 namespace Kestrune {
+
+Q_LOGGING_CATEGORY(sessionLog, "kestrune.session", QtWarningMsg)
 
 namespace {
 
@@ -37,6 +40,7 @@ void openSettings()
         QProcess::startDetached(path, *page ? QStringList{QString::fromLatin1(page)} : QStringList());
         return;
     }
+    qCInfo(sessionLog, "no settings program is installed");
 }
 
 constexpr int kRevealTimeout = 5000; // ms, for a file manager that is started by the call.
@@ -44,7 +48,8 @@ constexpr int kMostFolders = 3;      // Windows that one request may open.
 
 void openWithDesktop(const QUrl &url)
 {
-    QProcess::startDetached(QStringLiteral("xdg-open"), {url.toString(QUrl::FullyEncoded)});
+    if (!QProcess::startDetached(QStringLiteral("xdg-open"), {url.toString(QUrl::FullyEncoded)}))
+        qCInfo(sessionLog, "xdg-open cannot be started");
 }
 
 QList<QUrl> localFiles(QList<QUrl> files)
@@ -86,8 +91,10 @@ void DesktopWorkspace::reveal(const QList<QUrl> &files)
         manager, QStringLiteral("/org/freedesktop/FileManager1"), manager, QStringLiteral("ShowItems"));
     call << QUrl::toStringList(local, QUrl::FullyEncoded) << QString(); // No startup notification.
     callBus(m_bus, call, kRevealTimeout, &m_answers, [local](const QDBusMessage &reply) {
-        if (reply.type() != QDBusMessage::ReplyMessage)
-            openFolders(local);
+        if (reply.type() == QDBusMessage::ReplyMessage)
+            return;
+        qCInfo(sessionLog, "no file manager shows files: %s", qUtf8Printable(reply.errorName()));
+        openFolders(local);
     });
 }
 

@@ -1,6 +1,7 @@
 #include "PortalAppearance.h"
 
 #include "Desktop/Bus/BusCall.h"
+#include "Log.h"
 
 #include <QGuiApplication>
 #include <QPalette>
@@ -43,6 +44,9 @@ void PortalAppearance::ask(QDBusConnection &bus)
     callBus(bus, question, kAppearanceTimeout, this, [this](const QDBusMessage &reply) {
         if (reply.type() == QDBusMessage::ReplyMessage)
             take(reply.arguments().value(0));
+        else
+            qCInfo(sessionLog, "the portal does not tell the appearance: %s",
+                   qUtf8Printable(reply.errorName()));
     });
 }
 

@@ -4,6 +4,7 @@
 #include "Desktop/Bus/BusCall.h"
 
 #include <QDBusArgument>
+#include <QLoggingCategory>
 #include <QMap>
 
 #include <algorithm>
@@ -11,6 +12,8 @@
 namespace Kestrune {
 
 namespace {
+
+Q_LOGGING_CATEGORY(sharingLog, "kestrune.sharing", QtWarningMsg)
 
 constexpr int kAskTimeout = 1500;   // ms
 constexpr int kSendTimeout = 20000; // ms; the service looks at the files before it answers.
@@ -29,8 +32,10 @@ QString objectOf(const QString &device) { return QStringLiteral("/devices/") + d
 
 QMap<QString, QString> deviceNames(const QDBusMessage &reply)
 {
-    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != QLatin1String("a{ss}"))
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != QLatin1String("a{ss}")) {
+        qCInfo(sharingLog, "no devices: %s", qUtf8Printable(reply.errorName()));
         return {};
+    }
     return qdbus_cast<QMap<QString, QString>>(reply.arguments().constFirst());
 }
 
@@ -83,7 +88,7 @@ void KdeConnectSharing::send(const QString &device, const QList<QUrl> &files)
     call << QUrl::toStringList(files, QUrl::FullyEncoded);
     callBus(m_bus, call, kSendTimeout, &m_answers, [](const QDBusMessage &reply) {
         if (reply.type() != QDBusMessage::ReplyMessage)
-            qWarning("the files were not sent: %s", qPrintable(reply.errorMessage()));
+            qCWarning(sharingLog, "the files were not sent: %s", qPrintable(reply.errorMessage()));
     });
 }
 

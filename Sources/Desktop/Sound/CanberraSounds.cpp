@@ -1,6 +1,7 @@
 #include "CanberraSounds.h"
 
 #include <QFile>
+#include <QLoggingCategory>
 #include <QSemaphore>
 #include <QTemporaryFile>
 
@@ -12,6 +13,8 @@
 namespace Kestrune {
 
 namespace {
+
+Q_LOGGING_CATEGORY(soundLog, "kestrune.sound", QtWarningMsg)
 
 using namespace std::chrono_literals;
 
@@ -52,10 +55,13 @@ void playFile(const QByteArray &file)
             static_cast<std::shared_ptr<QSemaphore> *>(data));
         (*held)->release();
     };
-    if (ca_context_play_full(context.get(), 0, properties, done, finished) == CA_SUCCESS)
+    const int fault = ca_context_play_full(context.get(), 0, properties, done, finished);
+    if (fault == CA_SUCCESS) {
         wait->tryAcquire(1, std::chrono::milliseconds(kLongestSound).count());
-    else
+    } else {
         delete finished;
+        qCInfo(soundLog, "the sound cannot be played: %s", ca_strerror(fault));
+    }
     ca_proplist_destroy(properties);
 }
 

@@ -3,11 +3,14 @@
 #include "Desktop/Bus/BusCall.h"
 #include "Desktop/Bus/BusDaemon.h"
 
+#include <QLoggingCategory>
 #include <QtEndian>
 
 namespace Kestrune {
 
 namespace {
+
+Q_LOGGING_CATEGORY(trayLog, "kestrune.tray", QtWarningMsg)
 
 constexpr int kTrayTimeout = 5000; // ms
 
@@ -59,6 +62,7 @@ BusStatusItem::~BusStatusItem() { disappear(); }
 
 void BusStatusItem::appear()
 {
+    qCInfo(trayLog, "a tray is there");
     if (!m_face)
         m_face = std::make_unique<StatusItemFace>(m_title, m_icons());
     constexpr auto kContents = QDBusConnection::ExportScriptableContents;
@@ -70,7 +74,10 @@ void BusStatusItem::appear()
     call.setAutoStartService(false);
     call << m_bus.baseService();
     // A watcher that does not answer leaves nothing to do: the next one is asked again.
-    callBus(m_bus, call, kTrayTimeout, &m_watcher, [](const QDBusMessage &) {});
+    callBus(m_bus, call, kTrayTimeout, &m_watcher, [](const QDBusMessage &reply) {
+        if (reply.type() == QDBusMessage::ErrorMessage)
+            qCInfo(trayLog, "the tray refuses the icon: %s", qUtf8Printable(reply.errorName()));
+    });
 }
 
 void BusStatusItem::disappear()

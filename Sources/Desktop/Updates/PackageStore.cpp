@@ -1,9 +1,16 @@
 #include "PackageStore.h"
 
 #include <QDir>
+#include <QLoggingCategory>
 #include <QSaveFile>
 
 namespace Kestrune {
+
+namespace {
+
+Q_LOGGING_CATEGORY(packagesLog, "kestrune.packages", QtWarningMsg)
+
+} // namespace
 
 PackageStore::PackageStore(QString folder, ReleaseKey key)
     : m_folder(std::move(folder))
@@ -32,6 +39,8 @@ Releases::Kept PackageStore::keep(const Release &release, const QByteArray &pack
     // What only the flush says of a full disk is forgotten by the commit.
     const bool isSaved = file.open(QIODevice::WriteOnly) && file.write(package) == package.size() &&
                          file.flush() && file.commit();
+    if (!isSaved)
+        qCInfo(packagesLog, "the package was not saved: %s", qUtf8Printable(file.errorString()));
     return isSaved ? Kept::kept : Kept::notSaved;
 }
 

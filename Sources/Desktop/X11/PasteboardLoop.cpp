@@ -1,5 +1,6 @@
 #include "PasteboardLoop.h"
 
+#include "Log.h"
 #include "UriLists.h"
 
 #include <QtEndian>
@@ -12,6 +13,8 @@
 #include <xcb/xfixes.h>
 
 namespace Kestrune {
+
+Q_LOGGING_CATEGORY(clipboardLog, "kestrune.clipboard", QtWarningMsg)
 
 namespace {
 
@@ -47,6 +50,8 @@ void PasteboardLoop::run()
 {
     if (m_x.isAlive())
         start();
+    else
+        qCWarning(clipboardLog, "no connection to the display, or one without XFixes");
     while (m_x.isAlive() && !m_commands.isClosed()) {
         xcb_flush(m_x.get());
         const bool hadEvent = handleEvent();
@@ -57,6 +62,7 @@ void PasteboardLoop::run()
         if (!hadEvent && !hadCommand && !hadQuestion)
             sleep();
     }
+    qCDebug(clipboardLog, m_x.isAlive() ? "ended" : "the connection is gone");
 }
 
 void PasteboardLoop::start()
@@ -141,6 +147,8 @@ void PasteboardLoop::finishReading()
     const auto done = std::exchange(m_done, {});
     if (answer)
         done(std::move(*answer));
+    else
+        qCInfo(clipboardLog, "the owner gave nothing, too much or too late");
 }
 
 void PasteboardLoop::offer(const PasteboardContent &content)
@@ -168,6 +176,7 @@ void PasteboardLoop::askForTypes(const Done<QStringList> &done)
             return;
         const auto atoms = atomsIn(answer.data);
         const auto names = m_x.names(atoms);
+        qCDebug(clipboardLog, "%lld forms are on offer", static_cast<long long>(names.size()));
         for (qsizetype i = 0; i < atoms.size(); ++i)
             m_described.insert(names[i], atoms[i]);
         done(PasteboardTypes::named(names));

@@ -1,5 +1,6 @@
 #include "X11Desktop.h"
 
+#include "Log.h"
 #include "X11Connection.h"
 
 #include <QCoreApplication>
@@ -56,6 +57,8 @@ X11Desktop::X11Desktop(QObject *parent)
     }
     QCoreApplication::instance()->installNativeEventFilter(this);
     checkCompositor();
+    qCInfo(windowsLog, "X11, %s a compositor, %s damage reports", m_hasCompositor ? "with" : "without",
+           m_damaged == XCB_NONE ? "without" : "with");
 }
 
 X11Desktop::~X11Desktop()
@@ -80,8 +83,10 @@ void X11Desktop::checkCompositor()
     const X11::Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
         X11::connection(), xcb_get_selection_owner(X11::connection(), m_compositorSelection), nullptr));
     const bool now = reply && reply->owner != XCB_WINDOW_NONE;
-    if (std::exchange(m_hasCompositor, now) != now)
-        Q_EMIT compositorChanged();
+    if (std::exchange(m_hasCompositor, now) == now)
+        return;
+    qCInfo(windowsLog, "a compositor %s", now ? "came" : "went");
+    Q_EMIT compositorChanged();
 }
 
 bool X11Desktop::nativeEventFilter(const QByteArray &, void *message, qintptr *)

@@ -1,5 +1,6 @@
 #include "X11Displays.h"
 
+#include "Log.h"
 #include "X11Coordinates.h"
 
 #include <QGuiApplication>
@@ -18,13 +19,19 @@ X11Displays::X11Displays(const UserDefaults &defaults, QObject *parent)
     connect(&m_settle, &QTimer::timeout, this, &Displays::changed);
     const auto settle = [this] { m_settle.start(); };
     connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen *screen) {
+        qCInfo(windowsLog, "display %s came", qUtf8Printable(screen->name()));
         watch(screen);
         m_settle.start();
     });
-    connect(qGuiApp, &QGuiApplication::screenRemoved, this, settle);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this](const QScreen *screen) {
+        qCInfo(windowsLog, "display %s went", qUtf8Printable(screen->name()));
+        m_settle.start();
+    });
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, settle);
-    for (const QScreen *screen : QGuiApplication::screens())
+    for (const QScreen *screen : QGuiApplication::screens()) {
+        qCInfo(windowsLog, "display %s", qUtf8Printable(screen->name()));
         watch(screen);
+    }
 }
 
 void X11Displays::watch(const QScreen *screen)

@@ -3,6 +3,7 @@
 #include "X11Connection.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 #include <algorithm>
 #include <array>
@@ -12,6 +13,8 @@
 namespace Kestrune {
 
 namespace {
+
+Q_LOGGING_CATEGORY(keysLog, "kestrune.keys", QtWarningMsg)
 
 constexpr quint32 kCommand = 256;
 constexpr quint32 kShift = 512;
@@ -137,8 +140,10 @@ void X11HotKeys::unregisterHotKey(HotKeyIdentity identity)
 bool X11HotKeys::grab(Grab &wanted)
 {
     wanted.keycode = resolve(wanted.keyCode);
-    if (wanted.keycode == 0)
+    if (wanted.keycode == 0) {
+        qCInfo(keysLog, "no key of the keyboard stands for code %u", wanted.keyCode);
         return false;
+    }
     auto *connection = X11::connection();
     std::vector<xcb_void_cookie_t> cookies;
     for (const uint16_t locks : lockCombinations()) {
@@ -152,6 +157,8 @@ bool X11HotKeys::grab(Grab &wanted)
     }
     if (taken)
         ungrab(wanted);
+    qCInfo(keysLog, "key %d with modifiers %d %s", wanted.keycode, wanted.modifiers,
+           taken ? "is another program's" : "is ours");
     return !taken;
 }
 

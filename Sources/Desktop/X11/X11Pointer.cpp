@@ -4,6 +4,7 @@
 #include "X11Coordinates.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 #include <array>
 
@@ -12,6 +13,8 @@
 namespace Kestrune {
 
 namespace {
+
+Q_LOGGING_CATEGORY(pointerLog, "kestrune.pointer", QtWarningMsg)
 
 constexpr uint32_t kPrimaryButton = 1;
 constexpr int kMostCached = 8; // Samples, thirty a second.
@@ -37,8 +40,10 @@ X11Pointer::X11Pointer()
     : m_connection(xcb_connect(nullptr, nullptr))
 {
     const auto *extension = xcb_get_extension_data(X11::connection(), &xcb_input_id);
-    if (!extension || !extension->present)
+    if (!extension || !extension->present) {
+        qCInfo(pointerLog, "the server has no XInput: presses between two samples are missed");
         return;
+    }
     m_inputOpcode = extension->major_opcode;
     selectRawPresses();
     QCoreApplication::instance()->installNativeEventFilter(this);

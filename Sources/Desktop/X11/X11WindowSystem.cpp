@@ -1,5 +1,6 @@
 #include "X11WindowSystem.h"
 
+#include "Log.h"
 #include "NotchKit/Platform/WindowSystem.h"
 #include "X11Connection.h"
 #include "X11Desktop.h"
@@ -11,6 +12,8 @@
 #include "X11Pointer.h"
 
 namespace Kestrune {
+
+Q_LOGGING_CATEGORY(windowsLog, "kestrune.windows", QtWarningMsg)
 
 namespace {
 

@@ -51,9 +51,6 @@ QString Format::clockTime(const QTime &time, const QLocale &locale)
     return locale.toString(time, format.remove(QLatin1String(":ss")));
 }
 
-QString Format::namingHost(const QString &text)
-{
-    return QString(text).replace(QLatin1String("%@"), hostName());
-}
+QString Format::namingHost(const QString &text) { return text.arg(hostName()); }
 
 } // namespace Kestrune

@@ -30,7 +30,7 @@ public:
     /// Hours and minutes, in the locale's way.
     static QString clockTime(const QTime &time, const QLocale &locale);
 
-    /// `text` with the program's own name in place of "%@".
+    /// `text` with the program's own name in place of "%1".
     Q_INVOKABLE static QString namingHost(const QString &text);
 };
 

@@ -23,6 +23,7 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         width: 140
         screenModel: search.screenModel
+        //: What an empty search field says, and the button that looks for a city.
         placeholderText: qsTranslate("notch", "Search")
     }
 }

@@ -13,9 +13,11 @@ Column {
 
     FormSection {
         width: view.width
+        //: Heading of the settings that say how the notch opens.
         title: qsTranslate("notch", "Opening")
 
         FormRow {
+            //: Followed by the choice of “On hover” and “On click”.
             title: qsTranslate("notch", "Open the notch")
             first: true
 
@@ -27,6 +29,7 @@ Column {
             }
         }
         SliderRow {
+            //: How long the pointer rests on the notch before it opens; beside a slider.
             title: qsTranslate("notch", "Hover delay")
             to: 0.8
             stepSize: 0.05
@@ -52,6 +55,7 @@ Column {
     }
     FormSection {
         width: view.width
+        //: Heading of the settings that are about monitors.
         title: qsTranslate("notch", "Displays")
 
         SwitchRow {

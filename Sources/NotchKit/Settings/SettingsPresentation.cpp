@@ -57,6 +57,7 @@ QString SettingsPresentation::hoverDelayText() const
 {
     if (!m_settings)
         return {};
+    //: %1 is a number of milliseconds.
     return notchStrings(QT_TRANSLATE_NOOP("notch", "%1 ms"))
         .arg(Format::digits(QString::number(std::lround(m_settings->hoverDelay() * kMillisecondsPerSecond))));
 }

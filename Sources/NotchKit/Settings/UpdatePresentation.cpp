@@ -10,10 +10,7 @@ namespace {
 
 using Phase = UpdateStatus::Phase;
 
-QString naming(const char *english, const QString &version)
-{
-    return notchStrings(english).replace(QLatin1String("%@"), version);
-}
+QString naming(const char *english, const QString &version) { return notchStrings(english).arg(version); }
 
 } // namespace
 
@@ -55,11 +52,14 @@ QString UpdatePresentation::heading() const
     case Phase::current:
         return notchStrings(QT_TRANSLATE_NOOP("notch", "Kestrune is up to date"));
     case Phase::available:
-        return naming(QT_TRANSLATE_NOOP("notch", "Kestrune %@ is available"), now.version);
+        //: %1 is a version, such as 1.2.0.
+        return naming(QT_TRANSLATE_NOOP("notch", "Kestrune %1 is available"), now.version);
     case Phase::fetching:
-        return naming(QT_TRANSLATE_NOOP("notch", "Downloading Kestrune %@…"), now.version);
+        //: %1 is a version, such as 1.2.0.
+        return naming(QT_TRANSLATE_NOOP("notch", "Downloading Kestrune %1…"), now.version);
     case Phase::ready:
-        return naming(QT_TRANSLATE_NOOP("notch", "Kestrune %@ is ready to install"), now.version);
+        //: %1 is a version, such as 1.2.0.
+        return naming(QT_TRANSLATE_NOOP("notch", "Kestrune %1 is ready to install"), now.version);
     case Phase::failed:
         return notchStrings(QT_TRANSLATE_NOOP("notch", "Kestrune could not be updated"));
     }
@@ -75,10 +75,12 @@ QString UpdatePresentation::body() const
     case Phase::checking:
         return {};
     case Phase::current:
-        return naming(QT_TRANSLATE_NOOP("notch", "Version %@ is the newest one."), own);
+        //: %1 is a version, such as 1.2.0.
+        return naming(QT_TRANSLATE_NOOP("notch", "Version %1 is the newest one."), own);
     case Phase::available:
     case Phase::fetching:
-        return naming(QT_TRANSLATE_NOOP("notch", "You have version %@."), own);
+        //: %1 is a version, such as 1.2.0.
+        return naming(QT_TRANSLATE_NOOP("notch", "You have version %1."), own);
     case Phase::ready:
         return notchStrings(QT_TRANSLATE_NOOP("notch", "It was checked: it comes from Kestrune’s makers."));
     case Phase::failed:
@@ -99,6 +101,7 @@ QString UpdatePresentation::action() const
 {
     switch (status().phase) {
     case Phase::available:
+        //: A verb, on a button.
         return notchStrings(QT_TRANSLATE_NOOP("notch", "Download"));
     case Phase::ready:
         return notchStrings(QT_TRANSLATE_NOOP("notch", "Install…"));
@@ -113,6 +116,7 @@ QString UpdatePresentation::dismissal() const
 {
     const Phase phase = status().phase;
     const bool isForLater = phase == Phase::available || phase == Phase::ready;
+    //: A button that closes the window of an update.
     return isForLater ? notchStrings(QT_TRANSLATE_NOOP("notch", "Later"))
                       : notchStrings(QT_TRANSLATE_NOOP("notch", "Close"));
 }

@@ -41,6 +41,7 @@ FocusScope {
             SymbolButton {
                 tipBelow: true
                 symbol: content.screenModel.pinned ? "pin.fill" : "pin"
+                //: Let the notch close by itself again; the opposite of “Keep open”.
                 help: content.screenModel.pinned ? qsTranslate("notch", "Unpin") : qsTranslate("notch", "Keep open")
                 active: content.screenModel.pinned
                 onClicked: content.screenModel.pinned = !content.screenModel.pinned

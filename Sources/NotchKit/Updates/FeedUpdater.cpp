@@ -4,11 +4,15 @@
 #include "NotchKit/Platform/UserDefaults.h"
 #include "NotchKit/Platform/Workspace.h"
 
+#include <QLoggingCategory>
+
 namespace Kestrune {
 
 using namespace std::chrono_literals;
 
 namespace {
+
+Q_LOGGING_CATEGORY(updatesLog, "kestrune.updates", QtWarningMsg)
 
 constexpr qint64 kLongestFeed = qint64{256} * 1024;
 constexpr std::chrono::milliseconds kPackagePatience = 30min;
@@ -95,6 +99,8 @@ QCoro::Task<> FeedUpdater::look()
 /// Nothing for a bad feed, which the user is told.
 std::optional<Release> FeedUpdater::takeFeed(const HttpReply &reply)
 {
+    qCDebug(updatesLog, "the feed: status %d, %lld bytes", reply.status,
+            static_cast<long long>(reply.body.size()));
     const auto feed = reply.isGood() ? m_releases->read(reply.body) : FeedFault::unreadable;
     if (const auto *release = std::get_if<Release>(&feed))
         return *release;
@@ -123,6 +129,7 @@ bool FeedUpdater::takeRelease(const Release &release)
         enter(Phase::current);
         return false;
     }
+    qCInfo(updatesLog, "a newer release is there");
     m_release = release;
     m_status.version = release.text;
     m_status.notes = release.notesIn(notchLanguage());
@@ -207,6 +214,7 @@ void FeedUpdater::enterReady()
 void FeedUpdater::fail(const char *message)
 {
     const bool isNews = m_asked && m_status.phase == Phase::fetching;
+    qCInfo(updatesLog, "%s", message);
     m_status.message = notchStrings(message);
     enter(Phase::failed);
     if (isNews)

@@ -4,6 +4,7 @@
 #include "NotchKit/Kit/Symbols.h"
 #include "NotchKit/NotchStrings.h"
 #include "NotchKit/Tools/AIUsage/AIUsageModel.h"
+#include "NotchKit/Tools/AIUsage/AIUsagePresentation.h"
 #include "NotchKit/Tools/NowPlaying/ScriptBridge.h"
 #include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/TestRegistry.h"
@@ -236,7 +237,7 @@ void writeLogs(const QString &home)
 /// The marks in a text that are replaced by values, in order.
 QStringList marks(const QString &text)
 {
-    static const QRegularExpression pattern(u"%[1-9@d%n]|\\n"_s);
+    static const QRegularExpression pattern(u"%L?[1-9n]|\\n"_s);
     QStringList found;
     for (const auto &match : pattern.globalMatch(text))
         found.append(match.captured());
@@ -244,18 +245,23 @@ QStringList marks(const QString &text)
     return found;
 }
 
-/// English texts and their translations in a file; those that are not finished are left out.
+/// English texts and their translations in a file, of plurals the last form; those that are not finished are
+/// left out.
 QMap<QString, QString> translations(const QString &path)
 {
     QFile file(path);
     QMap<QString, QString> texts;
     QXmlStreamReader xml(file.open(QIODevice::ReadOnly) ? &file : nullptr);
     QString source;
+    bool plural = false;
     while (!xml.atEnd()) {
         xml.readNext();
-        if (xml.isStartElement() && xml.name() == "source"_L1)
+        if (xml.isStartElement() && xml.name() == "message"_L1)
+            plural = xml.attributes().hasAttribute("numerus"_L1);
+        else if (xml.isStartElement() && xml.name() == "source"_L1)
             source = xml.readElementText();
-        else if (xml.isStartElement() && xml.name() == "translation"_L1 && xml.attributes().isEmpty())
+        else if (xml.isStartElement() && xml.name() == (plural ? "numerusform"_L1 : "translation"_L1) &&
+                 xml.attributes().isEmpty())
             texts.insert(source, xml.readElementText());
     }
     return texts;
@@ -309,6 +315,28 @@ private Q_SLOTS:
         QCOMPARE(texts.keys(), german.keys());
         for (auto text = texts.begin(); text != texts.end(); ++text)
             QVERIFY2(!text->trimmed().isEmpty() && marks(*text) == marks(text.key()), qPrintable(text.key()));
+    }
+
+    void countsAsTheLanguageDoes_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<double>("used");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("English, one") << u"en"_s << 99.0 << u"1% left"_s;
+        QTest::newRow("French, one") << u"fr"_s << 99.0 << u"1 % restant"_s;
+        QTest::newRow("French, all") << u"fr"_s << 0.0 << u"100 % restants"_s;
+        QTest::newRow("Polish, one") << u"pl"_s << 99.0 << u"został 1%"_s;
+        QTest::newRow("Polish, a few") << u"pl"_s << 67.0 << u"zostały 33%"_s;
+        QTest::newRow("Polish, a dozen") << u"pl"_s << 88.0 << u"zostało 12%"_s;
+        QTest::newRow("Arabic, in its digits") << u"ar"_s << 55.0 << u"بقي ٤٥%"_s;
+    }
+    void countsAsTheLanguageDoes()
+    {
+        QFETCH(const QString, language);
+        QFETCH(const double, used);
+        QFETCH(const QString, text);
+        const Speaking speaking(language);
+        QCOMPARE(AIUsagePresentation::leftText(used), text);
     }
 
     void fits_data() { languages(); }

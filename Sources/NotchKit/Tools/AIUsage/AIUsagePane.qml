@@ -158,6 +158,7 @@ Pane {
             visible: figures.codexOn || figures.claudeOn
             enabled: !pane.usage.loading
             symbol: "arrow.clockwise"
+            //: On a round button: read the logs once more.
             help: qsTranslate("notch", "Read again")
             onClicked: pane.usage.refresh(true)
         }

@@ -15,22 +15,24 @@ namespace {
 
 constexpr int kFarDays = 6; // a weekday more than six days away could be any
 
-QString filled(const char *english, const char *place, const QString &value)
-{
-    return notchStrings(english)
-        .replace(QLatin1String(place), value)
-        .replace(QLatin1String("%%"), QLatin1String("%"));
-}
-
 /// Any fraction, however absurd, as a number that can be written.
 QString wholePercent(double fraction)
 {
     return Format::digits(QString::number(std::llround(std::clamp(fraction * 100, -1e15, 1e15))));
 }
 
+/// A number with the plural form of any other: every language looks at the last digits of large ones.
+int pluralOf(qint64 number)
+{
+    constexpr qint64 kLarge = 1'000'000;
+    return static_cast<int>(number < kLarge ? std::max<qint64>(number, 0) : kLarge + number % kLarge);
+}
+
 QString tokensText(qint64 tokens)
 {
-    return filled(QT_TRANSLATE_NOOP("notch", "%@ tokens"), "%@", QLocale().toString(tokens));
+    //: %1 is the number of tokens, the pieces of text that a language model counts in.
+    return notchStrings(QT_TRANSLATE_N_NOOP("notch", "%1 tokens"), pluralOf(tokens))
+        .arg(QLocale().toString(tokens));
 }
 
 } // namespace
@@ -50,7 +52,8 @@ QString AIUsagePresentation::timeText(const QDateTime &time, const QDateTime &no
 QString AIUsagePresentation::leftText(double usedPercent)
 {
     const double left = std::clamp(std::floor(100 - usedPercent), 0.0, 100.0);
-    return filled(QT_TRANSLATE_NOOP("notch", "%d%% left"), "%d", Format::digits(QString::number(left)));
+    //: What is left of a limit, in per cent.
+    return notchStrings(QT_TRANSLATE_N_NOOP("notch", "%Ln% left"), static_cast<int>(left));
 }
 
 void AIUsagePresentation::follow(AIUsageModel &usage, NotchSurroundings &surroundings)
@@ -89,12 +92,16 @@ void AIUsagePresentation::addCodex(Shown &shown) const
         shown.codexHint = notchStrings(
             QT_TRANSLATE_NOOP("notch", "No Codex activity found yet. Use Codex once and it appears here."));
     } else {
-        shown.codexUpdated = filled(QT_TRANSLATE_NOOP("notch", "Updated %@"), "%@", timeText(codex->updated));
+        //: %1 is a time, such as “14:05” or “Mon 14:05”.
+        shown.codexUpdated =
+            notchStrings(QT_TRANSLATE_NOOP("notch", "Updated %1")).arg(timeText(codex->updated));
         if (codex->primary)
             shown.codexWindows.append(
+                //: The name of a limit that holds for five hours.
                 line(notchStrings(QT_TRANSLATE_NOOP("notch", "5-hour window")), *codex->primary));
         if (codex->secondary)
             shown.codexWindows.append(
+                //: The name of a limit that holds for a week.
                 line(notchStrings(QT_TRANSLATE_NOOP("notch", "Weekly")), *codex->secondary));
     }
 }
@@ -127,14 +134,16 @@ UsageLine AIUsagePresentation::blockLine(const AIUsageModel::Claude &claude) con
     const bool hasBudget = budget >= 1;
     const qint64 yardstick = hasBudget ? budget : std::max<qint64>(claude.peakBlockTokens, 1);
     const double fraction = static_cast<double>(claude.blockTokens) / static_cast<double>(yardstick);
-    const char *text = hasBudget ? QT_TRANSLATE_NOOP("notch", "%d%% of your budget")
-                                 : QT_TRANSLATE_NOOP("notch", "%d%% of your busiest block this week");
+    //: %1 is a number. There is little room.
+    constexpr auto kOfBudget = QT_TRANSLATE_NOOP("notch", "%1% of your budget");
+    //: %1 is a number; a block is five hours of work. There is little room.
+    constexpr auto kOfBusiest = QT_TRANSLATE_NOOP("notch", "%1% of your busiest block this week");
     std::optional<QDateTime> end;
     if (claude.blockStart)
         end = claude.blockStart->addSecs(AIUsageModel::Claude::kBlockSeconds);
     return {notchStrings(QT_TRANSLATE_NOOP("notch", "This 5-hour block")),
-            filled(text, "%d", wholePercent(fraction)),
-            filled(QT_TRANSLATE_NOOP("notch", "%d%%"), "%d", wholePercent(fraction)), fraction,
+            notchStrings(hasBudget ? kOfBudget : kOfBusiest).arg(wholePercent(fraction)),
+            notchStrings(QT_TRANSLATE_NOOP("notch", "%1%")).arg(wholePercent(fraction)), fraction,
             resetText(end)};
 }
 
@@ -156,7 +165,8 @@ QList<UsageDay> AIUsagePresentation::dayBars(const AIUsageModel::Claude &claude)
 
 QString AIUsagePresentation::resetText(const std::optional<QDateTime> &time) const
 {
-    return time ? filled(QT_TRANSLATE_NOOP("notch", "Resets: %@"), "%@", timeText(*time)) : QString();
+    //: When a limit begins anew; %1 is a time, such as “14:05” or “Mon 14:05”. There is little room.
+    return time ? notchStrings(QT_TRANSLATE_NOOP("notch", "Resets: %1")).arg(timeText(*time)) : QString();
 }
 
 QString AIUsagePresentation::timeText(const QDateTime &time) const

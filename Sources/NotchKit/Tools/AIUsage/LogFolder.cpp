@@ -1,7 +1,10 @@
 #include "LogFolder.h"
 
+#include <QLoggingCategory>
+
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
@@ -13,6 +16,8 @@
 namespace Kestrune {
 
 namespace {
+
+Q_LOGGING_CATEGORY(usageLog, "kestrune.usage", QtWarningMsg)
 
 struct CloseFolder
 {
@@ -42,8 +47,10 @@ public:
         const std::string folder = std::move(m_waiting.back());
         m_waiting.pop_back();
         const std::unique_ptr<DIR, CloseFolder> open(opendir(folder.c_str()));
-        if (!open)
+        if (!open) {
+            qCDebug(usageLog, "a folder of logs cannot be read: %s", std::strerror(errno));
             return;
+        }
         while (const dirent *entry = readdir(open.get())) {
             if (entry->d_name[0] != '.')
                 visit(open.get(), folder + '/' + entry->d_name, *entry);

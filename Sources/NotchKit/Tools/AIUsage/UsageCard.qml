@@ -53,6 +53,7 @@ Tile {
 
             anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom }
             visible: !card.on
+            //: A button: begin to read the usage of a program.
             text: qsTranslate("notch", "Connect")
             prominent: true
             onClicked: card.connect()

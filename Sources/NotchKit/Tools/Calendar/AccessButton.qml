@@ -13,6 +13,7 @@ TextButton {
     signal allowed
 
     anchors.left: parent.left
+    //: A button that opens the settings of the desktop.
     text: status === CalendarModel.NotDetermined ? allowTitle : qsTranslate("notch", "Open Settings")
     prominent: true
     onClicked: status === CalendarModel.NotDetermined ? button.allowed() : surroundings.openPrivacy(anchor)

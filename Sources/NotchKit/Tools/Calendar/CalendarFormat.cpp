@@ -31,6 +31,7 @@ bool isWholeDay(const QDateTime &local) { return local.time() == QTime(0, 0); }
 QString CalendarFormat::when(const QDateTime &start, bool allDay, const QDateTime &now)
 {
     if (allDay)
+        //: In the place of an appointment’s time.
         return notchStrings(QT_TRANSLATE_NOOP("notch", "All day"));
     const QDateTime local = start.toLocalTime();
     const QString day = local.date() == now.toLocalTime().date() ? today() : tomorrow();

@@ -20,11 +20,9 @@ QDateTime endOfRange(const QDateTime &now) { return now.toLocalTime().date().add
 CalendarItem itemOf(const CalendarEvent &event)
 {
     return {event.id.isEmpty() ? QUuid::createUuid().toString(QUuid::WithoutBraces) : event.id,
+            //: The title of an appointment that has none.
             event.title.isEmpty() ? notchStrings(QT_TRANSLATE_NOOP("notch", "Event")) : event.title,
-            event.start,
-            event.end,
-            event.allDay,
-            event.color};
+            event.start, event.end, event.allDay, event.color};
 }
 
 CalendarReminder reminderOf(const CalendarTask &task) { return {task.id, task.title, task.due, task.color}; }

@@ -19,6 +19,7 @@ Pane {
         height: parent.height
         calendar: pane.calendar
         surroundings: pane.surroundings
+        //: Heading of the list of appointments.
         title: qsTranslate("notch", "Events")
         symbol: "calendar"
         status: pane.calendar.status

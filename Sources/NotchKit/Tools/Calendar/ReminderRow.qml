@@ -34,6 +34,7 @@ Item {
         symbol: "circle"
         size: 15
         ink: hovered ? Theme.text : CalendarFormat.visible(row.reminder.color)
+        //: A verb, on the circle before a reminder: mark it as done.
         help: qsTranslate("notch", "Complete")
         radius: 12
         tipAnchor: tipPlace

@@ -24,6 +24,7 @@ HomeBlock {
         Text {
             width: parent.width
             visible: block.allowed && block.calendar.remindersKnown && block.first.length === 0
+            //: Instead of a list: no reminder is left.
             text: qsTranslate("notch", "All done")
             font.pixelSize: Theme.fontSize
             color: Theme.dim

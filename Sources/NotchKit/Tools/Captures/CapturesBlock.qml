@@ -23,7 +23,7 @@ HomeBlock {
             width: parent.width
             visible: block.newest.length === 0
             text: block.captures.needsAccess
-                ? Format.namingHost(qsTranslate("notch", "Allow %@ to read your screenshots folder in\nSystem Settings › Privacy & Security › Files and Folders."))
+                ? Format.namingHost(qsTranslate("notch", "Allow %1 to read your screenshots folder in\nSystem Settings › Privacy & Security › Files and Folders."))
                 : qsTranslate("notch", "Take a screenshot (⇧⌘4) and it appears here.\nDrag it into any app, or right-click for more.")
             font.pixelSize: Theme.fontSize
             color: Theme.dim

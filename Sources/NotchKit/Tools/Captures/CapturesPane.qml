@@ -13,7 +13,8 @@ Pane {
         anchors.fill: parent
         visible: pane.captures.needsAccess
         symbol: "camera.viewfinder"
-        text: Format.namingHost(qsTranslate("notch", "Allow %@ to read your screenshots folder in\nSystem Settings › Privacy & Security › Files and Folders."))
+        //: %1 is the name of the program.
+        text: Format.namingHost(qsTranslate("notch", "Allow %1 to read your screenshots folder in\nSystem Settings › Privacy & Security › Files and Folders."))
         actionTitle: qsTranslate("notch", "Open Settings")
         onAction: pane.captures.openPrivacySettings()
     }
@@ -104,6 +105,7 @@ Pane {
             qsTranslate("notch", "Show in Finder"),
             qsTranslate("notch", "AirDrop"),
             qsTranslate("notch", "Add to Shelf"),
+            //: In the menu of a screenshot: copy the picture.
             qsTranslate("notch", "Copy")
         ]
         onChosen: index => actions[index]()

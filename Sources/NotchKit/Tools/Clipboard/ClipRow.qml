@@ -75,6 +75,7 @@ ButtonBase {
         id: age
 
         anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }
+        //: Shown in the place of what was just copied again.
         text: row.copied ? qsTranslate("notch", "Copied")
             : row.shown ? Format.relativeTime(row.item.date, row.surroundings.now) : ""
         font.pixelSize: Theme.tinyFontSize

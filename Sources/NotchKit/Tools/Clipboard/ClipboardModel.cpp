@@ -17,7 +17,9 @@ struct FilterEntry
 };
 
 constexpr std::array kFilters{
+    //: What the list shows: copies of every kind.
     FilterEntry{"all", QT_TRANSLATE_NOOP("notch", "All"), std::nullopt},
+    //: What the list shows: the copies that are texts.
     FilterEntry{"text", QT_TRANSLATE_NOOP("notch", "Text"), ClipboardItem::Kind::text},
     FilterEntry{"links", QT_TRANSLATE_NOOP("notch", "Links"), ClipboardItem::Kind::link},
     FilterEntry{"images", QT_TRANSLATE_NOOP("notch", "Images"), ClipboardItem::Kind::image},

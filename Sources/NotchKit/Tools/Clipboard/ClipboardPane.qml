@@ -151,6 +151,7 @@ Pane {
 
         property string item
 
+        //: In the menu of an entry: delete it from the history.
         entries: [qsTranslate("notch", "Delete")]
         onChosen: pane.clipboard.remove(item)
         onClosed: search.field.forceActiveFocus()

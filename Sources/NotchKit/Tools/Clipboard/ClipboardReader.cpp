@@ -78,6 +78,7 @@ std::optional<ClipboardItem> itemOfPicture(const EncodedPicture &encoded)
     ClipboardItem item;
     item.kind = ClipboardItem::Kind::image;
     item.text = QStringLiteral("%1 %2×%3")
+                    //: The title of a copied picture, before its size.
                     .arg(notchStrings(QT_TRANSLATE_NOOP("notch", "Image")))
                     .arg(picture->size().width())
                     .arg(picture->size().height());

@@ -35,7 +35,8 @@ Pane {
         anchors.fill: parent
         visible: pane.mirror.state === MirrorModel.NoAccess
         symbol: "video.slash"
-        text: Format.namingHost(qsTranslate("notch", "Allow %@ to use the camera in\nSystem Settings › Privacy & Security › Camera."))
+        //: %1 is the name of the program.
+        text: Format.namingHost(qsTranslate("notch", "Allow %1 to use the camera in\nSystem Settings › Privacy & Security › Camera."))
         actionTitle: qsTranslate("notch", "Open Settings")
         onAction: pane.surroundings.openPrivacy("Privacy_Camera")
     }

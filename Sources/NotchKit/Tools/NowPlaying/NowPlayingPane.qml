@@ -9,7 +9,8 @@ Pane {
     property bool compact: false
     readonly property NowPlayingModel player: model
     readonly property bool known: player.track !== undefined
-    readonly property string allowText: Format.namingHost(qsTranslate("notch", "Allow %@ to control Music or Spotify in\nSystem Settings › Privacy & Security › Automation."))
+    //: %1 is the name of the program.
+    readonly property string allowText: Format.namingHost(qsTranslate("notch", "Allow %1 to control Music or Spotify in\nSystem Settings › Privacy & Security › Automation."))
     readonly property string emptyText: qsTranslate("notch", "Play something in Music or Spotify\nand it shows up here.")
 
     implicitHeight: known ? song.implicitHeight : brief.implicitHeight

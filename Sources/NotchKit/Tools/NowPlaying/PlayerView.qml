@@ -91,6 +91,7 @@ Row {
             PlayerButton {
                 id: skip
 
+                //: The previous song.
                 help: qsTranslate("notch", "Previous")
                 symbol: "backward.fill"
                 onClicked: view.model.previous()
@@ -102,6 +103,7 @@ Row {
                 onClicked: view.model.playPause()
             }
             PlayerButton {
+                //: The next song.
                 help: qsTranslate("notch", "Next")
                 symbol: "forward.fill"
                 onClicked: view.model.next()

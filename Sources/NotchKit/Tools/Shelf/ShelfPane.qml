@@ -88,6 +88,7 @@ Pane {
         }
         TextButton {
             symbol: "trash"
+            //: A button: take all files off the shelf.
             text: qsTranslate("notch", "Clear")
             onClicked: pane.shelf.clear()
         }

@@ -91,6 +91,7 @@ Tile {
         tipBelow: true
         visible: mouse.containsMouse || hovered || view.activeFocus || activeFocus
         symbol: "xmark.circle.fill"
+        //: Take a file off the shelf; the file itself stays where it is.
         help: qsTranslate("notch", "Remove")
         background: Rectangle {
             radius: remove.radius

@@ -44,15 +44,15 @@ QString QuoteFormat::change(double fraction)
     const double percent = std::round(std::clamp(fraction, -1e6, 1e6) * 10'000) / 100;
     const QLocale locale;
     const QString sign = percent > 0 ? QStringLiteral("+") : percent < 0 ? QStringLiteral("−") : QString();
-    return sign + notchStrings(QT_TRANSLATE_NOOP("notch", "%d%%"))
-                      .replace(QLatin1String("%d"), locale.toString(std::abs(percent), 'f', 2))
-                      .replace(QLatin1String("%%"), QLatin1String("%"));
+    //: %1 is a number, with decimals where it is the change of a share’s price.
+    return sign +
+           notchStrings(QT_TRANSLATE_NOOP("notch", "%1%")).arg(locale.toString(std::abs(percent), 'f', 2));
 }
 
 QString QuoteFormat::notFound(const QStringList &symbols)
 {
-    return notchStrings(QT_TRANSLATE_NOOP("notch", "Not found: %@"))
-        .replace(QLatin1String("%@"), symbols.join(QStringLiteral(", ")));
+    //: %1 is a list of the symbols of shares.
+    return notchStrings(QT_TRANSLATE_NOOP("notch", "Not found: %1")).arg(symbols.join(QStringLiteral(", ")));
 }
 
 } // namespace Kestrune

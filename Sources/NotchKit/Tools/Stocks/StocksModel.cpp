@@ -3,11 +3,15 @@
 #include "NotchKit/NotchSettings.h"
 #include "NotchKit/WebServices.h"
 
+#include <QLoggingCategory>
+
 namespace Kestrune {
 
 using namespace std::chrono_literals;
 
 namespace {
+
+Q_LOGGING_CATEGORY(stocksLog, "kestrune.stocks", QtWarningMsg)
 
 constexpr auto kPause = 60s;
 constexpr std::chrono::milliseconds kTimeout = 60s;
@@ -70,6 +74,7 @@ QCoro::Task<> StocksModel::fetch(QString symbol)
             quote = parseQuote(symbol, reply.body);
         if (quote)
             break;
+        qCInfo(stocksLog, "no quote in a reply of status %d", reply.status);
     }
     take(symbol, quote);
 }

@@ -24,6 +24,7 @@ SystemLine battery(int percent, bool charging)
 {
     QString value = Format::digits(QString::number(percent)) + QLatin1Char('%');
     if (charging)
+        //: Of the battery, after its level: “80% · charging”.
         value += QStringLiteral(" · ") + notchStrings(QT_TRANSLATE_NOOP("notch", "charging"));
     return {notchStrings(QT_TRANSLATE_NOOP("notch", "Battery")),
             charging ? QStringLiteral("battery.100.bolt") : QStringLiteral("battery.75"), value,
@@ -43,15 +44,16 @@ QList<SystemLine> SystemPresentation::describe(const SystemModel &model, const Q
 {
     const double diskUsed = model.diskTotal() > 0 ? 1 - model.diskFree() / model.diskTotal() : 0;
     QList<SystemLine> lines{
+        //: The processor and how busy it is. There is little room.
         {notchStrings(QT_TRANSLATE_NOOP("notch", "CPU")), QStringLiteral("cpu"),
          UsageGauge::percent(model.cpu()), model.cpu()},
+        //: The working memory (RAM).
         {notchStrings(QT_TRANSLATE_NOOP("notch", "Memory")), QStringLiteral("memorychip"),
          bytes(model.memoryUsed(), locale) + QStringLiteral(" / ") + bytes(model.memoryTotal(), locale),
          model.memoryUsed() / std::max(model.memoryTotal(), 1.0)},
         {notchStrings(QT_TRANSLATE_NOOP("notch", "Disk")), QStringLiteral("internaldrive"),
-         notchStrings(QT_TRANSLATE_NOOP("notch", "%@ free"))
-             .replace(QLatin1String("%@"), bytes(model.diskFree(), locale)),
-         diskUsed},
+         //: %1 is an amount with its unit, such as 12.3 GB.
+         notchStrings(QT_TRANSLATE_NOOP("notch", "%1 free")).arg(bytes(model.diskFree(), locale)), diskUsed},
     };
     if (model.battery())
         lines.append(battery(*model.battery(), model.charging()));

@@ -22,6 +22,7 @@ Pane {
         sourceComponent: PlainEditor {
             stored: pane.settings.prompterText
             placeholder: qsTranslate("notch", "Paste your script here. It scrolls right under the camera so you keep eye contact.")
+            //: Name of the field for the text that is read aloud.
             name: qsTranslate("notch", "Script")
             screenModel: pane.screenModel
             onEdited: text => {
@@ -96,6 +97,7 @@ Pane {
             }
             TextButton {
                 symbol: "backward.end.fill"
+                //: A button: scroll the script from its beginning again.
                 text: qsTranslate("notch", "Restart")
                 enabled: !pane.empty
                 onClicked: pane.prompter.restart()
@@ -117,6 +119,7 @@ Pane {
             SlimSlider {
                 anchors.verticalCenter: parent.verticalCenter
                 width: Math.min(180, controls.width - playback.width - sizes.width - 92)
+                //: How fast the script scrolls.
                 help: qsTranslate("notch", "Speed")
                 from: 8
                 to: 140
@@ -138,7 +141,8 @@ Pane {
 
             Stepper {
                 anchors.verticalCenter: parent.verticalCenter
-                text: qsTranslate("notch", "Text %d").replace("%d", Format.digits(Math.round(value)))
+                //: %1 is the size of the letters in points. There is little room.
+                text: qsTranslate("notch", "Text %1").arg(Format.digits(Math.round(value)))
                 lowerHelp: qsTranslate("notch", "Smaller text")
                 raiseHelp: qsTranslate("notch", "Larger text")
                 from: 14
@@ -149,6 +153,7 @@ Pane {
             }
             TextButton {
                 width: Math.max(implicitWidth, 72)
+                //: A button of the script: “Edit” begins to change it, “Done” ends that.
                 text: pane.editorShown ? qsTranslate("notch", "Done") : qsTranslate("notch", "Edit")
                 active: pane.prompter.editing
                 enabled: !pane.empty

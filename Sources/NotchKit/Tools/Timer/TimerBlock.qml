@@ -34,6 +34,7 @@ HomeBlock {
             symbol: block.timer.isRunning ? "pause.fill" : "play.fill"
             help: block.timer.isRunning ? qsTranslate("notch", "Pause")
                 : block.timer.isActive ? qsTranslate("notch", "Resume")
+                //: Start the timer.
                 : qsTranslate("notch", "Start")
             onClicked: block.timer.isRunning ? block.timer.pause() : block.timer.start()
         }

@@ -21,6 +21,7 @@ Row {
     TextButton {
         width: Math.max(implicitWidth, 96)
         symbol: "arrow.counterclockwise"
+        //: Set the timer back to its beginning.
         text: qsTranslate("notch", "Reset")
         enabled: controls.timer.isActive || controls.timer.finished
         onClicked: controls.timer.reset()

@@ -29,6 +29,7 @@ Item {
 
         anchors.centerIn: parent
         visible: face.timer.finished
+        //: The time of the timer is over.
         text: qsTranslate("notch", "Done")
         font.pixelSize: face.size
         font.weight: Font.Light

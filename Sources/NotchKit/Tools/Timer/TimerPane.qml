@@ -31,7 +31,8 @@ Pane {
                     required property real modelData
 
                     width: Math.max(implicitWidth, 72)
-                    text: qsTranslate("notch", "%d min").replace("%d", Format.digits(modelData / 60))
+                    //: A button that starts a timer; “min” is short for minutes. There is little room.
+                    text: qsTranslate("notch", "%Ln min", "", modelData / 60)
                     onClicked: pane.timer.start(modelData)
                 }
             }

@@ -36,6 +36,7 @@ FocusScope {
                 implicitHeight: 28
                 focus: true
                 screenModel: editor.screenModel
+                //: What the empty field for the name of a city says.
                 placeholderText: qsTranslate("notch", "City")
                 onAccepted: editor.weather.search(text)
                 onVisibleChanged: if (visible) clear()

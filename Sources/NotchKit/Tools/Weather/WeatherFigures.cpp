@@ -31,9 +31,11 @@ QString spanText(const WeatherDayFigures &day)
 
 QString windText(double speed, bool miles)
 {
-    const char *text =
-        miles ? QT_TRANSLATE_NOOP("notch", "Wind %@ mph") : QT_TRANSLATE_NOOP("notch", "Wind %@ km/h");
-    return notchStrings(text).replace(QLatin1String("%@"), whole(speed));
+    //: %1 is a speed in miles an hour.
+    constexpr auto kMiles = QT_TRANSLATE_NOOP("notch", "Wind %1 mph");
+    //: %1 is a speed in kilometres an hour.
+    constexpr auto kKilometres = QT_TRANSLATE_NOOP("notch", "Wind %1 km/h");
+    return notchStrings(miles ? kMiles : kKilometres).arg(whole(speed));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "NotchKit/WebServices.h"
 
 #include <QLocale>
+#include <QLoggingCategory>
 
 #include <cmath>
 
@@ -13,6 +14,8 @@ namespace Kestrune {
 using namespace std::chrono_literals;
 
 namespace {
+
+Q_LOGGING_CATEGORY(weatherLog, "kestrune.weather", QtWarningMsg)
 
 constexpr auto kForecastPause = 15min;
 constexpr std::chrono::milliseconds kForecastTimeout = 60s;
@@ -109,6 +112,7 @@ void WeatherModel::take(const HttpReply &reply, const Asked &asked)
 {
     const auto forecast = reply.isGood() ? parseForecast(reply.body) : std::nullopt;
     if (!forecast) {
+        qCInfo(weatherLog, "no forecast in a reply of status %d", reply.status);
         fail(QT_TRANSLATE_NOOP("notch", "Weather is not available right now."));
         return;
     }
@@ -175,6 +179,7 @@ void WeatherModel::takeFix(const std::optional<Coordinate> &fix)
 {
     m_locating = false;
     if (fix)
+        //: In the place of a city’s name.
         setPlace(notchStrings(QT_TRANSLATE_NOOP("notch", "My location")), *fix);
     else
         fail(QT_TRANSLATE_NOOP("notch", "Location not available. Type a city instead."));
