@@ -13,12 +13,8 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTranslator>
 #include <QXmlStreamReader>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 namespace {
 
