@@ -7,12 +7,7 @@
 #include "Support/TestRegistry.h"
 
 #include <QDBusPendingCall>
-#include <QTest>
 #include <QTimer>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
 

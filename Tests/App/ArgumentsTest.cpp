@@ -7,9 +7,7 @@
 #include <QDir>
 #include <QJsonDocument>
 #include <QTemporaryDir>
-#include <QTest>
 
-using namespace Kestrune;
 using Verb = CommandLine::Verb;
 
 Q_DECLARE_METATYPE(Kestrune::CommandLine::Verb)
@@ -20,113 +18,99 @@ class ArgumentsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void verbs_data();
-    void verbs();
-    void settingsTexts_data();
-    void settingsTexts();
+    void verbs_data()
+    {
+        columns<QString, Verb>();
+        QTest::newRow("plain start") << "" << Verb::start;
+        QTest::newRow("open argument") << "--open weather" << Verb::start;
+        QTest::newRow("open argument alone") << "--open" << Verb::start;
+        QTest::newRow("unknown option") << "--opne" << Verb::bad;
+        QTest::newRow("word after a tool") << "--open weather please" << Verb::bad;
+        QTest::newRow("open") << "open note" << Verb::open;
+        QTest::newRow("open anything") << "open" << Verb::open;
+        QTest::newRow("open the unknown") << "open sundial" << Verb::bad;
+        QTest::newRow("toggle with more") << "toggle note" << Verb::bad;
+        QTest::newRow("status") << "status --json" << Verb::status;
+        QTest::newRow("status in words") << "status" << Verb::status;
+        QTest::newRow("status as XML") << "status --xml" << Verb::bad;
+        QTest::newRow("set") << "settings set hoverDelay 0.3" << Verb::settings;
+        QTest::newRow("set to less than nothing") << "settings set x -12" << Verb::settings;
+        QTest::newRow("set to what an option is called") << "settings set note --help" << Verb::settings;
+        QTest::newRow("set without a value") << "settings set hoverDelay" << Verb::bad;
+        QTest::newRow("settings window") << "settings open" << Verb::settings;
+        QTest::newRow("settings") << "settings" << Verb::bad;
+        QTest::newRow("usage") << "usage --json --now 2026-03-10T12:00:00Z --home /" << Verb::usage;
+        QTest::newRow("usage of no home") << "usage --home" << Verb::bad;
+        QTest::newRow("usage of some time") << "usage --now noon" << Verb::bad;
+        QTest::newRow("usage of a home with a minus") << "usage --home -x" << Verb::usage;
+        QTest::newRow("usage of more") << "usage --json now" << Verb::bad;
+        QTest::newRow("help") << "--help" << Verb::help;
+        QTest::newRow("help in short") << "-h" << Verb::help;
+        QTest::newRow("help with more") << "--help toggle" << Verb::bad;
+        QTest::newRow("version") << "--version" << Verb::version;
+        QTest::newRow("word alone") << "weather" << Verb::bad;
+        QTest::newRow("value of an option without one") << "--open=weather" << Verb::bad;
+    }
+
+    void verbs()
+    {
+        const auto [line, verb] = fetched<QString, Verb>();
+        const QStringList words = line.split(u' ', Qt::SkipEmptyParts);
+        const CommandLine parsed = CommandLine::parse(words);
+        QCOMPARE(parsed.verb, verb);
+        QCOMPARE(parsed.fault.isEmpty(), verb != Verb::bad);
+        if (verb == Verb::settings)
+            QCOMPARE(parsed.arguments, words.mid(1));
+    }
+
+    void settingsTexts_data()
+    {
+        columns<QString, DefaultsValue, bool>();
+        QTest::newRow("true") << "true" << DefaultsValue(false) << true;
+        QTest::newRow("yes") << "yes" << DefaultsValue(false) << false;
+        QTest::newRow("double") << "0.35" << DefaultsValue(0.0) << true;
+        QTest::newRow("infinite") << "inf" << DefaultsValue(0.0) << false;
+        QTest::newRow("integer") << "-12" << DefaultsValue(qint64(0)) << true;
+        QTest::newRow("fraction") << "1.5" << DefaultsValue(qint64(0)) << false;
+        QTest::newRow("text") << "Grüße \"you\"" << DefaultsValue(QString()) << true;
+        QTest::newRow("list") << R"(["a","b c"])" << DefaultsValue(QStringList()) << true;
+        QTest::newRow("list of numbers") << "[1]" << DefaultsValue(QStringList()) << false;
+        QTest::newRow("map") << R"({"note":"left"})" << DefaultsValue(StringMap()) << true;
+        QTest::newRow("no map") << R"(["note"])" << DefaultsValue(StringMap()) << false;
+    }
+
+    void settingsTexts()
+    {
+        const auto [text, example, valid] = fetched<QString, DefaultsValue, bool>();
+        const auto value = SettingsText::parse(text, example);
+        QCOMPARE(value.has_value(), valid);
+        if (valid)
+            QCOMPARE(SettingsText::format(value), text);
+    }
+
     void usageAsJson();
 };
-
-void ArgumentsTest::verbs_data()
-{
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<Verb>("verb");
-    QTest::newRow("plain start") << "" << Verb::start;
-    QTest::newRow("open argument") << "--open weather" << Verb::start;
-    QTest::newRow("open argument alone") << "--open" << Verb::start;
-    QTest::newRow("unknown option") << "--opne" << Verb::bad;
-    QTest::newRow("word after a tool") << "--open weather please" << Verb::bad;
-    QTest::newRow("open") << "open note" << Verb::open;
-    QTest::newRow("open anything") << "open" << Verb::open;
-    QTest::newRow("open the unknown") << "open sundial" << Verb::bad;
-    QTest::newRow("toggle with more") << "toggle note" << Verb::bad;
-    QTest::newRow("status") << "status --json" << Verb::status;
-    QTest::newRow("status in words") << "status" << Verb::status;
-    QTest::newRow("status as XML") << "status --xml" << Verb::bad;
-    QTest::newRow("set") << "settings set hoverDelay 0.3" << Verb::settings;
-    QTest::newRow("set to less than nothing") << "settings set x -12" << Verb::settings;
-    QTest::newRow("set to what an option is called") << "settings set note --help" << Verb::settings;
-    QTest::newRow("set without a value") << "settings set hoverDelay" << Verb::bad;
-    QTest::newRow("settings window") << "settings open" << Verb::settings;
-    QTest::newRow("settings") << "settings" << Verb::bad;
-    QTest::newRow("usage") << "usage --json --now 2026-03-10T12:00:00Z --home /" << Verb::usage;
-    QTest::newRow("usage of no home") << "usage --home" << Verb::bad;
-    QTest::newRow("usage of some time") << "usage --now noon" << Verb::bad;
-    QTest::newRow("usage of a home with a minus") << "usage --home -x" << Verb::usage;
-    QTest::newRow("usage of more") << "usage --json now" << Verb::bad;
-    QTest::newRow("help") << "--help" << Verb::help;
-    QTest::newRow("help in short") << "-h" << Verb::help;
-    QTest::newRow("help with more") << "--help toggle" << Verb::bad;
-    QTest::newRow("version") << "--version" << Verb::version;
-    QTest::newRow("word alone") << "weather" << Verb::bad;
-    QTest::newRow("value of an option without one") << "--open=weather" << Verb::bad;
-}
-
-void ArgumentsTest::verbs()
-{
-    QFETCH(const QString, line);
-    QFETCH(const Verb, verb);
-    const QStringList words = line.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    const CommandLine parsed = CommandLine::parse(words);
-    QCOMPARE(parsed.verb, verb);
-    QCOMPARE(parsed.fault.isEmpty(), verb != Verb::bad);
-    if (verb == Verb::settings)
-        QCOMPARE(parsed.arguments, words.mid(1));
-}
-
-void ArgumentsTest::settingsTexts_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<DefaultsValue>("example");
-    QTest::addColumn<bool>("valid");
-    QTest::newRow("true") << "true" << DefaultsValue(false) << true;
-    QTest::newRow("yes") << "yes" << DefaultsValue(false) << false;
-    QTest::newRow("double") << "0.35" << DefaultsValue(0.0) << true;
-    QTest::newRow("infinite") << "inf" << DefaultsValue(0.0) << false;
-    QTest::newRow("integer") << "-12" << DefaultsValue(qint64(0)) << true;
-    QTest::newRow("fraction") << "1.5" << DefaultsValue(qint64(0)) << false;
-    QTest::newRow("text") << "Grüße \"you\"" << DefaultsValue(QString()) << true;
-    QTest::newRow("list") << R"(["a","b c"])" << DefaultsValue(QStringList()) << true;
-    QTest::newRow("list of numbers") << "[1]" << DefaultsValue(QStringList()) << false;
-    QTest::newRow("map") << R"({"note":"left"})" << DefaultsValue(StringMap()) << true;
-    QTest::newRow("no map") << R"(["note"])" << DefaultsValue(StringMap()) << false;
-}
-
-void ArgumentsTest::settingsTexts()
-{
-    QFETCH(const QString, text);
-    QFETCH(const DefaultsValue, example);
-    QFETCH(const bool, valid);
-    const auto value = SettingsText::parse(text, example);
-    QCOMPARE(value.has_value(), valid);
-    if (valid)
-        QCOMPARE(SettingsText::format(value), text);
-}
 
 void ArgumentsTest::usageAsJson()
 {
     const QTemporaryDir home;
     const auto write = [&](const QString &folder, const QByteArray &text) {
         QVERIFY(QDir(home.path()).mkpath(folder));
-        QFile file(home.filePath(folder) + QLatin1String("/a.jsonl"));
+        QFile file(home.filePath(folder) + "/a.jsonl"_L1);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush());
         const QDateTime time = QDateTime::fromMSecsSinceEpoch(1773144000500, kUtc);
         QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
     };
     const auto report = [&] {
-        const QStringList line{QStringLiteral("usage"),
-                               QStringLiteral("--now"),
-                               QStringLiteral("2026-03-10T13:00:00+01:00"),
-                               QStringLiteral("--home"),
-                               home.path(),
-                               QStringLiteral("--json")};
+        const QStringList line{u"usage"_s,  u"--now"_s,  u"2026-03-10T13:00:00+01:00"_s,
+                               u"--home"_s, home.path(), u"--json"_s};
         return QJsonDocument::fromJson(usageReport(CommandLine::parse(line).usage));
     };
     QCOMPARE(report(), QJsonDocument::fromJson(R"({"claude": null, "codex": null})"));
-    write(QStringLiteral(".claude/projects/p"),
+    write(u".claude/projects/p"_s,
           R"({"timestamp":"2026-03-10T11:00:00.5Z","message":{"usage":{"output_tokens":9007199254740993}}})"
           "\n");
-    write(QStringLiteral(".codex/sessions"),
+    write(u".codex/sessions"_s,
           R"({"rate_limits":{"primary":{"used_percent":1.5,"window_minutes":300,"resets_in_seconds":60}}})");
     QCOMPARE(report(), QJsonDocument::fromJson(R"({
         "claude": {"blockTokens": 9007199254740993, "blockStart": "2026-03-10T11:00:00.500Z",

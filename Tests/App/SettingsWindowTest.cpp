@@ -6,11 +6,6 @@
 #include "NotchKit/Views/WindowStage.h"
 #include "Support/TestRegistry.h"
 
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The settings window over fake ports, open and with the keyboard.

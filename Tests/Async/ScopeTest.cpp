@@ -3,11 +3,7 @@
 #include "Support/Questions.h"
 #include "Support/TestRegistry.h"
 
-#include <QTest>
-
 #include <stdexcept>
-
-using namespace Kestrune;
 
 /// A model of the simplest kind: it asks, and notes what happens.
 class Owner
@@ -45,7 +41,7 @@ public:
 
     QCoro::Task<int> sum()
     {
-        const Unwound unwound(notes, QStringLiteral("sum"));
+        const Unwound unwound(notes, u"sum"_s);
         const QFuture<int> first = questions.ask();
         const int one = co_await until(first);
         const QFuture<int> second = questions.ask();
@@ -57,10 +53,10 @@ public:
 
     QCoro::Task<> nest()
     {
-        const Unwound unwound(notes, QStringLiteral("nest"));
+        const Unwound unwound(notes, u"nest"_s);
         try {
             const int total = co_await sum();
-            note(QStringLiteral("nest"), total);
+            note(u"nest"_s, total);
         } catch (const std::runtime_error &fault) {
             notes.append(QString::fromLatin1(fault.what()));
         }
@@ -69,7 +65,7 @@ public:
     QCoro::Task<> wait(QFuture<int> future)
     {
         const int answer = co_await until(future);
-        note(QStringLiteral("wait"), answer);
+        note(u"wait"_s, answer);
     }
 
     void note(const QString &name, int answer) { notes.append(name + QString::number(answer)); }
@@ -81,7 +77,7 @@ public:
             : notes(list)
             , name(flow)
         {}
-        ~Unwound() { notes.append(QLatin1Char('~') + name); }
+        ~Unwound() { notes.append(u'~' + name); }
         Q_DISABLE_COPY_MOVE(Unwound)
         QStringList &notes;
         QString name;
@@ -108,23 +104,22 @@ private Q_SLOTS:
 
     void answersArriveInTheFlow()
     {
-        start(&Owner::ask, QStringLiteral("a"));
-        start(&Owner::ask, QStringLiteral("b"));
+        start(&Owner::ask, u"a"_s);
+        start(&Owner::ask, u"b"_s);
         QVERIFY(m_owner->scope.isWaiting());
         m_questions.answer(1, 2);
         m_questions.answer(0, 1);
         QTRY_COMPARE(m_notes.size(), 4);
-        QVERIFY(m_notes.contains(QStringLiteral("a1")) && m_notes.contains(QStringLiteral("b2")));
+        QVERIFY(m_notes.contains(u"a1"_s) && m_notes.contains(u"b2"_s));
         QVERIFY(!m_owner->scope.isWaiting());
     }
 
     void theEndUnwindsWhatWaits()
     {
-        start(&Owner::ask, QStringLiteral("a"));
+        start(&Owner::ask, u"a"_s);
         start(&Owner::nest);
         m_owner.reset();
-        QCOMPARE(m_notes,
-                 QStringList({QStringLiteral("~a"), QStringLiteral("~sum"), QStringLiteral("~nest")}));
+        QCOMPARE(m_notes, QStringList({u"~a"_s, u"~sum"_s, u"~nest"_s}));
         QVERIFY(m_questions.isGivenUp(0) && m_questions.isGivenUp(1));
         m_questions.answer(0, 1);
         m_questions.answer(1, 1);
@@ -134,73 +129,67 @@ private Q_SLOTS:
 
     void anAnswerOnItsWayIsTooLate()
     {
-        start(&Owner::ask, QStringLiteral("a"));
+        start(&Owner::ask, u"a"_s);
         m_questions.answer(0, 1);
         m_owner.reset();
         QTest::qWait(0);
-        QCOMPARE(m_notes, QStringList(QStringLiteral("~a")));
+        QCOMPARE(m_notes, QStringList(u"~a"_s));
     }
 
     void theNewestWins()
     {
-        m_owner->scope.restart(&Owner::ask, m_owner.get(), QStringLiteral("a"));
-        m_owner->scope.restart(&Owner::ask, m_owner.get(), QStringLiteral("b"));
-        QCOMPARE(m_notes, QStringList(QStringLiteral("~a")));
+        m_owner->scope.restart(&Owner::ask, m_owner.get(), u"a"_s);
+        m_owner->scope.restart(&Owner::ask, m_owner.get(), u"b"_s);
+        QCOMPARE(m_notes, QStringList(u"~a"_s));
         QVERIFY(m_questions.isGivenUp(0) && !m_questions.isGivenUp(1));
         m_questions.answer(1, 2);
-        QTRY_COMPARE(m_notes,
-                     QStringList({QStringLiteral("~a"), QStringLiteral("b2"), QStringLiteral("~b")}));
+        QTRY_COMPARE(m_notes, QStringList({u"~a"_s, u"b2"_s, u"~b"_s}));
     }
 
     /// The older flow, which runs while it is given up, does not go on as one of the newer ones.
     void restartedByItsOwnStep()
     {
-        m_owner->inHandler = [this] {
-            m_owner->scope.restart(&Owner::ask, m_owner.get(), QStringLiteral("b"));
-        };
-        start(&Owner::askTwice, QStringLiteral("a"));
+        m_owner->inHandler = [this] { m_owner->scope.restart(&Owner::ask, m_owner.get(), u"b"_s); };
+        start(&Owner::askTwice, u"a"_s);
         m_questions.answer(0, 1);
-        QTRY_COMPARE(m_notes, QStringList({QStringLiteral("a1"), QStringLiteral("~a")}));
+        QTRY_COMPARE(m_notes, QStringList({u"a1"_s, u"~a"_s}));
         QVERIFY(!m_questions.isGivenUp(1) && m_questions.isGivenUp(2));
         m_questions.answer(1, 2);
-        QTRY_COMPARE(m_notes.mid(2), QStringList({QStringLiteral("b2"), QStringLiteral("~b")}));
+        QTRY_COMPARE(m_notes.mid(2), QStringList({u"b2"_s, u"~b"_s}));
     }
 
     void ownerDestroyedByItsOwnStep()
     {
         m_owner->inHandler = [this] { m_owner.reset(); };
-        start(&Owner::ask, QStringLiteral("a"));
-        start(&Owner::ask, QStringLiteral("b"));
+        start(&Owner::ask, u"a"_s);
+        start(&Owner::ask, u"b"_s);
         m_questions.answer(0, 1);
-        QTRY_COMPARE(m_notes,
-                     QStringList({QStringLiteral("a1"), QStringLiteral("~b"), QStringLiteral("~a")}));
+        QTRY_COMPARE(m_notes, QStringList({u"a1"_s, u"~b"_s, u"~a"_s}));
         QVERIFY(m_questions.isGivenUp(1));
     }
 
     void nestedFlowsAndTheirFaults_data()
     {
-        QTest::addColumn<int>("second");
-        QTest::addColumn<QString>("note");
-        QTest::newRow("a result") << 4 << QStringLiteral("nest5");
-        QTest::newRow("an exception") << -1 << QStringLiteral("negative");
+        columns<int, QString>();
+        QTest::newRow("a result") << 4 << u"nest5"_s;
+        QTest::newRow("an exception") << -1 << u"negative"_s;
     }
 
     void nestedFlowsAndTheirFaults()
     {
-        QFETCH(int, second);
-        QFETCH(QString, note);
+        auto [second, note] = fetched<int, QString>();
         start(&Owner::nest);
         m_questions.answer(0, 1);
         QTRY_COMPARE(m_questions.count(), std::size_t(2));
         m_questions.answer(1, second);
-        QTRY_COMPARE(m_notes, QStringList({QStringLiteral("~sum"), note, QStringLiteral("~nest")}));
+        QTRY_COMPARE(m_notes, QStringList({u"~sum"_s, note, u"~nest"_s}));
     }
 
     void finishedFuturesAreWaitedForToo()
     {
         start(&Owner::wait, answered(7));
         QVERIFY(m_notes.isEmpty());
-        QTRY_COMPARE(m_notes, QStringList(QStringLiteral("wait7")));
+        QTRY_COMPARE(m_notes, QStringList(u"wait7"_s));
     }
 
     void unansweredGivesTheDefault()
@@ -209,7 +198,7 @@ private Q_SLOTS:
         promise->start();
         start(&Owner::wait, promise->future());
         promise.reset();
-        QTRY_COMPARE(m_notes, QStringList(QStringLiteral("wait0")));
+        QTRY_COMPARE(m_notes, QStringList(u"wait0"_s));
     }
 
 private:

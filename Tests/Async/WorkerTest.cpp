@@ -6,13 +6,9 @@
 #include "Support/TestRegistry.h"
 
 #include <QSemaphore>
-#include <QTest>
 #include <QThread>
 
 #include <poll.h>
-
-using namespace Kestrune;
-using namespace std::chrono_literals;
 
 /// What can block, and what becomes of it when it hangs.
 class WorkerTest : public QObject
@@ -30,16 +26,14 @@ private Q_SLOTS:
 
     void oneThreadInOrder_data()
     {
-        QTest::addColumn<Worker::Order>("order");
-        QTest::addColumn<QList<int>>("expected");
+        columns<Worker::Order, QList<int>>();
         QTest::newRow("oldest first") << Worker::Order::oldestFirst << QList<int>{0, 1, 2, 3};
         QTest::newRow("newest first") << Worker::Order::newestFirst << QList<int>{0, 3, 2, 1};
     }
 
     void oneThreadInOrder()
     {
-        QFETCH(Worker::Order, order);
-        QFETCH(QList<int>, expected);
+        auto [order, expected] = fetched<Worker::Order, QList<int>>();
         Worker worker("test", order);
         const auto begun = std::make_shared<QList<int>>();
         QList<QFuture<QThread *>> futures;

@@ -4,8 +4,6 @@
 #include <QDir>
 #include <QFile>
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr QPoint firstCircle(663, 89); // that completes the first reminder

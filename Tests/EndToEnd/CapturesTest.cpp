@@ -3,8 +3,6 @@
 
 #include <QDir>
 
-using namespace Qt::StringLiterals;
-
 /// Screenshots of real tools, from the disk to the closed notch's wings and the pane.
 class CapturesTest : public StageTest
 {
@@ -13,9 +11,8 @@ class CapturesTest : public StageTest
 private Q_SLOTS:
     void announcesWhatToolsSave_data()
     {
-        QTest::addColumn<QString>("tool");
-        QTest::addColumn<QString>("arguments");
-        QTest::addColumn<QString>("folder"); // in which the tool runs
+        // folder: in which the tool runs
+        columns<QString, QString, QString>();
         QTest::newRow("scrot") << u"scrot"_s << QString() << u"Pictures"_s;
         QTest::newRow("scrot at home") << u"scrot"_s << QString() << u"."_s;
         QTest::newRow("xfce") << u"xfce4-screenshooter"_s
@@ -27,9 +24,7 @@ private Q_SLOTS:
 
     void announcesWhatToolsSave()
     {
-        QFETCH(const QString, tool);
-        QFETCH(QString, arguments);
-        QFETCH(const QString, folder);
+        auto [tool, arguments, folder] = fetched<QString, QString, QString>();
         setStage({});
         const QDir home(stage().session.environment().value(u"HOME"_s));
         QVERIFY(home.mkpath(folder));

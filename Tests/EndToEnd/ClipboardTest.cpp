@@ -6,9 +6,6 @@
 #include <QDirIterator>
 #include <QFile>
 
-using namespace Qt::StringLiterals;
-using namespace Kestrune;
-
 /// Copies of other programs, through the history, back to other programs.
 class ClipboardTest : public StageTest
 {

@@ -3,8 +3,6 @@
 
 #include <QJsonArray>
 
-using namespace Qt::StringLiterals;
-
 /// The program as a command: what it prints, and how it ends.
 class CommandLineTest : public StageTest
 {

@@ -3,8 +3,6 @@
 
 #include <QJsonArray>
 
-using namespace Qt::StringLiterals;
-
 /// Several displays that come and go.
 class DisplaysTest : public StageTest
 {

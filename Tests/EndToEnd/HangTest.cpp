@@ -13,9 +13,6 @@
 #include <sys/inotify.h>
 #include <unistd.h>
 
-using namespace Qt::StringLiterals;
-using namespace Kestrune;
-
 /// Whether files are read, as the kernel tells it.
 class ReadWatch
 {

@@ -1,8 +1,6 @@
 #include "EndToEnd/Stage.h"
 #include "Support/TestRegistry.h"
 
-using namespace Qt::StringLiterals;
-
 /// The combination that works from every program.
 class HotKeyTest : public StageTest
 {
@@ -13,8 +11,7 @@ private Q_SLOTS:
 
     void worksWhateverIsLocked_data()
     {
-        QTest::addColumn<QList<uint>>("locks");
-        QTest::addColumn<uint>("state");
+        columns<QList<uint>, uint>();
         QTest::newRow("nothing") << QList<uint>{} << 0U;
         QTest::newRow("Num Lock") << QList<uint>{XK_Num_Lock} << uint{XCB_MOD_MASK_2};
         QTest::newRow("Caps Lock") << QList<uint>{XK_Caps_Lock} << uint{XCB_MOD_MASK_LOCK};
@@ -24,8 +21,7 @@ private Q_SLOTS:
 
     void worksWhateverIsLocked()
     {
-        QFETCH(QList<uint>, locks);
-        QFETCH(uint, state);
+        auto [locks, state] = fetched<QList<uint>, uint>();
         QVERIFY(stage().run());
         for (const uint lock : locks)
             stage().input.tap(lock);

@@ -3,8 +3,6 @@
 
 #include <QDBusConnectionInterface>
 
-using namespace Qt::StringLiterals;
-
 /// Starting, starting again, pausing for the companion suite, and what survives a crash.
 class LifecycleTest : public StageTest
 {
@@ -33,8 +31,7 @@ private Q_SLOTS:
 
     void openArgument_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("tool");
+        columns<QStringList, QString>();
         QTest::newRow("a tool") << QStringList{u"--open"_s, u"timer"_s} << u"timer"_s;
         QTest::newRow("no tool") << QStringList{u"--open"_s} << u"home"_s;
         QTest::newRow("an unknown tool") << QStringList{u"--open"_s, u"Timer"_s} << u"home"_s;
@@ -42,8 +39,7 @@ private Q_SLOTS:
 
     void openArgument()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, tool);
+        auto [arguments, tool] = fetched<QStringList, QString>();
         QElapsedTimer sinceStart;
         sinceStart.start();
         QVERIFY(stage().run({}, arguments));
@@ -55,16 +51,14 @@ private Q_SLOTS:
 
     void aSecondStartIsHandedOver_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("tool");
+        columns<QStringList, QString>();
         QTest::newRow("plain") << QStringList{} << u"home"_s;
         QTest::newRow("with a tool") << QStringList{u"--open"_s, u"timer"_s} << u"timer"_s;
     }
 
     void aSecondStartIsHandedOver()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, tool);
+        auto [arguments, tool] = fetched<QStringList, QString>();
         QVERIFY(stage().run() && stage().choose(u"note"_s));
         const Session::Result second = stage().session.command(arguments);
         QCOMPARE(second.status, 0);

@@ -6,8 +6,6 @@
 #include <QDBusVariant>
 #include <QFile>
 
-using namespace Qt::StringLiterals;
-
 /// The mirror with a real PipeWire camera.
 class MirrorTest : public StageTest
 {

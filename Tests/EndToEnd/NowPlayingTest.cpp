@@ -3,8 +3,6 @@
 
 #include <QDir>
 
-using namespace Qt::StringLiterals;
-
 /// Real players with real songs, from the session bus to the wings and the pane, and back by its buttons.
 class NowPlayingTest : public StageTest
 {

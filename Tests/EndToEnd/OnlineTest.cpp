@@ -2,8 +2,6 @@
 #include "Support/TestRegistry.h"
 #include "Support/WebStandIn.h"
 
-using namespace Qt::StringLiterals;
-
 /// Weather and stocks of the real program, whose web services are a server of the test's own.
 class OnlineTest : public StageTest
 {

@@ -1,8 +1,6 @@
 #include "EndToEnd/Stage.h"
 #include "Support/TestRegistry.h"
 
-using namespace Qt::StringLiterals;
-
 // Lower limits on time are what is promised; upper ones leave room for a busy machine.
 constexpr int leaveDelay = 250;
 

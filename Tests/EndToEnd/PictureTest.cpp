@@ -1,8 +1,6 @@
 #include "EndToEnd/Stage.h"
 #include "Support/TestRegistry.h"
 
-using namespace Qt::StringLiterals;
-
 /// What is seen on the screen: the notch's outline, and the desktop untouched around it.
 class PictureTest : public StageTest
 {

@@ -1,8 +1,6 @@
 #include "EndToEnd/Stage.h"
 #include "Support/TestRegistry.h"
 
-using namespace Qt::StringLiterals;
-
 /// The settings window of the real program, beside the command line that reads and writes the same settings.
 class SettingsTest : public StageTest
 {

@@ -9,8 +9,6 @@
 #include <QTemporaryDir>
 #include <QUrl>
 
-using namespace Qt::StringLiterals;
-
 /// Files dragged onto the notch and out of it.
 class ShelfTest : public StageTest
 {
@@ -57,10 +55,7 @@ private Q_SLOTS:
 
     void onlyFilesOpenTheNotch_data()
     {
-        QTest::addColumn<QByteArray>("type");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<bool>("answers");
-        QTest::addColumn<QStringList>("kept");
+        columns<QByteArray, QByteArray, bool, QStringList>();
         QTemporaryDir &folder = m_many.emplace();
         const QByteArray files =
             "# two\r\nfile:///etc/passwd\r\nhttps://example.org/\r\nfile:///etc/group\r\n";
@@ -82,10 +77,7 @@ private Q_SLOTS:
     }
     void onlyFilesOpenTheNotch()
     {
-        QFETCH(const QByteArray, type);
-        QFETCH(const QByteArray, content);
-        QFETCH(const bool, answers);
-        QFETCH(const QStringList, kept);
+        const auto [type, content, answers, kept] = fetched<QByteArray, QByteArray, bool, QStringList>();
         setStage({});
         QVERIFY(stage().run());
         DragSource source(stage().display.name(), type, content);

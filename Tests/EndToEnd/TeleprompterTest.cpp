@@ -1,8 +1,6 @@
 #include "EndToEnd/Stage.h"
 #include "Support/TestRegistry.h"
 
-using namespace Qt::StringLiterals;
-
 /// The script from the keyboard to the scrolling lines.
 class TeleprompterTest : public StageTest
 {

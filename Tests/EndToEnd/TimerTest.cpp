@@ -3,8 +3,6 @@
 
 #include <QSet>
 
-using namespace Qt::StringLiterals;
-
 /// The countdown from its pane through the closed notch's wings to its sound.
 class TimerTest : public StageTest
 {

@@ -5,8 +5,6 @@
 
 #include <QDBusMessage>
 
-using namespace Qt::StringLiterals;
-
 /// Updates of the real program from a server of the test's own, signed with the makers' script.
 class UpdatesTest : public StageTest
 {
@@ -39,10 +37,8 @@ private Q_SLOTS:
 
     void whatTheWindowTells_data()
     {
-        QTest::addColumn<QString>("version"); // none: the server is of no use
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<bool>("isNews");
-        QTest::addColumn<bool>("offers");
+        // version: none, and the server is of no use
+        columns<QString, QString, bool, bool>();
         QTest::newRow("newer") << m_newer << u"key"_s << true << true;
         QTest::newRow("same") << QStringLiteral(KESTRUNE_VERSION) << u"key"_s << false << false;
         QTest::newRow("older") << u"0.0.1"_s << u"key"_s << false << false;
@@ -52,10 +48,7 @@ private Q_SLOTS:
 
     void whatTheWindowTells()
     {
-        QFETCH(const QString, version);
-        QFETCH(const QString, key);
-        QFETCH(const bool, isNews);
-        QFETCH(const bool, offers);
+        const auto [version, key, isNews, offers] = fetched<QString, QString, bool, bool>();
         m_feed = version.isEmpty() ? WebStandIn::page(404, "gone") : release(version, key);
         QVERIFY(stage().run());
         QVERIFY(chooseCheck() && waitUntil([this] { return findWindow(); }));

@@ -1,8 +1,6 @@
 #include "EndToEnd/Stage.h"
 #include "Support/TestRegistry.h"
 
-using namespace Qt::StringLiterals;
-
 /// The notch as a window among others: clicks, focus, stacking and desktops.
 class WindowTest : public StageTest
 {
@@ -99,9 +97,7 @@ private Q_SLOTS:
 
     void staysAboveOtherWindows_data()
     {
-        QTest::addColumn<QString>("windowManager");
-        QTest::addColumn<TestWindow::Kind>("kind");
-        QTest::addColumn<QRect>("geometry");
+        columns<QString, TestWindow::Kind, QRect>();
         for (const auto *windowManager : {"openbox", "xfwm4"}) {
             const QString name = QString::fromLatin1(windowManager);
             QTest::addRow("%s, full screen", windowManager)
@@ -113,9 +109,7 @@ private Q_SLOTS:
 
     void staysAboveOtherWindows()
     {
-        QFETCH(QString, windowManager);
-        QFETCH(TestWindow::Kind, kind);
-        QFETCH(QRect, geometry);
+        auto [windowManager, kind, geometry] = fetched<QString, TestWindow::Kind, QRect>();
         setStage({.windowManager = windowManager});
         QVERIFY(stage().run());
         TestWindow other(stage().display.name(), kind, geometry, 0xff8040c0);

@@ -2,11 +2,6 @@
 #include "Support/Fakes.h"
 #include "Support/TestRegistry.h"
 
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 class AirDropTest : public QObject
 {
     Q_OBJECT
@@ -14,10 +9,8 @@ class AirDropTest : public QObject
 private Q_SLOTS:
     void filesGoWhereTheyShould_data()
     {
-        QTest::addColumn<int>("devices");
-        QTest::addColumn<QList<QUrl>>("sent");
-        QTest::addColumn<int>("chosen"); // -1: cancelled, -2: not asked
-        QTest::addColumn<QString>("device");
+        // chosen: -1: cancelled, -2: not asked
+        columns<int, QList<QUrl>, int, QString>();
         const QList<QUrl> files{QUrl(u"file:///a b"_s), QUrl(u"file:///c"_s)};
         QTest::newRow("no file") << 1 << QList<QUrl>() << -2 << QString();
         QTest::newRow("no local file") << 1 << QList<QUrl>{QUrl(u"https://c"_s)} << -2 << QString();
@@ -30,10 +23,7 @@ private Q_SLOTS:
 
     void filesGoWhereTheyShould()
     {
-        QFETCH(const int, devices);
-        QFETCH(const QList<QUrl>, sent);
-        QFETCH(const int, chosen);
-        QFETCH(const QString, device);
+        const auto [devices, sent, chosen, device] = fetched<int, QList<QUrl>, int, QString>();
         Fakes::FakeSharing sharing(devices);
         AirDrop airDrop(sharing);
         airDrop.send(sent);

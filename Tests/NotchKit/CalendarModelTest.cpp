@@ -3,11 +3,6 @@
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 using Access = CalendarAccess;
@@ -114,8 +109,7 @@ private Q_SLOTS:
 
     void listsFollowTheAccess_data()
     {
-        QTest::addColumn<int>("events");
-        QTest::addColumn<int>("reminders");
+        columns<int, int>();
         for (const int events : {0, 1, 2, 3, 4}) {
             for (const int reminders : {0, 3})
                 QTest::addRow("%d %d", events, reminders) << events << reminders;
@@ -123,8 +117,7 @@ private Q_SLOTS:
     }
     void listsFollowTheAccess()
     {
-        QFETCH(const int, events);
-        QFETCH(const int, reminders);
+        const auto [events, reminders] = fetched<int, int>();
         Stage stage;
         QVERIFY(!stage.model.eventsKnown() && !stage.model.remindersKnown());
         stage.answer(CalendarStore::Events{stage.event(u"e"_s, 1)}, CalendarStore::Tasks{stage.task(u"t"_s)});

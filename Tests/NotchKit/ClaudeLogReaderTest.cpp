@@ -5,7 +5,6 @@
 #include "Support/TestRegistry.h"
 
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <fstream>
 #include <thread>
@@ -14,7 +13,6 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-using namespace Kestrune;
 using namespace Kestrune::Tests;
 
 namespace {
@@ -68,255 +66,242 @@ class ClaudeLogReaderTest : public QObject
 private Q_SLOTS:
     void init() { m_folder = std::make_unique<QTemporaryDir>(); }
     void cleanupTestCase() { useZone("UTC"); }
-    void timestamps_data();
-    void timestamps();
-    void figures_data();
-    void figures();
-    void countsALineOnceItIsComplete();
-    void hugeNumbersStayNumbers();
-    void agreesWithTheSlowReader_data();
-    void agreesWithTheSlowReader();
-    void threadsDoNotDecide();
-    void oddFilesNeitherHangNorGrow();
-    void filesMayVanishWhileRead();
-    void cancelEndsIt();
+    void timestamps_data()
+    {
+        QTest::addColumn<std::optional<qint64>>("milliseconds");
+        const auto row = [](const char *text, std::optional<qint64> value) { QTest::newRow(text) << value; };
+        row("1970-01-01T00:00:00.000Z", 0);
+        row("1969-12-31T23:59:59.5Z", -500);
+        row("2024-02-29T12:00:00.123456789+05:45", 1709187300123);
+        row("2026-11-21T00:00:00.000-11:30", 1795260600000);
+        for (const char *bad :
+             {"2026-11-21T00:00:00Z", "2026-11-21T00:00:00.Z", "2026-11-21T00:00:00.0",
+              "2026-11-21 00:00:00.0Z", "2026-11-21T00:00:00.0+0100", "2026-11-21T00:00:00.0Z ",
+              "2025-02-29T00:00:00.0Z", "", "2026-11", "2026-00-21T00:00:00.0Z", "2026-11-21T24:00:00.0Z",
+              "2026-11-21T00:60:00.0Z", "+026-11-21T00:00:00.0Z"})
+            row(bad, std::nullopt);
+    }
+
+    void timestamps()
+    {
+        QFETCH(const std::optional<qint64>, milliseconds);
+        QVERIFY(parseIsoTimestamp(QTest::currentDataTag()) == milliseconds);
+    }
+
+    void figures_data()
+    {
+        columns<QByteArray, QDateTime, Entries, ClaudeUsage>();
+        const auto row = [](const char *name, const char *zone, const char *now, const Entries &entries,
+                            const ClaudeUsage &expected) {
+            QTest::newRow(name) << QByteArray(zone) << at(now) << entries << expected;
+        };
+        row("two blocks", "UTC", "2026-03-10T15:00:00Z",
+            {{"2026-03-10T14:01:00.000Z", 4},
+             {"2026-03-10T09:00:00.000Z", 1},
+             {"2026-03-10T13:59:00.000Z", 2}},
+            {4, at("2026-03-10T14:01:00Z"), 7, 3, at("2026-03-10T14:01:00Z"), 4, {0, 0, 0, 0, 0, 0, 7}});
+        row("a block ends after five hours", "UTC", "2026-03-10T14:30:00Z",
+            {{"2026-03-10T09:10:00.000Z", 5}, {"2026-03-10T09:30:00.000Z", 5}},
+            {0, {}, 10, 2, at("2026-03-10T09:30:00Z"), 10, {0, 0, 0, 0, 0, 0, 10}});
+        row("exactly five hours later begins another", "UTC", "2026-03-10T14:00:00Z",
+            {{"2026-03-10T09:00:00.000Z", 5}, {"2026-03-10T14:00:00.000Z", 3}},
+            {3, at("2026-03-10T14:00:00Z"), 8, 2, at("2026-03-10T14:00:00Z"), 5, {0, 0, 0, 0, 0, 0, 8}});
+        row("a week old is too old", "UTC", "2026-03-10T12:00:00Z",
+            {{"2026-03-03T12:00:00.000Z", 1},
+             {"2026-03-03T12:00:00.001Z", 2},
+             {"2026-03-04T00:00:00.000Z", 4}},
+            {0, {}, 6, 2, at("2026-03-04T00:00:00Z"), 4, {4, 0, 0, 0, 0, 0, 0}});
+        // The night of 29 March has no hour from 2 to 3; midnights are at 23:00Z, then at 22:00Z.
+        row("a day of 23 hours", "Europe/Berlin", "2026-03-30T10:00:00Z",
+            {{"2026-03-28T22:59:59.999Z", 1},
+             {"2026-03-28T23:00:00.000Z", 2},
+             {"2026-03-29T21:59:59.999Z", 4},
+             {"2026-03-29T22:00:00.000Z", 8}},
+            {0, {}, 15, 4, at("2026-03-29T22:00:00Z"), 12, {0, 0, 0, 0, 1, 6, 8}});
+        row("a day of 25 hours", "Europe/Berlin", "2026-10-26T10:00:00Z",
+            {{"2026-10-24T21:59:59.999Z", 1},
+             {"2026-10-24T22:00:00.000Z", 2},
+             {"2026-10-25T22:59:59.999Z", 4},
+             {"2026-10-25T23:00:00.000Z", 8}},
+            {0, {}, 15, 4, at("2026-10-25T23:00:00Z"), 12, {0, 0, 0, 0, 1, 6, 8}});
+        row("a day that begins at one o'clock", "America/Havana", "2026-03-08T12:00:00Z",
+            {{"2026-03-08T04:59:59.999Z", 1}, {"2026-03-08T05:00:00.000Z", 2}},
+            {0, {}, 3, 2, at("2026-03-08T05:00:00Z"), 3, {0, 0, 0, 0, 0, 1, 2}});
+        row("a clock that was wrong", "UTC", "2026-03-10T12:00:00Z", {{"2026-03-11T12:00:00.000Z", 9}},
+            {9, at("2026-03-11T12:00:00Z"), 9, 1, at("2026-03-11T12:00:00Z"), 9, {}});
+    }
+
+    void figures()
+    {
+        const auto [zone, now, entries, expected] = fetched<QByteArray, QDateTime, Entries, ClaudeUsage>();
+        useZone(zone);
+        for (const auto &[time, tokens] : entries)
+            write(path(), entryLine(time, tokens, time));
+        ClaudeLogReader reader(m_folder->path());
+        const auto usage = reader.summary(now);
+        QVERIFY(usage.has_value());
+        QCOMPARE(usage->dailyTokens, expected.dailyTokens);
+        QCOMPARE(usage->blockStart, expected.blockStart);
+        QCOMPARE(usage->peakBlockTokens, expected.peakBlockTokens);
+        QVERIFY(usage == expected);
+        QVERIFY(!reader.summary(now.addDays(9)));
+        QVERIFY(!ClaudeLogReader(path("missing")).summary(now));
+    }
+
+    void countsALineOnceItIsComplete()
+    {
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        const QByteArray time = now.toString(Qt::ISODateWithMs).toLatin1();
+        const QByteArray second = entryLine(time, 20, "b");
+        ClaudeLogReader reader(m_folder->path());
+        const auto tokens = [&] { return reader.summary(now).value_or(ClaudeUsage{}).weekTokens; };
+        write(path(), entryLine(time, 1, "a") + entryLine(time, 2, "a") + second.left(90));
+        QCOMPARE(tokens(), 2);
+        write(path(), second.mid(90).chopped(1));
+        QCOMPARE(tokens(), 2);
+        write(path(), "\n");
+        QCOMPARE(tokens(), 22);
+        write(path(), entryLine(time, 400, "c"), QIODevice::Truncate); // shorter than what was read
+        QCOMPARE(tokens(), 422);
+        write(path("new"), entryLine(time, 3, "a") + entryLine(time, 4000, "d") + entryLine(time, 400, "c"));
+        QCOMPARE(std::rename(qPrintable(path("new")), qPrintable(path())), 0);
+        QCOMPARE(tokens(), 4423);
+    }
+
+    void hugeNumbersStayNumbers()
+    {
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        const QByteArray time = now.toString(Qt::ISODateWithMs).toLatin1();
+        QByteArray text;
+        for (const QByteArray &number :
+             {QByteArray("9223372036854775807"), QByteArray("18446744073709551615"), QByteArray("1e300"),
+              QByteArray("1e18")})
+            text += entryLine(time, 0, number).replace(":0,", ':' + number + ',');
+        write(path(), text);
+        ClaudeLogReader reader(m_folder->path());
+        QCOMPARE(reader.summary(now)->weekTokens, std::numeric_limits<qint64>::max());
+        QCOMPARE(reader.summary(now)->weekMessages, 4);
+    }
+
+    void agreesWithTheSlowReader_data()
+    {
+        QTest::addColumn<unsigned>("seed");
+        const unsigned first = qEnvironmentVariableIntValue("KESTRUNE_SEED") + 1;
+        const unsigned count = std::max(24, qEnvironmentVariableIntValue("KESTRUNE_SEEDS"));
+        for (unsigned seed = first; seed < first + count; ++seed)
+            QTest::addRow("seed %u", seed) << seed;
+    }
+
+    void agreesWithTheSlowReader()
+    {
+        static const QByteArrayList zones{"UTC",          "Asia/Kathmandu",      "America/Havana",
+                                          "Pacific/Apia", "Australia/Lord_Howe", "Europe/Berlin"};
+        QFETCH(const unsigned, seed);
+        RandomLogs logs(m_folder->path(), seed);
+        useZone(zones.at(logs.below(6)));
+        // Around the changes of the clock in both halves of the year.
+        QDateTime now = at(seed % 2 ? "2026-03-29T01:30:00Z" : "2026-10-04T15:00:00Z");
+        ClaudeLogReader reader(m_folder->path());
+        SlowLogReader slow(m_folder->path());
+        for (int step = 0; step < 30; ++step) {
+            for (unsigned changes = logs.below(6); changes > 0; --changes)
+                logs.change(now);
+            QVERIFY2(reader.summary(now) == slow.summary(now), qPrintable(u"step %1"_s.arg(step)));
+            now = now.addMSecs(logs.below(5 * 3'600'000));
+        }
+    }
+
+    void threadsDoNotDecide()
+    {
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        const QByteArray time = now.toString(Qt::ISODateWithMs).toLatin1();
+        for (int file = 10; file < 40; ++file) {
+            QByteArray text;
+            for (int id = 0; id < 2000; ++id)
+                text += entryLine(time, file, QByteArray::number(id)) + QByteArray(200, ' ') + '\n';
+            write(path(QByteArray::number(file) + ".jsonl"), text);
+        }
+        for (int round = 0; round < 5; ++round) {
+            ClaudeLogReader reader(m_folder->path());
+            QCOMPARE(reader.summary(now)->weekTokens, 2000 * 39);
+        }
+    }
+
+    void oddFilesNeitherHangNorGrow()
+    {
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        write(path(), entryLine(now.toString(Qt::ISODateWithMs).toLatin1(), 7, "a"));
+        QCOMPARE(mkfifo(qPrintable(path("fifo.jsonl")), 0600), 0);
+        const int server = socket(AF_UNIX, SOCK_STREAM, 0);
+        sockaddr_un address{AF_UNIX, {}};
+        std::strcpy(address.sun_path, qPrintable(path("socket.jsonl")));
+        QCOMPARE(bind(server, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+        for (const char *link : {"loop", "loop.jsonl"})
+            QVERIFY(QFile::link(m_folder->path(), path(link)));
+        QVERIFY(QFile::link(path("self.jsonl"), path("self.jsonl")));
+        QVERIFY(QFile::link(u"/dev/zero"_s, path("zero.jsonl")));
+        QVERIFY(QFile::link(path(), path("good.jsonl")));
+        write(path("shut.jsonl"), "\"usage\"\n");
+        QVERIFY(QFile::setPermissions(path("shut.jsonl"), {}));
+
+        constexpr qint64 kHuge = 1 << 30;
+        const QString huge = path("huge.jsonl");
+        write(huge, "{\"usage\":\"");
+        QVERIFY(QFile::resize(huge, kHuge));
+
+        ClaudeLogReader reader(m_folder->path());
+        std::ofstream("/proc/self/clear_refs") << 5; // the peak is counted from here
+        const qint64 before = figure("status", "VmRSS:");
+        QCOMPARE(reader.summary(now)->weekTokens, 7);
+        const qint64 grown = figure("status", "VmHWM:") - before;
+        QVERIFY2(grown < 24 << 10, qPrintable(QString::number(grown)));
+
+        // What was scanned is not scanned again, whether or not the line grows, nor is it ever parsed.
+        for (const char *more : {"", "x", "\n"}) {
+            write(huge, more);
+            const qint64 read = figure("io", "rchar:");
+            QCOMPARE(reader.summary(now)->weekTokens, 7);
+            QVERIFY(figure("io", "rchar:") - read < 100'000);
+        }
+        close(server);
+    }
+
+    void filesMayVanishWhileRead()
+    {
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        write(path("stays.jsonl"), entryLine(now.toString(Qt::ISODateWithMs).toLatin1(), 7, "a"));
+        std::jthread trouble([&](const std::stop_token &stop) {
+            const QByteArray text = QByteArray(2'000'000, '"') + "\"usage\"\n";
+            while (!stop.stop_requested()) {
+                for (const char *name : {"m.jsonl", "z.jsonl"}) {
+                    write(path(name), text);
+                    QFile::resize(path(name), 1'000'000);
+                    QFile::remove(path(name));
+                }
+            }
+        });
+        for (int round = 0; round < 200; ++round) {
+            ClaudeLogReader reader(m_folder->path());
+            QCOMPARE(reader.summary(now)->weekTokens, 7);
+        }
+    }
+
+    void cancelEndsIt()
+    {
+        write(path(), "");
+        QVERIFY(QFile::resize(path(), qint64(1) << 42)); // hours to read
+        ClaudeLogReader reader(m_folder->path());
+        std::jthread summary([&] { QVERIFY(!reader.summary(QDateTime::currentDateTimeUtc())); });
+        QTest::qWait(50);
+        reader.cancel();
+        summary.join();
+    }
 
 private:
     QString path(const char *name = "log.jsonl") const { return m_folder->filePath(QLatin1String(name)); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
 };
-
-void ClaudeLogReaderTest::timestamps_data()
-{
-    QTest::addColumn<std::optional<qint64>>("milliseconds");
-    const auto row = [](const char *text, std::optional<qint64> value) { QTest::newRow(text) << value; };
-    row("1970-01-01T00:00:00.000Z", 0);
-    row("1969-12-31T23:59:59.5Z", -500);
-    row("2024-02-29T12:00:00.123456789+05:45", 1709187300123);
-    row("2026-11-21T00:00:00.000-11:30", 1795260600000);
-    for (const char *bad : {"2026-11-21T00:00:00Z", "2026-11-21T00:00:00.Z", "2026-11-21T00:00:00.0",
-                            "2026-11-21 00:00:00.0Z", "2026-11-21T00:00:00.0+0100", "2026-11-21T00:00:00.0Z ",
-                            "2025-02-29T00:00:00.0Z", "", "2026-11", "2026-00-21T00:00:00.0Z",
-                            "2026-11-21T24:00:00.0Z", "2026-11-21T00:60:00.0Z", "+026-11-21T00:00:00.0Z"})
-        row(bad, std::nullopt);
-}
-
-void ClaudeLogReaderTest::timestamps()
-{
-    QFETCH(const std::optional<qint64>, milliseconds);
-    QVERIFY(parseIsoTimestamp(QTest::currentDataTag()) == milliseconds);
-}
-
-void ClaudeLogReaderTest::figures_data()
-{
-    QTest::addColumn<QByteArray>("zone");
-    QTest::addColumn<QDateTime>("now");
-    QTest::addColumn<Entries>("entries");
-    QTest::addColumn<ClaudeUsage>("expected");
-    const auto row = [](const char *name, const char *zone, const char *now, const Entries &entries,
-                        const ClaudeUsage &expected) {
-        QTest::newRow(name) << QByteArray(zone) << at(now) << entries << expected;
-    };
-    row("two blocks", "UTC", "2026-03-10T15:00:00Z",
-        {{"2026-03-10T14:01:00.000Z", 4}, {"2026-03-10T09:00:00.000Z", 1}, {"2026-03-10T13:59:00.000Z", 2}},
-        {4, at("2026-03-10T14:01:00Z"), 7, 3, at("2026-03-10T14:01:00Z"), 4, {0, 0, 0, 0, 0, 0, 7}});
-    row("a block ends after five hours", "UTC", "2026-03-10T14:30:00Z",
-        {{"2026-03-10T09:10:00.000Z", 5}, {"2026-03-10T09:30:00.000Z", 5}},
-        {0, {}, 10, 2, at("2026-03-10T09:30:00Z"), 10, {0, 0, 0, 0, 0, 0, 10}});
-    row("exactly five hours later begins another", "UTC", "2026-03-10T14:00:00Z",
-        {{"2026-03-10T09:00:00.000Z", 5}, {"2026-03-10T14:00:00.000Z", 3}},
-        {3, at("2026-03-10T14:00:00Z"), 8, 2, at("2026-03-10T14:00:00Z"), 5, {0, 0, 0, 0, 0, 0, 8}});
-    row("a week old is too old", "UTC", "2026-03-10T12:00:00Z",
-        {{"2026-03-03T12:00:00.000Z", 1}, {"2026-03-03T12:00:00.001Z", 2}, {"2026-03-04T00:00:00.000Z", 4}},
-        {0, {}, 6, 2, at("2026-03-04T00:00:00Z"), 4, {4, 0, 0, 0, 0, 0, 0}});
-    // The night of 29 March has no hour from 2 to 3; midnights are at 23:00Z, then at 22:00Z.
-    row("a day of 23 hours", "Europe/Berlin", "2026-03-30T10:00:00Z",
-        {{"2026-03-28T22:59:59.999Z", 1},
-         {"2026-03-28T23:00:00.000Z", 2},
-         {"2026-03-29T21:59:59.999Z", 4},
-         {"2026-03-29T22:00:00.000Z", 8}},
-        {0, {}, 15, 4, at("2026-03-29T22:00:00Z"), 12, {0, 0, 0, 0, 1, 6, 8}});
-    row("a day of 25 hours", "Europe/Berlin", "2026-10-26T10:00:00Z",
-        {{"2026-10-24T21:59:59.999Z", 1},
-         {"2026-10-24T22:00:00.000Z", 2},
-         {"2026-10-25T22:59:59.999Z", 4},
-         {"2026-10-25T23:00:00.000Z", 8}},
-        {0, {}, 15, 4, at("2026-10-25T23:00:00Z"), 12, {0, 0, 0, 0, 1, 6, 8}});
-    row("a day that begins at one o'clock", "America/Havana", "2026-03-08T12:00:00Z",
-        {{"2026-03-08T04:59:59.999Z", 1}, {"2026-03-08T05:00:00.000Z", 2}},
-        {0, {}, 3, 2, at("2026-03-08T05:00:00Z"), 3, {0, 0, 0, 0, 0, 1, 2}});
-    row("a clock that was wrong", "UTC", "2026-03-10T12:00:00Z", {{"2026-03-11T12:00:00.000Z", 9}},
-        {9, at("2026-03-11T12:00:00Z"), 9, 1, at("2026-03-11T12:00:00Z"), 9, {}});
-}
-
-void ClaudeLogReaderTest::figures()
-{
-    QFETCH(const QByteArray, zone);
-    QFETCH(const QDateTime, now);
-    QFETCH(const Entries, entries);
-    QFETCH(const ClaudeUsage, expected);
-    useZone(zone);
-    for (const auto &[time, tokens] : entries)
-        write(path(), entryLine(time, tokens, time));
-    ClaudeLogReader reader(m_folder->path());
-    const auto usage = reader.summary(now);
-    QVERIFY(usage.has_value());
-    QCOMPARE(usage->dailyTokens, expected.dailyTokens);
-    QCOMPARE(usage->blockStart, expected.blockStart);
-    QCOMPARE(usage->peakBlockTokens, expected.peakBlockTokens);
-    QVERIFY(usage == expected);
-    QVERIFY(!reader.summary(now.addDays(9)));
-    QVERIFY(!ClaudeLogReader(path("missing")).summary(now));
-}
-
-void ClaudeLogReaderTest::countsALineOnceItIsComplete()
-{
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    const QByteArray time = now.toString(Qt::ISODateWithMs).toLatin1();
-    const QByteArray second = entryLine(time, 20, "b");
-    ClaudeLogReader reader(m_folder->path());
-    const auto tokens = [&] { return reader.summary(now).value_or(ClaudeUsage{}).weekTokens; };
-    write(path(), entryLine(time, 1, "a") + entryLine(time, 2, "a") + second.left(90));
-    QCOMPARE(tokens(), 2);
-    write(path(), second.mid(90).chopped(1));
-    QCOMPARE(tokens(), 2);
-    write(path(), "\n");
-    QCOMPARE(tokens(), 22);
-    write(path(), entryLine(time, 400, "c"), QIODevice::Truncate); // shorter than what was read
-    QCOMPARE(tokens(), 422);
-    write(path("new"), entryLine(time, 3, "a") + entryLine(time, 4000, "d") + entryLine(time, 400, "c"));
-    QCOMPARE(std::rename(qPrintable(path("new")), qPrintable(path())), 0);
-    QCOMPARE(tokens(), 4423);
-}
-
-void ClaudeLogReaderTest::hugeNumbersStayNumbers()
-{
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    const QByteArray time = now.toString(Qt::ISODateWithMs).toLatin1();
-    QByteArray text;
-    for (const QByteArray &number : {QByteArray("9223372036854775807"), QByteArray("18446744073709551615"),
-                                     QByteArray("1e300"), QByteArray("1e18")})
-        text += entryLine(time, 0, number).replace(":0,", ':' + number + ',');
-    write(path(), text);
-    ClaudeLogReader reader(m_folder->path());
-    QCOMPARE(reader.summary(now)->weekTokens, std::numeric_limits<qint64>::max());
-    QCOMPARE(reader.summary(now)->weekMessages, 4);
-}
-
-void ClaudeLogReaderTest::agreesWithTheSlowReader_data()
-{
-    QTest::addColumn<unsigned>("seed");
-    const unsigned first = qEnvironmentVariableIntValue("KESTRUNE_SEED") + 1;
-    const unsigned count = std::max(24, qEnvironmentVariableIntValue("KESTRUNE_SEEDS"));
-    for (unsigned seed = first; seed < first + count; ++seed)
-        QTest::addRow("seed %u", seed) << seed;
-}
-
-void ClaudeLogReaderTest::agreesWithTheSlowReader()
-{
-    static const QByteArrayList zones{"UTC",          "Asia/Kathmandu",      "America/Havana",
-                                      "Pacific/Apia", "Australia/Lord_Howe", "Europe/Berlin"};
-    QFETCH(const unsigned, seed);
-    RandomLogs logs(m_folder->path(), seed);
-    useZone(zones.at(logs.below(6)));
-    // Around the changes of the clock in both halves of the year.
-    QDateTime now = at(seed % 2 ? "2026-03-29T01:30:00Z" : "2026-10-04T15:00:00Z");
-    ClaudeLogReader reader(m_folder->path());
-    SlowLogReader slow(m_folder->path());
-    for (int step = 0; step < 30; ++step) {
-        for (unsigned changes = logs.below(6); changes > 0; --changes)
-            logs.change(now);
-        QVERIFY2(reader.summary(now) == slow.summary(now), qPrintable(QStringLiteral("step %1").arg(step)));
-        now = now.addMSecs(logs.below(5 * 3'600'000));
-    }
-}
-
-void ClaudeLogReaderTest::threadsDoNotDecide()
-{
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    const QByteArray time = now.toString(Qt::ISODateWithMs).toLatin1();
-    for (int file = 10; file < 40; ++file) {
-        QByteArray text;
-        for (int id = 0; id < 2000; ++id)
-            text += entryLine(time, file, QByteArray::number(id)) + QByteArray(200, ' ') + '\n';
-        write(path(QByteArray::number(file) + ".jsonl"), text);
-    }
-    for (int round = 0; round < 5; ++round) {
-        ClaudeLogReader reader(m_folder->path());
-        QCOMPARE(reader.summary(now)->weekTokens, 2000 * 39);
-    }
-}
-
-void ClaudeLogReaderTest::oddFilesNeitherHangNorGrow()
-{
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    write(path(), entryLine(now.toString(Qt::ISODateWithMs).toLatin1(), 7, "a"));
-    QCOMPARE(mkfifo(qPrintable(path("fifo.jsonl")), 0600), 0);
-    const int server = socket(AF_UNIX, SOCK_STREAM, 0);
-    sockaddr_un address{AF_UNIX, {}};
-    std::strcpy(address.sun_path, qPrintable(path("socket.jsonl")));
-    QCOMPARE(bind(server, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
-    for (const char *link : {"loop", "loop.jsonl"})
-        QVERIFY(QFile::link(m_folder->path(), path(link)));
-    QVERIFY(QFile::link(path("self.jsonl"), path("self.jsonl")));
-    QVERIFY(QFile::link(QStringLiteral("/dev/zero"), path("zero.jsonl")));
-    QVERIFY(QFile::link(path(), path("good.jsonl")));
-    write(path("shut.jsonl"), "\"usage\"\n");
-    QVERIFY(QFile::setPermissions(path("shut.jsonl"), {}));
-
-    constexpr qint64 kHuge = 1 << 30;
-    const QString huge = path("huge.jsonl");
-    write(huge, "{\"usage\":\"");
-    QVERIFY(QFile::resize(huge, kHuge));
-
-    ClaudeLogReader reader(m_folder->path());
-    std::ofstream("/proc/self/clear_refs") << 5; // the peak is counted from here
-    const qint64 before = figure("status", "VmRSS:");
-    QCOMPARE(reader.summary(now)->weekTokens, 7);
-    const qint64 grown = figure("status", "VmHWM:") - before;
-    QVERIFY2(grown < 24 << 10, qPrintable(QString::number(grown)));
-
-    // What was scanned is not scanned again, whether or not the line grows, nor is it ever parsed.
-    for (const char *more : {"", "x", "\n"}) {
-        write(huge, more);
-        const qint64 read = figure("io", "rchar:");
-        QCOMPARE(reader.summary(now)->weekTokens, 7);
-        QVERIFY(figure("io", "rchar:") - read < 100'000);
-    }
-    close(server);
-}
-
-void ClaudeLogReaderTest::filesMayVanishWhileRead()
-{
-    const QDateTime now = QDateTime::currentDateTimeUtc();
-    write(path("stays.jsonl"), entryLine(now.toString(Qt::ISODateWithMs).toLatin1(), 7, "a"));
-    std::jthread trouble([&](const std::stop_token &stop) {
-        const QByteArray text = QByteArray(2'000'000, '"') + "\"usage\"\n";
-        while (!stop.stop_requested()) {
-            for (const char *name : {"m.jsonl", "z.jsonl"}) {
-                write(path(name), text);
-                QFile::resize(path(name), 1'000'000);
-                QFile::remove(path(name));
-            }
-        }
-    });
-    for (int round = 0; round < 200; ++round) {
-        ClaudeLogReader reader(m_folder->path());
-        QCOMPARE(reader.summary(now)->weekTokens, 7);
-    }
-}
-
-void ClaudeLogReaderTest::cancelEndsIt()
-{
-    write(path(), "");
-    QVERIFY(QFile::resize(path(), qint64(1) << 42)); // hours to read
-    ClaudeLogReader reader(m_folder->path());
-    std::jthread summary([&] { QVERIFY(!reader.summary(QDateTime::currentDateTimeUtc())); });
-    QTest::qWait(50);
-    reader.cancel();
-    summary.join();
-}
 
 REGISTER_TEST(ClaudeLogReaderTest);
 #include "ClaudeLogReaderTest.moc"

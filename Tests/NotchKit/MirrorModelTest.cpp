@@ -2,11 +2,6 @@
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 using Authorization = CameraAuthorization;
 using State = MirrorModel::State;
 

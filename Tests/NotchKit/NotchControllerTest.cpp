@@ -3,9 +3,7 @@
 #include "Support/TestRegistry.h"
 
 #include <QCoreApplication>
-#include <QTest>
 
-using namespace Kestrune;
 using Fakes::builtInDisplay;
 using Fakes::externalDisplay;
 
@@ -22,414 +20,376 @@ class NotchControllerTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void displaysAreChosen_data();
-    void displaysAreChosen();
-    void panelsFollowTheDisplays();
-    void hoverOpensAfterItsDelay_data();
-    void hoverOpensAfterItsDelay();
-    void pressingCancelsTheHover();
-    void clickModeOpensOnTheFreshPress();
-    void filesOpenTheShelf_data();
-    void filesOpenTheShelf();
-    void leavingClosesAfterAQuarterSecond();
-    void whatHoldsTheNotchOpen_data();
-    void whatHoldsTheNotchOpen();
-    void unvisitedNotchWaits();
-    void toggleTakesTheKeyboard();
-    void togglePicksTheDisplay();
-    void openChoosesTheTool();
-    void hubFollowsTheOpenNotches();
-    void hitAreaFollowsTheState();
-    void shortcutFollowsItsSetting();
-    void startAndStopAreIdempotent();
-    void noDisplayIsNoTrouble();
+    void displaysAreChosen_data()
+    {
+        columns<bool, bool, bool, QString>();
+        QTest::newRow("main") << false << false << true << "HDMI-1";
+        QTest::newRow("none drawn") << false << false << false << "";
+        QTest::newRow("built-in wins") << true << false << true << "eDP-1";
+        QTest::newRow("all") << true << true << true << "HDMI-1 HDMI-2 eDP-1";
+        QTest::newRow("all with a housing") << true << true << false << "eDP-1";
+    }
+
+    void displaysAreChosen()
+    {
+        const auto [builtIn, allDisplays, showWithoutNotch, notches] = fetched<bool, bool, bool, QString>();
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay(0), externalDisplay(1)};
+        if (builtIn)
+            core.displays.displays.append(builtInDisplay(-1600));
+        core.settings.setAllDisplays(allDisplays);
+        core.settings.setShowWithoutNotch(showWithoutNotch);
+        core.controller.start();
+        QStringList names;
+        for (const auto &notch : core.controller.notches())
+            names.append(notch.screen.name);
+        QCOMPARE(names.join(u' '), notches);
+        if (builtIn)
+            QCOMPARE(core.controller.notches().back().model->geometry().notchSize, QSizeF(200, 38));
+    }
+
+    void panelsFollowTheDisplays()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay(0)};
+        core.settings.setAllDisplays(true);
+        core.controller.start();
+        NotchScreenModel *first = &core.model();
+        QVERIFY(core.panel().shown);
+        QCOMPARE(core.panel().frame, QRectF(520, 690, 880, 390));
+        core.displays.displays = {externalDisplay(0), externalDisplay(1)};
+        Q_EMIT core.displays.changed();
+        QCOMPARE(core.panels.alive.size(), 2U);
+        QCOMPARE(&core.model(), first);
+        core.controller.open(NotchTool::note);
+        core.displays.displays = {externalDisplay(1)};
+        Q_EMIT core.displays.changed();
+        QCOMPARE(core.panels.alive.size(), 1U);
+        QVERIFY(!core.services.anyExpanded());
+        QVERIFY(!core.services.visibleTool());
+        core.displays.displays[0].frame = QRectF(0, 0, 2560, 1440);
+        Q_EMIT core.displays.changed();
+        QCOMPARE(core.panel().frame, QRectF(840, 1050, 880, 390));
+        QCOMPARE(core.panel().hitArea, core.model().geometry().hitRect(false, false));
+    }
+
+    void hoverOpensAfterItsDelay_data()
+    {
+        columns<double, int, int>();
+        QTest::newRow("at once") << 0.0 << 0 << 33;
+        QTest::newRow("as shipped") << 0.12 << 132 << 165;
+        QTest::newRow("long") << 0.8 << 825 << 858;
+    }
+
+    void hoverOpensAfterItsDelay()
+    {
+        const auto [delay, closedAt, openAt] = fetched<double, int, int>();
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.settings.setHoverDelay(delay);
+        core.controller.start();
+        core.moveTo(kNotch);
+        core.wait(closedAt);
+        QVERIFY(!core.model().expanded());
+        core.wait(openAt - closedAt);
+        QVERIFY(core.model().expanded());
+        QVERIFY(!core.panel().key);
+        QCOMPARE(core.services.visibleTool(), std::optional(NotchTool::home));
+    }
+
+    void pressingCancelsTheHover()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.controller.start();
+        core.moveTo(kNotch);
+        core.wait(99);
+        core.press(true);
+        core.wait(1000);
+        QVERIFY(!core.model().expanded());
+        core.press(false);
+        core.wait(132);
+        QVERIFY(!core.model().expanded());
+        core.wait(66);
+        QVERIFY(core.model().expanded());
+    }
+
+    void clickModeOpensOnTheFreshPress()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.settings.setOpenMode(NotchOpenMode::click);
+        core.controller.start();
+        core.moveTo(kNotch);
+        core.wait(2000);
+        QVERIFY(!core.model().expanded());
+        core.moveTo(kOutside);
+        core.press(true);
+        core.wait(33);
+        core.moveTo(kNotch);
+        core.wait(500);
+        QVERIFY2(!core.model().expanded(), "a press that began outside");
+        core.press(false);
+        core.wait(33);
+        core.press(true);
+        core.wait(33);
+        QVERIFY(core.model().expanded());
+    }
+
+    void filesOpenTheShelf_data()
+    {
+        columns<QStringList, bool, bool, bool>();
+        const QStringList with{u"note"_s, u"shelf"_s};
+        QTest::newRow("files") << with << true << false << true;
+        QTest::newRow("in click mode") << with << true << true << true;
+        QTest::newRow("something else") << with << false << false << false;
+        QTest::newRow("no shelf") << QStringList{u"note"_s} << true << false << false;
+    }
+
+    void filesOpenTheShelf()
+    {
+        const auto [tools, files, click, opens] = fetched<QStringList, bool, bool, bool>();
+        Fakes::Core core({{u"notch.tools"_s, tools}});
+        core.settings.setTools(fromRawValues<NotchTool>(tools));
+        core.settings.setOpenMode(click ? NotchOpenMode::click : NotchOpenMode::hover);
+        core.displays.displays = {externalDisplay()};
+        core.controller.start();
+        if (files)
+            core.drags.files = {QUrl(u"file:///a"_s)};
+        core.moveTo(kOutside);
+        core.press(true);
+        core.wait(33);
+        core.moveTo(kNotch);
+        core.wait(33);
+        QCOMPARE(core.model().expanded(), opens);
+        QCOMPARE(core.model().selected(), opens ? NotchTool::shelf : NotchTool::note);
+    }
+
+    void leavingClosesAfterAQuarterSecond()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.controller.start();
+        core.moveTo(kNotch);
+        core.wait(200);
+        core.moveTo(kPanel);
+        core.wait(33);
+        core.moveTo(kOutside);
+        core.wait(198);
+        core.moveTo(kPanel);
+        core.wait(33);
+        core.moveTo(kOutside);
+        core.wait(264);
+        QVERIFY2(core.model().expanded(), "the count restarts at each exit");
+        core.wait(66);
+        QVERIFY(!core.model().expanded());
+        QVERIFY(!core.services.visibleTool());
+    }
+
+    void whatHoldsTheNotchOpen_data()
+    {
+        QTest::addColumn<QString>("held");
+        QTest::newRow("pinned") << "pinned";
+        QTest::newRow("pressed") << "pressed";
+        QTest::newRow("drag over it") << "dropTargeted";
+    }
+
+    void whatHoldsTheNotchOpen()
+    {
+        QFETCH(const QString, held);
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.controller.start();
+        core.moveTo(kNotch);
+        core.wait(300);
+        const auto hold = [&](bool on) {
+            core.press(on && held == "pressed"_L1);
+            core.model().setPinned(on && held == "pinned"_L1);
+            core.model().setDropTargeted(on && held == "dropTargeted"_L1);
+        };
+        hold(true);
+        core.wait(33);
+        core.moveTo(kOutside);
+        core.wait(5000);
+        QVERIFY(core.model().expanded());
+        hold(false);
+        core.wait(330);
+        QVERIFY(!core.model().expanded());
+    }
+
+    void unvisitedNotchWaits()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.controller.start();
+        core.moveTo(kOutside);
+        core.controller.open(std::nullopt);
+        core.wait(10'000);
+        QVERIFY(core.model().expanded());
+        core.press(true);
+        core.wait(33);
+        QVERIFY2(!core.model().expanded(), "a fresh press outside closes it");
+        core.press(false);
+        core.wait(33);
+        core.controller.open(std::nullopt);
+        core.moveTo(kPanel);
+        core.press(true);
+        core.wait(33);
+        QVERIFY2(core.model().expanded(), "a press inside does not");
+        QVERIFY(core.model().pointerEntered());
+    }
+
+    void toggleTakesTheKeyboard()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.controller.start();
+        core.controller.toggle();
+        QVERIFY(core.model().expanded() && core.panel().key);
+        core.controller.toggle();
+        QVERIFY(!core.model().expanded() && !core.panel().key);
+        core.controller.open(std::nullopt);
+        QVERIFY(!core.panel().key);
+        Q_EMIT core.model().keyboardWanted();
+        QVERIFY(core.panel().key);
+        Q_EMIT core.model().closeWanted();
+        QVERIFY(!core.model().expanded() && !core.panel().key);
+    }
+
+    void togglePicksTheDisplay()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay(0), builtInDisplay(1920), externalDisplay(2)};
+        core.settings.setAllDisplays(true);
+        core.settings.setShowWithoutNotch(false);
+        core.controller.start();
+        QCOMPARE(core.controller.notches().size(), 1U);
+        core.moveTo(kOutside); // on a display without a notch, which is the main one
+        core.controller.toggle();
+        QVERIFY(core.model().expanded());
+        core.controller.collapseAll();
+        core.settings.setShowWithoutNotch(true);
+        core.controller.settingsChanged();
+        QCOMPARE(core.controller.notches().size(), 3U);
+        core.moveTo({3900, 500});
+        core.controller.toggle();
+        QVERIFY(core.controller.notches().at(2).model->expanded());
+    }
+
+    void openChoosesTheTool()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.controller.start();
+        core.controller.open(NotchTool::timer);
+        QCOMPARE(core.model().selected(), NotchTool::timer);
+        core.controller.open(NotchTool::note);
+        QCOMPARE(core.services.visibleTool(), std::optional(NotchTool::note));
+        core.controller.collapseAll();
+        core.settings.setEnabled(NotchTool::note, false);
+        core.controller.open(NotchTool::note);
+        QCOMPARE(core.model().selected(), NotchTool::home);
+        core.controller.collapseAll();
+        core.settings.setTools({});
+        core.controller.open(std::nullopt);
+        QCOMPARE(core.model().selected(), NotchTool::note);
+    }
+
+    void hubFollowsTheOpenNotches()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay(0), externalDisplay(1)};
+        core.settings.setAllDisplays(true);
+        core.controller.start();
+        core.moveTo(kOutside);
+        core.controller.open(NotchTool::timer);
+        core.moveTo({2000, 300});
+        core.controller.toggle();
+        core.controller.notches().at(1).model->setSelected(NotchTool::note);
+        core.moveTo(kOutside);
+        core.controller.toggle();
+        QVERIFY(core.services.anyExpanded());
+        QCOMPARE(core.services.visibleTool(), std::optional(NotchTool::note));
+        core.services.surroundings()->collapse();
+        QVERIFY(!core.services.anyExpanded() && !core.services.visibleTool());
+    }
+
+    void hitAreaFollowsTheState()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.controller.start();
+        const NotchGeometry geometry = core.model().geometry();
+        QCOMPARE(core.panel().hitArea, geometry.hitRect(false, false));
+        core.controller.open(std::nullopt);
+        QCOMPARE(core.panel().hitArea, geometry.hitRect(true, false));
+        core.controller.collapseAll();
+        QCOMPARE(core.panel().hitArea, geometry.hitRect(false, false));
+        core.services.model<TimerModel>()->start(60);
+        core.wait(33);
+        QCOMPARE(core.panel().hitArea, geometry.hitRect(false, true));
+    }
+
+    void shortcutFollowsItsSetting()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.controller.start();
+        QCOMPARE(core.hotKeys.codes, std::pair(45U, 6400U));
+        const HotKeyIdentity first = core.hotKeys.registered.at(0);
+        QCOMPARE(first.signature, 0x4b52554eU); // "KRUN"
+        core.hotKeys.handler(first);
+        QVERIFY2(!core.model().expanded(), "the action runs from the event loop");
+        QCoreApplication::processEvents();
+        QVERIFY(core.model().expanded());
+        core.controller.settingsChanged();
+        QVERIFY(core.hotKeys.registered.at(0).id > first.id);
+        core.hotKeys.handler(first);
+        QCoreApplication::processEvents();
+        QVERIFY2(core.model().expanded(), "a late press of an old registration does nothing");
+        core.settings.setShortcutEnabled(false);
+        core.controller.settingsChanged();
+        QVERIFY(core.hotKeys.registered.empty());
+        core.hotKeys.taken = true;
+        core.settings.setShortcutEnabled(true);
+        core.controller.settingsChanged();
+        QVERIFY(!core.controller.hasHotkey());
+        core.controller.toggle();
+        QVERIFY(!core.model().expanded());
+    }
+
+    void startAndStopAreIdempotent()
+    {
+        Fakes::Core core;
+        core.displays.displays = {externalDisplay()};
+        core.controller.start();
+        core.controller.start();
+        QCOMPARE(core.panels.alive.size(), 1U);
+        QCOMPARE(core.clock.running(), 3U); // poll and both clocks
+        core.controller.open(std::nullopt);
+        core.controller.stop();
+        core.controller.stop();
+        QVERIFY(core.panels.alive.empty());
+        QCOMPARE(core.clock.running(), 0U);
+        QVERIFY(core.hotKeys.registered.empty());
+        QVERIFY(!core.services.anyExpanded());
+        core.controller.settingsChanged();
+        QVERIFY(core.panels.alive.empty());
+        core.controller.start();
+        QVERIFY(!core.model().expanded());
+    }
+
+    void noDisplayIsNoTrouble()
+    {
+        Fakes::Core core;
+        core.controller.start();
+        core.controller.toggle();
+        core.controller.open(NotchTool::home);
+        core.wait(1000);
+        QVERIFY(core.controller.notches().empty());
+        QVERIFY(!core.services.anyExpanded());
+    }
 };
-
-void NotchControllerTest::displaysAreChosen_data()
-{
-    QTest::addColumn<bool>("builtIn");
-    QTest::addColumn<bool>("allDisplays");
-    QTest::addColumn<bool>("showWithoutNotch");
-    QTest::addColumn<QString>("notches");
-    QTest::newRow("main") << false << false << true << "HDMI-1";
-    QTest::newRow("none drawn") << false << false << false << "";
-    QTest::newRow("built-in wins") << true << false << true << "eDP-1";
-    QTest::newRow("all") << true << true << true << "HDMI-1 HDMI-2 eDP-1";
-    QTest::newRow("all with a housing") << true << true << false << "eDP-1";
-}
-
-void NotchControllerTest::displaysAreChosen()
-{
-    QFETCH(const bool, builtIn);
-    QFETCH(const bool, allDisplays);
-    QFETCH(const bool, showWithoutNotch);
-    QFETCH(const QString, notches);
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay(0), externalDisplay(1)};
-    if (builtIn)
-        core.displays.displays.append(builtInDisplay(-1600));
-    core.settings.setAllDisplays(allDisplays);
-    core.settings.setShowWithoutNotch(showWithoutNotch);
-    core.controller.start();
-    QStringList names;
-    for (const auto &notch : core.controller.notches())
-        names.append(notch.screen.name);
-    QCOMPARE(names.join(QLatin1Char(' ')), notches);
-    if (builtIn)
-        QCOMPARE(core.controller.notches().back().model->geometry().notchSize, QSizeF(200, 38));
-}
-
-void NotchControllerTest::panelsFollowTheDisplays()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay(0)};
-    core.settings.setAllDisplays(true);
-    core.controller.start();
-    NotchScreenModel *first = &core.model();
-    QVERIFY(core.panel().shown);
-    QCOMPARE(core.panel().frame, QRectF(520, 690, 880, 390));
-    core.displays.displays = {externalDisplay(0), externalDisplay(1)};
-    Q_EMIT core.displays.changed();
-    QCOMPARE(core.panels.alive.size(), 2U);
-    QCOMPARE(&core.model(), first);
-    core.controller.open(NotchTool::note);
-    core.displays.displays = {externalDisplay(1)};
-    Q_EMIT core.displays.changed();
-    QCOMPARE(core.panels.alive.size(), 1U);
-    QVERIFY(!core.services.anyExpanded());
-    QVERIFY(!core.services.visibleTool());
-    core.displays.displays[0].frame = QRectF(0, 0, 2560, 1440);
-    Q_EMIT core.displays.changed();
-    QCOMPARE(core.panel().frame, QRectF(840, 1050, 880, 390));
-    QCOMPARE(core.panel().hitArea, core.model().geometry().hitRect(false, false));
-}
-
-void NotchControllerTest::hoverOpensAfterItsDelay_data()
-{
-    QTest::addColumn<double>("delay");
-    QTest::addColumn<int>("closedAt");
-    QTest::addColumn<int>("openAt");
-    QTest::newRow("at once") << 0.0 << 0 << 33;
-    QTest::newRow("as shipped") << 0.12 << 132 << 165;
-    QTest::newRow("long") << 0.8 << 825 << 858;
-}
-
-void NotchControllerTest::hoverOpensAfterItsDelay()
-{
-    QFETCH(const double, delay);
-    QFETCH(const int, closedAt);
-    QFETCH(const int, openAt);
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.settings.setHoverDelay(delay);
-    core.controller.start();
-    core.moveTo(kNotch);
-    core.wait(closedAt);
-    QVERIFY(!core.model().expanded());
-    core.wait(openAt - closedAt);
-    QVERIFY(core.model().expanded());
-    QVERIFY(!core.panel().key);
-    QCOMPARE(core.services.visibleTool(), std::optional(NotchTool::home));
-}
-
-void NotchControllerTest::pressingCancelsTheHover()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.controller.start();
-    core.moveTo(kNotch);
-    core.wait(99);
-    core.press(true);
-    core.wait(1000);
-    QVERIFY(!core.model().expanded());
-    core.press(false);
-    core.wait(132);
-    QVERIFY(!core.model().expanded());
-    core.wait(66);
-    QVERIFY(core.model().expanded());
-}
-
-void NotchControllerTest::clickModeOpensOnTheFreshPress()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.settings.setOpenMode(NotchOpenMode::click);
-    core.controller.start();
-    core.moveTo(kNotch);
-    core.wait(2000);
-    QVERIFY(!core.model().expanded());
-    core.moveTo(kOutside);
-    core.press(true);
-    core.wait(33);
-    core.moveTo(kNotch);
-    core.wait(500);
-    QVERIFY2(!core.model().expanded(), "a press that began outside");
-    core.press(false);
-    core.wait(33);
-    core.press(true);
-    core.wait(33);
-    QVERIFY(core.model().expanded());
-}
-
-void NotchControllerTest::filesOpenTheShelf_data()
-{
-    QTest::addColumn<QStringList>("tools");
-    QTest::addColumn<bool>("files");
-    QTest::addColumn<bool>("click");
-    QTest::addColumn<bool>("opens");
-    const QStringList with{QStringLiteral("note"), QStringLiteral("shelf")};
-    QTest::newRow("files") << with << true << false << true;
-    QTest::newRow("in click mode") << with << true << true << true;
-    QTest::newRow("something else") << with << false << false << false;
-    QTest::newRow("no shelf") << QStringList{QStringLiteral("note")} << true << false << false;
-}
-
-void NotchControllerTest::filesOpenTheShelf()
-{
-    QFETCH(const QStringList, tools);
-    QFETCH(const bool, files);
-    QFETCH(const bool, click);
-    QFETCH(const bool, opens);
-    Fakes::Core core({{QStringLiteral("notch.tools"), tools}});
-    core.settings.setTools(fromRawValues<NotchTool>(tools));
-    core.settings.setOpenMode(click ? NotchOpenMode::click : NotchOpenMode::hover);
-    core.displays.displays = {externalDisplay()};
-    core.controller.start();
-    if (files)
-        core.drags.files = {QUrl(QStringLiteral("file:///a"))};
-    core.moveTo(kOutside);
-    core.press(true);
-    core.wait(33);
-    core.moveTo(kNotch);
-    core.wait(33);
-    QCOMPARE(core.model().expanded(), opens);
-    QCOMPARE(core.model().selected(), opens ? NotchTool::shelf : NotchTool::note);
-}
-
-void NotchControllerTest::leavingClosesAfterAQuarterSecond()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.controller.start();
-    core.moveTo(kNotch);
-    core.wait(200);
-    core.moveTo(kPanel);
-    core.wait(33);
-    core.moveTo(kOutside);
-    core.wait(198);
-    core.moveTo(kPanel);
-    core.wait(33);
-    core.moveTo(kOutside);
-    core.wait(264);
-    QVERIFY2(core.model().expanded(), "the count restarts at each exit");
-    core.wait(66);
-    QVERIFY(!core.model().expanded());
-    QVERIFY(!core.services.visibleTool());
-}
-
-void NotchControllerTest::whatHoldsTheNotchOpen_data()
-{
-    QTest::addColumn<QString>("held");
-    QTest::newRow("pinned") << "pinned";
-    QTest::newRow("pressed") << "pressed";
-    QTest::newRow("drag over it") << "dropTargeted";
-}
-
-void NotchControllerTest::whatHoldsTheNotchOpen()
-{
-    QFETCH(const QString, held);
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.controller.start();
-    core.moveTo(kNotch);
-    core.wait(300);
-    const auto hold = [&](bool on) {
-        core.press(on && held == QLatin1String("pressed"));
-        core.model().setPinned(on && held == QLatin1String("pinned"));
-        core.model().setDropTargeted(on && held == QLatin1String("dropTargeted"));
-    };
-    hold(true);
-    core.wait(33);
-    core.moveTo(kOutside);
-    core.wait(5000);
-    QVERIFY(core.model().expanded());
-    hold(false);
-    core.wait(330);
-    QVERIFY(!core.model().expanded());
-}
-
-void NotchControllerTest::unvisitedNotchWaits()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.controller.start();
-    core.moveTo(kOutside);
-    core.controller.open(std::nullopt);
-    core.wait(10'000);
-    QVERIFY(core.model().expanded());
-    core.press(true);
-    core.wait(33);
-    QVERIFY2(!core.model().expanded(), "a fresh press outside closes it");
-    core.press(false);
-    core.wait(33);
-    core.controller.open(std::nullopt);
-    core.moveTo(kPanel);
-    core.press(true);
-    core.wait(33);
-    QVERIFY2(core.model().expanded(), "a press inside does not");
-    QVERIFY(core.model().pointerEntered());
-}
-
-void NotchControllerTest::toggleTakesTheKeyboard()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.controller.start();
-    core.controller.toggle();
-    QVERIFY(core.model().expanded() && core.panel().key);
-    core.controller.toggle();
-    QVERIFY(!core.model().expanded() && !core.panel().key);
-    core.controller.open(std::nullopt);
-    QVERIFY(!core.panel().key);
-    Q_EMIT core.model().keyboardWanted();
-    QVERIFY(core.panel().key);
-    Q_EMIT core.model().closeWanted();
-    QVERIFY(!core.model().expanded() && !core.panel().key);
-}
-
-void NotchControllerTest::togglePicksTheDisplay()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay(0), builtInDisplay(1920), externalDisplay(2)};
-    core.settings.setAllDisplays(true);
-    core.settings.setShowWithoutNotch(false);
-    core.controller.start();
-    QCOMPARE(core.controller.notches().size(), 1U);
-    core.moveTo(kOutside); // on a display without a notch, which is the main one
-    core.controller.toggle();
-    QVERIFY(core.model().expanded());
-    core.controller.collapseAll();
-    core.settings.setShowWithoutNotch(true);
-    core.controller.settingsChanged();
-    QCOMPARE(core.controller.notches().size(), 3U);
-    core.moveTo({3900, 500});
-    core.controller.toggle();
-    QVERIFY(core.controller.notches().at(2).model->expanded());
-}
-
-void NotchControllerTest::openChoosesTheTool()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.controller.start();
-    core.controller.open(NotchTool::timer);
-    QCOMPARE(core.model().selected(), NotchTool::timer);
-    core.controller.open(NotchTool::note);
-    QCOMPARE(core.services.visibleTool(), std::optional(NotchTool::note));
-    core.controller.collapseAll();
-    core.settings.setEnabled(NotchTool::note, false);
-    core.controller.open(NotchTool::note);
-    QCOMPARE(core.model().selected(), NotchTool::home);
-    core.controller.collapseAll();
-    core.settings.setTools({});
-    core.controller.open(std::nullopt);
-    QCOMPARE(core.model().selected(), NotchTool::note);
-}
-
-void NotchControllerTest::hubFollowsTheOpenNotches()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay(0), externalDisplay(1)};
-    core.settings.setAllDisplays(true);
-    core.controller.start();
-    core.moveTo(kOutside);
-    core.controller.open(NotchTool::timer);
-    core.moveTo({2000, 300});
-    core.controller.toggle();
-    core.controller.notches().at(1).model->setSelected(NotchTool::note);
-    core.moveTo(kOutside);
-    core.controller.toggle();
-    QVERIFY(core.services.anyExpanded());
-    QCOMPARE(core.services.visibleTool(), std::optional(NotchTool::note));
-    core.services.surroundings()->collapse();
-    QVERIFY(!core.services.anyExpanded() && !core.services.visibleTool());
-}
-
-void NotchControllerTest::hitAreaFollowsTheState()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.controller.start();
-    const NotchGeometry geometry = core.model().geometry();
-    QCOMPARE(core.panel().hitArea, geometry.hitRect(false, false));
-    core.controller.open(std::nullopt);
-    QCOMPARE(core.panel().hitArea, geometry.hitRect(true, false));
-    core.controller.collapseAll();
-    QCOMPARE(core.panel().hitArea, geometry.hitRect(false, false));
-    core.services.model<TimerModel>()->start(60);
-    core.wait(33);
-    QCOMPARE(core.panel().hitArea, geometry.hitRect(false, true));
-}
-
-void NotchControllerTest::shortcutFollowsItsSetting()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.controller.start();
-    QCOMPARE(core.hotKeys.codes, std::pair(45U, 6400U));
-    const HotKeyIdentity first = core.hotKeys.registered.at(0);
-    QCOMPARE(first.signature, 0x4b52554eU); // "KRUN"
-    core.hotKeys.handler(first);
-    QVERIFY2(!core.model().expanded(), "the action runs from the event loop");
-    QCoreApplication::processEvents();
-    QVERIFY(core.model().expanded());
-    core.controller.settingsChanged();
-    QVERIFY(core.hotKeys.registered.at(0).id > first.id);
-    core.hotKeys.handler(first);
-    QCoreApplication::processEvents();
-    QVERIFY2(core.model().expanded(), "a late press of an old registration does nothing");
-    core.settings.setShortcutEnabled(false);
-    core.controller.settingsChanged();
-    QVERIFY(core.hotKeys.registered.empty());
-    core.hotKeys.taken = true;
-    core.settings.setShortcutEnabled(true);
-    core.controller.settingsChanged();
-    QVERIFY(!core.controller.hasHotkey());
-    core.controller.toggle();
-    QVERIFY(!core.model().expanded());
-}
-
-void NotchControllerTest::startAndStopAreIdempotent()
-{
-    Fakes::Core core;
-    core.displays.displays = {externalDisplay()};
-    core.controller.start();
-    core.controller.start();
-    QCOMPARE(core.panels.alive.size(), 1U);
-    QCOMPARE(core.clock.running(), 3U); // poll and both clocks
-    core.controller.open(std::nullopt);
-    core.controller.stop();
-    core.controller.stop();
-    QVERIFY(core.panels.alive.empty());
-    QCOMPARE(core.clock.running(), 0U);
-    QVERIFY(core.hotKeys.registered.empty());
-    QVERIFY(!core.services.anyExpanded());
-    core.controller.settingsChanged();
-    QVERIFY(core.panels.alive.empty());
-    core.controller.start();
-    QVERIFY(!core.model().expanded());
-}
-
-void NotchControllerTest::noDisplayIsNoTrouble()
-{
-    Fakes::Core core;
-    core.controller.start();
-    core.controller.toggle();
-    core.controller.open(NotchTool::home);
-    core.wait(1000);
-    QVERIFY(core.controller.notches().empty());
-    QVERIFY(!core.services.anyExpanded());
-}
 
 REGISTER_TEST(NotchControllerTest);
 #include "NotchControllerTest.moc"

@@ -4,11 +4,6 @@
 #include "Support/TestRegistry.h"
 
 #include <QBuffer>
-#include <QSignalSpy>
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -89,226 +84,206 @@ class NowPlayingModelTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void chooses_data();
-    void chooses();
-    void remembersARefusal();
-    void looksInTime_data();
-    void looksInTime();
-    void looksWhenShown();
-    void coverFollowsTheSong();
-    void commands();
-    void activity();
-    void endsWhileItLooks();
-};
+    void chooses_data()
+    {
+        columns<QString, QString, QString>();
+        const auto row = [](const char *name, const QString &music, const QString &spotify,
+                            const QString &shown) { QTest::newRow(name) << music << spotify << shown; };
+        row("both playing", u"playing A 1"_s, u"playing B 2"_s, u"Music A 1"_s);
+        row("both paused", u"paused A 1"_s, u"paused B 2"_s, u"Music A 1"_s);
+        row("second plays", u"paused A 1"_s, u"playing B 2"_s, u"Spotify B 2"_s);
+        row("first plays", u"playing A 1"_s, u"paused B 2"_s, u"Music A 1"_s);
+        row("only the second runs", u"off"_s, u"paused B 2"_s, u"Spotify B 2"_s);
+        row("first stopped", u""_s, u"paused B 2"_s, u"Spotify B 2"_s);
+        row("first failed", u"failed"_s, u"paused B 2"_s, u"Spotify B 2"_s);
+        row("nothing runs", u"off"_s, u"off"_s, u""_s);
+        row("both stopped", u""_s, u""_s, u""_s);
+        row("first refuses", u"denied"_s, u"paused B 2"_s, u"Spotify B 2"_s);
+        row("second refuses", u"paused A 1"_s, u"denied"_s, u"Music A 1 denied"_s);
+        row("only one, and refuses", u"denied"_s, u"off"_s, u"denied"_s);
+        row("refused and stopped", u"denied"_s, u""_s, u"denied"_s);
+    }
 
-void NowPlayingModelTest::chooses_data()
-{
-    QTest::addColumn<QString>("music");
-    QTest::addColumn<QString>("spotify");
-    QTest::addColumn<QString>("shown");
-    const auto row = [](const char *name, const QString &music, const QString &spotify,
-                        const QString &shown) { QTest::newRow(name) << music << spotify << shown; };
-    row("both playing", u"playing A 1"_s, u"playing B 2"_s, u"Music A 1"_s);
-    row("both paused", u"paused A 1"_s, u"paused B 2"_s, u"Music A 1"_s);
-    row("second plays", u"paused A 1"_s, u"playing B 2"_s, u"Spotify B 2"_s);
-    row("first plays", u"playing A 1"_s, u"paused B 2"_s, u"Music A 1"_s);
-    row("only the second runs", u"off"_s, u"paused B 2"_s, u"Spotify B 2"_s);
-    row("first stopped", u""_s, u"paused B 2"_s, u"Spotify B 2"_s);
-    row("first failed", u"failed"_s, u"paused B 2"_s, u"Spotify B 2"_s);
-    row("nothing runs", u"off"_s, u"off"_s, u""_s);
-    row("both stopped", u""_s, u""_s, u""_s);
-    row("first refuses", u"denied"_s, u"paused B 2"_s, u"Spotify B 2"_s);
-    row("second refuses", u"paused A 1"_s, u"denied"_s, u"Music A 1 denied"_s);
-    row("only one, and refuses", u"denied"_s, u"off"_s, u"denied"_s);
-    row("refused and stopped", u"denied"_s, u""_s, u"denied"_s);
-}
-
-void NowPlayingModelTest::chooses()
-{
-    QFETCH(const QString, music);
-    QFETCH(const QString, spotify);
-    QFETCH(const QString, shown);
-    Stage stage(music, spotify);
-    stage.refresh();
-    QCOMPARE(stage.shown(), shown);
-    const QStringList executed = stage.scripts.take();
-    QCOMPARE(executed.contains(PlayerScripts::status(kMusic)), music != "off"_L1);
-    QCOMPARE(executed.contains(PlayerScripts::status(kSpotify)), spotify != "off"_L1);
-
-    const QSignalSpy tracks(&stage.model, &NowPlayingModel::trackChanged);
-    const QSignalSpy players(&stage.model, &NowPlayingModel::playerChanged);
-    stage.refresh();
-    QVERIFY2(tracks.isEmpty() && players.isEmpty(), "nothing has changed");
-}
-
-void NowPlayingModelTest::remembersARefusal()
-{
-    Stage stage(u"denied"_s);
-    stage.refresh();
-    stage.say(kMusic, u""_s);
-    stage.refresh();
-    QCOMPARE(stage.shown(), u"denied"_s);
-    stage.say(kMusic, u"off"_s);
-    stage.refresh();
-    QCOMPARE(stage.shown(), u"denied"_s);
-    stage.say(kMusic, u"playing A 1"_s);
-    stage.refresh();
-    QCOMPARE(stage.shown(), u"Music A 1"_s);
-    stage.say(kMusic, u"denied"_s);
-    stage.refresh();
-    QCOMPARE(stage.shown(), u"denied"_s);
-}
-
-void NowPlayingModelTest::looksInTime_data()
-{
-    QTest::addColumn<bool>("live");
-    QTest::addColumn<bool>("open");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<int>("looks"); // in twenty seconds
-    QTest::newRow("closed") << true << false << true << 10;
-    QTest::newRow("closed, without activities") << false << false << true << 4;
-    QTest::newRow("open, without activities") << false << true << true << 10;
-    QTest::newRow("off") << true << true << false << 0;
-}
-
-void NowPlayingModelTest::looksInTime()
-{
-    QFETCH(const bool, live);
-    QFETCH(const bool, open);
-    QFETCH(const bool, enabled);
-    QFETCH(const int, looks);
-    Stage stage(u"playing A 1"_s);
-    stage.settings.setLiveActivities(live);
-    stage.settings.setEnabled(NotchTool::nowPlaying, enabled);
-    stage.services.setAnyExpanded(open);
-    stage.services.start();
-    stage.wait(20'000);
-    QTRY_COMPARE(stage.looks(), looks);
-    QTest::qWait(10);
-    QCOMPARE(stage.looks(), looks);
-    QCOMPARE(stage.model.track().has_value(), enabled);
-}
-
-void NowPlayingModelTest::looksWhenShown()
-{
-    Stage stage(u"playing A 1"_s);
-    stage.services.show(NotchTool::nowPlaying);
-    QTRY_COMPARE(stage.looks(), 1);
-    stage.services.show(NotchTool::home);
-    QTRY_COMPARE(stage.looks(), 2);
-    QTRY_VERIFY(stage.model.track());
-    stage.settings.setColumn(HomeColumn::hidden, HomeWidget::nowPlaying);
-    for (const auto tool : {std::optional(NotchTool::home), std::optional(NotchTool::timer), {}})
-        stage.services.show(tool);
-    stage.settings.setEnabled(NotchTool::nowPlaying, false);
-    QVERIFY(!stage.model.track());
-    stage.services.show(NotchTool::nowPlaying);
-    QTest::qWait(10);
-    QCOMPARE(stage.looks(), 2);
-}
-
-void NowPlayingModelTest::coverFollowsTheSong()
-{
-    Stage stage(u"playing A 1"_s);
-    const QString script = PlayerScripts::artwork(kMusic);
-    const auto asked = [&] { return stage.scripts.take().count(script); };
-    stage.scripts.answer(script, picture(11));
-    stage.refresh();
-    QCOMPARE(stage.model.artwork().width(), 11);
-    QCOMPARE(asked(), 1);
-    stage.say(kMusic, u"paused A 7"_s);
-    stage.refresh();
-    QCOMPARE(asked(), 0);
-    stage.scripts.answer(script, ScriptFailed());
-    stage.say(kMusic, u"paused B 0"_s);
-    stage.refresh();
-    stage.refresh();
-    QCOMPARE(asked(), 1);
-    QVERIFY(stage.model.artwork().isNull());
-    stage.scripts.answer(script, picture(12));
-    for (const QString &words : {u"off"_s, u"paused B 0"_s}) {
-        stage.say(kMusic, words);
+    void chooses()
+    {
+        const auto [music, spotify, shown] = fetched<QString, QString, QString>();
+        Stage stage(music, spotify);
         stage.refresh();
+        QCOMPARE(stage.shown(), shown);
+        const QStringList executed = stage.scripts.take();
+        QCOMPARE(executed.contains(PlayerScripts::status(kMusic)), music != "off"_L1);
+        QCOMPARE(executed.contains(PlayerScripts::status(kSpotify)), spotify != "off"_L1);
+
+        const QSignalSpy tracks(&stage.model, &NowPlayingModel::trackChanged);
+        const QSignalSpy players(&stage.model, &NowPlayingModel::playerChanged);
+        stage.refresh();
+        QVERIFY2(tracks.isEmpty() && players.isEmpty(), "nothing has changed");
     }
-    QCOMPARE(stage.model.artwork().width(), 12);
 
-    // The same song in the other player has a cover of its own.
-    stage.say(kMusic, u"off"_s);
-    stage.say(kSpotify, u"playing B 0"_s);
-    stage.scripts.answer(PlayerScripts::artwork(kSpotify), u"https://host/b"_s);
-    stage.http.replies = {{u"https://host/b"_s, {200, picture(13)}}};
-    stage.refresh();
-    QCOMPARE(stage.model.artwork().width(), 13);
-}
-
-void NowPlayingModelTest::commands()
-{
-    Stage stage(u"playing A 1"_s);
-    stage.model.next();
-    QTest::qWait(10);
-    QVERIFY2(stage.scripts.take().isEmpty(), "there is no player yet");
-    stage.refresh();
-    stage.scripts.take();
-    stage.model.playPause();
-    QTRY_COMPARE(stage.clock.running(), 1U);
-    QCOMPARE(stage.scripts.take(), QStringList{PlayerScripts::command(PlayerCommand::playPause, kMusic)});
-    stage.say(kMusic, u"paused A 2"_s);
-    stage.wait(249);
-    QTest::qWait(10);
-    QCOMPARE(stage.shown(), u"Music A 1"_s);
-    stage.wait(1);
-    QTRY_COMPARE(stage.shown(), u"Music A 2"_s);
-    QVERIFY(!stage.model.track()->playing && stage.clock.running() == 0);
-
-    const qsizetype looks = stage.looks();
-    stage.model.next();
-    stage.model.previous();
-    QTRY_COMPARE(stage.clock.running(), 2U);
-    stage.wait(250);
-    QTRY_COMPARE(stage.looks(), looks + 2);
-}
-
-void NowPlayingModelTest::activity()
-{
-    Stage stage(u"paused A 1"_s);
-    QVERIFY(!stage.services.hasActivity());
-    stage.refresh();
-    QCOMPARE(stage.services.activityTool(), NotchTool::nowPlaying);
-    stage.services.model<TimerModel>()->start(600);
-    QCOMPARE(stage.services.activityTool(), NotchTool::timer);
-    stage.services.model<TimerModel>()
-        ->pause(); // it does not open the wings, but stays in those that a song opens
-    QCOMPARE(stage.services.activityTool(), NotchTool::timer);
-    stage.settings.setEnabled(NotchTool::nowPlaying, false);
-    QVERIFY(!stage.services.hasActivity());
-    stage.settings.setEnabled(NotchTool::nowPlaying, true);
-    stage.services.model<TimerModel>()->reset();
-    stage.refresh();
-    QCOMPARE(stage.services.activityTool(), NotchTool::nowPlaying);
-    stage.settings.setLiveActivities(false);
-    QVERIFY(!stage.services.hasActivity());
-    stage.settings.setLiveActivities(true);
-    stage.say(kMusic, u""_s);
-    stage.refresh();
-    QVERIFY(!stage.services.hasActivity());
-}
-
-void NowPlayingModelTest::endsWhileItLooks()
-{
-    Fakes::Core core;
-    core.players.running = {bundleIdentifier(kMusic)};
-    core.scripts.answer(PlayerScripts::status(kMusic), u"playing\nA\nB\n1\n1"_s);
-    for (int i = 0; i < 20; ++i) {
-        core.scripts.held = i % 2 == 0;
-        NowPlayingModel model(core.settings, core.clock, core.players, core.scripts, core.http);
-        model.refresh();
-        QTest::qWait(i % 4);
-        model.next();
+    void remembersARefusal()
+    {
+        Stage stage(u"denied"_s);
+        stage.refresh();
+        stage.say(kMusic, u""_s);
+        stage.refresh();
+        QCOMPARE(stage.shown(), u"denied"_s);
+        stage.say(kMusic, u"off"_s);
+        stage.refresh();
+        QCOMPARE(stage.shown(), u"denied"_s);
+        stage.say(kMusic, u"playing A 1"_s);
+        stage.refresh();
+        QCOMPARE(stage.shown(), u"Music A 1"_s);
+        stage.say(kMusic, u"denied"_s);
+        stage.refresh();
+        QCOMPARE(stage.shown(), u"denied"_s);
     }
-    core.scripts.release();
-    QTest::qWait(20);
-    core.wait(1000);
-}
+
+    void looksInTime_data()
+    {
+        // looks: in twenty seconds
+        columns<bool, bool, bool, int>();
+        QTest::newRow("closed") << true << false << true << 10;
+        QTest::newRow("closed, without activities") << false << false << true << 4;
+        QTest::newRow("open, without activities") << false << true << true << 10;
+        QTest::newRow("off") << true << true << false << 0;
+    }
+
+    void looksInTime()
+    {
+        const auto [live, open, enabled, looks] = fetched<bool, bool, bool, int>();
+        Stage stage(u"playing A 1"_s);
+        stage.settings.setLiveActivities(live);
+        stage.settings.setEnabled(NotchTool::nowPlaying, enabled);
+        stage.services.setAnyExpanded(open);
+        stage.services.start();
+        stage.wait(20'000);
+        QTRY_COMPARE(stage.looks(), looks);
+        QTest::qWait(10);
+        QCOMPARE(stage.looks(), looks);
+        QCOMPARE(stage.model.track().has_value(), enabled);
+    }
+
+    void looksWhenShown()
+    {
+        Stage stage(u"playing A 1"_s);
+        stage.services.show(NotchTool::nowPlaying);
+        QTRY_COMPARE(stage.looks(), 1);
+        stage.services.show(NotchTool::home);
+        QTRY_COMPARE(stage.looks(), 2);
+        QTRY_VERIFY(stage.model.track());
+        stage.settings.setColumn(HomeColumn::hidden, HomeWidget::nowPlaying);
+        for (const auto tool : {std::optional(NotchTool::home), std::optional(NotchTool::timer), {}})
+            stage.services.show(tool);
+        stage.settings.setEnabled(NotchTool::nowPlaying, false);
+        QVERIFY(!stage.model.track());
+        stage.services.show(NotchTool::nowPlaying);
+        QTest::qWait(10);
+        QCOMPARE(stage.looks(), 2);
+    }
+
+    void coverFollowsTheSong()
+    {
+        Stage stage(u"playing A 1"_s);
+        const QString script = PlayerScripts::artwork(kMusic);
+        const auto asked = [&] { return stage.scripts.take().count(script); };
+        stage.scripts.answer(script, picture(11));
+        stage.refresh();
+        QCOMPARE(stage.model.artwork().width(), 11);
+        QCOMPARE(asked(), 1);
+        stage.say(kMusic, u"paused A 7"_s);
+        stage.refresh();
+        QCOMPARE(asked(), 0);
+        stage.scripts.answer(script, ScriptFailed());
+        stage.say(kMusic, u"paused B 0"_s);
+        stage.refresh();
+        stage.refresh();
+        QCOMPARE(asked(), 1);
+        QVERIFY(stage.model.artwork().isNull());
+        stage.scripts.answer(script, picture(12));
+        for (const QString &words : {u"off"_s, u"paused B 0"_s}) {
+            stage.say(kMusic, words);
+            stage.refresh();
+        }
+        QCOMPARE(stage.model.artwork().width(), 12);
+
+        // The same song in the other player has a cover of its own.
+        stage.say(kMusic, u"off"_s);
+        stage.say(kSpotify, u"playing B 0"_s);
+        stage.scripts.answer(PlayerScripts::artwork(kSpotify), u"https://host/b"_s);
+        stage.http.replies = {{u"https://host/b"_s, {200, picture(13)}}};
+        stage.refresh();
+        QCOMPARE(stage.model.artwork().width(), 13);
+    }
+
+    void commands()
+    {
+        Stage stage(u"playing A 1"_s);
+        stage.model.next();
+        QTest::qWait(10);
+        QVERIFY2(stage.scripts.take().isEmpty(), "there is no player yet");
+        stage.refresh();
+        stage.scripts.take();
+        stage.model.playPause();
+        QTRY_COMPARE(stage.clock.running(), 1U);
+        QCOMPARE(stage.scripts.take(), QStringList{PlayerScripts::command(PlayerCommand::playPause, kMusic)});
+        stage.say(kMusic, u"paused A 2"_s);
+        stage.wait(249);
+        QTest::qWait(10);
+        QCOMPARE(stage.shown(), u"Music A 1"_s);
+        stage.wait(1);
+        QTRY_COMPARE(stage.shown(), u"Music A 2"_s);
+        QVERIFY(!stage.model.track()->playing && stage.clock.running() == 0);
+
+        const qsizetype looks = stage.looks();
+        stage.model.next();
+        stage.model.previous();
+        QTRY_COMPARE(stage.clock.running(), 2U);
+        stage.wait(250);
+        QTRY_COMPARE(stage.looks(), looks + 2);
+    }
+
+    void activity()
+    {
+        Stage stage(u"paused A 1"_s);
+        QVERIFY(!stage.services.hasActivity());
+        stage.refresh();
+        QCOMPARE(stage.services.activityTool(), NotchTool::nowPlaying);
+        stage.services.model<TimerModel>()->start(600);
+        QCOMPARE(stage.services.activityTool(), NotchTool::timer);
+        stage.services.model<TimerModel>()
+            ->pause(); // it does not open the wings, but stays in those that a song opens
+        QCOMPARE(stage.services.activityTool(), NotchTool::timer);
+        stage.settings.setEnabled(NotchTool::nowPlaying, false);
+        QVERIFY(!stage.services.hasActivity());
+        stage.settings.setEnabled(NotchTool::nowPlaying, true);
+        stage.services.model<TimerModel>()->reset();
+        stage.refresh();
+        QCOMPARE(stage.services.activityTool(), NotchTool::nowPlaying);
+        stage.settings.setLiveActivities(false);
+        QVERIFY(!stage.services.hasActivity());
+        stage.settings.setLiveActivities(true);
+        stage.say(kMusic, u""_s);
+        stage.refresh();
+        QVERIFY(!stage.services.hasActivity());
+    }
+
+    void endsWhileItLooks()
+    {
+        Fakes::Core core;
+        core.players.running = {bundleIdentifier(kMusic)};
+        core.scripts.answer(PlayerScripts::status(kMusic), u"playing\nA\nB\n1\n1"_s);
+        for (int i = 0; i < 20; ++i) {
+            core.scripts.held = i % 2 == 0;
+            NowPlayingModel model(core.settings, core.clock, core.players, core.scripts, core.http);
+            model.refresh();
+            QTest::qWait(i % 4);
+            model.next();
+        }
+        core.scripts.release();
+        QTest::qWait(20);
+        core.wait(1000);
+    }
+};
 
 REGISTER_TEST(NowPlayingModelTest);
 #include "NowPlayingModelTest.moc"

@@ -6,10 +6,6 @@
 
 #include <QBuffer>
 #include <QPainter>
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 Q_DECLARE_METATYPE(ScriptOutcome)
 
@@ -72,132 +68,123 @@ class ScriptBridgeTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void scripts();
-    void answers_data();
-    void answers();
-    void covers_data();
-    void covers();
-};
-
-void ScriptBridgeTest::scripts()
-{
-    using Command = ScriptBridge::Command;
-    QCOMPARE(PlayerScripts::status(MediaPlayer::music),
-             u"tell application \"Music\"\n"
-             "  if player state is stopped then return \"\"\n"
-             "  set t to current track\n"
-             "  set d to duration of t\n"
-             "  return (player state as text) & \"\\n\" & (name of t) & \"\\n\" & (artist of t) & \"\\n\" & "
-             "(d as text) & \"\\n\" & (player position as text)\n"
-             "end tell"_s);
-    QVERIFY(PlayerScripts::status(MediaPlayer::spotify).startsWith("tell application \"Spotify\"\n"_L1));
-    QCOMPARE(PlayerScripts::artwork(MediaPlayer::music),
-             u"tell application \"Music\" to if (count of artworks of current track) > 0 then "
-             "return data of artwork 1 of current track"_s);
-    QCOMPARE(PlayerScripts::artwork(MediaPlayer::spotify),
-             u"tell application \"Spotify\" to return artwork url of current track"_s);
-    QCOMPARE(PlayerScripts::command(Command::next, MediaPlayer::spotify),
-             u"tell application \"Spotify\" to next track"_s);
-    QCOMPARE(PlayerScripts::command(Command::previous, MediaPlayer::music),
-             u"tell application \"Music\" to previous track"_s);
-    QCOMPARE(PlayerScripts::command(Command::playPause, MediaPlayer::music),
-             u"tell application \"Music\" to playpause"_s);
-}
-
-void ScriptBridgeTest::answers_data()
-{
-    QTest::addColumn<ScriptOutcome>("outcome");
-    QTest::addColumn<bool>("spotify");
-    QTest::addColumn<QString>("read"); // "state title|artist|duration|position"
-    const auto row = [](const char *name, const QString &text, const QString &read, bool spotify = false) {
-        QTest::newRow(name) << ScriptOutcome(text) << spotify << read;
-    };
-    row("playing", u"playing\nSong\nBand\n215.5\n3"_s, u"on Song|Band|215.5|3"_s);
-    row("paused", u"paused\nSong\nBand\n215.5\n3"_s, u"off Song|Band|215.5|3"_s);
-    row("another state", u"Playing\nSong\nBand\n9\n3"_s, u"off Song|Band|9|3"_s);
-    row("comma", u"playing\nA, B\nC, D\n215,5\n1,25"_s, u"on A, B|C, D|215.5|1.25"_s);
-    row("milliseconds", u"playing\nSong\nBand\n1500\n1,5"_s, u"on Song|Band|1.5|1.5"_s, true);
-    row("no numbers", u"playing\nSong\nBand\nmissing value\n"_s, u"on Song|Band|0|0"_s);
-    row("numbers that are none", u"playing\nSong\nBand\nnan\ninf"_s, u"on Song|Band|0|0"_s);
-    row("too large a number", u"playing\nSong\nBand\n1e999\n1"_s, u"on Song|Band|0|1"_s);
-    row("further lines", u"playing\n\n\n1\n2\n3\n4"_s, u"on ||1|2"_s);
-    row("stopped", QString(), u"none"_s);
-    row("too short", u"playing\nSong\nBand\n215"_s, u"none"_s);
-    QTest::newRow("data") << ScriptOutcome(QByteArray("playing\na\nb\n1\n2")) << false << u"none"_s;
-    QTest::newRow("failed") << ScriptOutcome() << false << u"none"_s;
-    QTest::newRow("refused") << ScriptOutcome(ScriptNotPermitted()) << false << u"denied"_s;
-}
-
-void ScriptBridgeTest::answers()
-{
-    QFETCH(const ScriptOutcome, outcome);
-    QFETCH(const bool, spotify);
-    QFETCH(const QString, read);
-    Fakes::FakeScripts scripts;
-    Fakes::FakeHttp http;
-    ScriptBridge bridge(scripts, http);
-    const MediaPlayer player = spotify ? MediaPlayer::spotify : MediaPlayer::music;
-    scripts.answer(PlayerScripts::status(player), outcome);
-    const Outcome<ScriptBridge::Result> outcomes([&] { return bridge.state(player); });
-    QTRY_VERIFY(outcomes.value);
-    const ScriptBridge::Result result = *outcomes.value;
-    QString seen = std::holds_alternative<ScriptBridge::Denied>(result) ? u"denied"_s : u"none"_s;
-    if (const auto *track = std::get_if<PlayingTrack>(&result)) {
-        seen = u"%1 %2|%3|%4|%5"_s.arg(track->playing ? u"on"_s : u"off"_s, track->title, track->artist)
-                   .arg(track->duration)
-                   .arg(track->position);
+    void scripts()
+    {
+        using Command = ScriptBridge::Command;
+        QCOMPARE(
+            PlayerScripts::status(MediaPlayer::music),
+            u"tell application \"Music\"\n"
+            "  if player state is stopped then return \"\"\n"
+            "  set t to current track\n"
+            "  set d to duration of t\n"
+            "  return (player state as text) & \"\\n\" & (name of t) & \"\\n\" & (artist of t) & \"\\n\" & "
+            "(d as text) & \"\\n\" & (player position as text)\n"
+            "end tell"_s);
+        QVERIFY(PlayerScripts::status(MediaPlayer::spotify).startsWith("tell application \"Spotify\"\n"_L1));
+        QCOMPARE(PlayerScripts::artwork(MediaPlayer::music),
+                 u"tell application \"Music\" to if (count of artworks of current track) > 0 then "
+                 "return data of artwork 1 of current track"_s);
+        QCOMPARE(PlayerScripts::artwork(MediaPlayer::spotify),
+                 u"tell application \"Spotify\" to return artwork url of current track"_s);
+        QCOMPARE(PlayerScripts::command(Command::next, MediaPlayer::spotify),
+                 u"tell application \"Spotify\" to next track"_s);
+        QCOMPARE(PlayerScripts::command(Command::previous, MediaPlayer::music),
+                 u"tell application \"Music\" to previous track"_s);
+        QCOMPARE(PlayerScripts::command(Command::playPause, MediaPlayer::music),
+                 u"tell application \"Music\" to playpause"_s);
     }
-    QCOMPARE(seen, read);
-}
 
-void ScriptBridgeTest::covers_data()
-{
-    QTest::addColumn<ScriptOutcome>("outcome");
-    QTest::addColumn<QByteArray>("sent"); // by the host of an address
-    QTest::addColumn<bool>("asked");
-    QTest::addColumn<int>("side"); // 0 for no cover
-    const QByteArray none;
-    const auto text = [](const char *address) { return ScriptOutcome(QString::fromLatin1(address)); };
-    const auto data = [](const QByteArray &bytes) { return ScriptOutcome(bytes); };
-    QTest::newRow("data") << data(picture(600, 600)) << none << false << CoverImage::kSide;
-    QTest::newRow("wide") << data(picture(900, 400)) << none << false << CoverImage::kSide;
-    QTest::newRow("high") << data(picture(40, 90)) << none << false << 40;
-    QTest::newRow("no data") << data(none) << none << false << 0;
-    QTest::newRow("no picture") << data("hello") << none << false << 0;
-    QTest::newRow("half a picture") << data(picture(64, 64).left(40)) << none << false << 0;
-    QTest::newRow("bomb") << data(bomb()) << none << false << 0;
-    QTest::newRow("too long") << data(picture(9, 9) + QByteArray(kMostCoverBytes, 'x')) << none << false << 0;
-    QTest::newRow("address") << text("https://host/cover") << picture(50, 50) << true << 50;
-    QTest::newRow("address of no picture") << text("https://host/cover") << QByteArray("<html>") << true << 0;
-    QTest::newRow("dead address") << text("https://host/gone") << picture(50, 50) << true << 0;
-    QTest::newRow("unsafe address") << text("http://host/cover") << picture(50, 50) << false << 0;
-    QTest::newRow("no address") << text("missing value") << none << false << 0;
-    QTest::newRow("broken address") << text("https://ho st/cover") << none << false << 0;
-    QTest::newRow("failed") << ScriptOutcome() << none << false << 0;
-    QTest::newRow("refused") << ScriptOutcome(ScriptNotPermitted()) << none << false << 0;
-}
+    void answers_data()
+    {
+        // read: "state title|artist|duration|position"
+        columns<ScriptOutcome, bool, QString>();
+        const auto row = [](const char *name, const QString &text, const QString &read,
+                            bool spotify = false) {
+            QTest::newRow(name) << ScriptOutcome(text) << spotify << read;
+        };
+        row("playing", u"playing\nSong\nBand\n215.5\n3"_s, u"on Song|Band|215.5|3"_s);
+        row("paused", u"paused\nSong\nBand\n215.5\n3"_s, u"off Song|Band|215.5|3"_s);
+        row("another state", u"Playing\nSong\nBand\n9\n3"_s, u"off Song|Band|9|3"_s);
+        row("comma", u"playing\nA, B\nC, D\n215,5\n1,25"_s, u"on A, B|C, D|215.5|1.25"_s);
+        row("milliseconds", u"playing\nSong\nBand\n1500\n1,5"_s, u"on Song|Band|1.5|1.5"_s, true);
+        row("no numbers", u"playing\nSong\nBand\nmissing value\n"_s, u"on Song|Band|0|0"_s);
+        row("numbers that are none", u"playing\nSong\nBand\nnan\ninf"_s, u"on Song|Band|0|0"_s);
+        row("too large a number", u"playing\nSong\nBand\n1e999\n1"_s, u"on Song|Band|0|1"_s);
+        row("further lines", u"playing\n\n\n1\n2\n3\n4"_s, u"on ||1|2"_s);
+        row("stopped", QString(), u"none"_s);
+        row("too short", u"playing\nSong\nBand\n215"_s, u"none"_s);
+        QTest::newRow("data") << ScriptOutcome(QByteArray("playing\na\nb\n1\n2")) << false << u"none"_s;
+        QTest::newRow("failed") << ScriptOutcome() << false << u"none"_s;
+        QTest::newRow("refused") << ScriptOutcome(ScriptNotPermitted()) << false << u"denied"_s;
+    }
 
-void ScriptBridgeTest::covers()
-{
-    QFETCH(const ScriptOutcome, outcome);
-    QFETCH(const QByteArray, sent);
-    QFETCH(const bool, asked);
-    QFETCH(const int, side);
-    Fakes::FakeScripts scripts;
-    Fakes::FakeHttp http;
-    http.replies = {{u"https://host/cover"_s, {200, sent}}, {u"https://host/gone"_s, {404, sent}}};
-    ScriptBridge bridge(scripts, http);
-    scripts.answer(PlayerScripts::artwork(MediaPlayer::spotify), outcome);
-    const Outcome<QImage> made([&] { return bridge.artwork(MediaPlayer::spotify); });
-    QTRY_VERIFY(made.value);
-    const std::optional<QImage> cover = made.value;
-    QCOMPARE(cover->size(), QSize(side, side));
-    QCOMPARE(http.asked.size(), asked ? 1 : 0);
-    QVERIFY(side == 0 || !sent.isEmpty() || cover->pixelColor(0, side / 2) == QColor(Qt::red));
-    for (const HttpRequest &request : http.asked)
-        QVERIFY(request.headers.isEmpty() && request.mostBytes == kMostCoverBytes &&
-                request.timeout == std::chrono::seconds(10));
-}
+    void answers()
+    {
+        const auto [outcome, spotify, read] = fetched<ScriptOutcome, bool, QString>();
+        Fakes::FakeScripts scripts;
+        Fakes::FakeHttp http;
+        ScriptBridge bridge(scripts, http);
+        const MediaPlayer player = spotify ? MediaPlayer::spotify : MediaPlayer::music;
+        scripts.answer(PlayerScripts::status(player), outcome);
+        const Outcome<ScriptBridge::Result> outcomes([&] { return bridge.state(player); });
+        QTRY_VERIFY(outcomes.value);
+        const ScriptBridge::Result result = *outcomes.value;
+        QString seen = std::holds_alternative<ScriptBridge::Denied>(result) ? u"denied"_s : u"none"_s;
+        if (const auto *track = std::get_if<PlayingTrack>(&result)) {
+            seen = u"%1 %2|%3|%4|%5"_s.arg(track->playing ? u"on"_s : u"off"_s, track->title, track->artist)
+                       .arg(track->duration)
+                       .arg(track->position);
+        }
+        QCOMPARE(seen, read);
+    }
+
+    void covers_data()
+    {
+        // sent: by the host of an address
+        // side: 0 for no cover
+        columns<ScriptOutcome, QByteArray, bool, int>();
+        const QByteArray none;
+        const auto text = [](const char *address) { return ScriptOutcome(QString::fromLatin1(address)); };
+        const auto data = [](const QByteArray &bytes) { return ScriptOutcome(bytes); };
+        QTest::newRow("data") << data(picture(600, 600)) << none << false << CoverImage::kSide;
+        QTest::newRow("wide") << data(picture(900, 400)) << none << false << CoverImage::kSide;
+        QTest::newRow("high") << data(picture(40, 90)) << none << false << 40;
+        QTest::newRow("no data") << data(none) << none << false << 0;
+        QTest::newRow("no picture") << data("hello") << none << false << 0;
+        QTest::newRow("half a picture") << data(picture(64, 64).left(40)) << none << false << 0;
+        QTest::newRow("bomb") << data(bomb()) << none << false << 0;
+        QTest::newRow("too long") << data(picture(9, 9) + QByteArray(kMostCoverBytes, 'x')) << none << false
+                                  << 0;
+        QTest::newRow("address") << text("https://host/cover") << picture(50, 50) << true << 50;
+        QTest::newRow("address of no picture")
+            << text("https://host/cover") << QByteArray("<html>") << true << 0;
+        QTest::newRow("dead address") << text("https://host/gone") << picture(50, 50) << true << 0;
+        QTest::newRow("unsafe address") << text("http://host/cover") << picture(50, 50) << false << 0;
+        QTest::newRow("no address") << text("missing value") << none << false << 0;
+        QTest::newRow("broken address") << text("https://ho st/cover") << none << false << 0;
+        QTest::newRow("failed") << ScriptOutcome() << none << false << 0;
+        QTest::newRow("refused") << ScriptOutcome(ScriptNotPermitted()) << none << false << 0;
+    }
+
+    void covers()
+    {
+        const auto [outcome, sent, asked, side] = fetched<ScriptOutcome, QByteArray, bool, int>();
+        Fakes::FakeScripts scripts;
+        Fakes::FakeHttp http;
+        http.replies = {{u"https://host/cover"_s, {200, sent}}, {u"https://host/gone"_s, {404, sent}}};
+        ScriptBridge bridge(scripts, http);
+        scripts.answer(PlayerScripts::artwork(MediaPlayer::spotify), outcome);
+        const Outcome<QImage> made([&] { return bridge.artwork(MediaPlayer::spotify); });
+        QTRY_VERIFY(made.value);
+        const std::optional<QImage> cover = made.value;
+        QCOMPARE(cover->size(), QSize(side, side));
+        QCOMPARE(http.asked.size(), asked ? 1 : 0);
+        QVERIFY(side == 0 || !sent.isEmpty() || cover->pixelColor(0, side / 2) == QColor(Qt::red));
+        for (const HttpRequest &request : http.asked)
+            QVERIFY(request.headers.isEmpty() && request.mostBytes == kMostCoverBytes &&
+                    request.timeout == 10s);
+    }
+};
 
 REGISTER_TEST(ScriptBridgeTest);
 #include "ScriptBridgeTest.moc"

@@ -5,10 +5,6 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 /// A folder with files to be shelved.
 struct Folder
@@ -71,18 +67,14 @@ private Q_SLOTS:
 
     void filesThatAreGoneLeave_data()
     {
-        QTest::addColumn<bool>("restart");
-        QTest::addColumn<bool>("show");
-        QTest::addColumn<int>("seconds");
+        columns<bool, bool, int>();
         QTest::newRow("at the start") << true << false << 0;
         QTest::newRow("when the pane is shown") << false << true << 0;
         QTest::newRow("while a notch is open") << false << false << 31;
     }
     void filesThatAreGoneLeave()
     {
-        QFETCH(const bool, restart);
-        QFETCH(const bool, show);
-        QFETCH(const int, seconds);
+        const auto [restart, show, seconds] = fetched<bool, bool, int>();
         const Folder folder;
         Fakes::Core core({{u"notch.shelfPaths"_s, folder.paths()}});
         core.displays.displays = {Fakes::externalDisplay()};

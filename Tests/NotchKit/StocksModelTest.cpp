@@ -5,13 +5,8 @@
 #include "Support/TestRegistry.h"
 
 #include <QLocale>
-#include <QSignalSpy>
-#include <QTest>
 
 #include <cmath>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -64,99 +59,177 @@ class StocksModelTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void asksWhileOnScreen();
-    void gathersInTheOrderOfTheList();
-    void aNewRefreshCounts();
+    void asksWhileOnScreen()
+    {
+        Stage stage({u"A"_s});
+        stage.wait(3'600'000);
+        stage.show(NotchTool::home); // its block is hidden
+        stage.wait(120'000);
+        QCOMPARE(stage.asked(), 0);
+        stage.show(NotchTool::stocks);
+        stage.wait(60'000);
+        QCOMPARE(stage.asked(), 1);
+        stage.settings.setColumn(HomeColumn::left, HomeWidget::stocks);
+        stage.show(NotchTool::home);
+        QCOMPARE(stage.asked(), 1);
+        stage.wait(1000);
+        QCOMPARE(stage.asked(), 2);
+        stage.model.refresh(true);
+        QCOMPARE(stage.asked(), 3);
+        stage.settings.setTickers({u"B"_s});
+        stage.wait(1000);
+        QCOMPARE(stage.asked(), 4);
+        stage.show({});
+        stage.wait(3'600'000);
+        QCOMPARE(stage.asked(), 4);
+        stage.settings.setTickers({});
+        stage.model.refresh(true);
+        QCOMPARE(stage.asked(), 4);
+    }
+
+    void gathersInTheOrderOfTheList()
+    {
+        Stage stage;
+        const QSignalSpy changes(&stage.model, &StocksModel::quotesChanged);
+        stage.show(NotchTool::stocks);
+        QCOMPARE(stage.http.addresses(),
+                 (QStringList{address(1, u"AAPL"_s), address(1, u"BAD"_s), address(1, u"TSLA"_s)}));
+        const HttpRequest request = stage.http.asked.first();
+        QCOMPARE(request.headers,
+                 (decltype(request.headers){{"User-Agent", "Mozilla/5.0 (Macintosh) Kestrune"}}));
+        QVERIFY(request.timeout.count() == 60'000 && stage.model.loading());
+
+        stage.answer(2, chart(R"("regularMarketPrice": 3)"));
+        stage.answer(1, {404, R"({"chart": {"result": null}})"});
+        QCOMPARE(stage.http.addresses().mid(3), QStringList{address(2, u"BAD"_s)});
+        stage.answer(0, {502, "<html>"});
+        stage.answer(4, chart(R"("regularMarketPrice": 1)")); // the second host knows
+        QVERIFY(stage.model.loading() && stage.model.quotes().isEmpty());
+        stage.answer(3, {0, {}});
+        QCOMPARE(stage.symbols(), (QStringList{u"AAPL"_s, u"TSLA"_s}));
+        QCOMPARE(stage.model.failed(), QStringList{u"BAD"_s});
+        QVERIFY(!stage.model.loading() && changes.count() == 1);
+        QCOMPARE(stage.asked(), 5);
+
+        // Nothing is merged: what fails this time is gone.
+        stage.model.refresh(true);
+        for (std::size_t i = 5; i < 10; ++i)
+            stage.answer(i, i == 6 ? chart(R"("regularMarketPrice": 2)") : HttpReply{200, "[]"});
+        QCOMPARE(stage.symbols(), QStringList{u"BAD"_s});
+        QCOMPARE(stage.model.failed(), (QStringList{u"AAPL"_s, u"TSLA"_s}));
+    }
+
+    void aNewRefreshCounts()
+    {
+        Stage stage({u"OLD"_s, u"OLD"_s});
+        stage.show(NotchTool::stocks);
+        QCOMPARE(stage.asked(), 1);
+        stage.model.setSymbols(u"new"_s);
+        QVERIFY(stage.http.questions.isGivenUp(0));
+        stage.answer(1, chart(R"("regularMarketPrice": 1)"));
+        stage.answer(0, chart(R"("regularMarketPrice": 2)"));
+        QCOMPARE(stage.symbols(), QStringList{u"NEW"_s});
+        QVERIFY(!stage.model.loading());
+    }
+
     void quotes_data();
-    void quotes();
-    void encodesSymbols();
-    void drafts_data();
-    void drafts();
-    void writesNumbers_data();
-    void writesNumbers();
-    void sparkline();
+    void quotes()
+    {
+        const auto [reply, found, name, change, points] =
+            fetched<HttpReply, bool, QString, double, QList<double>>();
+        const auto quote = parseQuote(u"X"_s, reply.body);
+        QCOMPARE(quote.has_value(), found);
+        if (!quote)
+            return;
+        QCOMPARE(quote->name, name);
+        QCOMPARE(quote->change(), change);
+        QCOMPARE(quote->points, points);
+        QCOMPARE(quote->currency.has_value(), reply.body.contains("USD"));
+    }
+
+    void encodesSymbols()
+    {
+        Stage stage({u"^GSPC"_s, u"EURUSD=X"_s, u"A?B#C%"_s, u"Ä"_s});
+        stage.show(NotchTool::stocks);
+        QCOMPARE(stage.http.addresses(),
+                 (QStringList{address(1, u"%5EGSPC"_s), address(1, u"EURUSD=X"_s),
+                              u"https://query1.finance.yahoo.com/v8/finance/chart/A%3FB%23C%25"
+                              "?range=1d&interval=5m"_s,
+                              u"https://query1.finance.yahoo.com/v8/finance/chart/%C3%84"
+                              "?range=1d&interval=5m"_s}));
+    }
+
+    void drafts_data()
+    {
+        columns<QString, QStringList>();
+        QTest::newRow("commas and blanks")
+            << u"aapl,,tsla  msft"_s << QStringList{u"AAPL"_s, u"TSLA"_s, u"MSFT"_s};
+        QTest::newRow("around") << u" ,\taapl\u00a0^gspc\n, "_s << QStringList{u"AAPL"_s, u"^GSPC"_s};
+        QTest::newRow("twice") << u"b,a,B,c,A"_s << QStringList{u"B"_s, u"A"_s, u"C"_s};
+        QTest::newRow("nothing") << u" , "_s << QStringList();
+    }
+
+    void drafts()
+    {
+        const auto [draft, symbols] = fetched<QString, QStringList>();
+        Stage stage({u"OLD"_s});
+        stage.model.setSymbols(draft);
+        QCOMPARE(stage.settings.tickers(), symbols);
+        QCOMPARE(stage.asked(), symbols.size());
+    }
+
+    void writesNumbers_data()
+    {
+        columns<double, bool, QString, QString>();
+        const auto row = [](double number, bool isPrice, const QString &english, const QString &german) {
+            QTest::addRow("%g %s", number, isPrice ? "price" : "change")
+                << number << isPrice << english << german;
+        };
+        row(5234.186, true, u"5,234.19"_s, u"5.234,19"_s);
+        row(187.3, true, u"187.30"_s, u"187,30"_s);
+        row(1234567.8, true, u"1,234,568"_s, u"1.234.568"_s);
+        row(0.08421, true, u"0.08421"_s, u"0,08421"_s);
+        row(0.5, true, u"0.50"_s, u"0,50"_s);
+        row(1.0842, true, u"1.0842"_s, u"1,0842"_s);
+        row(9.25, true, u"9.25"_s, u"9,25"_s);
+        row(1e-9, true, u"0.000000001"_s, u"0,000000001"_s);
+        row(0.0000123456, true, u"0.00001235"_s, u"0,00001235"_s);
+        row(0, true, u"0.00"_s, u"0,00"_s);
+        row(0.012345, false, u"+1.23%"_s, u"+1,23%"_s);
+        row(-0.5, false, u"−50.00%"_s, u"−50,00%"_s);
+        row(-0.00001, false, u"0.00%"_s, u"0,00%"_s);
+        row(12.5, false, u"+1,250.00%"_s, u"+1.250,00%"_s);
+    }
+
+    void writesNumbers()
+    {
+        const auto [number, isPrice, english, german] = fetched<double, bool, QString, QString>();
+        const QLocale before;
+        const auto written = [&](const QString &locale) {
+            QLocale::setDefault(QLocale(locale));
+            return isPrice ? QuoteFormat::price(number) : QuoteFormat::change(number);
+        };
+        const QStringList texts{written(u"en_US"_s), written(u"de_DE"_s)};
+        QLocale::setDefault(before);
+        QCOMPARE(texts, (QStringList{english, german}));
+    }
+
+    void sparkline()
+    {
+        using Line = QPolygonF;
+        const QSizeF size(100, 20);
+        QCOMPARE(Sparkline::line({}, size), Line());
+        QCOMPARE(Sparkline::line({5}, size), Line());
+        QCOMPARE(Sparkline::line({5, 5, 5}, size), Line({{0, 20}, {50, 20}, {100, 20}}));
+        QCOMPARE(Sparkline::line({1, 3, 2}, size), Line({{0, 20}, {50, 0}, {100, 10}}));
+        QVERIFY(std::abs(Sparkline::line({1, 1 + 5e-5}, size).at(1).y() - 10) <
+                1e-6); // half of the least range
+    }
 };
-
-void StocksModelTest::asksWhileOnScreen()
-{
-    Stage stage({u"A"_s});
-    stage.wait(3'600'000);
-    stage.show(NotchTool::home); // its block is hidden
-    stage.wait(120'000);
-    QCOMPARE(stage.asked(), 0);
-    stage.show(NotchTool::stocks);
-    stage.wait(60'000);
-    QCOMPARE(stage.asked(), 1);
-    stage.settings.setColumn(HomeColumn::left, HomeWidget::stocks);
-    stage.show(NotchTool::home);
-    QCOMPARE(stage.asked(), 1);
-    stage.wait(1000);
-    QCOMPARE(stage.asked(), 2);
-    stage.model.refresh(true);
-    QCOMPARE(stage.asked(), 3);
-    stage.settings.setTickers({u"B"_s});
-    stage.wait(1000);
-    QCOMPARE(stage.asked(), 4);
-    stage.show({});
-    stage.wait(3'600'000);
-    QCOMPARE(stage.asked(), 4);
-    stage.settings.setTickers({});
-    stage.model.refresh(true);
-    QCOMPARE(stage.asked(), 4);
-}
-
-void StocksModelTest::gathersInTheOrderOfTheList()
-{
-    Stage stage;
-    const QSignalSpy changes(&stage.model, &StocksModel::quotesChanged);
-    stage.show(NotchTool::stocks);
-    QCOMPARE(stage.http.addresses(),
-             (QStringList{address(1, u"AAPL"_s), address(1, u"BAD"_s), address(1, u"TSLA"_s)}));
-    const HttpRequest request = stage.http.asked.first();
-    QCOMPARE(request.headers,
-             (decltype(request.headers){{"User-Agent", "Mozilla/5.0 (Macintosh) Kestrune"}}));
-    QVERIFY(request.timeout.count() == 60'000 && stage.model.loading());
-
-    stage.answer(2, chart(R"("regularMarketPrice": 3)"));
-    stage.answer(1, {404, R"({"chart": {"result": null}})"});
-    QCOMPARE(stage.http.addresses().mid(3), QStringList{address(2, u"BAD"_s)});
-    stage.answer(0, {502, "<html>"});
-    stage.answer(4, chart(R"("regularMarketPrice": 1)")); // the second host knows
-    QVERIFY(stage.model.loading() && stage.model.quotes().isEmpty());
-    stage.answer(3, {0, {}});
-    QCOMPARE(stage.symbols(), (QStringList{u"AAPL"_s, u"TSLA"_s}));
-    QCOMPARE(stage.model.failed(), QStringList{u"BAD"_s});
-    QVERIFY(!stage.model.loading() && changes.count() == 1);
-    QCOMPARE(stage.asked(), 5);
-
-    // Nothing is merged: what fails this time is gone.
-    stage.model.refresh(true);
-    for (std::size_t i = 5; i < 10; ++i)
-        stage.answer(i, i == 6 ? chart(R"("regularMarketPrice": 2)") : HttpReply{200, "[]"});
-    QCOMPARE(stage.symbols(), QStringList{u"BAD"_s});
-    QCOMPARE(stage.model.failed(), (QStringList{u"AAPL"_s, u"TSLA"_s}));
-}
-
-void StocksModelTest::aNewRefreshCounts()
-{
-    Stage stage({u"OLD"_s, u"OLD"_s});
-    stage.show(NotchTool::stocks);
-    QCOMPARE(stage.asked(), 1);
-    stage.model.setSymbols(u"new"_s);
-    QVERIFY(stage.http.questions.isGivenUp(0));
-    stage.answer(1, chart(R"("regularMarketPrice": 1)"));
-    stage.answer(0, chart(R"("regularMarketPrice": 2)"));
-    QCOMPARE(stage.symbols(), QStringList{u"NEW"_s});
-    QVERIFY(!stage.model.loading());
-}
 
 void StocksModelTest::quotes_data()
 {
-    QTest::addColumn<HttpReply>("reply");
-    QTest::addColumn<bool>("found");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<double>("change");
-    QTest::addColumn<QList<double>>("points");
+    columns<HttpReply, bool, QString, double, QList<double>>();
     const auto row = [](const char *title, const HttpReply &reply, const QString &name, double change,
                         const QList<double> &points = {}) {
         QTest::newRow(title) << reply << true << name << change << points;
@@ -180,109 +253,6 @@ void StocksModelTest::quotes_data()
                              R"({"chart": {"result": [{"meta": {"regularMarketPrice": "1"}}]}})",
                              R"({"chart": {"result": [{"meta": {"regularMarketPrice": null}}]}})"})
         QTest::newRow(body) << HttpReply{200, body} << false << QString() << 0.0 << QList<double>();
-}
-
-void StocksModelTest::quotes()
-{
-    QFETCH(const HttpReply, reply);
-    QFETCH(const bool, found);
-    QFETCH(const QString, name);
-    QFETCH(const double, change);
-    QFETCH(const QList<double>, points);
-    const auto quote = parseQuote(u"X"_s, reply.body);
-    QCOMPARE(quote.has_value(), found);
-    if (!quote)
-        return;
-    QCOMPARE(quote->name, name);
-    QCOMPARE(quote->change(), change);
-    QCOMPARE(quote->points, points);
-    QCOMPARE(quote->currency.has_value(), reply.body.contains("USD"));
-}
-
-void StocksModelTest::encodesSymbols()
-{
-    Stage stage({u"^GSPC"_s, u"EURUSD=X"_s, u"A?B#C%"_s, u"Ä"_s});
-    stage.show(NotchTool::stocks);
-    QCOMPARE(stage.http.addresses(),
-             (QStringList{address(1, u"%5EGSPC"_s), address(1, u"EURUSD=X"_s),
-                          u"https://query1.finance.yahoo.com/v8/finance/chart/A%3FB%23C%25"
-                          "?range=1d&interval=5m"_s,
-                          u"https://query1.finance.yahoo.com/v8/finance/chart/%C3%84"
-                          "?range=1d&interval=5m"_s}));
-}
-
-void StocksModelTest::drafts_data()
-{
-    QTest::addColumn<QString>("draft");
-    QTest::addColumn<QStringList>("symbols");
-    QTest::newRow("commas and blanks")
-        << u"aapl,,tsla  msft"_s << QStringList{u"AAPL"_s, u"TSLA"_s, u"MSFT"_s};
-    QTest::newRow("around") << u" ,\taapl\u00a0^gspc\n, "_s << QStringList{u"AAPL"_s, u"^GSPC"_s};
-    QTest::newRow("twice") << u"b,a,B,c,A"_s << QStringList{u"B"_s, u"A"_s, u"C"_s};
-    QTest::newRow("nothing") << u" , "_s << QStringList();
-}
-
-void StocksModelTest::drafts()
-{
-    QFETCH(const QString, draft);
-    QFETCH(const QStringList, symbols);
-    Stage stage({u"OLD"_s});
-    stage.model.setSymbols(draft);
-    QCOMPARE(stage.settings.tickers(), symbols);
-    QCOMPARE(stage.asked(), symbols.size());
-}
-
-void StocksModelTest::writesNumbers_data()
-{
-    QTest::addColumn<double>("number");
-    QTest::addColumn<bool>("isPrice");
-    QTest::addColumn<QString>("english");
-    QTest::addColumn<QString>("german");
-    const auto row = [](double number, bool isPrice, const QString &english, const QString &german) {
-        QTest::addRow("%g %s", number, isPrice ? "price" : "change")
-            << number << isPrice << english << german;
-    };
-    row(5234.186, true, u"5,234.19"_s, u"5.234,19"_s);
-    row(187.3, true, u"187.30"_s, u"187,30"_s);
-    row(1234567.8, true, u"1,234,568"_s, u"1.234.568"_s);
-    row(0.08421, true, u"0.08421"_s, u"0,08421"_s);
-    row(0.5, true, u"0.50"_s, u"0,50"_s);
-    row(1.0842, true, u"1.0842"_s, u"1,0842"_s);
-    row(9.25, true, u"9.25"_s, u"9,25"_s);
-    row(1e-9, true, u"0.000000001"_s, u"0,000000001"_s);
-    row(0.0000123456, true, u"0.00001235"_s, u"0,00001235"_s);
-    row(0, true, u"0.00"_s, u"0,00"_s);
-    row(0.012345, false, u"+1.23%"_s, u"+1,23%"_s);
-    row(-0.5, false, u"−50.00%"_s, u"−50,00%"_s);
-    row(-0.00001, false, u"0.00%"_s, u"0,00%"_s);
-    row(12.5, false, u"+1,250.00%"_s, u"+1.250,00%"_s);
-}
-
-void StocksModelTest::writesNumbers()
-{
-    QFETCH(const double, number);
-    QFETCH(const bool, isPrice);
-    QFETCH(const QString, english);
-    QFETCH(const QString, german);
-    const QLocale before;
-    const auto written = [&](const QString &locale) {
-        QLocale::setDefault(QLocale(locale));
-        return isPrice ? QuoteFormat::price(number) : QuoteFormat::change(number);
-    };
-    const QStringList texts{written(u"en_US"_s), written(u"de_DE"_s)};
-    QLocale::setDefault(before);
-    QCOMPARE(texts, (QStringList{english, german}));
-}
-
-void StocksModelTest::sparkline()
-{
-    using Line = QPolygonF;
-    const QSizeF size(100, 20);
-    QCOMPARE(Sparkline::line({}, size), Line());
-    QCOMPARE(Sparkline::line({5}, size), Line());
-    QCOMPARE(Sparkline::line({5, 5, 5}, size), Line({{0, 20}, {50, 20}, {100, 20}}));
-    QCOMPARE(Sparkline::line({1, 3, 2}, size), Line({{0, 20}, {50, 0}, {100, 10}}));
-    QVERIFY(std::abs(Sparkline::line({1, 1 + 5e-5}, size).at(1).y() - 10) < 1e-6); // half of the least range
 }
 
 REGISTER_TEST(StocksModelTest);

@@ -4,11 +4,6 @@
 #include "Support/TestRegistry.h"
 
 #include <QLocale>
-#include <QSignalSpy>
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -48,9 +43,8 @@ private Q_SLOTS:
 
     void batteries_data()
     {
-        QTest::addColumn<QList<PowerSource>>("sources");
-        QTest::addColumn<int>("percent"); // -1: none
-        QTest::addColumn<bool>("charging");
+        // percent: -1: none
+        columns<QList<PowerSource>, int, bool>();
         const QString mains = QString::fromLatin1(PowerSource::kMains);
         QTest::newRow("none") << QList<PowerSource>() << -1 << false;
         QTest::newRow("almost full") << QList{source(4999, 5000)} << 100 << false;
@@ -62,9 +56,7 @@ private Q_SLOTS:
     }
     void batteries()
     {
-        QFETCH(const QList<PowerSource>, sources);
-        QFETCH(const int, percent);
-        QFETCH(const bool, charging);
+        const auto [sources, percent, charging] = fetched<QList<PowerSource>, int, bool>();
         Fakes::Core core;
         SystemModel &system = *core.services.model<SystemModel>();
         core.host.supplies = sources;

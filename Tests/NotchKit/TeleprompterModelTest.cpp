@@ -2,11 +2,6 @@
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
-#include <QSignalSpy>
-#include <QTest>
-
-using namespace Kestrune;
-
 /// The playback, driven by the hub's fast clock.
 class TeleprompterModelTest : public QObject
 {
@@ -15,9 +10,8 @@ class TeleprompterModelTest : public QObject
 private Q_SLOTS:
     void scrollsAtTheSpeed_data()
     {
-        QTest::addColumn<double>("speed");
-        QTest::addColumn<double>("maximum");
-        QTest::addColumn<double>("offset"); ///< After ten seconds.
+        // offset: after ten seconds
+        columns<double, double, double>();
         const double endless = std::numeric_limits<double>::infinity();
         QTest::newRow("default") << 28.0 << endless << 280.0;
         QTest::newRow("fast") << 140.0 << endless << 1400.0;
@@ -27,9 +21,7 @@ private Q_SLOTS:
 
     void scrollsAtTheSpeed()
     {
-        QFETCH(const double, speed);
-        QFETCH(const double, maximum);
-        QFETCH(const double, offset);
+        const auto [speed, maximum, offset] = fetched<double, double, double>();
         Fakes::Core core;
         core.settings.setPrompterSpeed(speed);
         core.services.start();

@@ -3,11 +3,6 @@
 #include "Support/Core.h"
 #include "Support/TestRegistry.h"
 
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString forecastAddress(const QString &latitude, const QString &longitude, const QString &end = {})
@@ -69,88 +64,213 @@ class WeatherModelTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void asksWhileOnScreen();
-    void figuresAndUnits();
+    void asksWhileOnScreen()
+    {
+        Stage stage;
+        stage.wait(3'600'000);
+        QCOMPARE(stage.asked(), 0);
+        stage.show(NotchTool::timer);
+        stage.wait(60'000);
+        QCOMPARE(stage.asked(), 0);
+        stage.show(NotchTool::weather);
+        QCOMPARE(stage.asked(), 1); // and it stays unanswered: no other
+        stage.wait(899'000);
+        stage.show(NotchTool::home);
+        QCOMPARE(stage.asked(), 1);
+        stage.wait(1000);
+        QCOMPARE(stage.asked(), 2);
+        stage.model.refresh(true);
+        QCOMPARE(stage.asked(), 3);
+        stage.settings.setColumn(HomeColumn::hidden, HomeWidget::weather);
+        stage.wait(3'600'000);
+        stage.show({});
+        stage.wait(3'600'000);
+        QCOMPARE(stage.asked(), 3);
+
+        Stage placeless(false);
+        placeless.show(NotchTool::weather);
+        placeless.model.refresh(true);
+        placeless.settings.setWeatherLatitude(1);
+        placeless.wait(5000);
+        QCOMPARE(placeless.asked(), 0);
+    }
+
+    void figuresAndUnits()
+    {
+        Stage stage;
+        QCOMPARE(stage.figures.temperature(), u"–"_s);
+        stage.show(NotchTool::weather);
+        stage.answer(good(kForecast));
+        QCOMPARE(stage.figures.symbol(), u"cloud.fill"_s);
+        QCOMPARE(stage.figures.temperature(), u"22°"_s);
+        QCOMPARE(stage.figures.wind(), u"Wind 9 km/h"_s);
+        QCOMPARE(stage.figures.range(), u"23° / −4°"_s);
+        QCOMPARE(stage.figures.days().size(), 2);
+        QCOMPARE(stage.figures.days().at(0).label, u"Today"_s); // the fake clock's day
+        QCOMPARE(stage.figures.days().at(1).high, u"0°"_s);
+
+        stage.settings.setUseFahrenheit(true);
+        QCOMPARE(stage.figures.wind(), u"Wind 9 km/h"_s);
+        stage.wait(1000);
+        stage.answer(good(R"({"current": {"temperature_2m": 71}})"));
+        QCOMPARE(stage.http.addresses(),
+                 (QStringList{forecastAddress(u"52.52"_s, u"-0.5"_s),
+                              forecastAddress(u"52.52"_s, u"-0.5"_s,
+                                              u"&temperature_unit=fahrenheit&wind_speed_unit=mph"_s)}));
+        QVERIFY(stage.http.asked.at(1).headers.isEmpty() && stage.http.asked.at(1).timeout.count() == 60'000);
+        QCOMPARE(stage.figures.temperature(), u"71°"_s);
+        QCOMPARE(stage.figures.wind(), QString()); // it was in the other unit
+
+        stage.settings.setWeatherLatitude(1e-5);
+        stage.settings.setWeatherLongitude(-180);
+        QCOMPARE(stage.figures.temperature(), u"–"_s); // it was another place's
+        stage.settings.setUseFahrenheit(false);
+        stage.wait(1000);
+        QCOMPARE(stage.http.addresses().last(), forecastAddress(u"0.00001"_s, u"-180"_s));
+    }
+
     void failuresKeepFigures_data();
-    void failuresKeepFigures();
-    void days_data();
-    void days();
-    void search_data();
-    void search();
-    void locationAndOverlaps();
-    void symbols();
+    void failuresKeepFigures()
+    {
+        const auto [status, body, temperature] = fetched<int, QByteArray, QString>();
+        Stage stage;
+        stage.model.refresh(true);
+        stage.answer(good(kForecast));
+        stage.model.refresh(true);
+        stage.answer({status, body});
+        const bool failed = temperature.isEmpty();
+        QCOMPARE(stage.model.error(), failed ? u"Weather is not available right now."_s : QString());
+        QCOMPARE(stage.figures.temperature(), failed ? u"22°"_s : temperature);
+        QCOMPARE(stage.figures.wind(), u"Wind 9 km/h"_s);
+        QCOMPARE(stage.model.code(), 3);
+        QCOMPARE(stage.model.days().size(), failed ? 2 : 0);
+        stage.model.refresh(true);
+        stage.answer(good(kForecast));
+        QCOMPARE(stage.model.error(), QString());
+    }
+
+    void days_data()
+    {
+        columns<QByteArray, QByteArray, QByteArray, QList<int>>();
+        const QByteArray three = R"("2027-01-01", "2027-01-02", "2027-01-03")";
+        const auto row = [](const char *name, const QByteArray &time, const QByteArray &code,
+                            const QByteArray &high, const QList<int> &dates) {
+            QTest::newRow(name) << time << code << high << dates;
+        };
+        row("whole", three, "1, 2, 3", "1, 2, 3", {1, 2, 3});
+        row("a list ends early", three, "1, 2, 3", "1, 2", {1, 2});
+        row("more than days", three, "1, 2, 3, 4", "1, 2, 3, 4", {1, 2, 3});
+        row("no list", three, "", "1, 2, 3", {});
+        row("bad dates", R"("1.1.2027", "2027-02-30", "2027-01-03")", "1, 2, 3", "1, 2, 3", {3});
+        row("date of another form", R"("2027-1-1", 5, "2027-01-03T00:00")", "1, 2, 3", "1, 2, 3", {});
+        row("a hole", three, "1, null, 3", "1, 2, 3", {1, 3});
+        row("wrong type", three, "1, 2, 3", "\"1\", 2, 3", {2, 3});
+    }
+
+    void days()
+    {
+        const auto [time, code, high, dates] = fetched<QByteArray, QByteArray, QByteArray, QList<int>>();
+        const auto forecast = parseForecast("{\"daily\": {\"time\": [" + time + "], \"weather_code\": [" +
+                                            code + "], \"temperature_2m_max\": [" + high +
+                                            "], \"temperature_2m_min\": [0, 0, 0, 0]}}");
+        QList<int> found;
+        for (const WeatherDay &day : forecast->days)
+            found.append(day.date.day());
+        QCOMPARE(found, dates);
+    }
+
+    void search_data()
+    {
+        // name: as it is sent; empty for no request
+        // city: empty where none is found
+        columns<QString, QString, QByteArray, QString>();
+        const auto row = [](const QString &query, const QString &name, const QByteArray &body,
+                            const QString &city = {}) {
+            QTest::addRow("%s %s", qPrintable(query), body.constData()) << query << name << body << city;
+        };
+        const QByteArray found = R"({"results": [{"name": "Found", "latitude": 1.5, "longitude": -2}, {}]})";
+        row(u" \t "_s, {}, {});
+        row(QString(QChar(0xd800)), {}, {});
+        row(u"  San José "_s, u"San%20Jos%C3%A9"_s, found, u"Found"_s);
+        row(u"a&name=b#c+d"_s, u"a%26name%3Db%23c%2Bd"_s, found, u"Found"_s);
+        row(u"Paris, FR"_s, u"Paris,%20FR"_s, R"({"results": [{"latitude": 1.5, "longitude": -2}]})",
+            u"Paris, FR"_s);
+        for (const char *body :
+             {"", "{}", R"({"results": []})", R"({"results": [{"latitude": 1.5}]})", "[]",
+              R"({"results": 5})", R"({"results": [{"latitude": "1.5", "longitude": -2}]})"})
+            row(u"x"_s, u"x"_s, body);
+    }
+
+    void search()
+    {
+        const auto [query, name, body, city] = fetched<QString, QString, QByteArray, QString>();
+        Stage stage;
+        stage.model.search(query);
+        QCOMPARE(stage.model.searching(), !name.isEmpty());
+        QCOMPARE(stage.asked(), name.isEmpty() ? 0 : 1);
+        if (name.isEmpty())
+            return;
+        QCOMPARE(stage.http.addresses().first(),
+                 u"https://geocoding-api.open-meteo.com/v1/search?count=1&language=en&name="_s + name);
+        stage.answer(good(body));
+        QVERIFY(!stage.model.searching());
+        QCOMPARE(stage.model.error(), city.isEmpty() ? u"City not found."_s : QString());
+        QCOMPARE(stage.settings.weatherCity(), city.isEmpty() ? u"Berlin"_s : city);
+        QCOMPARE(stage.settings.weatherLatitude(), city.isEmpty() ? 52.52 : 1.5);
+        QCOMPARE(stage.asked(), city.isEmpty() ? 1 : 2);
+        if (!city.isEmpty())
+            QCOMPARE(stage.http.addresses().last(), forecastAddress(u"1.5"_s, u"-2"_s));
+    }
+
+    void locationAndOverlaps()
+    {
+        Stage stage;
+        stage.locate(std::nullopt);
+        QCOMPARE(stage.model.error(), u"Location not available. Type a city instead."_s);
+        QCOMPARE(stage.settings.weatherCity(), u"Berlin"_s);
+        stage.locate(Coordinate{48.1, 11.6});
+        QCOMPARE(stage.model.error(), QString());
+        QCOMPARE(stage.settings.weatherCity(), u"My location"_s);
+        QCOMPARE(stage.http.addresses(), QStringList{forecastAddress(u"48.1"_s, u"11.6"_s)});
+
+        // What was asked for last counts.
+        stage.model.useCurrentLocation();
+        stage.model.search(u"Oslo"_s);
+        QVERIFY(!stage.model.locating() &&
+                stage.location.questions.isGivenUp(stage.location.questions.count() - 1));
+        stage.model.search(u"Rome"_s);
+        QVERIFY(stage.http.questions.isGivenUp(1) && stage.model.searching());
+        stage.answer(good(R"({"results": [{"latitude": 41.9, "longitude": 12.5}]})"));
+        QCOMPARE(stage.settings.weatherCity(), u"Rome"_s);
+        QVERIFY(stage.http.questions.isGivenUp(0));
+        stage.answer(good(kForecast));
+        QCOMPARE(stage.figures.temperature(), u"22°"_s);
+    }
+
+    void symbols()
+    {
+        const QMap<QString, QList<int>> codes{
+            {u"sun.max.fill"_s, {0}},
+            {u"cloud.sun.fill"_s, {1, 2}},
+            {u"cloud.fill"_s, {3}},
+            {u"cloud.fog.fill"_s, {45, 48}},
+            {u"cloud.drizzle.fill"_s, {51, 57}},
+            {u"cloud.rain.fill"_s, {61, 66, 67, 80, 81, 82}},
+            {u"cloud.snow.fill"_s, {71, 77, 85, 86}},
+            {u"cloud.bolt.rain.fill"_s, {95, 96, 99}},
+            {u"cloud.sun"_s, {-1, 4, 44, 46, 50, 58, 60, 68, 69, 70, 78, 79, 83, 84, 87, 94, 100}}};
+        for (auto row = codes.cbegin(); row != codes.cend(); ++row) {
+            for (const int code : row.value())
+                QCOMPARE(weatherSymbol(code), row.key());
+        }
+        QCOMPARE(weatherSymbol({}), u"cloud.sun"_s);
+    }
 };
-
-void WeatherModelTest::asksWhileOnScreen()
-{
-    Stage stage;
-    stage.wait(3'600'000);
-    QCOMPARE(stage.asked(), 0);
-    stage.show(NotchTool::timer);
-    stage.wait(60'000);
-    QCOMPARE(stage.asked(), 0);
-    stage.show(NotchTool::weather);
-    QCOMPARE(stage.asked(), 1); // and it stays unanswered: no other
-    stage.wait(899'000);
-    stage.show(NotchTool::home);
-    QCOMPARE(stage.asked(), 1);
-    stage.wait(1000);
-    QCOMPARE(stage.asked(), 2);
-    stage.model.refresh(true);
-    QCOMPARE(stage.asked(), 3);
-    stage.settings.setColumn(HomeColumn::hidden, HomeWidget::weather);
-    stage.wait(3'600'000);
-    stage.show({});
-    stage.wait(3'600'000);
-    QCOMPARE(stage.asked(), 3);
-
-    Stage placeless(false);
-    placeless.show(NotchTool::weather);
-    placeless.model.refresh(true);
-    placeless.settings.setWeatherLatitude(1);
-    placeless.wait(5000);
-    QCOMPARE(placeless.asked(), 0);
-}
-
-void WeatherModelTest::figuresAndUnits()
-{
-    Stage stage;
-    QCOMPARE(stage.figures.temperature(), u"–"_s);
-    stage.show(NotchTool::weather);
-    stage.answer(good(kForecast));
-    QCOMPARE(stage.figures.symbol(), u"cloud.fill"_s);
-    QCOMPARE(stage.figures.temperature(), u"22°"_s);
-    QCOMPARE(stage.figures.wind(), u"Wind 9 km/h"_s);
-    QCOMPARE(stage.figures.range(), u"23° / −4°"_s);
-    QCOMPARE(stage.figures.days().size(), 2);
-    QCOMPARE(stage.figures.days().at(0).label, u"Today"_s); // the fake clock's day
-    QCOMPARE(stage.figures.days().at(1).high, u"0°"_s);
-
-    stage.settings.setUseFahrenheit(true);
-    QCOMPARE(stage.figures.wind(), u"Wind 9 km/h"_s);
-    stage.wait(1000);
-    stage.answer(good(R"({"current": {"temperature_2m": 71}})"));
-    QCOMPARE(stage.http.addresses(),
-             (QStringList{forecastAddress(u"52.52"_s, u"-0.5"_s),
-                          forecastAddress(u"52.52"_s, u"-0.5"_s,
-                                          u"&temperature_unit=fahrenheit&wind_speed_unit=mph"_s)}));
-    QVERIFY(stage.http.asked.at(1).headers.isEmpty() && stage.http.asked.at(1).timeout.count() == 60'000);
-    QCOMPARE(stage.figures.temperature(), u"71°"_s);
-    QCOMPARE(stage.figures.wind(), QString()); // it was in the other unit
-
-    stage.settings.setWeatherLatitude(1e-5);
-    stage.settings.setWeatherLongitude(-180);
-    QCOMPARE(stage.figures.temperature(), u"–"_s); // it was another place's
-    stage.settings.setUseFahrenheit(false);
-    stage.wait(1000);
-    QCOMPARE(stage.http.addresses().last(), forecastAddress(u"0.00001"_s, u"-180"_s));
-}
 
 void WeatherModelTest::failuresKeepFigures_data()
 {
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QString>("temperature"); // and without a complaint, unless it is empty
+    // temperature: and without a complaint, unless it is empty
+    columns<int, QByteArray, QString>();
     QTest::newRow("no reply") << 0 << QByteArray() << QString();
     QTest::newRow("error page") << 503 << QByteArray("<html>") << QString();
     QTest::newRow("error in JSON") << 400 << kForecast << QString();
@@ -163,152 +283,6 @@ void WeatherModelTest::failuresKeepFigures_data()
                                                    "wind_speed_10m": null}, "daily": []})")
                                  << u"22°"_s;
     QTest::newRow("one figure") << 200 << QByteArray(R"({"current": {"temperature_2m": -1e1}})") << u"−10°"_s;
-}
-
-void WeatherModelTest::failuresKeepFigures()
-{
-    QFETCH(const int, status);
-    QFETCH(const QByteArray, body);
-    QFETCH(const QString, temperature);
-    Stage stage;
-    stage.model.refresh(true);
-    stage.answer(good(kForecast));
-    stage.model.refresh(true);
-    stage.answer({status, body});
-    const bool failed = temperature.isEmpty();
-    QCOMPARE(stage.model.error(), failed ? u"Weather is not available right now."_s : QString());
-    QCOMPARE(stage.figures.temperature(), failed ? u"22°"_s : temperature);
-    QCOMPARE(stage.figures.wind(), u"Wind 9 km/h"_s);
-    QCOMPARE(stage.model.code(), 3);
-    QCOMPARE(stage.model.days().size(), failed ? 2 : 0);
-    stage.model.refresh(true);
-    stage.answer(good(kForecast));
-    QCOMPARE(stage.model.error(), QString());
-}
-
-void WeatherModelTest::days_data()
-{
-    QTest::addColumn<QByteArray>("time");
-    QTest::addColumn<QByteArray>("code");
-    QTest::addColumn<QByteArray>("high");
-    QTest::addColumn<QList<int>>("dates");
-    const QByteArray three = R"("2027-01-01", "2027-01-02", "2027-01-03")";
-    const auto row = [](const char *name, const QByteArray &time, const QByteArray &code,
-                        const QByteArray &high,
-                        const QList<int> &dates) { QTest::newRow(name) << time << code << high << dates; };
-    row("whole", three, "1, 2, 3", "1, 2, 3", {1, 2, 3});
-    row("a list ends early", three, "1, 2, 3", "1, 2", {1, 2});
-    row("more than days", three, "1, 2, 3, 4", "1, 2, 3, 4", {1, 2, 3});
-    row("no list", three, "", "1, 2, 3", {});
-    row("bad dates", R"("1.1.2027", "2027-02-30", "2027-01-03")", "1, 2, 3", "1, 2, 3", {3});
-    row("date of another form", R"("2027-1-1", 5, "2027-01-03T00:00")", "1, 2, 3", "1, 2, 3", {});
-    row("a hole", three, "1, null, 3", "1, 2, 3", {1, 3});
-    row("wrong type", three, "1, 2, 3", "\"1\", 2, 3", {2, 3});
-}
-
-void WeatherModelTest::days()
-{
-    QFETCH(const QByteArray, time);
-    QFETCH(const QByteArray, code);
-    QFETCH(const QByteArray, high);
-    QFETCH(const QList<int>, dates);
-    const auto forecast =
-        parseForecast("{\"daily\": {\"time\": [" + time + "], \"weather_code\": [" + code +
-                      "], \"temperature_2m_max\": [" + high + "], \"temperature_2m_min\": [0, 0, 0, 0]}}");
-    QList<int> found;
-    for (const WeatherDay &day : forecast->days)
-        found.append(day.date.day());
-    QCOMPARE(found, dates);
-}
-
-void WeatherModelTest::search_data()
-{
-    QTest::addColumn<QString>("query");
-    QTest::addColumn<QString>("name"); // as it is sent; empty for no request
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<QString>("city"); // empty where none is found
-    const auto row = [](const QString &query, const QString &name, const QByteArray &body,
-                        const QString &city = {}) {
-        QTest::addRow("%s %s", qPrintable(query), body.constData()) << query << name << body << city;
-    };
-    const QByteArray found = R"({"results": [{"name": "Found", "latitude": 1.5, "longitude": -2}, {}]})";
-    row(u" \t "_s, {}, {});
-    row(QString(QChar(0xd800)), {}, {});
-    row(u"  San José "_s, u"San%20Jos%C3%A9"_s, found, u"Found"_s);
-    row(u"a&name=b#c+d"_s, u"a%26name%3Db%23c%2Bd"_s, found, u"Found"_s);
-    row(u"Paris, FR"_s, u"Paris,%20FR"_s, R"({"results": [{"latitude": 1.5, "longitude": -2}]})",
-        u"Paris, FR"_s);
-    for (const char *body : {"", "{}", R"({"results": []})", R"({"results": [{"latitude": 1.5}]})", "[]",
-                             R"({"results": 5})", R"({"results": [{"latitude": "1.5", "longitude": -2}]})"})
-        row(u"x"_s, u"x"_s, body);
-}
-
-void WeatherModelTest::search()
-{
-    QFETCH(const QString, query);
-    QFETCH(const QString, name);
-    QFETCH(const QByteArray, body);
-    QFETCH(const QString, city);
-    Stage stage;
-    stage.model.search(query);
-    QCOMPARE(stage.model.searching(), !name.isEmpty());
-    QCOMPARE(stage.asked(), name.isEmpty() ? 0 : 1);
-    if (name.isEmpty())
-        return;
-    QCOMPARE(stage.http.addresses().first(),
-             u"https://geocoding-api.open-meteo.com/v1/search?count=1&language=en&name="_s + name);
-    stage.answer(good(body));
-    QVERIFY(!stage.model.searching());
-    QCOMPARE(stage.model.error(), city.isEmpty() ? u"City not found."_s : QString());
-    QCOMPARE(stage.settings.weatherCity(), city.isEmpty() ? u"Berlin"_s : city);
-    QCOMPARE(stage.settings.weatherLatitude(), city.isEmpty() ? 52.52 : 1.5);
-    QCOMPARE(stage.asked(), city.isEmpty() ? 1 : 2);
-    if (!city.isEmpty())
-        QCOMPARE(stage.http.addresses().last(), forecastAddress(u"1.5"_s, u"-2"_s));
-}
-
-void WeatherModelTest::locationAndOverlaps()
-{
-    Stage stage;
-    stage.locate(std::nullopt);
-    QCOMPARE(stage.model.error(), u"Location not available. Type a city instead."_s);
-    QCOMPARE(stage.settings.weatherCity(), u"Berlin"_s);
-    stage.locate(Coordinate{48.1, 11.6});
-    QCOMPARE(stage.model.error(), QString());
-    QCOMPARE(stage.settings.weatherCity(), u"My location"_s);
-    QCOMPARE(stage.http.addresses(), QStringList{forecastAddress(u"48.1"_s, u"11.6"_s)});
-
-    // What was asked for last counts.
-    stage.model.useCurrentLocation();
-    stage.model.search(u"Oslo"_s);
-    QVERIFY(!stage.model.locating() &&
-            stage.location.questions.isGivenUp(stage.location.questions.count() - 1));
-    stage.model.search(u"Rome"_s);
-    QVERIFY(stage.http.questions.isGivenUp(1) && stage.model.searching());
-    stage.answer(good(R"({"results": [{"latitude": 41.9, "longitude": 12.5}]})"));
-    QCOMPARE(stage.settings.weatherCity(), u"Rome"_s);
-    QVERIFY(stage.http.questions.isGivenUp(0));
-    stage.answer(good(kForecast));
-    QCOMPARE(stage.figures.temperature(), u"22°"_s);
-}
-
-void WeatherModelTest::symbols()
-{
-    const QMap<QString, QList<int>> codes{
-        {u"sun.max.fill"_s, {0}},
-        {u"cloud.sun.fill"_s, {1, 2}},
-        {u"cloud.fill"_s, {3}},
-        {u"cloud.fog.fill"_s, {45, 48}},
-        {u"cloud.drizzle.fill"_s, {51, 57}},
-        {u"cloud.rain.fill"_s, {61, 66, 67, 80, 81, 82}},
-        {u"cloud.snow.fill"_s, {71, 77, 85, 86}},
-        {u"cloud.bolt.rain.fill"_s, {95, 96, 99}},
-        {u"cloud.sun"_s, {-1, 4, 44, 46, 50, 58, 60, 68, 69, 70, 78, 79, 83, 84, 87, 94, 100}}};
-    for (auto row = codes.cbegin(); row != codes.cend(); ++row) {
-        for (const int code : row.value())
-            QCOMPARE(weatherSymbol(code), row.key());
-    }
-    QCOMPARE(weatherSymbol({}), u"cloud.sun"_s);
 }
 
 REGISTER_TEST(WeatherModelTest);

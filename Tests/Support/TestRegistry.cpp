@@ -1,7 +1,6 @@
 #include "TestRegistry.h"
 
 #include <QGuiApplication>
-#include <QTest>
 
 #include <cstdio>
 #include <map>
@@ -38,7 +37,7 @@ int main(int argc, char *argv[])
     const QGuiApplication application(argc, argv);
     QStringList names = QGuiApplication::arguments().mid(1);
     const QString program = QGuiApplication::arguments().constFirst();
-    if (names.contains(QStringLiteral("--list"))) {
+    if (names.contains(u"--list"_s)) {
         for (const auto &[name, factory] : tests())
             std::puts(name.c_str());
         return 0;

@@ -63,7 +63,7 @@ public:
     /// Its file's name leaves no room for that of a new file beside it, which stops the superuser too.
     QString createReadOnly(const QByteArray &components) override
     {
-        const QString file = m_root.filePath(QString(250, QLatin1Char('x')) + u".ics"_s);
+        const QString file = m_root.filePath(QString(250, u'x') + u".ics"_s);
         write(file, calendar(components));
         return file;
     }

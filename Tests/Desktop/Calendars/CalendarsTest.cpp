@@ -3,12 +3,7 @@
 #include "NotchKit/Tools/Calendar/CalendarModel.h"
 #include "Support/TestRegistry.h"
 
-#include <QTest>
-
 #include <sys/stat.h>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 namespace {
 

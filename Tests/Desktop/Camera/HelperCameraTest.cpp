@@ -10,9 +10,6 @@
 #include <QDir>
 #include <QFile>
 
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 using Authorization = CameraAuthorization;
 
 namespace {
@@ -106,8 +103,7 @@ class HelperCameraTest : public QObject
 private Q_SLOTS:
     void asksThePortal_data()
     {
-        QTest::addColumn<QString>("behaviour");
-        QTest::addColumn<Authorization>("answer");
+        columns<QString, Authorization>();
         QTest::newRow("none") << u"none"_s << Authorization::authorized;
         QTest::newRow("no camera portal") << u"unknown"_s << Authorization::authorized;
         QTest::newRow("knows no camera") << u"absent"_s << Authorization::authorized;
@@ -120,8 +116,7 @@ private Q_SLOTS:
 
     void asksThePortal()
     {
-        QFETCH(const QString, behaviour);
-        QFETCH(const Authorization, answer);
+        const auto [behaviour, answer] = fetched<QString, Authorization>();
         BusStandIn portal(kPortal);
         if (behaviour != "none"_L1)
             QVERIFY(portal.appear([&](const QDBusMessage &call) { return reply(portal, call, behaviour); }));

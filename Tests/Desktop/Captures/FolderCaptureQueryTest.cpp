@@ -4,12 +4,8 @@
 #include "Support/Fakes.h"
 #include "Support/TestRegistry.h"
 
-#include <QTest>
-
 #include <sys/stat.h>
 #include <unistd.h>
-
-using namespace Kestrune;
 
 namespace {
 
@@ -48,7 +44,7 @@ struct Stage
     }
 };
 
-const QString kShot = QStringLiteral("Pictures/Screenshot from 2026-11-21 10-20-30.png");
+const QString kShot = u"Pictures/Screenshot from 2026-11-21 10-20-30.png"_s;
 
 } // namespace
 
@@ -57,308 +53,290 @@ class FolderCaptureQueryTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void names_data();
-    void names();
-    void folderNames();
-    void contentDecidesWhereTheNameDoesNot();
-    void settingsOfTools_data();
-    void settingsOfTools();
-    void followsFiles();
-    void waitsForWholeFiles_data();
-    void waitsForWholeFiles();
-    void followsFolders();
-    void keepsTheNewest();
-    void skipsWhatIsNoFile();
-    void access();
-    void stopsAndStartsAgain();
-};
+    void names_data()
+    {
+        QTest::addColumn<bool>("isScreenshot");
+        for (const char *name : {"Screenshot from 2026-11-21 10-20-30.png",
+                                 "Screenshot_2026-11-21_10-20-30.png",
+                                 "screenshot.webp",
+                                 "Screenshot_20261121_102030.png",
+                                 "Screenshot-3.JPG",
+                                 "Screen Shot 2026-11-21 at 10.20.30.png",
+                                 "Screenshot at 2026-11-21 10-20-30.png",
+                                 "2026-11-21_10-20.png",
+                                 "2026-11-21_10-20-30_2.png",
+                                 "2026-11-21-102030_1280x800_scrot.png",
+                                 "2026-11-21-102030_1280x800_scrot_000.png",
+                                 "20261121_10h20m30s_grim.png",
+                                 "ksnip_20261121-102030.png",
+                                 "Bildschirmfoto vom 2026-11-21 10-20-30.png",
+                                 "Bildschirmfoto_2026-11-21.png",
+                                 "Capture d’écran du 2026-11-21.png",
+                                 "Capture d'e\u0301cran_20261121.png",
+                                 "Captura de pantalla de 2026-11-21.png",
+                                 "Schermata del 2026-11-21.png",
+                                 "Istantanea_2026.png",
+                                 "Captura de tela de 2026-11-21.png",
+                                 "Schermafdruk van 2026-11-21.png",
+                                 "Zrzut ekranu z 2026.png",
+                                 "Снимок экрана от 2026-11-21.png",
+                                 "スクリーンショット 2026-11-21.png",
+                                 "截图录屏_选择区域_2026.png",
+                                 "屏幕截图 2026-11-21.png",
+                                 "스크린샷 2026-11-21.png",
+                                 "لقطة شاشة 2026-11-21.png"})
+            QTest::newRow(name) << true;
+        for (const char *name : {"IMG_20261121_102030.jpg", "2026-11-21_10-20.jpg", "20261121_102030.png",
+                                 "Screenshotter.png", "holiday screenshot plan.png", "Schermatazo.png",
+                                 "2026-11-21 Screens.png", "scrot.png", "ksnip.png"})
+            QTest::newRow(name) << false;
+    }
 
-void FolderCaptureQueryTest::names_data()
-{
-    QTest::addColumn<bool>("isScreenshot");
-    for (const char *name : {"Screenshot from 2026-11-21 10-20-30.png",
-                             "Screenshot_2026-11-21_10-20-30.png",
-                             "screenshot.webp",
-                             "Screenshot_20261121_102030.png",
-                             "Screenshot-3.JPG",
-                             "Screen Shot 2026-11-21 at 10.20.30.png",
-                             "Screenshot at 2026-11-21 10-20-30.png",
-                             "2026-11-21_10-20.png",
-                             "2026-11-21_10-20-30_2.png",
-                             "2026-11-21-102030_1280x800_scrot.png",
-                             "2026-11-21-102030_1280x800_scrot_000.png",
-                             "20261121_10h20m30s_grim.png",
-                             "ksnip_20261121-102030.png",
-                             "Bildschirmfoto vom 2026-11-21 10-20-30.png",
-                             "Bildschirmfoto_2026-11-21.png",
-                             "Capture d’écran du 2026-11-21.png",
-                             "Capture d'e\u0301cran_20261121.png",
-                             "Captura de pantalla de 2026-11-21.png",
-                             "Schermata del 2026-11-21.png",
-                             "Istantanea_2026.png",
-                             "Captura de tela de 2026-11-21.png",
-                             "Schermafdruk van 2026-11-21.png",
-                             "Zrzut ekranu z 2026.png",
-                             "Снимок экрана от 2026-11-21.png",
-                             "スクリーンショット 2026-11-21.png",
-                             "截图录屏_选择区域_2026.png",
-                             "屏幕截图 2026-11-21.png",
-                             "스크린샷 2026-11-21.png",
-                             "لقطة شاشة 2026-11-21.png"})
-        QTest::newRow(name) << true;
-    for (const char *name : {"IMG_20261121_102030.jpg", "2026-11-21_10-20.jpg", "20261121_102030.png",
-                             "Screenshotter.png", "holiday screenshot plan.png", "Schermatazo.png",
-                             "2026-11-21 Screens.png", "scrot.png", "ksnip.png"})
-        QTest::newRow(name) << false;
-}
+    void names()
+    {
+        const QString name = QString::fromUtf8(QTest::currentDataTag());
+        QVERIFY(ScreenshotNames::isPicture(name));
+        QTEST(ScreenshotNames().isScreenshot(name), "isScreenshot");
+    }
 
-void FolderCaptureQueryTest::names()
-{
-    const QString name = QString::fromUtf8(QTest::currentDataTag());
-    QVERIFY(ScreenshotNames::isPicture(name));
-    QTEST(ScreenshotNames().isScreenshot(name), "isScreenshot");
-}
+    void folderNames()
+    {
+        for (const char *name : {"Screenshots", "Bildschirmfotos", "Captures d’écran", "Schermate", "截图"})
+            QVERIFY2(ScreenshotNames::isScreenshotFolder(QString::fromUtf8(name)), name);
+        for (const char *name : {"Screen", "Screenshots of 2025", "Photos", "Capture"})
+            QVERIFY2(!ScreenshotNames::isScreenshotFolder(QString::fromUtf8(name)), name);
+        QVERIFY(!ScreenshotNames::isPicture(u"Screenshot.avif"_s));
+    }
 
-void FolderCaptureQueryTest::folderNames()
-{
-    for (const char *name : {"Screenshots", "Bildschirmfotos", "Captures d’écran", "Schermate", "截图"})
-        QVERIFY2(ScreenshotNames::isScreenshotFolder(QString::fromUtf8(name)), name);
-    for (const char *name : {"Screen", "Screenshots of 2025", "Photos", "Capture"})
-        QVERIFY2(!ScreenshotNames::isScreenshotFolder(QString::fromUtf8(name)), name);
-    QVERIFY(!ScreenshotNames::isPicture(QStringLiteral("Screenshot.avif")));
-}
+    void contentDecidesWhereTheNameDoesNot()
+    {
+        Stage stage;
+        const auto png = [](const char *software) {
+            return CaptureHome::picture({40, 30}, "png", QString::fromLatin1(software));
+        };
+        stage.home.write(u"Pictures/holiday.jpg"_s, CaptureHome::picture({40, 30}, "jpg"));
+        stage.home.write(u"Pictures/holiday.png"_s);
+        stage.home.write(u"Pictures/edited.png"_s, png("GIMP"));
+        stage.home.write(u"Pictures/text.png"_s, "no picture at all");
+        stage.home.write(u"Pictures/Trip/Screenshot.png"_s);
+        stage.home.write(u"Pictures/report.png"_s, png("gnome-screenshot"));
+        QVERIFY(stage.start());
+        QCOMPARE(stage.found(), QStringList{u"Pictures/report.png"_s});
+        stage.home.write(u"Desktop/other.png"_s);
+        stage.home.write(u"Desktop/door.png"_s, png("Spectacle"));
+        QVERIFY(stage.finds({u"Desktop/door.png"_s, u"Pictures/report.png"_s}));
+        stage.home.write(u"Pictures/Screenshots/any.jpg"_s, CaptureHome::picture({40, 30}, "jpg"));
+        QVERIFY(stage.finds(
+            {u"Pictures/Screenshots/any.jpg"_s, u"Desktop/door.png"_s, u"Pictures/report.png"_s}));
+    }
 
-void FolderCaptureQueryTest::contentDecidesWhereTheNameDoesNot()
-{
-    Stage stage;
-    const auto png = [](const char *software) {
-        return CaptureHome::picture({40, 30}, "png", QString::fromLatin1(software));
-    };
-    stage.home.write(QStringLiteral("Pictures/holiday.jpg"), CaptureHome::picture({40, 30}, "jpg"));
-    stage.home.write(QStringLiteral("Pictures/holiday.png"));
-    stage.home.write(QStringLiteral("Pictures/edited.png"), png("GIMP"));
-    stage.home.write(QStringLiteral("Pictures/text.png"), "no picture at all");
-    stage.home.write(QStringLiteral("Pictures/Trip/Screenshot.png"));
-    stage.home.write(QStringLiteral("Pictures/report.png"), png("gnome-screenshot"));
-    QVERIFY(stage.start());
-    QCOMPARE(stage.found(), QStringList{QStringLiteral("Pictures/report.png")});
-    stage.home.write(QStringLiteral("Desktop/other.png"));
-    stage.home.write(QStringLiteral("Desktop/door.png"), png("Spectacle"));
-    QVERIFY(stage.finds({QStringLiteral("Desktop/door.png"), QStringLiteral("Pictures/report.png")}));
-    stage.home.write(QStringLiteral("Pictures/Screenshots/any.jpg"), CaptureHome::picture({40, 30}, "jpg"));
-    QVERIFY(stage.finds({QStringLiteral("Pictures/Screenshots/any.jpg"), QStringLiteral("Desktop/door.png"),
-                         QStringLiteral("Pictures/report.png")}));
-}
+    void settingsOfTools_data()
+    {
+        columns<QString, QString, QString>();
+        const auto row = [](const char *name, const char *file, const char *setting, const char *capture) {
+            QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(setting)
+                                << QString::fromLatin1(capture);
+        };
+        row("xfce", "xfce4/xfce4-screenshooter", "screenshot_dir=file:HOME/office\n",
+            "office/Screenshot_1.png");
+        row("xfce's title", "xfce4/xfce4-screenshooter", "title=My %shot\nscreenshot_dir=file://HOME/w%20k\n",
+            "w k/My %shot_2026-11-21_10-20-30-1.png");
+        row("flameshot", "flameshot/flameshot.ini",
+            "[General]\nsavePath=HOME/office\nfilenamePattern=\"take %d.%m.%y, %H.%M %%\"\n",
+            "office/take 21.11.26, 10.20 %.png");
+        row("spectacle", "spectaclerc", "[Save]\ndefaultSaveLocation[$e]=file://$HOME/office\n",
+            "office/Screenshot_2026.png");
+        row("spectacle's later", "spectaclerc", "[ImageSave]\nimageSaveLocation=file://HOME/office/\n",
+            "office/Screenshot_2026.png");
+        row("desktop elsewhere", "user-dirs.dirs", "XDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n",
+            "Schreibtisch/Screenshot.png");
+        row("own choice", "", "", "mine/any name.png");
+    }
 
-void FolderCaptureQueryTest::settingsOfTools_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("setting");
-    QTest::addColumn<QString>("capture");
-    const auto row = [](const char *name, const char *file, const char *setting, const char *capture) {
-        QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(setting)
-                            << QString::fromLatin1(capture);
-    };
-    row("xfce", "xfce4/xfce4-screenshooter", "screenshot_dir=file:HOME/office\n", "office/Screenshot_1.png");
-    row("xfce's title", "xfce4/xfce4-screenshooter", "title=My %shot\nscreenshot_dir=file://HOME/w%20k\n",
-        "w k/My %shot_2026-11-21_10-20-30-1.png");
-    row("flameshot", "flameshot/flameshot.ini",
-        "[General]\nsavePath=HOME/office\nfilenamePattern=\"take %d.%m.%y, %H.%M %%\"\n",
-        "office/take 21.11.26, 10.20 %.png");
-    row("spectacle", "spectaclerc", "[Save]\ndefaultSaveLocation[$e]=file://$HOME/office\n",
-        "office/Screenshot_2026.png");
-    row("spectacle's later", "spectaclerc", "[ImageSave]\nimageSaveLocation=file://HOME/office/\n",
-        "office/Screenshot_2026.png");
-    row("desktop elsewhere", "user-dirs.dirs", "XDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n",
-        "Schreibtisch/Screenshot.png");
-    row("own choice", "", "", "mine/any name.png");
-}
+    void settingsOfTools()
+    {
+        const auto [file, setting, capture] = fetched<QString, QString, QString>();
+        const auto set = [&](Stage &stage) {
+            QString text = setting;
+            text.replace(u"HOME/"_s, stage.home.folder.path() + u'/');
+            text.replace(u'$' + stage.home.folder.path(), u"$HOME"_s);
+            if (file.isEmpty())
+                stage.preferences.setObject(FolderCaptureQuery::locationKey(), u"~/mine"_s);
+            else
+                stage.home.write(u".config/"_s + file, text.toUtf8());
+        };
+        Stage early;
+        early.home.write(capture);
+        QVERIFY(early.start() && early.found().isEmpty());
+        set(early);
+        early.query.requestAccess();
+        QVERIFY(early.finds({capture}));
 
-void FolderCaptureQueryTest::settingsOfTools()
-{
-    QFETCH(const QString, file);
-    QFETCH(const QString, setting);
-    QFETCH(const QString, capture);
-    const auto set = [&](Stage &stage) {
-        QString text = setting;
-        text.replace(QStringLiteral("HOME/"), stage.home.folder.path() + u'/');
-        text.replace(u'$' + stage.home.folder.path(), QStringLiteral("$HOME"));
+        Stage late; // the folder comes after the setting, and the setting after the start
+        QVERIFY(late.start());
+        set(late);
         if (file.isEmpty())
-            stage.preferences.setObject(FolderCaptureQuery::locationKey(), QStringLiteral("~/mine"));
-        else
-            stage.home.write(QStringLiteral(".config/") + file, text.toUtf8());
-    };
-    Stage early;
-    early.home.write(capture);
-    QVERIFY(early.start() && early.found().isEmpty());
-    set(early);
-    early.query.requestAccess();
-    QVERIFY(early.finds({capture}));
-
-    Stage late; // the folder comes after the setting, and the setting after the start
-    QVERIFY(late.start());
-    set(late);
-    if (file.isEmpty())
-        late.query.requestAccess();
-    QTest::qWait(100);
-    late.home.write(capture);
-    QVERIFY(late.finds({capture}));
-}
-
-void FolderCaptureQueryTest::followsFiles()
-{
-    Stage stage;
-    stage.home.write(kShot);
-    QVERIFY(stage.start());
-    QCOMPARE(stage.found(), QStringList{kShot});
-    const QDateTime age = stage.query.results().first().created;
-    QVERIFY(std::abs(age.secsTo(QDateTime::currentDateTimeUtc())) < 10);
-
-    const QString second = QStringLiteral("Pictures/Screenshot_2.png");
-    stage.home.write(QStringLiteral("Pictures/.hidden.png"));
-    const QString hidden = stage.home.path(QStringLiteral("Pictures/.hidden.png"));
-    QVERIFY(QFile::rename(hidden, stage.home.path(second)) && stage.finds({second, kShot}));
-    const QString linked = QStringLiteral("Screenshot_3.png");
-    const QString outside = stage.home.write(QStringLiteral("elsewhere/a"));
-    QCOMPARE(::link(qPrintable(outside), qPrintable(stage.home.path(linked))), 0);
-    QVERIFY(stage.finds({linked, second, kShot}));
-
-    QVERIFY(QFile::remove(stage.home.path(second)) && stage.finds({linked, kShot}));
-    QVERIFY(QFile::rename(stage.home.path(linked), stage.home.path(QStringLiteral("notes.png"))));
-    QVERIFY(stage.finds({kShot}));
-    const QDateTime before = stage.query.results().first().modified;
-    QTest::qWait(20);
-    stage.home.write(kShot, CaptureHome::picture({50, 50}));
-    QTRY_VERIFY(stage.query.results().value(0).modified > before);
-    QCOMPARE(stage.query.results().first().created, age);
-}
-
-void FolderCaptureQueryTest::waitsForWholeFiles_data()
-{
-    QTest::addColumn<QByteArray>("format");
-    for (const char *format : {"png", "jpg", "webp"})
-        QTest::newRow(format) << QByteArray(format);
-}
-
-void FolderCaptureQueryTest::waitsForWholeFiles()
-{
-    QFETCH(const QByteArray, format);
-    Stage stage;
-    const QString name = QStringLiteral("Pictures/Screenshot.") + QString::fromLatin1(format);
-    const QByteArray bytes = CaptureHome::picture({400, 300}, format.constData());
-    QVERIFY(bytes.size() > 40);
-    stage.home.write(name, bytes.left(bytes.size() / 2));
-    QVERIFY(stage.start() && stage.found().isEmpty());
-    stage.home.write(name, bytes.chopped(1));
-    QVERIFY(stage.findsNoMoreThan({}));
-    QFile file(stage.home.path(name));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes.chopped(20)) > 0 && file.flush());
-    QVERIFY(stage.findsNoMoreThan({}));
-    QVERIFY(file.write(bytes.right(20)) == 20 && file.flush());
-    file.close();
-    QVERIFY(stage.finds({name}));
-}
-
-void FolderCaptureQueryTest::followsFolders()
-{
-    Stage stage;
-    QDir home(stage.home.folder.path());
-    QVERIFY(stage.start() && home.rmdir(QStringLiteral("Pictures")));
-    stage.home.write(kShot); // made with its folder, faster than any watch
-    QVERIFY(stage.finds({kShot}));
-    QVERIFY(home.rename(QStringLiteral("Pictures"), QStringLiteral("Old")) && stage.finds({}));
-    stage.home.write(QStringLiteral("Old/Screenshot_2.png"));
-    QVERIFY(stage.findsNoMoreThan({}));
-    QVERIFY(home.rename(QStringLiteral("Old"), QStringLiteral("Pictures")));
-    QVERIFY(stage.finds({QStringLiteral("Pictures/Screenshot_2.png"), kShot}));
-
-    // A link to a folder elsewhere, as a second disk is joined; and one that leads nowhere.
-    QVERIFY(home.rename(QStringLiteral("Pictures"), QStringLiteral("Disk")) && stage.finds({}));
-    QVERIFY(QFile::link(QStringLiteral("Pictures"), stage.home.path(QStringLiteral("Pictures"))));
-    QVERIFY(stage.findsNoMoreThan({}));
-    QVERIFY(home.remove(QStringLiteral("Pictures")));
-    QVERIFY(QFile::link(QStringLiteral("Disk"), stage.home.path(QStringLiteral("Pictures"))));
-    QVERIFY(stage.finds({QStringLiteral("Pictures/Screenshot_2.png"), kShot}));
-    QVERIFY(QFile::remove(stage.home.path(QStringLiteral("Disk/Screenshot_2.png"))) && stage.finds({kShot}));
-}
-
-void FolderCaptureQueryTest::keepsTheNewest()
-{
-    Stage stage;
-    QStringList newest;
-    for (int i = 0; i < 60; ++i) {
-        newest.prepend(QStringLiteral("Pictures/Screenshot_%1.png").arg(i));
-        stage.home.write(newest.first());
+            late.query.requestAccess();
+        QTest::qWait(100);
+        late.home.write(capture);
+        QVERIFY(late.finds({capture}));
     }
-    QVERIFY(stage.start());
-    QCOMPARE(stage.found(), newest.first(48));
-    for (int i = 0; i < 30; ++i)
-        QFile::remove(stage.home.path(newest.takeFirst()));
-    QVERIFY(stage.finds(newest));
-}
 
-void FolderCaptureQueryTest::skipsWhatIsNoFile()
-{
-    Stage stage;
-    const auto path = [&](const char *name) {
-        return stage.home.path(QStringLiteral("Pictures/Screenshot_") + QString::fromLatin1(name)).toUtf8();
-    };
-    const auto makeAll = [&] {
-        QCOMPARE(::mkfifo(path("fifo.png").constData(), 0600), 0);
-        QCOMPARE(::symlink("/dev/zero", path("zero.png").constData()), 0);
-        QCOMPARE(::symlink("Screenshot_loop.png", path("loop.png").constData()), 0);
-        QCOMPARE(::mkdir(path("folder.png").constData(), 0700), 0);
-    };
-    makeAll();
-    stage.home.write(QStringLiteral("Pictures/Screenshot_empty.png"), {});
-    stage.home.write(kShot);
-    QVERIFY(stage.start());
-    QCOMPARE(stage.found(), QStringList{kShot});
-    QVERIFY(QDir(stage.home.path(QStringLiteral("Pictures"))).removeRecursively() && stage.finds({}));
-    stage.home.write(kShot);
-    makeAll();
-    QVERIFY(stage.finds({kShot}) && stage.findsNoMoreThan({kShot}));
-}
+    void followsFiles()
+    {
+        Stage stage;
+        stage.home.write(kShot);
+        QVERIFY(stage.start());
+        QCOMPARE(stage.found(), QStringList{kShot});
+        const QDateTime age = stage.query.results().first().created;
+        QVERIFY(std::abs(age.secsTo(QDateTime::currentDateTimeUtc())) < 10);
 
-void FolderCaptureQueryTest::access()
-{
-    Stage stage;
-    const QByteArray pictures = stage.home.path(QStringLiteral("Pictures")).toUtf8();
-    stage.home.write(kShot);
-    ::chmod(pictures.constData(), 0300);
-    const bool isRoot = ::geteuid() == 0; // who may read everything
-    if (isRoot) {
-        for (const QByteArray &path : {stage.home.folder.path().toUtf8(), pictures})
-            QCOMPARE(::chown(path.constData(), 65534, 65534), 0);
-        QCOMPARE(::seteuid(65534), 0);
+        const QString second = u"Pictures/Screenshot_2.png"_s;
+        stage.home.write(u"Pictures/.hidden.png"_s);
+        const QString hidden = stage.home.path(u"Pictures/.hidden.png"_s);
+        QVERIFY(QFile::rename(hidden, stage.home.path(second)) && stage.finds({second, kShot}));
+        const QString linked = u"Screenshot_3.png"_s;
+        const QString outside = stage.home.write(u"elsewhere/a"_s);
+        QCOMPARE(::link(qPrintable(outside), qPrintable(stage.home.path(linked))), 0);
+        QVERIFY(stage.finds({linked, second, kShot}));
+
+        QVERIFY(QFile::remove(stage.home.path(second)) && stage.finds({linked, kShot}));
+        QVERIFY(QFile::rename(stage.home.path(linked), stage.home.path(u"notes.png"_s)));
+        QVERIFY(stage.finds({kShot}));
+        const QDateTime before = stage.query.results().first().modified;
+        QTest::qWait(20);
+        stage.home.write(kShot, CaptureHome::picture({50, 50}));
+        QTRY_VERIFY(stage.query.results().value(0).modified > before);
+        QCOMPARE(stage.query.results().first().created, age);
     }
-    const auto restore = qScopeGuard([&] { std::ignore = isRoot ? ::seteuid(0) : 0; });
-    QVERIFY(stage.start());
-    QVERIFY(stage.query.isAccessMissing() && stage.found().isEmpty());
-    ::chmod(pictures.constData(), 0700);
-    QVERIFY(stage.finds({kShot}) && !stage.query.isAccessMissing());
-}
 
-void FolderCaptureQueryTest::stopsAndStartsAgain()
-{
-    Stage stage;
-    stage.home.write(kShot);
-    QVERIFY(stage.start());
-    stage.query.stop();
-    QVERIFY(stage.found().isEmpty());
-    const int calls = stage.calls;
-    stage.home.write(QStringLiteral("Screenshot.png"));
-    stage.query.requestAccess();
-    QTest::qWait(200);
-    QCOMPARE(stage.calls, calls);
-    for (int i = 0; i < 20; ++i) {
-        stage.query.start();
+    void waitsForWholeFiles_data()
+    {
+        QTest::addColumn<QByteArray>("format");
+        for (const char *format : {"png", "jpg", "webp"})
+            QTest::newRow(format) << QByteArray(format);
+    }
+
+    void waitsForWholeFiles()
+    {
+        QFETCH(const QByteArray, format);
+        Stage stage;
+        const QString name = u"Pictures/Screenshot."_s + QString::fromLatin1(format);
+        const QByteArray bytes = CaptureHome::picture({400, 300}, format.constData());
+        QVERIFY(bytes.size() > 40);
+        stage.home.write(name, bytes.left(bytes.size() / 2));
+        QVERIFY(stage.start() && stage.found().isEmpty());
+        stage.home.write(name, bytes.chopped(1));
+        QVERIFY(stage.findsNoMoreThan({}));
+        QFile file(stage.home.path(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes.chopped(20)) > 0 && file.flush());
+        QVERIFY(stage.findsNoMoreThan({}));
+        QVERIFY(file.write(bytes.right(20)) == 20 && file.flush());
+        file.close();
+        QVERIFY(stage.finds({name}));
+    }
+
+    void followsFolders()
+    {
+        Stage stage;
+        QDir home(stage.home.folder.path());
+        QVERIFY(stage.start() && home.rmdir(u"Pictures"_s));
+        stage.home.write(kShot); // made with its folder, faster than any watch
+        QVERIFY(stage.finds({kShot}));
+        QVERIFY(home.rename(u"Pictures"_s, u"Old"_s) && stage.finds({}));
+        stage.home.write(u"Old/Screenshot_2.png"_s);
+        QVERIFY(stage.findsNoMoreThan({}));
+        QVERIFY(home.rename(u"Old"_s, u"Pictures"_s));
+        QVERIFY(stage.finds({u"Pictures/Screenshot_2.png"_s, kShot}));
+
+        // A link to a folder elsewhere, as a second disk is joined; and one that leads nowhere.
+        QVERIFY(home.rename(u"Pictures"_s, u"Disk"_s) && stage.finds({}));
+        QVERIFY(QFile::link(u"Pictures"_s, stage.home.path(u"Pictures"_s)));
+        QVERIFY(stage.findsNoMoreThan({}));
+        QVERIFY(home.remove(u"Pictures"_s));
+        QVERIFY(QFile::link(u"Disk"_s, stage.home.path(u"Pictures"_s)));
+        QVERIFY(stage.finds({u"Pictures/Screenshot_2.png"_s, kShot}));
+        QVERIFY(QFile::remove(stage.home.path(u"Disk/Screenshot_2.png"_s)) && stage.finds({kShot}));
+    }
+
+    void keepsTheNewest()
+    {
+        Stage stage;
+        QStringList newest;
+        for (int i = 0; i < 60; ++i) {
+            newest.prepend(u"Pictures/Screenshot_%1.png"_s.arg(i));
+            stage.home.write(newest.first());
+        }
+        QVERIFY(stage.start());
+        QCOMPARE(stage.found(), newest.first(48));
+        for (int i = 0; i < 30; ++i)
+            QFile::remove(stage.home.path(newest.takeFirst()));
+        QVERIFY(stage.finds(newest));
+    }
+
+    void skipsWhatIsNoFile()
+    {
+        Stage stage;
+        const auto path = [&](const char *name) {
+            return stage.home.path(u"Pictures/Screenshot_"_s + QString::fromLatin1(name)).toUtf8();
+        };
+        const auto makeAll = [&] {
+            QCOMPARE(::mkfifo(path("fifo.png").constData(), 0600), 0);
+            QCOMPARE(::symlink("/dev/zero", path("zero.png").constData()), 0);
+            QCOMPARE(::symlink("Screenshot_loop.png", path("loop.png").constData()), 0);
+            QCOMPARE(::mkdir(path("folder.png").constData(), 0700), 0);
+        };
+        makeAll();
+        stage.home.write(u"Pictures/Screenshot_empty.png"_s, {});
+        stage.home.write(kShot);
+        QVERIFY(stage.start());
+        QCOMPARE(stage.found(), QStringList{kShot});
+        QVERIFY(QDir(stage.home.path(u"Pictures"_s)).removeRecursively() && stage.finds({}));
+        stage.home.write(kShot);
+        makeAll();
+        QVERIFY(stage.finds({kShot}) && stage.findsNoMoreThan({kShot}));
+    }
+
+    void access()
+    {
+        Stage stage;
+        const QByteArray pictures = stage.home.path(u"Pictures"_s).toUtf8();
+        stage.home.write(kShot);
+        ::chmod(pictures.constData(), 0300);
+        const bool isRoot = ::geteuid() == 0; // who may read everything
+        if (isRoot) {
+            for (const QByteArray &path : {stage.home.folder.path().toUtf8(), pictures})
+                QCOMPARE(::chown(path.constData(), 65534, 65534), 0);
+            QCOMPARE(::seteuid(65534), 0);
+        }
+        const auto restore = qScopeGuard([&] { std::ignore = isRoot ? ::seteuid(0) : 0; });
+        QVERIFY(stage.start());
+        QVERIFY(stage.query.isAccessMissing() && stage.found().isEmpty());
+        ::chmod(pictures.constData(), 0700);
+        QVERIFY(stage.finds({kShot}) && !stage.query.isAccessMissing());
+    }
+
+    void stopsAndStartsAgain()
+    {
+        Stage stage;
+        stage.home.write(kShot);
+        QVERIFY(stage.start());
         stage.query.stop();
+        QVERIFY(stage.found().isEmpty());
+        const int calls = stage.calls;
+        stage.home.write(u"Screenshot.png"_s);
+        stage.query.requestAccess();
+        QTest::qWait(200);
+        QCOMPARE(stage.calls, calls);
+        for (int i = 0; i < 20; ++i) {
+            stage.query.start();
+            stage.query.stop();
+        }
+        stage.query.start();
+        QVERIFY(stage.finds({u"Screenshot.png"_s, kShot}));
+        QCOMPARE(stage.calls, calls + 1);
     }
-    stage.query.start();
-    QVERIFY(stage.finds({QStringLiteral("Screenshot.png"), kShot}));
-    QCOMPARE(stage.calls, calls + 1);
-}
+};
 
 REGISTER_TEST(FolderCaptureQueryTest);
 #include "FolderCaptureQueryTest.moc"

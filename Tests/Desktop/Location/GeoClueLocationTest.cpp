@@ -4,10 +4,6 @@
 #include "Support/TestRegistry.h"
 
 #include <QDBusObjectPath>
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -44,8 +40,8 @@ private Q_SLOTS:
 
     void fixes_data()
     {
-        QTest::addColumn<QString>("refused"); // the call that the service refuses
-        QTest::addColumn<bool>("found");
+        // refused: the call that the service refuses
+        columns<QString, bool>();
         QTest::newRow("a place") << QString() << true;
         QTest::newRow("no client") << u"GetClient"_s << false;
         QTest::newRow("not allowed") << u"Start"_s << false;
@@ -53,8 +49,7 @@ private Q_SLOTS:
 
     void fixes()
     {
-        QFETCH(const QString, refused);
-        QFETCH(const bool, found);
+        const auto [refused, found] = fetched<QString, bool>();
         QVERIFY(m_service->appear([&](const QDBusMessage &call) { return answer(call, refused); }));
         auto location = std::make_unique<GeoClueLocation>();
         for (int i = 0; i < 2; ++i) {
@@ -85,7 +80,7 @@ private:
     static bool destroyed(std::unique_ptr<GeoClueLocation> &location)
     {
         location.reset();
-        return QTest::qWaitFor([] { return Threads::waitForAll(std::chrono::milliseconds(0)); });
+        return QTest::qWaitFor([] { return Threads::waitForAll(0ms); });
     }
 
     std::optional<QDBusMessage> answer(const QDBusMessage &call, const QString &refused) const

@@ -10,9 +10,6 @@
 
 #include <sys/stat.h>
 
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 Q_DECLARE_METATYPE(ScriptOutcome)
 
 namespace {
@@ -86,240 +83,231 @@ class MprisTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void status_data();
-    void status();
-    void theBestPlayerCounts();
-    void aHangingPlayerHoldsNobodyUp();
-    void refusals();
-    void commandsAndCoversAreForTheOneThatShows();
-    void covers_data();
-    void covers();
-    void knownScriptsOnly();
-    void runningPlayers();
-};
-
-void MprisTest::status_data()
-{
-    QTest::addColumn<QVariantMap>("song");
-    QTest::addColumn<QVariant>("state");
-    QTest::addColumn<QVariant>("position");
-    QTest::addColumn<QString>("status");
-    const QVariant on = u"Playing"_s;
-    const QVariant at = 2'500'000LL;
-    const QVariantMap full{{u"xesam:title"_s, u"Sång"_s},
-                           {u"xesam:artist"_s, QStringList{u"One"_s, u"Two"_s}},
-                           {u"mpris:length"_s, 215'500'000LL}};
-    const auto with = [&](const QString &key, const QVariant &value) {
-        QVariantMap song = full;
-        song.insert(key, value);
-        return song;
-    };
-    QTest::newRow("playing") << full << on << at << u"playing|Sång|One, Two|215.500|2.500"_s;
-    QTest::newRow("paused") << full << QVariant(u"Paused"_s) << at << u"paused|Sång|One, Two|215.500|2.500"_s;
-    QTest::newRow("stopped") << full << QVariant(u"Stopped"_s) << at << u""_s;
-    QTest::newRow("no state") << full << QVariant(7) << at << u""_s;
-    QTest::newRow("lines") << with(u"xesam:title"_s, u" a\nb\r\n c"_s) << on << at
-                           << u"playing|a b c|One, Two|215.500|2.500"_s;
-    QTest::newRow("other types") << QVariantMap{{u"xesam:title"_s, u"T"_s},
-                                                {u"xesam:artist"_s, u"One"_s},
-                                                {u"mpris:length"_s, quint64{1'000'000}}}
-                                 << on << QVariant(1'500'000.0) << u"playing|T|One|1.000|1.500"_s;
-    QTest::newRow("nonsense") << QVariantMap{{u"xesam:title"_s, QStringList{u"T"_s, u"U"_s}},
-                                             {u"xesam:artist"_s, QVariantMap{{u"a"_s, 1}}},
-                                             {u"mpris:length"_s, -9LL}}
-                              << on << QVariant(u"x"_s) << u"playing|vlc||0.000|0.000"_s;
-    QTest::newRow("file") << QVariantMap{{u"xesam:url"_s, u"file:///music/My%20song.mp3"_s}} << on << at
-                          << u"playing|My song.mp3||0.000|2.500"_s;
-    QTest::newRow("nothing known") << QVariantMap() << on << at << u"playing|vlc||0.000|2.500"_s;
-    QTest::newRow("long") << QVariantMap{{u"xesam:title"_s, QString(50'000, u'x')}} << on << at
-                          << u"playing|%1||0.000|2.500"_s.arg(QString(1000, u'x'));
-}
-
-void MprisTest::status()
-{
-    QFETCH(const QVariantMap, song);
-    Stage stage;
-    Player &player = stage.add(u"vlc.instance77"_s);
-    player.song = song;
-    QFETCH(const QVariant, state);
-    QFETCH(const QVariant, position);
-    player.state = state;
-    player.position = position;
-    QTEST(stage.status(kMusic), "status");
-    QCOMPARE(stage.status(kSpotify), u"failed"_s);
-    QCOMPARE(player.called().constFirst(),
-             u"/org/mpris/MediaPlayer2 org.freedesktop.DBus.Properties.GetAll"_s);
-}
-
-void MprisTest::theBestPlayerCounts()
-{
-    Stage stage;
-    Player &mpv = stage.add(u"mpv"_s);
-    Player &vlc = stage.add(u"vlc"_s);
-    Player &spotify = stage.add(u"spotify"_s);
-    stage.add(u"playerctld"_s).song = {{u"xesam:title"_s, u"an echo"_s}};
-    spotify.song.insert(u"mpris:length"_s, 1'500'000LL);
-    const auto set = [](Player &player, const QString &state) { player.state = state; };
-    set(mpv, u"Paused"_s);
-    QCOMPARE(stage.title(kMusic), u"vlc song"_s);
-    set(mpv, u"Playing"_s); // the last one that began
-    QCOMPARE(stage.title(kMusic), u"mpv song"_s);
-    vlc.song.insert(u"xesam:title"_s, u"another"_s);
-    QCOMPARE(stage.title(kMusic), u"another"_s);
-    set(vlc, u"Paused"_s);
-    QCOMPARE(stage.title(kMusic), u"mpv song"_s);
-    set(mpv, u"Paused"_s); // the last one that was paused
-    QCOMPARE(stage.title(kMusic), u"mpv song"_s);
-    set(mpv, u"Stopped"_s);
-    QCOMPARE(stage.title(kMusic), u"another"_s);
-    set(vlc, u"Stopped"_s);
-    QCOMPARE(stage.status(kMusic), u""_s);
-    QCOMPARE(stage.status(kSpotify), u"playing|spotify song||1500|2.500"_s);
-}
-
-void MprisTest::aHangingPlayerHoldsNobodyUp()
-{
-    Stage stage;
-    Player &spotify = stage.add(u"spotify"_s);
-    Player &mpv = stage.add(u"mpv"_s);
-    stage.add(u"vlc"_s);
-    spotify.hangs = mpv.hangs = true;
-    QCOMPARE(stage.title(kMusic), u"vlc song"_s);
-    QCOMPARE(stage.status(kSpotify), u"failed"_s);
-    qint64 fastest =
-        stage.milliseconds; // The slowest machine has one round in which nothing but a wait takes long.
-    QVERIFY(fastest >= 400);
-    for (int i = 0; i < 10; ++i) {
-        QCOMPARE(stage.title(kMusic), u"vlc song"_s);
-        const qint64 music = stage.milliseconds;
-        QCOMPARE(stage.status(kSpotify), u"failed"_s);
-        fastest = std::min(fastest, std::max(music, stage.milliseconds));
+    void status_data()
+    {
+        QTest::addColumn<QVariantMap>("song");
+        QTest::addColumn<QVariant>("state");
+        QTest::addColumn<QVariant>("position");
+        QTest::addColumn<QString>("status");
+        const QVariant on = u"Playing"_s;
+        const QVariant at = 2'500'000LL;
+        const QVariantMap full{{u"xesam:title"_s, u"Sång"_s},
+                               {u"xesam:artist"_s, QStringList{u"One"_s, u"Two"_s}},
+                               {u"mpris:length"_s, 215'500'000LL}};
+        const auto with = [&](const QString &key, const QVariant &value) {
+            QVariantMap song = full;
+            song.insert(key, value);
+            return song;
+        };
+        QTest::newRow("playing") << full << on << at << u"playing|Sång|One, Two|215.500|2.500"_s;
+        QTest::newRow("paused") << full << QVariant(u"Paused"_s) << at
+                                << u"paused|Sång|One, Two|215.500|2.500"_s;
+        QTest::newRow("stopped") << full << QVariant(u"Stopped"_s) << at << u""_s;
+        QTest::newRow("no state") << full << QVariant(7) << at << u""_s;
+        QTest::newRow("lines") << with(u"xesam:title"_s, u" a\nb\r\n c"_s) << on << at
+                               << u"playing|a b c|One, Two|215.500|2.500"_s;
+        QTest::newRow("other types") << QVariantMap{{u"xesam:title"_s, u"T"_s},
+                                                    {u"xesam:artist"_s, u"One"_s},
+                                                    {u"mpris:length"_s, quint64{1'000'000}}}
+                                     << on << QVariant(1'500'000.0) << u"playing|T|One|1.000|1.500"_s;
+        QTest::newRow("nonsense") << QVariantMap{{u"xesam:title"_s, QStringList{u"T"_s, u"U"_s}},
+                                                 {u"xesam:artist"_s, QVariantMap{{u"a"_s, 1}}},
+                                                 {u"mpris:length"_s, -9LL}}
+                                  << on << QVariant(u"x"_s) << u"playing|vlc||0.000|0.000"_s;
+        QTest::newRow("file") << QVariantMap{{u"xesam:url"_s, u"file:///music/My%20song.mp3"_s}} << on << at
+                              << u"playing|My song.mp3||0.000|2.500"_s;
+        QTest::newRow("nothing known") << QVariantMap() << on << at << u"playing|vlc||0.000|2.500"_s;
+        QTest::newRow("long") << QVariantMap{{u"xesam:title"_s, QString(50'000, u'x')}} << on << at
+                              << u"playing|%1||0.000|2.500"_s.arg(QString(1000, u'x'));
     }
-    QVERIFY2(fastest < 400, "it is waited for again");
-    QCOMPARE(mpv.calls.size() + spotify.calls.size(), 2); // none piles up at a player that hangs
 
-    mpv.hangs = false; // it comes to itself
-    QDBusConnection::connectToBus(stage.bus.address(), stage.bus.address() + u"org.mpris.MediaPlayer2.mpv"_s)
-        .send(mpv.calls.constFirst().createReply(QVariantMap()));
-    QTRY_COMPARE(stage.title(kMusic), u"mpv song"_s);
-}
+    void status()
+    {
+        QFETCH(const QVariantMap, song);
+        Stage stage;
+        Player &player = stage.add(u"vlc.instance77"_s);
+        player.song = song;
+        QFETCH(const QVariant, state);
+        QFETCH(const QVariant, position);
+        player.state = state;
+        player.position = position;
+        QTEST(stage.status(kMusic), "status");
+        QCOMPARE(stage.status(kSpotify), u"failed"_s);
+        QCOMPARE(player.called().constFirst(),
+                 u"/org/mpris/MediaPlayer2 org.freedesktop.DBus.Properties.GetAll"_s);
+    }
 
-void MprisTest::refusals()
-{
-    Stage stage;
-    Player &spotify = stage.add(u"spotify"_s);
-    Player &mpv = stage.add(u"mpv"_s);
-    spotify.refuses = mpv.refuses = true;
-    QCOMPARE(stage.status(kSpotify), u"refused"_s);
-    QCOMPARE(stage.status(kMusic), u"refused"_s);
-    Player &vlc = stage.add(u"vlc"_s);
-    QCOMPARE(stage.title(kMusic), u"vlc song"_s);
-    vlc.state = u"Stopped"_s;
-    QCOMPARE(stage.status(kMusic), u""_s);
-}
+    void theBestPlayerCounts()
+    {
+        Stage stage;
+        Player &mpv = stage.add(u"mpv"_s);
+        Player &vlc = stage.add(u"vlc"_s);
+        Player &spotify = stage.add(u"spotify"_s);
+        stage.add(u"playerctld"_s).song = {{u"xesam:title"_s, u"an echo"_s}};
+        spotify.song.insert(u"mpris:length"_s, 1'500'000LL);
+        const auto set = [](Player &player, const QString &state) { player.state = state; };
+        set(mpv, u"Paused"_s);
+        QCOMPARE(stage.title(kMusic), u"vlc song"_s);
+        set(mpv, u"Playing"_s); // the last one that began
+        QCOMPARE(stage.title(kMusic), u"mpv song"_s);
+        vlc.song.insert(u"xesam:title"_s, u"another"_s);
+        QCOMPARE(stage.title(kMusic), u"another"_s);
+        set(vlc, u"Paused"_s);
+        QCOMPARE(stage.title(kMusic), u"mpv song"_s);
+        set(mpv, u"Paused"_s); // the last one that was paused
+        QCOMPARE(stage.title(kMusic), u"mpv song"_s);
+        set(mpv, u"Stopped"_s);
+        QCOMPARE(stage.title(kMusic), u"another"_s);
+        set(vlc, u"Stopped"_s);
+        QCOMPARE(stage.status(kMusic), u""_s);
+        QCOMPARE(stage.status(kSpotify), u"playing|spotify song||1500|2.500"_s);
+    }
 
-void MprisTest::commandsAndCoversAreForTheOneThatShows()
-{
-    Stage stage;
-    Player &mpv = stage.add(u"mpv"_s);
-    Player &vlc = stage.add(u"vlc"_s);
-    Player &spotify = stage.add(u"spotify"_s);
-    const QString art = u"mpris:artUrl"_s;
-    mpv.song.insert(art, u"data:,mpv"_s);
-    vlc.song.insert(art, u"data:,vlc"_s);
-    spotify.song.insert(art, u"https://host/spotify"_s);
-    const auto methods = [](const Player &player) {
-        QStringList names;
-        for (const QDBusMessage &call : player.calls) {
-            if (call.interface() == "org.mpris.MediaPlayer2.Player"_L1)
-                names.append(call.member());
+    void aHangingPlayerHoldsNobodyUp()
+    {
+        Stage stage;
+        Player &spotify = stage.add(u"spotify"_s);
+        Player &mpv = stage.add(u"mpv"_s);
+        stage.add(u"vlc"_s);
+        spotify.hangs = mpv.hangs = true;
+        QCOMPARE(stage.title(kMusic), u"vlc song"_s);
+        QCOMPARE(stage.status(kSpotify), u"failed"_s);
+        qint64 fastest =
+            stage.milliseconds; // The slowest machine has one round in which nothing but a wait takes long.
+        QVERIFY(fastest >= 400);
+        for (int i = 0; i < 10; ++i) {
+            QCOMPARE(stage.title(kMusic), u"vlc song"_s);
+            const qint64 music = stage.milliseconds;
+            QCOMPARE(stage.status(kSpotify), u"failed"_s);
+            fastest = std::min(fastest, std::max(music, stage.milliseconds));
         }
-        return names.join(u' ');
-    };
-    for (const Command command : {Command::playPause, Command::next, Command::previous})
-        stage.execute(PlayerScripts::command(command, kMusic));
-    QVERIFY2(methods(mpv).isEmpty() && methods(vlc).isEmpty(), "none has shown yet");
+        QVERIFY2(fastest < 400, "it is waited for again");
+        QCOMPARE(mpv.calls.size() + spotify.calls.size(), 2); // none piles up at a player that hangs
 
-    mpv.state = u"Paused"_s;
-    stage.status(kMusic);
-    stage.status(kSpotify);
-    mpv.state = u"Playing"_s; // not looked at since
-    for (const Command command : {Command::playPause, Command::next, Command::previous})
-        stage.execute(PlayerScripts::command(command, kMusic));
-    QCOMPARE(methods(vlc), u"PlayPause Next Previous"_s);
-    QVERIFY(methods(mpv).isEmpty() && methods(spotify).isEmpty());
-    stage.execute(PlayerScripts::command(Command::next, kSpotify));
-    QCOMPARE(methods(spotify), u"Next"_s);
-    QVERIFY(stage.execute(PlayerScripts::artwork(kMusic)) == ScriptOutcome(QByteArray("vlc")));
-    QVERIFY(stage.execute(PlayerScripts::artwork(kSpotify)) == ScriptOutcome(u"https://host/spotify"_s));
-}
+        mpv.hangs = false; // it comes to itself
+        QDBusConnection::connectToBus(stage.bus.address(),
+                                      stage.bus.address() + u"org.mpris.MediaPlayer2.mpv"_s)
+            .send(mpv.calls.constFirst().createReply(QVariantMap()));
+        QTRY_COMPARE(stage.title(kMusic), u"mpv song"_s);
+    }
 
-void MprisTest::covers_data()
-{
-    QTest::addColumn<QString>("address");
-    QTest::addColumn<ScriptOutcome>("outcome");
-    const ScriptOutcome failed = ScriptFailed();
-    const ScriptOutcome hello = QByteArray("hello");
-    QTest::newRow("file") << u"file://FOLDER/a%20cover%20%C3%BC.png"_s << hello;
-    QTest::newRow("missing") << u"file://FOLDER/none.png"_s << failed;
-    QTest::newRow("folder") << u"file://FOLDER"_s << failed;
-    QTest::newRow("pipe") << u"file://FOLDER/pipe"_s << failed;
-    QTest::newRow("large") << u"file://FOLDER/large"_s << failed;
-    QTest::newRow("endless") << u"file:///dev/zero"_s << failed;
-    QTest::newRow("path") << u"FOLDER/a cover ü.png"_s << failed;
-    QTest::newRow("base64") << u"data:image/png;base64,aGVsbG8="_s << hello;
-    QTest::newRow("percent") << u"DATA:image/png,%68ello"_s << hello;
-    QTest::newRow("no data") << u"data:image/png;base64"_s << failed;
-    QTest::newRow("too much data") << u"data:;base64,"_s + QString(12 * 1024 * 1024, u'A') << failed;
-    QTest::newRow("network") << u"https://host/a?b=c#d"_s << ScriptOutcome(u"https://host/a?b=c#d"_s);
-    QTest::newRow("unsafe") << u"http://host/a"_s << failed;
-    QTest::newRow("none") << u""_s << failed;
-}
+    void refusals()
+    {
+        Stage stage;
+        Player &spotify = stage.add(u"spotify"_s);
+        Player &mpv = stage.add(u"mpv"_s);
+        spotify.refuses = mpv.refuses = true;
+        QCOMPARE(stage.status(kSpotify), u"refused"_s);
+        QCOMPARE(stage.status(kMusic), u"refused"_s);
+        Player &vlc = stage.add(u"vlc"_s);
+        QCOMPARE(stage.title(kMusic), u"vlc song"_s);
+        vlc.state = u"Stopped"_s;
+        QCOMPARE(stage.status(kMusic), u""_s);
+    }
 
-void MprisTest::covers()
-{
-    QFETCH(QString, address);
-    QFETCH(const ScriptOutcome, outcome);
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(u"a cover ü.png"_s));
-    QVERIFY(file.open(QFile::WriteOnly) && file.write("hello") == 5);
-    file.close();
-    QFile large(folder.filePath(u"large"_s));
-    QVERIFY(large.open(QFile::WriteOnly) && large.resize(kMostCoverBytes + 1));
-    QCOMPARE(mkfifo(QFile::encodeName(folder.filePath(u"pipe"_s)).constData(), 0600), 0);
-    QVERIFY(CoverSource::read(address.replace("FOLDER"_L1, folder.path())) == outcome);
-}
+    void commandsAndCoversAreForTheOneThatShows()
+    {
+        Stage stage;
+        Player &mpv = stage.add(u"mpv"_s);
+        Player &vlc = stage.add(u"vlc"_s);
+        Player &spotify = stage.add(u"spotify"_s);
+        const QString art = u"mpris:artUrl"_s;
+        mpv.song.insert(art, u"data:,mpv"_s);
+        vlc.song.insert(art, u"data:,vlc"_s);
+        spotify.song.insert(art, u"https://host/spotify"_s);
+        const auto methods = [](const Player &player) {
+            QStringList names;
+            for (const QDBusMessage &call : player.calls) {
+                if (call.interface() == "org.mpris.MediaPlayer2.Player"_L1)
+                    names.append(call.member());
+            }
+            return names.join(u' ');
+        };
+        for (const Command command : {Command::playPause, Command::next, Command::previous})
+            stage.execute(PlayerScripts::command(command, kMusic));
+        QVERIFY2(methods(mpv).isEmpty() && methods(vlc).isEmpty(), "none has shown yet");
 
-void MprisTest::knownScriptsOnly()
-{
-    Stage stage;
-    const Player &mpv = stage.add(u"mpv"_s);
-    const QString script = PlayerScripts::status(kMusic);
-    for (const QString &source :
-         {QString(), script + u' ', script.toUpper(), u"tell application \"Music\" to quit"_s,
-          u"tell application \"Finder\" to playpause"_s, u"do shell script \"true\""_s})
-        QCOMPARE(Stage::word(stage.execute(source)), u"failed"_s);
-    QVERIFY(mpv.calls.isEmpty());
-    MprisExecutor nowhere(u"unix:path=/nowhere"_s);
-    QCOMPARE(Stage::word(nowhere.execute(script).result()), u"failed"_s);
-}
+        mpv.state = u"Paused"_s;
+        stage.status(kMusic);
+        stage.status(kSpotify);
+        mpv.state = u"Playing"_s; // not looked at since
+        for (const Command command : {Command::playPause, Command::next, Command::previous})
+            stage.execute(PlayerScripts::command(command, kMusic));
+        QCOMPARE(methods(vlc), u"PlayPause Next Previous"_s);
+        QVERIFY(methods(mpv).isEmpty() && methods(spotify).isEmpty());
+        stage.execute(PlayerScripts::command(Command::next, kSpotify));
+        QCOMPARE(methods(spotify), u"Next"_s);
+        QVERIFY(stage.execute(PlayerScripts::artwork(kMusic)) == ScriptOutcome(QByteArray("vlc")));
+        QVERIFY(stage.execute(PlayerScripts::artwork(kSpotify)) == ScriptOutcome(u"https://host/spotify"_s));
+    }
 
-void MprisTest::runningPlayers()
-{
-    Stage stage;
-    stage.add(u"mpv"_s);
-    stage.add(u"playerctld"_s);
-    const MprisApplications applications(stage.bus.connection());
-    const auto runs = [&](MediaPlayer player) { return applications.isRunning(bundleIdentifier(player)); };
-    QTRY_VERIFY(runs(kMusic));
-    QVERIFY(!runs(kSpotify));
-    stage.add(u"spotify"_s);
-    QTRY_VERIFY(runs(kSpotify));
-    stage.players.pop_front();
-    QTRY_VERIFY(!runs(kMusic));
-    QVERIFY(runs(kSpotify) && !applications.isRunning(u"org.mpris.MediaPlayer2.spotify"_s));
-    QVERIFY(!MprisApplications(QDBusConnection(QString())).isRunning(bundleIdentifier(kMusic)));
-}
+    void covers_data()
+    {
+        columns<QString, ScriptOutcome>();
+        const ScriptOutcome failed = ScriptFailed();
+        const ScriptOutcome hello = QByteArray("hello");
+        QTest::newRow("file") << u"file://FOLDER/a%20cover%20%C3%BC.png"_s << hello;
+        QTest::newRow("missing") << u"file://FOLDER/none.png"_s << failed;
+        QTest::newRow("folder") << u"file://FOLDER"_s << failed;
+        QTest::newRow("pipe") << u"file://FOLDER/pipe"_s << failed;
+        QTest::newRow("large") << u"file://FOLDER/large"_s << failed;
+        QTest::newRow("endless") << u"file:///dev/zero"_s << failed;
+        QTest::newRow("path") << u"FOLDER/a cover ü.png"_s << failed;
+        QTest::newRow("base64") << u"data:image/png;base64,aGVsbG8="_s << hello;
+        QTest::newRow("percent") << u"DATA:image/png,%68ello"_s << hello;
+        QTest::newRow("no data") << u"data:image/png;base64"_s << failed;
+        QTest::newRow("too much data") << u"data:;base64,"_s + QString(12 * 1024 * 1024, u'A') << failed;
+        QTest::newRow("network") << u"https://host/a?b=c#d"_s << ScriptOutcome(u"https://host/a?b=c#d"_s);
+        QTest::newRow("unsafe") << u"http://host/a"_s << failed;
+        QTest::newRow("none") << u""_s << failed;
+    }
+
+    void covers()
+    {
+        auto [address, outcome] = fetched<QString, ScriptOutcome>();
+        const QTemporaryDir folder;
+        QFile file(folder.filePath(u"a cover ü.png"_s));
+        QVERIFY(file.open(QFile::WriteOnly) && file.write("hello") == 5);
+        file.close();
+        QFile large(folder.filePath(u"large"_s));
+        QVERIFY(large.open(QFile::WriteOnly) && large.resize(kMostCoverBytes + 1));
+        QCOMPARE(mkfifo(QFile::encodeName(folder.filePath(u"pipe"_s)).constData(), 0600), 0);
+        QVERIFY(CoverSource::read(address.replace("FOLDER"_L1, folder.path())) == outcome);
+    }
+
+    void knownScriptsOnly()
+    {
+        Stage stage;
+        const Player &mpv = stage.add(u"mpv"_s);
+        const QString script = PlayerScripts::status(kMusic);
+        for (const QString &source :
+             {QString(), script + u' ', script.toUpper(), u"tell application \"Music\" to quit"_s,
+              u"tell application \"Finder\" to playpause"_s, u"do shell script \"true\""_s})
+            QCOMPARE(Stage::word(stage.execute(source)), u"failed"_s);
+        QVERIFY(mpv.calls.isEmpty());
+        MprisExecutor nowhere(u"unix:path=/nowhere"_s);
+        QCOMPARE(Stage::word(nowhere.execute(script).result()), u"failed"_s);
+    }
+
+    void runningPlayers()
+    {
+        Stage stage;
+        stage.add(u"mpv"_s);
+        stage.add(u"playerctld"_s);
+        const MprisApplications applications(stage.bus.connection());
+        const auto runs = [&](MediaPlayer player) {
+            return applications.isRunning(bundleIdentifier(player));
+        };
+        QTRY_VERIFY(runs(kMusic));
+        QVERIFY(!runs(kSpotify));
+        stage.add(u"spotify"_s);
+        QTRY_VERIFY(runs(kSpotify));
+        stage.players.pop_front();
+        QTRY_VERIFY(!runs(kMusic));
+        QVERIFY(runs(kSpotify) && !applications.isRunning(u"org.mpris.MediaPlayer2.spotify"_s));
+        QVERIFY(!MprisApplications(QDBusConnection(QString())).isRunning(bundleIdentifier(kMusic)));
+    }
+};
 
 REGISTER_TEST(MprisTest);
 #include "MprisTest.moc"

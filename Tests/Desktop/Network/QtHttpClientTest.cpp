@@ -8,11 +8,6 @@
 #include <QSslConfiguration>
 #include <QSslKey>
 #include <QTemporaryDir>
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -96,13 +91,166 @@ class QtHttpClientTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void replies_data();
-    void replies();
-    void sendsNothingOfItsOwn();
-    void boundsMemory();
-    void cancelledAndLeftBehind();
-    void certificates();
-    void addressesAndProxy();
+    void replies_data()
+    {
+        // status: 0 for no reply
+        columns<WebStandIn::Answer, int, qsizetype>();
+        const auto row = [](const char *name, const Answer &answer, int status, qsizetype size = 0) {
+            QTest::newRow(name) << answer << status << size;
+        };
+        const auto raw = [](const QByteArray &bytes, End end) { return ended({bytes}, end); };
+        const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+        const auto gzip = [](const QByteArray &body) {
+            return WebStandIn::page(200, body, "Content-Encoding: gzip\r\n");
+        };
+        row("whole", WebStandIn::page(200, "{}"), 200, 2);
+        row("in pieces", slow(WebStandIn::page(200, QByteArray(500, 'x')), 50, 5ms), 200, 500);
+        row("chunked", raw(chunked + "3\r\nabc\r\n0\r\n\r\n", End::keep), 200, 3);
+        row("until it closes", raw("HTTP/1.0 200 OK\r\n\r\nabcd", End::close), 200, 4);
+        row("empty", WebStandIn::page(204, {}), 204);
+        row("not found", WebStandIn::page(404, "<html>"), 404, 6);
+        row("server error", WebStandIn::page(503, "busy"), 503, 4);
+        row("wants a password", WebStandIn::page(401, "who", "WWW-Authenticate: Basic realm=\"x\"\r\n"), 401,
+            3);
+        row("just small enough", WebStandIn::page(200, QByteArray(kMost, 'x')), 200, kMost);
+        row("too large", WebStandIn::page(200, QByteArray(kMost + 1, 'x')), 0);
+        row("too large, chunked", raw(chunked + "30d41\r\n" + QByteArray(200'001, 'x'), End::keep), 0);
+        row("truncated", raw("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nabc", End::close), 0);
+        row("reset", raw("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nabc", End::reset), 0);
+        row("reset at once", raw({}, End::reset), 0);
+        row("no HTTP", raw("SSH-2.0-x\r\n\r\n", End::close), 0);
+        row("slow drip", slow(WebStandIn::page(200, QByteArray(5000, 'x')), 1, 50ms), 0);
+        row("silence", raw({}, End::keep), 0);
+        row("to http", WebStandIn::page(302, {}, "Location: /other\r\n"), 0);
+        row("to a file", WebStandIn::page(302, {}, "Location: file:///etc/hostname\r\n"), 0);
+        row("to nowhere", WebStandIn::page(302, {}, "Location: https://127.0.0.1:1/\r\n"), 0);
+        row("packed", gzip(zeros(1000)), 200, 1000);
+        row("packed too large", gzip(zipped(u"seq 40000"_s)), 0);
+        row("packed bomb", gzip(zeros(50'000'000)), 0);
+    }
+
+    void replies()
+    {
+        const auto [answer, status, size] = fetched<WebStandIn::Answer, int, qsizetype>();
+        const WebStandIn server([&](const auto &) { return answer; });
+        QtHttpClient client;
+        // Only what never comes as a whole is waited for in vain.
+        const HttpReply reply = fetch(client, server.url(u"/first"_s), status == 0 ? 1500ms : 60s);
+        QCOMPARE(reply.status, status);
+        QCOMPARE(reply.body.size(), size);
+        for (const QByteArray &target : server.targets())
+            QCOMPARE(target, "/first"); // Qt asks a second time after a reset
+    }
+
+    void sendsNothingOfItsOwn()
+    {
+        const WebStandIn server([](const auto &) {
+            return WebStandIn::page(200, "{}",
+                                    "Set-Cookie: a=b; Path=/\r\nETag: \"e\"\r\nCache-Control: max-age=9\r\n");
+        });
+        QtHttpClient client;
+        const QLocale before;
+        QLocale::setDefault(QLocale(u"de_DE"_s));
+        fetch(client, server.url(u"/a%5Eb?c=San%20Jos%C3%A9"_s));
+        const auto future =
+            client.get({server.url(u"/2"_s), {{"User-Agent", "Own"}, {"Host", "example.org"}}, 60s, 9});
+        QTRY_VERIFY(future.isFinished());
+        QLocale::setDefault(before);
+        const auto log = server.log();
+        QCOMPARE(log.size(), 2);
+        QCOMPARE(log.at(0).target, "/a%5Eb?c=San%20Jos%C3%A9");
+        QCOMPARE(log.at(0).headers.keys(), (QList<QByteArray>{"accept-encoding", "accept-language",
+                                                              "connection", "host", "user-agent"}));
+        QCOMPARE(log.at(0).header("accept-language"), "*");
+        QCOMPARE(log.at(0).header("user-agent"), "Mozilla/5.0");
+        QCOMPARE(log.at(1).headers.keys(), log.at(0).headers.keys());
+        QCOMPARE(log.at(1).header("user-agent"), "Own");
+        QCOMPARE(log.at(1).header("host"), "example.org");
+    }
+
+    void boundsMemory()
+    {
+#ifdef __SANITIZE_ADDRESS__
+        QSKIP("the sanitizer keeps what was freed");
+#endif
+        const QByteArray bomb = zeros(300'000'000);
+        const QByteArray large(60'000'000, 'x');
+        QCOMPARE_GT(bomb.size(), 100'000);
+        const WebStandIn server([&](const WebStandIn::Request &request) {
+            return request.target == "/bomb" ? WebStandIn::page(200, bomb, "Content-Encoding: gzip\r\n")
+                                             : slow(WebStandIn::page(200, large), 1'000'000, 1ms);
+        });
+        QtHttpClient client;
+        forgetPeakMemory();
+        const qint64 before = peakMemory();
+        for (const QString &target : {u"/bomb"_s, u"/large"_s, u"/bomb"_s, u"/large"_s})
+            QCOMPARE(fetch(client, server.url(target), 5s).status, 0);
+        const qint64 grown = peakMemory() - before;
+        QVERIFY2(grown < 100'000, qPrintable(QString::number(grown)));
+    }
+
+    void cancelledAndLeftBehind()
+    {
+        const WebStandIn server([](const auto &) { return Answer{}; }); // silent
+        auto client = std::make_unique<QtHttpClient>();
+        auto given = client->get({server.url(u"/given-up"_s), {}, 60s, kMost});
+        QTRY_COMPARE(server.log().size(), 1);
+        given.cancel();
+        QTRY_VERIFY(given.isFinished());
+        const auto left = client->get({server.url(u"/left"_s), {}, 1h, kMost}); // which nobody would sit out
+        QTRY_COMPARE(server.log().size(), 2);
+        client.reset();
+        QVERIFY(left.isFinished() && left.result().status == 0);
+    }
+
+    void certificates()
+    {
+        const QSslConfiguration tls = selfSigned();
+        const WebStandIn server(
+            [](const WebStandIn::Request &request) {
+                if (request.target == "/loop")
+                    return WebStandIn::page(302, {}, "Location: /loop\r\n");
+                return request.target == "/moved" ? WebStandIn::page(301, {}, "Location: /here\r\n")
+                                                  : WebStandIn::page(200, "secret");
+            },
+            tls);
+        {
+            QtHttpClient client;
+            QCOMPARE(fetch(client, server.url(u"/here"_s)).status, 0);
+            QVERIFY2(server.log().isEmpty(), "it told an unknown server what it wants");
+        }
+        const QSslConfiguration before = QSslConfiguration::defaultConfiguration();
+        QSslConfiguration trusting = before;
+        trusting.addCaCertificates(tls.localCertificateChain());
+        QSslConfiguration::setDefaultConfiguration(trusting);
+        QtHttpClient client;
+        QCOMPARE(fetch(client, server.url(u"/moved"_s)).body, "secret");
+        QUrl otherName = server.url(u"/here"_s);
+        otherName.setHost(u"localhost"_s);
+        QCOMPARE(fetch(client, otherName).status, 0);
+        QCOMPARE(fetch(client, server.url(u"/loop"_s)).status, 0);
+        QSslConfiguration::setDefaultConfiguration(before);
+        QCOMPARE(server.targets().count("/loop"), 4); // the first and three redirections
+    }
+
+    void addressesAndProxy()
+    {
+        const WebStandIn proxy([](const auto &) { return WebStandIn::page(502, "no"); });
+        const QByteArray address = proxy.url().toEncoded();
+        for (const char *name : {"http_proxy", "https_proxy"})
+            qputenv(name, address);
+        QtHttpClient client;
+        for (const char *refused : {"http://example.invalid/", "http://localhost/", "ftp://127.0.0.1/",
+                                    "file:///etc/hostname", "https:///x", ""})
+            QCOMPARE(fetch(client, QUrl(QString::fromLatin1(refused))).status, 0);
+        QVERIFY(proxy.log().isEmpty());
+        QCOMPARE(fetch(client, QUrl(u"https://example.invalid/x"_s)).status, 0);
+        QCOMPARE(proxy.targets().value(0), "example.invalid:443");
+        const WebStandIn direct([](const auto &) { return WebStandIn::page(200, "direct"); });
+        QCOMPARE(fetch(client, direct.url(u"/"_s)).body, "direct");
+        for (const char *name : {"http_proxy", "https_proxy"})
+            qunsetenv(name);
+    }
 
 private:
     static HttpReply fetch(HttpClient &client, const QUrl &url, std::chrono::milliseconds timeout = 60s)
@@ -113,169 +261,6 @@ private:
                    : HttpReply{-1, {}};
     }
 };
-
-void QtHttpClientTest::replies_data()
-{
-    QTest::addColumn<WebStandIn::Answer>("answer");
-    QTest::addColumn<int>("status"); // 0 for no reply
-    QTest::addColumn<qsizetype>("size");
-    const auto row = [](const char *name, const Answer &answer, int status, qsizetype size = 0) {
-        QTest::newRow(name) << answer << status << size;
-    };
-    const auto raw = [](const QByteArray &bytes, End end) { return ended({bytes}, end); };
-    const QByteArray chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
-    const auto gzip = [](const QByteArray &body) {
-        return WebStandIn::page(200, body, "Content-Encoding: gzip\r\n");
-    };
-    row("whole", WebStandIn::page(200, "{}"), 200, 2);
-    row("in pieces", slow(WebStandIn::page(200, QByteArray(500, 'x')), 50, 5ms), 200, 500);
-    row("chunked", raw(chunked + "3\r\nabc\r\n0\r\n\r\n", End::keep), 200, 3);
-    row("until it closes", raw("HTTP/1.0 200 OK\r\n\r\nabcd", End::close), 200, 4);
-    row("empty", WebStandIn::page(204, {}), 204);
-    row("not found", WebStandIn::page(404, "<html>"), 404, 6);
-    row("server error", WebStandIn::page(503, "busy"), 503, 4);
-    row("wants a password", WebStandIn::page(401, "who", "WWW-Authenticate: Basic realm=\"x\"\r\n"), 401, 3);
-    row("just small enough", WebStandIn::page(200, QByteArray(kMost, 'x')), 200, kMost);
-    row("too large", WebStandIn::page(200, QByteArray(kMost + 1, 'x')), 0);
-    row("too large, chunked", raw(chunked + "30d41\r\n" + QByteArray(200'001, 'x'), End::keep), 0);
-    row("truncated", raw("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nabc", End::close), 0);
-    row("reset", raw("HTTP/1.1 200 OK\r\nContent-Length: 9\r\n\r\nabc", End::reset), 0);
-    row("reset at once", raw({}, End::reset), 0);
-    row("no HTTP", raw("SSH-2.0-x\r\n\r\n", End::close), 0);
-    row("slow drip", slow(WebStandIn::page(200, QByteArray(5000, 'x')), 1, 50ms), 0);
-    row("silence", raw({}, End::keep), 0);
-    row("to http", WebStandIn::page(302, {}, "Location: /other\r\n"), 0);
-    row("to a file", WebStandIn::page(302, {}, "Location: file:///etc/hostname\r\n"), 0);
-    row("to nowhere", WebStandIn::page(302, {}, "Location: https://127.0.0.1:1/\r\n"), 0);
-    row("packed", gzip(zeros(1000)), 200, 1000);
-    row("packed too large", gzip(zipped(u"seq 40000"_s)), 0);
-    row("packed bomb", gzip(zeros(50'000'000)), 0);
-}
-
-void QtHttpClientTest::replies()
-{
-    QFETCH(const WebStandIn::Answer, answer);
-    QFETCH(const int, status);
-    QFETCH(const qsizetype, size);
-    const WebStandIn server([&](const auto &) { return answer; });
-    QtHttpClient client;
-    // Only what never comes as a whole is waited for in vain.
-    const HttpReply reply = fetch(client, server.url(u"/first"_s), status == 0 ? 1500ms : 60s);
-    QCOMPARE(reply.status, status);
-    QCOMPARE(reply.body.size(), size);
-    for (const QByteArray &target : server.targets())
-        QCOMPARE(target, "/first"); // Qt asks a second time after a reset
-}
-
-void QtHttpClientTest::sendsNothingOfItsOwn()
-{
-    const WebStandIn server([](const auto &) {
-        return WebStandIn::page(200, "{}",
-                                "Set-Cookie: a=b; Path=/\r\nETag: \"e\"\r\nCache-Control: max-age=9\r\n");
-    });
-    QtHttpClient client;
-    const QLocale before;
-    QLocale::setDefault(QLocale(u"de_DE"_s));
-    fetch(client, server.url(u"/a%5Eb?c=San%20Jos%C3%A9"_s));
-    const auto future =
-        client.get({server.url(u"/2"_s), {{"User-Agent", "Own"}, {"Host", "example.org"}}, 60s, 9});
-    QTRY_VERIFY(future.isFinished());
-    QLocale::setDefault(before);
-    const auto log = server.log();
-    QCOMPARE(log.size(), 2);
-    QCOMPARE(log.at(0).target, "/a%5Eb?c=San%20Jos%C3%A9");
-    QCOMPARE(log.at(0).headers.keys(),
-             (QList<QByteArray>{"accept-encoding", "accept-language", "connection", "host", "user-agent"}));
-    QCOMPARE(log.at(0).header("accept-language"), "*");
-    QCOMPARE(log.at(0).header("user-agent"), "Mozilla/5.0");
-    QCOMPARE(log.at(1).headers.keys(), log.at(0).headers.keys());
-    QCOMPARE(log.at(1).header("user-agent"), "Own");
-    QCOMPARE(log.at(1).header("host"), "example.org");
-}
-
-void QtHttpClientTest::boundsMemory()
-{
-#ifdef __SANITIZE_ADDRESS__
-    QSKIP("the sanitizer keeps what was freed");
-#endif
-    const QByteArray bomb = zeros(300'000'000);
-    const QByteArray large(60'000'000, 'x');
-    QCOMPARE_GT(bomb.size(), 100'000);
-    const WebStandIn server([&](const WebStandIn::Request &request) {
-        return request.target == "/bomb" ? WebStandIn::page(200, bomb, "Content-Encoding: gzip\r\n")
-                                         : slow(WebStandIn::page(200, large), 1'000'000, 1ms);
-    });
-    QtHttpClient client;
-    forgetPeakMemory();
-    const qint64 before = peakMemory();
-    for (const QString &target : {u"/bomb"_s, u"/large"_s, u"/bomb"_s, u"/large"_s})
-        QCOMPARE(fetch(client, server.url(target), 5s).status, 0);
-    const qint64 grown = peakMemory() - before;
-    QVERIFY2(grown < 100'000, qPrintable(QString::number(grown)));
-}
-
-void QtHttpClientTest::cancelledAndLeftBehind()
-{
-    const WebStandIn server([](const auto &) { return Answer{}; }); // silent
-    auto client = std::make_unique<QtHttpClient>();
-    auto given = client->get({server.url(u"/given-up"_s), {}, 60s, kMost});
-    QTRY_COMPARE(server.log().size(), 1);
-    given.cancel();
-    QTRY_VERIFY(given.isFinished());
-    const auto left = client->get({server.url(u"/left"_s), {}, 1h, kMost}); // which nobody would sit out
-    QTRY_COMPARE(server.log().size(), 2);
-    client.reset();
-    QVERIFY(left.isFinished() && left.result().status == 0);
-}
-
-void QtHttpClientTest::certificates()
-{
-    const QSslConfiguration tls = selfSigned();
-    const WebStandIn server(
-        [](const WebStandIn::Request &request) {
-            if (request.target == "/loop")
-                return WebStandIn::page(302, {}, "Location: /loop\r\n");
-            return request.target == "/moved" ? WebStandIn::page(301, {}, "Location: /here\r\n")
-                                              : WebStandIn::page(200, "secret");
-        },
-        tls);
-    {
-        QtHttpClient client;
-        QCOMPARE(fetch(client, server.url(u"/here"_s)).status, 0);
-        QVERIFY2(server.log().isEmpty(), "it told an unknown server what it wants");
-    }
-    const QSslConfiguration before = QSslConfiguration::defaultConfiguration();
-    QSslConfiguration trusting = before;
-    trusting.addCaCertificates(tls.localCertificateChain());
-    QSslConfiguration::setDefaultConfiguration(trusting);
-    QtHttpClient client;
-    QCOMPARE(fetch(client, server.url(u"/moved"_s)).body, "secret");
-    QUrl otherName = server.url(u"/here"_s);
-    otherName.setHost(u"localhost"_s);
-    QCOMPARE(fetch(client, otherName).status, 0);
-    QCOMPARE(fetch(client, server.url(u"/loop"_s)).status, 0);
-    QSslConfiguration::setDefaultConfiguration(before);
-    QCOMPARE(server.targets().count("/loop"), 4); // the first and three redirections
-}
-
-void QtHttpClientTest::addressesAndProxy()
-{
-    const WebStandIn proxy([](const auto &) { return WebStandIn::page(502, "no"); });
-    const QByteArray address = proxy.url().toEncoded();
-    for (const char *name : {"http_proxy", "https_proxy"})
-        qputenv(name, address);
-    QtHttpClient client;
-    for (const char *refused : {"http://example.invalid/", "http://localhost/", "ftp://127.0.0.1/",
-                                "file:///etc/hostname", "https:///x", ""})
-        QCOMPARE(fetch(client, QUrl(QString::fromLatin1(refused))).status, 0);
-    QVERIFY(proxy.log().isEmpty());
-    QCOMPARE(fetch(client, QUrl(u"https://example.invalid/x"_s)).status, 0);
-    QCOMPARE(proxy.targets().value(0), "example.invalid:443");
-    const WebStandIn direct([](const auto &) { return WebStandIn::page(200, "direct"); });
-    QCOMPARE(fetch(client, direct.url(u"/"_s)).body, "direct");
-    for (const char *name : {"http_proxy", "https_proxy"})
-        qunsetenv(name);
-}
 
 REGISTER_TEST(QtHttpClientTest);
 #include "QtHttpClientTest.moc"

@@ -5,9 +5,6 @@
 
 #include <QUrl>
 
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 /// Showing files in the file manager, over a stand-in of it and of the program that opens folders.
 class DesktopWorkspaceTest : public QObject
 {
@@ -45,8 +42,7 @@ private Q_SLOTS:
 
     void foldersOpenWhereNoFileManagerAnswers_data()
     {
-        QTest::addColumn<bool>("present");
-        QTest::addColumn<bool>("answers");
+        columns<bool, bool>();
         QTest::newRow("there is none") << false << false;
         QTest::newRow("it refuses") << true << true;
         QTest::newRow("it hangs") << true << false;
@@ -54,8 +50,7 @@ private Q_SLOTS:
 
     void foldersOpenWhereNoFileManagerAnswers()
     {
-        QFETCH(const bool, present);
-        QFETCH(const bool, answers);
+        const auto [present, answers] = fetched<bool, bool>();
         BusStandIn manager(u"org.freedesktop.FileManager1"_s);
         const auto refuse = [answers](const QDBusMessage &call) {
             return answers

@@ -5,10 +5,6 @@
 
 #include <QGuiApplication>
 #include <QPalette>
-#include <QSignalSpy>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 /// The colour scheme against a stand-in of the desktop's portal.
 class PortalAppearanceTest : public QObject
@@ -20,9 +16,8 @@ private Q_SLOTS:
 
     void portalBeforePlatform_data()
     {
-        QTest::addColumn<QVariant>("scheme"); ///< What the portal answers; invalid for an error.
-        QTest::addColumn<bool>("platformDark");
-        QTest::addColumn<bool>("dark");
+        // scheme: what the portal answers; invalid for an error
+        columns<QVariant, bool, bool>();
         const auto number = [](uint scheme) { return QVariant::fromValue(QDBusVariant(scheme)); };
         QTest::newRow("dark") << number(1) << false << true;
         QTest::newRow("light") << number(2) << true << false;
@@ -34,9 +29,7 @@ private Q_SLOTS:
 
     void portalBeforePlatform()
     {
-        QFETCH(const QVariant, scheme);
-        QFETCH(const bool, platformDark);
-        QFETCH(const bool, dark);
+        const auto [scheme, platformDark, dark] = fetched<QVariant, bool, bool>();
         QGuiApplication::setPalette(QPalette(platformDark ? Qt::black : Qt::white));
         BusStandIn portal(u"org.freedesktop.portal.Desktop"_s);
         QVERIFY(portal.appear([&](const QDBusMessage &call) {

@@ -5,60 +5,52 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
-
-using namespace Kestrune;
 
 class SessionTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void loginItemIsAnAutostartEntry();
-    void housingsAreParsed_data();
-    void housingsAreParsed();
+    void loginItemIsAnAutostartEntry()
+    {
+        const QTemporaryDir config;
+        qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
+        AutostartLoginItem item(u"/opt/my \"apps\"/50% kestrune"_s);
+        QVERIFY(!item.isEnabled());
+        QVERIFY(!item.setEnabled(true) && item.isEnabled());
+        QFile entry(config.filePath(u"autostart/kestrune.desktop"_s));
+        QVERIFY(entry.open(QIODevice::ReadOnly));
+        QVERIFY(entry.readAll().contains("\nExec=\"/opt/my \\\\\"apps\\\\\"/50%% kestrune\"\n"));
+        entry.close();
+        QVERIFY(entry.open(QIODevice::Append));
+        entry.write("Hidden = true\n");
+        entry.close();
+        QVERIFY2(!item.isEnabled(), "the desktop's own settings switched it off");
+        QVERIFY(!item.setEnabled(true) && item.isEnabled());
+        QVERIFY(!item.setEnabled(false) && !item.isEnabled());
+        QVERIFY(!item.setEnabled(false));
+        QVERIFY(QDir(config.path()).rmdir(u"autostart"_s));
+        QFile blocker(config.filePath(u"autostart"_s));
+        QVERIFY(blocker.open(QIODevice::WriteOnly));
+        QVERIFY2(item.setEnabled(true).has_value(), "a folder that cannot be made is told");
+    }
+
+    void housingsAreParsed_data()
+    {
+        columns<QString, QSizeF>();
+        QTest::newRow("whole") << "185x32" << QSizeF(185, 32);
+        QTest::newRow("fraction") << "184.5x32.25" << QSizeF(184.5, 32.25);
+        for (const char *bad :
+             {"", "185", "185x", "0x32", "-1x32", "185 x 32", "185x32+1", "nanx32", "1e3x32"})
+            QTest::newRow(bad) << QString::fromLatin1(bad) << QSizeF();
+    }
+
+    void housingsAreParsed()
+    {
+        const auto [text, size] = fetched<QString, QSizeF>();
+        QCOMPARE(CameraHousings::parse(text).value_or(QSizeF()), size);
+    }
 };
-
-void SessionTest::loginItemIsAnAutostartEntry()
-{
-    const QTemporaryDir config;
-    qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
-    AutostartLoginItem item(QStringLiteral("/opt/my \"apps\"/50% kestrune"));
-    QVERIFY(!item.isEnabled());
-    QVERIFY(!item.setEnabled(true) && item.isEnabled());
-    QFile entry(config.filePath(QStringLiteral("autostart/kestrune.desktop")));
-    QVERIFY(entry.open(QIODevice::ReadOnly));
-    QVERIFY(entry.readAll().contains("\nExec=\"/opt/my \\\\\"apps\\\\\"/50%% kestrune\"\n"));
-    entry.close();
-    QVERIFY(entry.open(QIODevice::Append));
-    entry.write("Hidden = true\n");
-    entry.close();
-    QVERIFY2(!item.isEnabled(), "the desktop's own settings switched it off");
-    QVERIFY(!item.setEnabled(true) && item.isEnabled());
-    QVERIFY(!item.setEnabled(false) && !item.isEnabled());
-    QVERIFY(!item.setEnabled(false));
-    QVERIFY(QDir(config.path()).rmdir(QStringLiteral("autostart")));
-    QFile blocker(config.filePath(QStringLiteral("autostart")));
-    QVERIFY(blocker.open(QIODevice::WriteOnly));
-    QVERIFY2(item.setEnabled(true).has_value(), "a folder that cannot be made is told");
-}
-
-void SessionTest::housingsAreParsed_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QSizeF>("size");
-    QTest::newRow("whole") << "185x32" << QSizeF(185, 32);
-    QTest::newRow("fraction") << "184.5x32.25" << QSizeF(184.5, 32.25);
-    for (const char *bad : {"", "185", "185x", "0x32", "-1x32", "185 x 32", "185x32+1", "nanx32", "1e3x32"})
-        QTest::newRow(bad) << QString::fromLatin1(bad) << QSizeF();
-}
-
-void SessionTest::housingsAreParsed()
-{
-    QFETCH(const QString, text);
-    QFETCH(const QSizeF, size);
-    QCOMPARE(CameraHousings::parse(text).value_or(QSizeF()), size);
-}
 
 REGISTER_TEST(SessionTest);
 #include "SessionTest.moc"

@@ -5,9 +5,6 @@
 
 #include <QDBusMetaType>
 
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 /// The adapter against a stand-in of the service: what is asked of it, and what comes of its answers.
 class KdeConnectSharingTest : public QObject
 {
@@ -53,8 +50,7 @@ private Q_SLOTS:
 
     void noServiceMeansNoDevices_data()
     {
-        QTest::addColumn<bool>("present");
-        QTest::addColumn<QVariant>("answer");
+        columns<bool, QVariant>();
         QTest::newRow("not running") << false << QVariant();
         QTest::newRow("hanging") << true << QVariant();
         QTest::newRow("of another kind") << true << QVariant(u"hello"_s);
@@ -63,8 +59,7 @@ private Q_SLOTS:
 
     void noServiceMeansNoDevices()
     {
-        QFETCH(const bool, present);
-        QFETCH(const QVariant, answer);
+        const auto [present, answer] = fetched<bool, QVariant>();
         BusStandIn service(u"org.kde.kdeconnect"_s);
         QVERIFY(!present || service.appear([&](const QDBusMessage &call) {
             return answer.isValid() ? std::optional(call.createReply(answer)) : std::nullopt;

@@ -5,10 +5,6 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 /// The kernel's own figures, and power supplies of a made-up tree.
 class LinuxStatisticsTest : public QObject
@@ -66,8 +62,7 @@ private Q_SLOTS:
 
     void powerSupplies_data()
     {
-        QTest::addColumn<Files>("files");
-        QTest::addColumn<QStringList>("sources");
+        columns<Files, QStringList>();
         const Files adapter{{u"AC/type"_s, u"Mains"_s}, {u"AC/online"_s, u"1"_s}};
         const Files battery{{u"BAT0/type"_s, u"Battery"_s},
                             {u"BAT0/status"_s, u"Discharging"_s},
@@ -98,8 +93,7 @@ private Q_SLOTS:
     }
     void powerSupplies()
     {
-        QFETCH(const Files, files);
-        QFETCH(const QStringList, sources);
+        const auto [files, sources] = fetched<Files, QStringList>();
         const QTemporaryDir root;
         QCOMPARE(LinuxStatistics(root.path()).powerSources().has_value(), false);
         for (auto file = files.cbegin(); file != files.cend(); ++file) {

@@ -7,16 +7,10 @@
 #include "Support/WebStandIn.h"
 
 #include <QFile>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <csignal>
 #include <sys/resource.h>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -126,8 +120,7 @@ private Q_SLOTS:
 
     void feeds_data()
     {
-        QTest::addColumn<std::function<Reply(const Stage &)>>("reply");
-        QTest::addColumn<UpdateStatus::Phase>("phase");
+        columns<std::function<Reply(const Stage &)>, UpdateStatus::Phase>();
         const auto row = [](const char *name, Phase phase, const std::function<Reply(const Stage &)> &reply) {
             QTest::newRow(name) << reply << phase;
         };
@@ -178,8 +171,7 @@ private Q_SLOTS:
     }
     void feeds()
     {
-        QFETCH(const std::function<Reply(const Stage &)>, reply);
-        QFETCH(const UpdateStatus::Phase, phase);
+        const auto [reply, phase] = fetched<std::function<Reply(const Stage &)>, UpdateStatus::Phase>();
         const bool slow = QTest::currentDataTag() == "slow"_ba;
         Stage stage(slow ? 700ms : 60s);
         QCOMPARE(stage.check(reply(stage)), phase);
@@ -199,9 +191,8 @@ private Q_SLOTS:
 
     void packages_data()
     {
-        QTest::addColumn<WebStandIn::Answer>("reply");
-        QTest::addColumn<int>("told"); // of its size, beyond the truth
-        QTest::addColumn<UpdateStatus::Phase>("phase");
+        // told: of its size, beyond the truth
+        columns<WebStandIn::Answer, int, UpdateStatus::Phase>();
         const Reply whole = WebStandIn::page(200, kPackage);
         QTest::newRow("whole") << whole << 0 << Phase::ready;
         QTest::newRow("truncated") << WebStandIn::page(200, kPackage.chopped(1)) << 0 << Phase::failed;
@@ -214,9 +205,7 @@ private Q_SLOTS:
     }
     void packages()
     {
-        QFETCH(const WebStandIn::Answer, reply);
-        QFETCH(const int, told);
-        QFETCH(const UpdateStatus::Phase, phase);
+        const auto [reply, told, phase] = fetched<WebStandIn::Answer, int, UpdateStatus::Phase>();
         Stage stage;
         stage.package = reply;
         QJsonObject entry = stage.entry(u"1.3.0"_s);

@@ -3,10 +3,6 @@
 #include "WindowStage.h"
 
 #include <QQmlComponent>
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 class AirDropMenuTest : public QObject
 {

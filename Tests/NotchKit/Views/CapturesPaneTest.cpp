@@ -2,70 +2,61 @@
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
-#include <QTest>
-
-using namespace Kestrune;
-
 class CapturesPaneTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase() { registerViews(); }
-    void clickMenuAndMessages();
+    void clickMenuAndMessages()
+    {
+        WindowStage stage;
+        auto &captures = stage.core.captures;
+        const QUrl url = QUrl::fromLocalFile(u"/shots/ä 1.png"_s);
+        const QDateTime date = stage.core.clock.now();
+        captures.found = {{u"/shots/2.png"_s, date, date}, {url.toLocalFile(), date.addSecs(-9), date}};
+        captures.handler();
+        stage.core.controller.open(NotchTool::captures);
+        QVERIFY(QTest::qWaitFor([&] { return stage.outline == QRectF(60, 0, 760, 330); }, 60'000));
+        stage.window->requestActivate();
+        const auto click = [&](const QString &type, qsizetype index, Qt::MouseButton button) {
+            const QQuickItem *item = stage.all(type).value(index);
+            if (item)
+                QTest::mouseClick(stage.window.get(), button, {}, item->mapToScene({20, 9}).toPoint());
+            return item != nullptr;
+        };
+        const auto choose = [&](int entry) {
+            const bool opened = click(u"CaptureThumb"_s, 1, Qt::RightButton) && QTest::qWaitFor([&] {
+                                    const auto *focused = stage.window->activeFocusItem();
+                                    return focused && focused->property("text") == "Show in Finder"_L1;
+                                });
+            for (int i = 0; i < entry; ++i)
+                QTest::keyClick(stage.window.get(), Qt::Key_Down);
+            QTest::keyClick(stage.window.get(), Qt::Key_Return);
+            return opened && QTest::qWaitFor([&] {
+                       return !stage.window->activeFocusItem()->inherits("QQuickAbstractButton");
+                   });
+        };
+        QTRY_COMPARE(stage.all(u"CaptureThumb"_s).size(), 2);
+        QVERIFY(choose(0));
+        QCOMPARE(stage.core.workspace.revealed.value(0), QList<QUrl>{url});
+        QVERIFY(choose(3));
+        QCOMPARE(std::get<QList<QUrl>>(stage.core.pasteboard.written), QList<QUrl>{url});
+        QVERIFY(stage.core.model().expanded());
+
+        captures.accessMissing = true;
+        captures.handler();
+        QTRY_VERIFY(stage.all(u"CaptureThumb"_s).isEmpty());
+        QVERIFY(click(u"TextButton"_s, 0, Qt::LeftButton));
+        QVERIFY(stage.core.workspace.opened.value(0).toString().endsWith("Privacy_FilesAndFolders"_L1));
+        captures.accessMissing = false;
+        captures.handler();
+        QTRY_COMPARE(stage.all(u"CaptureThumb"_s).size(), 2);
+        QVERIFY(click(u"CaptureThumb"_s, 1, Qt::LeftButton));
+        QCOMPARE(stage.core.workspace.opened.value(1), url);
+        QVERIFY(!stage.core.model().expanded());
+    }
 };
-
-void CapturesPaneTest::clickMenuAndMessages()
-{
-    WindowStage stage;
-    auto &captures = stage.core.captures;
-    const QUrl url = QUrl::fromLocalFile(QStringLiteral("/shots/ä 1.png"));
-    const QDateTime date = stage.core.clock.now();
-    captures.found = {{QStringLiteral("/shots/2.png"), date, date},
-                      {url.toLocalFile(), date.addSecs(-9), date}};
-    captures.handler();
-    stage.core.controller.open(NotchTool::captures);
-    QVERIFY(QTest::qWaitFor([&] { return stage.outline == QRectF(60, 0, 760, 330); }, 60'000));
-    stage.window->requestActivate();
-    const auto click = [&](const QString &type, qsizetype index, Qt::MouseButton button) {
-        const QQuickItem *item = stage.all(type).value(index);
-        if (item)
-            QTest::mouseClick(stage.window.get(), button, {}, item->mapToScene({20, 9}).toPoint());
-        return item != nullptr;
-    };
-    const auto choose = [&](int entry) {
-        const bool opened =
-            click(QStringLiteral("CaptureThumb"), 1, Qt::RightButton) && QTest::qWaitFor([&] {
-                const auto *focused = stage.window->activeFocusItem();
-                return focused && focused->property("text") == QLatin1String("Show in Finder");
-            });
-        for (int i = 0; i < entry; ++i)
-            QTest::keyClick(stage.window.get(), Qt::Key_Down);
-        QTest::keyClick(stage.window.get(), Qt::Key_Return);
-        return opened && QTest::qWaitFor([&] {
-                   return !stage.window->activeFocusItem()->inherits("QQuickAbstractButton");
-               });
-    };
-    QTRY_COMPARE(stage.all(QStringLiteral("CaptureThumb")).size(), 2);
-    QVERIFY(choose(0));
-    QCOMPARE(stage.core.workspace.revealed.value(0), QList<QUrl>{url});
-    QVERIFY(choose(3));
-    QCOMPARE(std::get<QList<QUrl>>(stage.core.pasteboard.written), QList<QUrl>{url});
-    QVERIFY(stage.core.model().expanded());
-
-    captures.accessMissing = true;
-    captures.handler();
-    QTRY_VERIFY(stage.all(QStringLiteral("CaptureThumb")).isEmpty());
-    QVERIFY(click(QStringLiteral("TextButton"), 0, Qt::LeftButton));
-    QVERIFY(
-        stage.core.workspace.opened.value(0).toString().endsWith(QLatin1String("Privacy_FilesAndFolders")));
-    captures.accessMissing = false;
-    captures.handler();
-    QTRY_COMPARE(stage.all(QStringLiteral("CaptureThumb")).size(), 2);
-    QVERIFY(click(QStringLiteral("CaptureThumb"), 1, Qt::LeftButton));
-    QCOMPARE(stage.core.workspace.opened.value(1), url);
-    QVERIFY(!stage.core.model().expanded());
-}
 
 REGISTER_TEST(CapturesPaneTest);
 #include "CapturesPaneTest.moc"

@@ -5,10 +5,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QRandomGenerator>
-#include <QSignalSpy>
-#include <QTest>
-
-using namespace Kestrune;
 
 namespace {
 
@@ -28,12 +24,11 @@ struct Stage : WindowStage
     QQuickItem *pane = nullptr;
 
     Stage()
-        : WindowStage({{QStringLiteral("notch.clipboardItems"),
-                        stored({QStringLiteral("one"), QStringLiteral("two"), QStringLiteral("three")})}})
+        : WindowStage({{u"notch.clipboardItems"_s, stored({u"one"_s, u"two"_s, u"three"_s})}})
     {
         core.controller.open(NotchTool::clipboard);
         if (QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }, 60'000))
-            pane = find(QStringLiteral("ClipboardPane"));
+            pane = find(u"ClipboardPane"_s);
         window->requestActivate();
         QTest::qWait(50);
     }
@@ -42,14 +37,14 @@ struct Stage : WindowStage
     QStringList rows() const
     {
         QMap<qreal, QString> byPlace;
-        for (QQuickItem *row : all(QStringLiteral("ClipRow")))
+        for (QQuickItem *row : all(u"ClipRow"_s))
             byPlace.insert(row->y(), row->property("text").toString());
         return byPlace.values();
     }
     QString message() const
     {
-        const QQuickItem *shown = all(pane, QStringLiteral("PaneMessage")).value(0);
-        return shown ? shown->property("text").toString().section(QLatin1Char('\n'), 0, 0) : QString();
+        const QQuickItem *shown = all(pane, u"PaneMessage"_s).value(0);
+        return shown ? shown->property("text").toString().section(u'\n', 0, 0) : QString();
     }
     void click(const QQuickItem *item, Qt::MouseButton button = Qt::LeftButton) const
     {
@@ -65,111 +60,105 @@ class ClipboardPaneTest : public QObject
 
 private Q_SLOTS:
     void initTestCase() { registerViews(); }
-    void keyboardSearchesChoosesCopiesAndRemoves();
-    void pointerCopiesAndTheMenuDeletes();
-    void messages();
-    void rowsKeepTheirIdentity();
-};
-
-void ClipboardPaneTest::keyboardSearchesChoosesCopiesAndRemoves()
-{
-    Stage stage;
-    QTRY_COMPARE(stage.rows().size(), 3);
-    stage.key(Qt::Key_Down);
-    stage.key(Qt::Key_Down);
-    stage.key(Qt::Key_Return);
-    QCOMPARE(std::get<QString>(stage.core.pasteboard.written), QStringLiteral("three"));
-    QTRY_COMPARE(stage.rows(),
-                 QStringList({QStringLiteral("three"), QStringLiteral("one"), QStringLiteral("two")}));
-    stage.key(Qt::Key_T);
-    QTRY_COMPARE(stage.rows(), QStringList({QStringLiteral("three"), QStringLiteral("two")}));
-    stage.key(Qt::Key_Down);
-    stage.key(Qt::Key_Delete);
-    QTRY_COMPARE(stage.rows(), QStringList{QStringLiteral("three")});
-    stage.key(Qt::Key_Home);
-    stage.key(Qt::Key_Delete);
-    QTRY_COMPARE(stage.rows(), QStringList({QStringLiteral("three"), QStringLiteral("one")}));
-    stage.key(Qt::Key_Escape);
-    QVERIFY(!stage.core.model().expanded());
-}
-
-void ClipboardPaneTest::pointerCopiesAndTheMenuDeletes()
-{
-    Stage stage;
-    QTRY_COMPARE(stage.rows().size(), 3);
-    const auto row = [&](const char *text) {
-        const auto rows = stage.all(QStringLiteral("ClipRow"));
-        return *std::ranges::find_if(
-            rows, [&](const QQuickItem *item) { return item->property("text") == QLatin1String(text); });
-    };
-    stage.click(row("two"));
-    QCOMPARE(stage.clipboard.items().first().text, QStringLiteral("two"));
-    QVERIFY(row("two")->property("copied").toBool() && !row("one")->property("copied").toBool());
-    QTest::qWait(300);
-
-    const auto written = stage.core.pasteboard.count;
-    stage.click(row("one"), Qt::RightButton);
-    QTRY_VERIFY(stage.window->activeFocusItem()->inherits("QQuickAbstractButton"));
-    stage.key(Qt::Key_Return);
-    QTRY_COMPARE(stage.rows(), QStringList({QStringLiteral("two"), QStringLiteral("three")}));
-    QCOMPARE(stage.core.pasteboard.count, written);
-    stage.key(Qt::Key_H);
-    QTRY_COMPARE(stage.rows(), QStringList{QStringLiteral("three")});
-}
-
-void ClipboardPaneTest::messages()
-{
-    Stage stage;
-    QTRY_COMPARE(stage.rows().size(), 3);
-    QCOMPARE(stage.message(), QString());
-    const auto chips = stage.all(QStringLiteral("FilterChip"));
-    QCOMPARE(chips.size(), 5);
-    stage.click(chips.at(3));
-    QCOMPARE(stage.clipboard.filter(), ClipboardModel::Filter::images);
-    QTRY_COMPARE(stage.message(), QStringLiteral("Nothing matches."));
-    stage.core.settings.setClipboardHistory(false);
-    QTRY_COMPARE(stage.message(), QStringLiteral("Clipboard history is off."));
-    stage.core.settings.setClipboardHistory(true);
-    const auto buttons = stage.all(stage.pane, QStringLiteral("SymbolButton"));
-    QCOMPARE(buttons.size(), 1);
-    stage.click(buttons.first());
-    QVERIFY(stage.clipboard.items().isEmpty());
-    QTRY_COMPARE(stage.message(), QStringLiteral("Copy something and it appears here."));
-}
-
-/// Any change of the list is a sequence of single moves, insertions and removals that ends in that list.
-void ClipboardPaneTest::rowsKeepTheirIdentity()
-{
-    Fakes::Core core;
-    ClipboardModel &source = *core.services.model<ClipboardModel>();
-    KeyedListModel rows;
-    const QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    rows.setSource(&source);
-    rows.setList(QStringLiteral("visible"));
-    const QSignalSpy resets(&rows, &QAbstractItemModel::modelReset);
-    core.services.start();
-    QRandomGenerator random(7);
-    for (int i = 0; i < 200; ++i) {
-        const auto any = [&] { return source.items().at(random.bounded(source.items().size())); };
-        const int choice = source.items().isEmpty() ? 0 : random.bounded(5);
-        if (choice <= 1)
-            core.pasteboard.offer(QString::number(i));
-        else if (choice == 2)
-            source.copy(any());
-        else if (choice == 3)
-            source.remove(any());
-        else
-            source.setQuery(QString::number(random.bounded(3)));
-        core.wait(500);
-        QTRY_VERIFY(core.pasteboard.waiting.empty());
-        Fakes::finishWork();
-        QCOMPARE(rows.count(), source.visible().size());
-        for (int row = 0; row < rows.count(); ++row)
-            QCOMPARE(rows.data(rows.index(row), Qt::UserRole).value<ClipboardItem>(),
-                     source.visible().at(row));
+    void keyboardSearchesChoosesCopiesAndRemoves()
+    {
+        Stage stage;
+        QTRY_COMPARE(stage.rows().size(), 3);
+        stage.key(Qt::Key_Down);
+        stage.key(Qt::Key_Down);
+        stage.key(Qt::Key_Return);
+        QCOMPARE(std::get<QString>(stage.core.pasteboard.written), u"three"_s);
+        QTRY_COMPARE(stage.rows(), QStringList({u"three"_s, u"one"_s, u"two"_s}));
+        stage.key(Qt::Key_T);
+        QTRY_COMPARE(stage.rows(), QStringList({u"three"_s, u"two"_s}));
+        stage.key(Qt::Key_Down);
+        stage.key(Qt::Key_Delete);
+        QTRY_COMPARE(stage.rows(), QStringList{u"three"_s});
+        stage.key(Qt::Key_Home);
+        stage.key(Qt::Key_Delete);
+        QTRY_COMPARE(stage.rows(), QStringList({u"three"_s, u"one"_s}));
+        stage.key(Qt::Key_Escape);
+        QVERIFY(!stage.core.model().expanded());
     }
-    QVERIFY(resets.isEmpty());
-}
+
+    void pointerCopiesAndTheMenuDeletes()
+    {
+        Stage stage;
+        QTRY_COMPARE(stage.rows().size(), 3);
+        const auto row = [&](const char *text) {
+            const auto rows = stage.all(u"ClipRow"_s);
+            return *std::ranges::find_if(
+                rows, [&](const QQuickItem *item) { return item->property("text") == QLatin1String(text); });
+        };
+        stage.click(row("two"));
+        QCOMPARE(stage.clipboard.items().first().text, u"two"_s);
+        QVERIFY(row("two")->property("copied").toBool() && !row("one")->property("copied").toBool());
+        QTest::qWait(300);
+
+        const auto written = stage.core.pasteboard.count;
+        stage.click(row("one"), Qt::RightButton);
+        QTRY_VERIFY(stage.window->activeFocusItem()->inherits("QQuickAbstractButton"));
+        stage.key(Qt::Key_Return);
+        QTRY_COMPARE(stage.rows(), QStringList({u"two"_s, u"three"_s}));
+        QCOMPARE(stage.core.pasteboard.count, written);
+        stage.key(Qt::Key_H);
+        QTRY_COMPARE(stage.rows(), QStringList{u"three"_s});
+    }
+
+    void messages()
+    {
+        Stage stage;
+        QTRY_COMPARE(stage.rows().size(), 3);
+        QCOMPARE(stage.message(), QString());
+        const auto chips = stage.all(u"FilterChip"_s);
+        QCOMPARE(chips.size(), 5);
+        stage.click(chips.at(3));
+        QCOMPARE(stage.clipboard.filter(), ClipboardModel::Filter::images);
+        QTRY_COMPARE(stage.message(), u"Nothing matches."_s);
+        stage.core.settings.setClipboardHistory(false);
+        QTRY_COMPARE(stage.message(), u"Clipboard history is off."_s);
+        stage.core.settings.setClipboardHistory(true);
+        const auto buttons = stage.all(stage.pane, u"SymbolButton"_s);
+        QCOMPARE(buttons.size(), 1);
+        stage.click(buttons.first());
+        QVERIFY(stage.clipboard.items().isEmpty());
+        QTRY_COMPARE(stage.message(), u"Copy something and it appears here."_s);
+    }
+
+    /// Any change of the list is a sequence of single moves, insertions and removals that ends in that list.
+    void rowsKeepTheirIdentity()
+    {
+        Fakes::Core core;
+        ClipboardModel &source = *core.services.model<ClipboardModel>();
+        KeyedListModel rows;
+        const QAbstractItemModelTester tester(&rows, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        rows.setSource(&source);
+        rows.setList(u"visible"_s);
+        const QSignalSpy resets(&rows, &QAbstractItemModel::modelReset);
+        core.services.start();
+        QRandomGenerator random(7);
+        for (int i = 0; i < 200; ++i) {
+            const auto any = [&] { return source.items().at(random.bounded(source.items().size())); };
+            const int choice = source.items().isEmpty() ? 0 : random.bounded(5);
+            if (choice <= 1)
+                core.pasteboard.offer(QString::number(i));
+            else if (choice == 2)
+                source.copy(any());
+            else if (choice == 3)
+                source.remove(any());
+            else
+                source.setQuery(QString::number(random.bounded(3)));
+            core.wait(500);
+            QTRY_VERIFY(core.pasteboard.waiting.empty());
+            Fakes::finishWork();
+            QCOMPARE(rows.count(), source.visible().size());
+            for (int row = 0; row < rows.count(); ++row)
+                QCOMPARE(rows.data(rows.index(row), Qt::UserRole).value<ClipboardItem>(),
+                         source.visible().at(row));
+        }
+        QVERIFY(resets.isEmpty());
+    }
+};
 
 REGISTER_TEST(ClipboardPaneTest);
 #include "ClipboardPaneTest.moc"

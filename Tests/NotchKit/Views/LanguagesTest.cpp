@@ -14,12 +14,8 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTranslator>
 #include <QXmlStreamReader>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -319,9 +315,7 @@ private Q_SLOTS:
 
     void countsAsTheLanguageDoes_data()
     {
-        QTest::addColumn<QString>("language");
-        QTest::addColumn<double>("used");
-        QTest::addColumn<QString>("text");
+        columns<QString, double, QString>();
         QTest::newRow("English, one") << u"en"_s << 99.0 << u"1% left"_s;
         QTest::newRow("French, one") << u"fr"_s << 99.0 << u"1 % restant"_s;
         QTest::newRow("French, all") << u"fr"_s << 0.0 << u"100 % restants"_s;
@@ -332,9 +326,7 @@ private Q_SLOTS:
     }
     void countsAsTheLanguageDoes()
     {
-        QFETCH(const QString, language);
-        QFETCH(const double, used);
-        QFETCH(const QString, text);
+        const auto [language, used, text] = fetched<QString, double, QString>();
         const Speaking speaking(language);
         QCOMPARE(AIUsagePresentation::leftText(used), text);
     }

@@ -2,12 +2,6 @@
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
-#include <QSignalSpy>
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The mirror's pane before the camera has been found.

@@ -3,11 +3,6 @@
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// A pane of an online tool with the keyboard.

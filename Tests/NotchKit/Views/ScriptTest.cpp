@@ -3,11 +3,7 @@
 #include "Support/TestRegistry.h"
 
 #include <QGuiApplication>
-#include <QTest>
 #include <QTextLayout>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
 
 /// How the script breaks into lines, and how it glides.
 class ScriptTest : public QObject

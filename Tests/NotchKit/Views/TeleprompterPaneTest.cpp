@@ -3,12 +3,6 @@
 #include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
-#include <QSignalSpy>
-#include <QTest>
-
-using namespace Kestrune;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// The teleprompter's pane with the keyboard.
