@@ -14,7 +14,7 @@ using Verb = CommandLine::Verb;
 
 CommandLine bad(const QString &fault) { return {.verb = Verb::bad, .fault = fault}; }
 
-CommandLine unknown(const QString &argument)
+CommandLine unknownArgument(const QString &argument)
 {
     return bad(QStringLiteral("unknown argument %1").arg(argument));
 }
@@ -108,7 +108,7 @@ CommandLine parseCommand(const QStringList &words)
         return parseSettings(words);
     if (name == QLatin1String("usage"))
         return parseUsage(words);
-    return unknown(name);
+    return unknownArgument(name);
 }
 
 /// Says which option is not known, or has a value though it takes none.
@@ -117,7 +117,7 @@ CommandLine badOption(const QCommandLineParser &parser)
     const QString name = parser.unknownOptionNames().value(0);
     if (name.isEmpty())
         return bad(parser.errorText().chopped(1)); // Without its full stop.
-    return unknown(QLatin1String(name.size() == 1 ? "-" : "--") + name);
+    return unknownArgument(QLatin1String(name.size() == 1 ? "-" : "--") + name);
 }
 
 /// `words` are what follows the options.
@@ -125,7 +125,7 @@ CommandLine parseStart(const QStringList &words)
 {
     // "--open" takes any word after it: an unknown tool opens the default pane.
     if (words.size() > 1)
-        return unknown(words.at(1));
+        return unknownArgument(words.at(1));
     return {.launch = {true, fromRawValue<NotchTool>(words.value(0))}};
 }
 
