@@ -61,7 +61,9 @@ QByteArray CameraServer::run(const QString &program, const QStringList &argument
 {
     ChildProcess process(m_environment);
     process.setProcessChannelMode(QProcess::SeparateChannels);
-    if (!process.launch(program, arguments) || !process.waitForFinished())
+    // The server may ask this process something before it answers.
+    if (!process.launch(program, arguments) ||
+        !waitUntil([&] { return process.state() == QProcess::NotRunning; }))
         return {};
     return process.readAllStandardOutput();
 }
