@@ -3,11 +3,8 @@
 #include "App/TrayIcon.h"
 #include "Desktop/BusStandIn.h"
 #include "Desktop/Tray/BusStatusItem.h"
-#include "EndToEnd/Waiting.h"
-#include "Support/TestRegistry.h"
 
 #include <QDBusPendingCall>
-#include <QTimer>
 
 namespace {
 

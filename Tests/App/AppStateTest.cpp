@@ -1,11 +1,6 @@
 #include "App/AppStage.h"
-#include "Support/TestRegistry.h"
 
-namespace {
-
-QString welcomed() { return u"kestrune.welcomed"_s; }
-
-} // namespace
+static QString welcomed() { return u"kestrune.welcomed"_s; }
 
 class AppStateTest : public QObject
 {

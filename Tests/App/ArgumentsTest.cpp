@@ -4,14 +4,7 @@
 #include "NotchKit/Platform/Utc.h"
 #include "Support/TestRegistry.h"
 
-#include <QDir>
-#include <QJsonDocument>
-#include <QTemporaryDir>
-
 using Verb = CommandLine::Verb;
-
-Q_DECLARE_METATYPE(Kestrune::CommandLine::Verb)
-Q_DECLARE_METATYPE(Kestrune::DefaultsValue)
 
 class ArgumentsTest : public QObject
 {
@@ -95,9 +88,8 @@ void ArgumentsTest::usageAsJson()
 {
     const QTemporaryDir home;
     const auto write = [&](const QString &folder, const QByteArray &text) {
-        QVERIFY(QDir(home.path()).mkpath(folder));
         QFile file(home.filePath(folder) + "/a.jsonl"_L1);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush());
+        QVERIFY(writeFile(file.fileName(), text) && file.open(QFile::ReadWrite));
         const QDateTime time = QDateTime::fromMSecsSinceEpoch(1773144000500, kUtc);
         QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
     };

@@ -1,10 +1,7 @@
 #include "App/SettingsWindow.h"
 #include "App/AppStage.h"
 #include "App/UpdateWindow.h"
-#include "NotchKit/Platform/Appearance.h"
-#include "NotchKit/Updates/Updater.h"
 #include "NotchKit/Views/WindowStage.h"
-#include "Support/TestRegistry.h"
 
 namespace {
 

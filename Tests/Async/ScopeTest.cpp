@@ -6,9 +6,8 @@
 #include <stdexcept>
 
 /// A model of the simplest kind: it asks, and notes what happens.
-class Owner
+struct Owner
 {
-public:
     explicit Owner(Fakes::Questions<int> &asked, QStringList &told)
         : questions(asked)
         , notes(told)

@@ -1,18 +1,15 @@
 #pragma once
 
 #include "EndToEnd/PrivateBus.h"
+#include "EndToEnd/Waiting.h"
+#include "Support/TestRegistry.h"
 
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
-#include <QTemporaryDir>
-
-#include <functional>
-#include <optional>
 
 /// The stand-in of one service on a bus, which records every call that it gets.
-class ServiceStandIn : public QDBusVirtualObject
+struct ServiceStandIn : QDBusVirtualObject
 {
-public:
     /// A reply, or nothing to let the caller wait.
     using Answer = std::function<std::optional<QDBusMessage>(const QDBusMessage &)>;
 

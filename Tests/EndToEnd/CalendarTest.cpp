@@ -1,16 +1,8 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
-
-#include <QDir>
-#include <QFile>
-
-namespace {
 
 constexpr QPoint firstCircle(663, 89); // that completes the first reminder
 constexpr QRect firstTitle(720, 81, 60, 16);
 constexpr QPoint allowCalendar(350, 96);
-
-} // namespace
 
 /// The calendar of the real program, over folders of files.
 class CalendarTest : public StageTest
@@ -18,8 +10,6 @@ class CalendarTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { setStage({}); }
-
     void aClickCompletesAReminder()
     {
         write(u"first"_s, "DUE:20200101T080000Z\r\nX-KEPT:yes\r\n");
@@ -27,20 +17,20 @@ private Q_SLOTS:
         QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"calendar"_s) &&
                 stage().openByHotKey());
         QTRY_VERIFY(isWritten(firstTitle));
-        stage().input.click(firstCircle);
+        input().click(firstCircle);
         QTRY_VERIFY(read(u"first"_s).contains("\r\nSTATUS:COMPLETED\r\n"));
         QVERIFY(read(u"first"_s).contains("\r\nX-KEPT:yes\r\n"));
         const auto second = [&] { return read(u"second"_s).contains("STATUS:COMPLETED"); };
         // Once it has taken the place of the first.
-        QVERIFY(waitUntil([&] { return stage().input.click(firstCircle), waitUntil(second, 1000); }));
+        QVERIFY(waitUntil([&] { return input().click(firstCircle), waitUntil(second, 1000); }));
         QTRY_VERIFY(!isWritten(firstTitle));
 
         // Another program adds one; the next opening shows it.
         write(u"third"_s, "");
-        stage().input.hotKey();
+        input().hotKey();
         QVERIFY(stage().waitClosed() && stage().openByHotKey());
         QTRY_VERIFY(isWritten(firstTitle));
-        stage().input.click(firstCircle);
+        input().click(firstCircle);
         QTRY_VERIFY(read(u"third"_s).contains("STATUS:COMPLETED"));
     }
 
@@ -50,7 +40,7 @@ private Q_SLOTS:
                 stage().openByHotKey());
         QVERIFY(!QDir(folder()).exists());
         const auto made = [&] { return QDir(folder()).exists(); };
-        QVERIFY(waitUntil([&] { return stage().input.click(allowCalendar), waitUntil(made, 1000); }));
+        QVERIFY(waitUntil([&] { return input().click(allowCalendar), waitUntil(made, 1000); }));
     }
 
 private:
@@ -67,23 +57,17 @@ private:
         return false;
     }
 
-    QString folder() { return stage().session.environment().value(u"XDG_DATA_HOME"_s) + u"/calendars"_s; }
+    QString folder() { return session().environment().value(u"XDG_DATA_HOME"_s) + u"/calendars"_s; }
     QString path(const QString &name) { return folder() + u"/list/"_s + name + u".ics"_s; }
 
     void write(const QString &name, const QByteArray &lines)
     {
-        QDir().mkpath(folder() + u"/list"_s);
-        QFile file(path(name));
-        QVERIFY(file.open(QFile::WriteOnly));
         const QByteArray title = name.toLatin1();
-        file.write("BEGIN:VCALENDAR\r\nVERSION:2.0\r\nBEGIN:VTODO\r\nUID:" + title + "\r\nSUMMARY:MMMMMMMM " +
-                   title + "\r\n" + lines + "END:VTODO\r\nEND:VCALENDAR\r\n");
+        QVERIFY(writeFile(path(name), "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nBEGIN:VTODO\r\nUID:" + title +
+                                          "\r\nSUMMARY:MMMMMMMM " + title + "\r\n" + lines +
+                                          "END:VTODO\r\nEND:VCALENDAR\r\n"));
     }
-    QByteArray read(const QString &name)
-    {
-        QFile file(path(name));
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray read(const QString &name) { return readFile(path(name)); }
 };
 
 REGISTER_TEST(CalendarTest);

@@ -1,16 +1,7 @@
 #include "EndToEnd/CameraServer.h"
 
 #include "EndToEnd/Waiting.h"
-
-#include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
-using namespace Qt::StringLiterals;
-
-namespace {
+#include "Support/TestRegistry.h"
 
 constexpr auto configuration = R"(
 context.spa-libs = { videotestsrc = videotestsrc/libspa-videotestsrc }
@@ -18,17 +9,13 @@ context.objects = [ { factory = spa-node-factory args = {
     factory.name = videotestsrc node.name = camera node.description = Camera media.class = Video/Source } } ]
 )";
 
-} // namespace
-
 bool CameraServer::plugIn()
 {
     m_manager.reset();
     m_server.reset();
     const QString folder = m_environment.value(u"XDG_CONFIG_HOME"_s) + u"/pipewire/pipewire.conf.d"_s;
-    QFile file(folder + u"/camera.conf"_s);
-    if (!QDir().mkpath(folder) || !file.open(QFile::WriteOnly) || file.write(configuration) < 0)
+    if (!writeFile(folder + u"/camera.conf"_s, configuration))
         return false;
-    file.close();
     m_server = std::make_unique<ChildProcess>(m_environment);
     const QString socket = m_environment.value(u"XDG_RUNTIME_DIR"_s) + u"/pipewire-0"_s;
     if (!m_server->launch(u"pipewire"_s) || !waitUntil([&] { return QFile::exists(socket); }))

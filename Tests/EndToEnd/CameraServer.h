@@ -5,9 +5,8 @@
 #include <memory>
 
 /// PipeWire with one camera, whose picture has coloured bars: light grey at its left, blue at its right.
-class CameraServer
+struct CameraServer
 {
-public:
     /// In the folders that `environment` names.
     explicit CameraServer(const QProcessEnvironment &environment)
         : m_environment(environment)

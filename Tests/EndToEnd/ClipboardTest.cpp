@@ -1,10 +1,6 @@
 #include "EndToEnd/Stage.h"
-#include "NotchKit/Tools/Clipboard/ClipboardItem.h"
-#include "Support/TestRegistry.h"
 
-#include <QBuffer>
 #include <QDirIterator>
-#include <QFile>
 
 /// Copies of other programs, through the history, back to other programs.
 class ClipboardTest : public StageTest
@@ -14,47 +10,44 @@ class ClipboardTest : public StageTest
 private Q_SLOTS:
     void copiesAreKeptFoundAndGivenBack()
     {
-        setStage({});
         QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"clipboard"_s));
         QVERIFY(copied(u"UTF8_STRING"_s, "a needle: ü, שלום, 🚀\n") && copied(u"UTF8_STRING"_s, "hay"));
         QVERIFY(copied(u"text/uri-list"_s, "file:///tmp/plan%20b.pdf\r\n"));
-        QByteArray picture;
-        QBuffer buffer(&picture);
-        QImage(700, 500, QImage::Format_RGB32).save(&buffer, "png");
-        copy(u"image/png"_s, picture);
+        const QByteArray picture = encoded(plainImage({700, 500}));
+        session().copy(u"image/png"_s, picture);
         QTest::qWait(1000); // Return below would otherwise replace it before it was looked at.
         QVERIFY(stage().openByHotKey());
-        stage().input.type("image");
+        input().type("image");
         QTRY_VERIFY_WITH_TIMEOUT(chosen(u"image/png"_s) == picture, 10000);
 
-        stage().session.program().killNow();
-        QVERIFY(stage().session.start() && stage().choose(u"clipboard"_s));
-        QCOMPARE(texts(), QStringList({u"plan b.pdf"_s, u"hay"_s, u"a needle: ü, שלום, 🚀"_s}));
+        session().program().killNow();
+        QVERIFY(session().start() && stage().choose(u"clipboard"_s));
+        QCOMPARE(session().copiedTexts(),
+                 QStringList({u"plan b.pdf"_s, u"hay"_s, u"a needle: ü, שלום, 🚀"_s}));
         QVERIFY(stage().openByHotKey());
-        stage().input.type("needle");
+        input().type("needle");
         QTRY_COMPARE(chosen(u"UTF8_STRING"_s), "a needle: ü, שלום, 🚀"_ba);
         for (int i = 0; i < 6; ++i)
-            stage().input.tap(XK_BackSpace);
-        stage().input.type("pdf");
+            input().tap(XK_BackSpace);
+        input().type("pdf");
         QTRY_COMPARE(chosen(u"text/uri-list"_s).trimmed(), "file:///tmp/plan%20b.pdf"_ba);
-        QTRY_COMPARE(texts().first(), u"plan b.pdf"_s);
+        QTRY_COMPARE(session().copiedTexts().first(), u"plan b.pdf"_s);
     }
 
     void secretsLeaveNoTrace()
     {
-        setStage({});
         QVERIFY(stage().run());
-        ChildProcess manager(stage().session.environment());
+        ChildProcess manager(session().environment());
         manager.launch(QStringLiteral(KESTRUNE_ROGUE_OWNER),
                        {u"honest"_s, u"UTF8_STRING"_s, u"x-kde-passwordManagerHint"_s});
         QByteArray asked;
         QTRY_COMPARE(asked += manager.readAllStandardOutput(), "ready\nTARGETS\n"_ba);
         QVERIFY(copied(u"UTF8_STRING"_s, "harmless"));
-        QCOMPARE(texts(), QStringList{u"harmless"_s});
+        QCOMPARE(session().copiedTexts(), QStringList{u"harmless"_s});
         QCOMPARE(manager.readAllStandardOutput(), QByteArray());
-        stage().session.endProgram();
+        session().endProgram();
         int files = 0;
-        QDirIterator all(stage().session.environment().value(u"HOME"_s), QDir::Files | QDir::Hidden,
+        QDirIterator all(session().environment().value(u"HOME"_s), QDir::Files | QDir::Hidden,
                          QDirIterator::Subdirectories);
         while (all.hasNext()) {
             QFile file(all.next());
@@ -65,37 +58,19 @@ private Q_SLOTS:
     }
 
 private:
-    QStringList texts()
-    {
-        const auto items = decodeClipboardItems(stage().session.data(u"notch.clipboardItems"_s));
-        QStringList texts;
-        for (const ClipboardItem &item : items.value_or(ClipboardItems()))
-            texts.append(item.text);
-        return texts;
-    }
-
-    /// Copies with xclip, which keeps the clipboard in the background.
-    void copy(const QString &type, const QByteArray &bytes)
-    {
-        ChildProcess client(stage().session.environment());
-        client.launch(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-t"_s, type, u"-i"_s});
-        client.write(bytes);
-        client.closeWriteChannel();
-        client.waitForFinished();
-    }
     bool copied(const QString &type, const QByteArray &bytes)
     {
-        const auto before = texts();
-        copy(type, bytes);
-        return waitUntil([&] { return texts() != before; });
+        const auto before = session().copiedTexts();
+        session().copy(type, bytes);
+        return waitUntil([&] { return session().copiedTexts() != before; });
     }
 
     /// What another program pastes after Return was pressed in the list.
     QByteArray chosen(const QString &type)
     {
-        stage().input.tap(XK_Return);
+        input().tap(XK_Return);
         QTest::qWait(100);
-        ChildProcess client(stage().session.environment());
+        ChildProcess client(session().environment());
         client.launch(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-t"_s, type, u"-o"_s});
         client.waitForFinished();
         return client.readAllStandardOutput();

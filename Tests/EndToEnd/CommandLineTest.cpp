@@ -1,7 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
-
-#include <QJsonArray>
 
 /// The program as a command: what it prints, and how it ends.
 class CommandLineTest : public StageTest
@@ -53,16 +50,15 @@ private Q_SLOTS:
 
     void statusTellsTheState()
     {
-        setStage({});
         QVERIFY(stage().run({{"tools", R"(["home", "note"])"}}));
-        QJsonObject status = stage().session.status();
+        QJsonObject status = session().status();
         QCOMPARE(status.value("running"_L1), true);
         QCOMPARE(status.value("yielding"_L1), false);
         QCOMPARE(status.value("anyExpanded"_L1), false);
         QCOMPARE(status.value("hasActivity"_L1), false);
         QVERIFY(status.value("visibleTool"_L1).isNull());
         QCOMPARE(status.value("tools"_L1).toArray(), QJsonArray({u"home"_s, u"note"_s}));
-        const QJsonObject display = stage().session.display();
+        const QJsonObject display = session().display();
         QVERIFY(!display.value("name"_L1).toString().isEmpty());
         QCOMPARE(display.value("frame"_L1).toObject(),
                  QJsonObject({{u"x"_s, 0}, {u"y"_s, 0}, {u"width"_s, 1280}, {u"height"_s, 800}}));
@@ -71,23 +67,17 @@ private Q_SLOTS:
         for (const auto &field : {u"hardware"_s, u"expanded"_s, u"pinned"_s, u"pointerEntered"_s})
             QCOMPARE(display.value(field), false);
 
-        QCOMPARE(stage().session.command({u"open"_s, u"note"_s}).status, 0);
-        status = stage().session.status();
+        QCOMPARE(session().command({u"open"_s, u"note"_s}).status, 0);
+        status = session().status();
         QCOMPARE(status.value("anyExpanded"_L1), true);
         QCOMPARE(status.value("visibleTool"_L1), u"note"_s);
     }
 
-    void settings_data()
-    {
-        QTest::addColumn<bool>("live");
-        QTest::newRow("nothing running") << false;
-        QTest::newRow("live") << true;
-    }
+    void settings_data() { noAndYes("nothing running", "live"); }
 
     void settings()
     {
-        QFETCH(bool, live);
-        setStage({});
+        const auto [live] = fetched<bool>();
         QVERIFY(!live || stage().run());
         const Session &session = stage().session;
         QCOMPARE(session.setting(u"hoverDelay"_s), u"0.12"_s);
@@ -110,16 +100,15 @@ private Q_SLOTS:
 
     void settingsActAtOnce()
     {
-        setStage({});
         QVERIFY(stage().run());
-        QVERIFY(stage().session.set(u"openMode"_s, u"click"_s));
-        stage().input.move(Place::notch);
+        QVERIFY(session().set(u"openMode"_s, u"click"_s));
+        input().move(Place::notch);
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
-        QVERIFY(stage().session.set(u"openMode"_s, u"hover"_s));
+        QVERIFY(session().set(u"openMode"_s, u"hover"_s));
         QTRY_VERIFY(stage().looksOpen());
-        QVERIFY(stage().session.set(u"showWithoutNotch"_s, u"false"_s));
+        QVERIFY(session().set(u"showWithoutNotch"_s, u"false"_s));
         QTRY_VERIFY(!stage().covered(Place::notch));
-        QVERIFY(stage().session.set(u"showWithoutNotch"_s, u"true"_s));
+        QVERIFY(session().set(u"showWithoutNotch"_s, u"true"_s));
         QTRY_VERIFY(stage().covered(Place::notch));
     }
 

@@ -1,7 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
-
-#include <QJsonArray>
 
 /// Several displays that come and go.
 class DisplaysTest : public StageTest
@@ -19,20 +16,20 @@ private Q_SLOTS:
         QVERIFY(showsNotches(1));
         QCOMPARE(stage().x.pixel(secondNotch), desktop);
 
-        QVERIFY(stage().session.set(u"allDisplays"_s, u"true"_s));
+        QVERIFY(session().set(u"allDisplays"_s, u"true"_s));
         QTRY_VERIFY(showsNotches(2));
         QTRY_VERIFY(stage().x.pixel(secondNotch) != desktop);
         QVERIFY(stage().covered(Place::notch));
-        const QJsonObject frame = stage().session.display(1).value("frame"_L1).toObject();
+        const QJsonObject frame = session().display(1).value("frame"_L1).toObject();
         QCOMPARE(frame.value("x"_L1).toDouble(), 1280.0);
         QCOMPARE(frame.value("width"_L1).toDouble(), 1280.0);
 
-        stage().input.move(secondNotch);
-        QTRY_VERIFY(stage().session.isOpen(1));
+        input().move(secondNotch);
+        QTRY_VERIFY(session().isOpen(1));
         QTRY_VERIFY(stage().x.pixel(secondOpened) != desktop);
-        QVERIFY(!stage().session.isOpen(0));
+        QVERIFY(!session().isOpen(0));
 
-        QVERIFY(stage().session.set(u"allDisplays"_s, u"false"_s));
+        QVERIFY(session().set(u"allDisplays"_s, u"false"_s));
         QTRY_VERIFY(showsNotches(1));
         QTRY_COMPARE(stage().x.pixel(secondNotch), desktop);
     }
@@ -42,15 +39,15 @@ private Q_SLOTS:
         QVERIFY(stage().display.plugSecond(true));
         QVERIFY(stage().run({{"allDisplays", "true"}}));
         QTRY_VERIFY(showsNotches(2));
-        stage().input.move({1920, 600});
-        stage().input.hotKey();
-        QTRY_VERIFY(stage().session.isOpen(1));
-        QVERIFY(!stage().session.isOpen(0));
+        input().move({1920, 600});
+        input().hotKey();
+        QTRY_VERIFY(session().isOpen(1));
+        QVERIFY(!session().isOpen(0));
 
         // An open notch goes with its display.
         QVERIFY(stage().display.plugSecond(false));
         QTRY_VERIFY(showsNotches(1));
-        QVERIFY(!stage().session.status().value("anyExpanded"_L1).toBool());
+        QVERIFY(!session().status().value("anyExpanded"_L1).toBool());
     }
 
     void pluggingAHundredTimesLeavesNothingBehind()
@@ -63,10 +60,10 @@ private Q_SLOTS:
             QVERIFY(stage().display.plugSecond(false));
             QTRY_VERIFY2(showsNotches(1), qPrintable(QString::number(round)));
             if (round == 10)
-                memory = stage().session.ownMemory();
+                memory = session().ownMemory();
         }
         // One lost picture of a notch is more than a megabyte; ninety of them would not go unseen.
-        const qint64 growth = stage().session.ownMemory() - memory;
+        const qint64 growth = session().ownMemory() - memory;
         QVERIFY2(memory > 0 && growth < 2048, qPrintable(u"%1 kB more"_s.arg(growth)));
         QVERIFY(stage().openByHotKey());
     }
@@ -75,7 +72,7 @@ private:
     /// As many notches as that are on screen, and no window of a former one.
     bool showsNotches(int count)
     {
-        return stage().session.displays().size() == count && stage().x.topWindows({880, 390}).size() == count;
+        return session().displays().size() == count && stage().x.topWindows({880, 390}).size() == count;
     }
 
     static constexpr QPoint secondNotch = {1920, 16};

@@ -4,9 +4,8 @@
 
 /// A program that drags something over another's window, with or without the manners of a good one. It
 /// speaks XDND version 5 and does nothing on its own: `answer` serves what was asked of it so far.
-class DragSource
+struct DragSource
 {
-public:
     /// Owns the selection, as a source does from the beginning of a drag on.
     DragSource(const QString &display, const QByteArray &type, const QByteArray &content);
 

@@ -1,12 +1,5 @@
 #include "Desktop/BusStandIn.h"
 #include "EndToEnd/Stage.h"
-#include "NotchKit/Tools/Clipboard/ClipboardItem.h"
-#include "Support/TestRegistry.h"
-
-#include <QDir>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QThread>
 
 #include <csignal>
 
@@ -14,9 +7,8 @@
 #include <unistd.h>
 
 /// Whether files are read, as the kernel tells it.
-class ReadWatch
+struct ReadWatch
 {
-public:
     explicit ReadWatch(const QString &file)
         : m_descriptor(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK))
     {
@@ -42,19 +34,16 @@ class HangTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { setStage({}); }
-
     void aDeadDiskHoldsNothingElseUp()
     {
-        Session &session = stage().session;
-        const QDir home(session.environment().value(u"HOME"_s));
+        const QDir home(session().environment().value(u"HOME"_s));
         const QString disk = home.filePath(u"disk"_s);
         QVERIFY(makeFiles(home));
-        session.setLauncher({QStringLiteral(KESTRUNE_HANGING_DISK), disk});
-        SqliteUserDefaults(session.environment().value(u"XDG_CONFIG_HOME"_s) +
+        session().setLauncher({QStringLiteral(KESTRUNE_HANGING_DISK), disk});
+        SqliteUserDefaults(session().environment().value(u"XDG_CONFIG_HOME"_s) +
                            u"/com.apple.screencapture/defaults.sqlite"_s)
             .setObject(u"location"_s, disk + u"/Screenshots"_s);
-        ServiceStandIn player(session.environment().value(u"DBUS_SESSION_BUS_ADDRESS"_s),
+        ServiceStandIn player(session().environment().value(u"DBUS_SESSION_BUS_ADDRESS"_s),
                               u"org.mpris.MediaPlayer2.player"_s);
         QVERIFY(player.appear([&](const QDBusMessage &call) { return playing(call, disk); }));
         const QByteArray shelf =
@@ -63,40 +52,40 @@ private Q_SLOTS:
         // The player is known, and asked for its cover. It answers only while this waits for events.
         const auto isKnown = [&] {
             QTest::qWait(3000);
-            return session.status().value("hasActivity"_L1).toBool();
+            return session().status().value("hasActivity"_L1).toBool();
         };
         QVERIFY(waitUntil(isKnown, 30000));
 
-        copy(u"text/uri-list"_s, "file://" + QFile::encodeName(disk) + "/copied.png\r\n");
-        QVERIFY(waitUntil([&] { return texts() == QStringList{u"copied.png"_s}; }, 20000));
+        session().copy(u"text/uri-list"_s, "file://" + QFile::encodeName(disk) + "/copied.png\r\n");
+        QVERIFY(waitUntil([&] { return session().copiedTexts() == QStringList{u"copied.png"_s}; }, 20000));
         for (const char *text : {"one", "two"}) {
-            copy(u"UTF8_STRING"_s, text);
-            QVERIFY2(waitUntil([&] { return texts().first() == QLatin1String(text); }, 20000), text);
+            session().copy(u"UTF8_STRING"_s, text);
+            QVERIFY2(waitUntil([&] { return session().copiedTexts().first() == QLatin1String(text); }, 20000),
+                     text);
         }
 
         const ReadWatch log(home.filePath(u".claude/projects/a/log.jsonl"_s));
         for (const QString &tool :
              {u"shelf"_s, u"captures"_s, u"nowPlaying"_s, u"clipboard"_s, u"aiUsage"_s}) {
-            QCOMPARE(session.command({u"open"_s, tool}).status, 0);
+            QCOMPARE(session().command({u"open"_s, tool}).status, 0);
             QVERIFY2(waitUntil([&] { return stage().looksOpen(); }), qPrintable(tool));
-            QVERIFY(waitUntil([&] { return session.selected() == tool; }));
+            QVERIFY(waitUntil([&] { return session().selected() == tool; }));
         }
         QVERIFY(waitUntil([&] { return log.take(); }, 20000));
-        QCOMPARE(session.command({u"close"_s}).status, 0);
+        QCOMPARE(session().command({u"close"_s}).status, 0);
         QVERIFY(stage().waitClosed());
         QVERIFY(stage().openByHover());
 
-        QVERIFY(endsInTime([&] { return session.command({u"quit"_s}).status == 0; }));
+        QVERIFY(endsInTime([&] { return session().command({u"quit"_s}).status == 0; }));
         QVERIFY(stage().run());
-        QCOMPARE(texts(), QStringList({u"two"_s, u"one"_s, u"copied.png"_s}));
+        QCOMPARE(session().copiedTexts(), QStringList({u"two"_s, u"one"_s, u"copied.png"_s}));
         QVERIFY(stage().openByHotKey());
     }
 
     void aFirstStartThatStandsStillIsNamed()
     {
-        Session &session = stage().session;
         QVERIFY(stage().run());
-        const auto program = static_cast<pid_t>(session.program().processId());
+        const auto program = static_cast<pid_t>(session().program().processId());
         QCOMPARE(::kill(program, SIGSTOP), 0);
         const QList<std::pair<QStringList, QString>> commands{
             {{}, u"Kestrune: it is running already, but does not answer\n"_s},
@@ -105,26 +94,24 @@ private Q_SLOTS:
             {{u"open"_s, u"timer"_s}, u"Kestrune: it is running, but does not answer\n"_s},
             {{u"settings"_s, u"list"_s}, u"Kestrune: it is running, but does not answer\n"_s}};
         for (const auto &[arguments, message] : commands) {
-            const Session::Result result = session.command(arguments);
+            const Session::Result result = session().command(arguments);
             QCOMPARE(result.errors, message);
             QCOMPARE(result.status, 1);
         }
         QCOMPARE(::kill(program, SIGCONT), 0);
-        QVERIFY(waitUntil([&] { return session.status().value("running"_L1).toBool(); }));
-        QVERIFY(endsInTime([&] { return session.command({u"quit"_s}).status == 0; }));
+        QVERIFY(waitUntil([&] { return session().status().value("running"_L1).toBool(); }));
+        QVERIFY(endsInTime([&] { return session().command({u"quit"_s}).status == 0; }));
     }
 
 private:
     static bool makeFiles(const QDir &home)
     {
-        QImage picture(40, 40, QImage::Format_RGB32);
-        picture.fill(Qt::red);
-        QFile film(home.filePath(u"disk/film.mkv"_s));
-        QFile log(home.filePath(u".claude/projects/a/log.jsonl"_s));
-        return home.mkpath(u"disk/Screenshots"_s) && home.mkpath(u".claude/projects/a"_s) &&
-               picture.save(home.filePath(u"disk/copied.png"_s)) &&
-               picture.save(home.filePath(u"disk/cover.png"_s)) && film.open(QFile::WriteOnly) &&
-               log.open(QFile::WriteOnly) && log.write("{}\n") > 0;
+        const QByteArray picture = encoded(plainImage({40, 40}));
+        return home.mkpath(u"disk/Screenshots"_s) &&
+               writeFile(home.filePath(u"disk/copied.png"_s), picture) &&
+               writeFile(home.filePath(u"disk/cover.png"_s), picture) &&
+               writeFile(home.filePath(u"disk/film.mkv"_s)) &&
+               writeFile(home.filePath(u".claude/projects/a/log.jsonl"_s), "{}\n");
     }
 
     static std::optional<QDBusMessage> playing(const QDBusMessage &call, const QString &disk)
@@ -143,31 +130,12 @@ private:
         constexpr qint64 kQuickCommand = 100;
         QElapsedTimer timer;
         timer.start();
-        stage().session.command({u"--version"_s});
+        session().command({u"--version"_s});
         const qint64 slowness = 1 + timer.restart() / kQuickCommand;
-        if (!quit() || !waitUntil([&] { return !stage().session.isRunning(); }, kPromised * slowness))
+        if (!quit() || !waitUntil([&] { return !session().isRunning(); }, kPromised * slowness))
             return false;
         qInfo("ended after %lld ms, on a machine %lld times too slow", timer.elapsed(), slowness - 1);
         return timer.elapsed() <= kPromised * slowness;
-    }
-
-    QStringList texts()
-    {
-        const auto items = decodeClipboardItems(stage().session.data(u"notch.clipboardItems"_s));
-        QStringList texts;
-        for (const ClipboardItem &item : items.value_or(ClipboardItems()))
-            texts.append(item.text);
-        return texts;
-    }
-
-    /// Copies with xclip, which keeps the clipboard in the background.
-    void copy(const QString &type, const QByteArray &bytes)
-    {
-        ChildProcess client(stage().session.environment());
-        client.launch(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-t"_s, type, u"-i"_s});
-        client.write(bytes);
-        client.closeWriteChannel();
-        client.waitForFinished();
     }
 };
 

@@ -1,5 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
 
 /// The combination that works from every program.
 class HotKeyTest : public StageTest
@@ -7,16 +6,13 @@ class HotKeyTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { setStage({}); }
-
     void worksWhateverIsLocked_data()
     {
-        columns<QList<uint>, uint>();
-        QTest::newRow("nothing") << QList<uint>{} << 0U;
-        QTest::newRow("Num Lock") << QList<uint>{XK_Num_Lock} << uint{XCB_MOD_MASK_2};
-        QTest::newRow("Caps Lock") << QList<uint>{XK_Caps_Lock} << uint{XCB_MOD_MASK_LOCK};
-        QTest::newRow("both") << QList<uint>{XK_Num_Lock, XK_Caps_Lock}
-                              << uint{XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK};
+        const auto row = columns<QList<uint>, uint>();
+        row("nothing", QList<uint>{}, 0U);
+        row("Num Lock", QList<uint>{XK_Num_Lock}, uint{XCB_MOD_MASK_2});
+        row("Caps Lock", QList<uint>{XK_Caps_Lock}, uint{XCB_MOD_MASK_LOCK});
+        row("both", QList<uint>{XK_Num_Lock, XK_Caps_Lock}, uint{XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK});
     }
 
     void worksWhateverIsLocked()
@@ -24,13 +20,13 @@ private Q_SLOTS:
         auto [locks, state] = fetched<QList<uint>, uint>();
         QVERIFY(stage().run());
         for (const uint lock : locks)
-            stage().input.tap(lock);
-        QCOMPARE(stage().input.state() & (XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK), state);
+            input().tap(lock);
+        QCOMPARE(input().state() & (XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK), state);
         QVERIFY(stage().beneath.hasFocus());
         stage().beneath.forget();
 
         QVERIFY(stage().openByHotKey());
-        stage().input.hotKey();
+        input().hotKey();
         QVERIFY(stage().waitClosed());
         // The modifiers are everybody's; the N must have gone to nobody else.
         QVERIFY(stage().beneath.keys() <= 3);
@@ -39,10 +35,10 @@ private Q_SLOTS:
     void heldDownItTogglesOnce()
     {
         QVERIFY(stage().run());
-        stage().input.hotKey(1500); // longer than the keyboard waits before it repeats
+        input().hotKey(1500); // longer than the keyboard waits before it repeats
         QVERIFY(stage().looksOpen());
         QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 500));
-        stage().input.hotKey(1500);
+        input().hotKey(1500);
         QVERIFY(stage().looksClosed());
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
     }
@@ -51,13 +47,12 @@ private Q_SLOTS:
     {
         takeCombination();
         QVERIFY(stage().run());
-        stage().input.hotKey();
+        input().hotKey();
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
 
         QVERIFY(stage().openByHover());
-        stage().input.move(Place::away);
-        QVERIFY(stage().waitClosed());
-        QCOMPARE(stage().session.command({u"toggle"_s}).status, 0);
+        QVERIFY(stage().leave());
+        QCOMPARE(session().command({u"toggle"_s}).status, 0);
         QTRY_VERIFY(stage().looksOpen());
     }
 

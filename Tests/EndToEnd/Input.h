@@ -7,9 +7,8 @@
 
 /// The pointer and the keyboard of a display, moved and pressed as a person would. Every call has reached
 /// the server when it returns.
-class Input
+struct Input
 {
-public:
     explicit Input(const X11 &x);
     ~Input();
     Q_DISABLE_COPY_MOVE(Input)

@@ -1,5 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
 
 #include <QDBusConnectionInterface>
 
@@ -9,23 +8,23 @@ class LifecycleTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { setStage({}); }
+    void init() { setStage({}); } // before a test takes the time
 
     void theFirstRunOpensHome()
     {
         QElapsedTimer sinceStart;
         sinceStart.start();
-        stage().input.move(Place::away);
-        QVERIFY(stage().session.start());
+        input().move(Place::away);
+        QVERIFY(session().start());
         QVERIFY(waitUntil([&] { return !stage().looksClosed(); }));
         QVERIFY2(sinceStart.elapsed() >= 1000, qPrintable(QString::number(sinceStart.elapsed())));
-        QVERIFY(stage().session.isOpen());
-        QCOMPARE(stage().session.selected(), u"home"_s);
-        QVERIFY(stage().session.flag(u"kestrune"_s, u"kestrune.welcomed"_s));
+        QVERIFY(session().isOpen());
+        QCOMPARE(session().selected(), u"home"_s);
+        QVERIFY(session().flag(u"kestrune"_s, u"kestrune.welcomed"_s));
 
-        QCOMPARE(stage().session.command({u"quit"_s}).status, 0);
-        QTRY_VERIFY(!stage().session.isRunning());
-        QVERIFY(stage().session.start());
+        QCOMPARE(session().command({u"quit"_s}).status, 0);
+        QTRY_VERIFY(!session().isRunning());
+        QVERIFY(session().start());
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 2500));
     }
 
@@ -45,8 +44,8 @@ private Q_SLOTS:
         QVERIFY(stage().run({}, arguments));
         QVERIFY(waitUntil([&] { return !stage().looksClosed(); }));
         QVERIFY2(sinceStart.elapsed() >= 1000, qPrintable(QString::number(sinceStart.elapsed())));
-        QTRY_VERIFY(stage().session.isOpen());
-        QCOMPARE(stage().session.selected(), tool);
+        QTRY_VERIFY(session().isOpen());
+        QCOMPARE(session().selected(), tool);
     }
 
     void aSecondStartIsHandedOver_data()
@@ -60,75 +59,70 @@ private Q_SLOTS:
     {
         auto [arguments, tool] = fetched<QStringList, QString>();
         QVERIFY(stage().run() && stage().choose(u"note"_s));
-        const Session::Result second = stage().session.command(arguments);
+        const Session::Result second = session().command(arguments);
         QCOMPARE(second.status, 0);
         QCOMPARE(second.errors, QString());
-        QTRY_VERIFY(stage().looksOpen() && stage().session.isOpen());
-        QCOMPARE(stage().session.selected(), tool);
-        QVERIFY(stage().session.isRunning());
+        QTRY_VERIFY(stage().looksOpen() && session().isOpen());
+        QCOMPARE(session().selected(), tool);
+        QVERIFY(session().isRunning());
         QCOMPARE(stage().x.topWindows({880, 390}).size(), qsizetype(1));
     }
 
     void tellsWhatItDoesWhenAsked()
     {
         QVERIFY(stage().run());
-        stage().session.environment().insert(u"QT_LOGGING_RULES"_s, u"kestrune.*=true"_s);
-        const Session::Result second = stage().session.command({});
+        session().environment().insert(u"QT_LOGGING_RULES"_s, u"kestrune.*=true"_s);
+        const Session::Result second = session().command({});
         QVERIFY2(second.errors.contains(u"kestrune.app: one is running already"_s),
                  qPrintable(second.errors));
     }
 
-    void pausesWhileTheSuiteShowsItsNotch_data()
-    {
-        QTest::addColumn<bool>("endsByQuitting");
-        QTest::newRow("its notch is turned off") << false;
-        QTest::newRow("it quits") << true;
-    }
+    void pausesWhileTheSuiteShowsItsNotch_data() { noAndYes("its notch is turned off", "it quits"); }
 
     void pausesWhileTheSuiteShowsItsNotch()
     {
-        QFETCH(bool, endsByQuitting);
+        const auto [endsByQuitting] = fetched<bool>();
         constexpr int promised = 3000;
         QVERIFY(stage().run() && stage().openByHotKey());
         // Running with its notch off, the suite is no reason to pause.
-        QVERIFY(stage().session.bus().registerService(m_suite));
+        QVERIFY(session().bus().registerService(m_suite));
         QVERIFY(holdsFor([&] { return !notchIsGone(); }, promised + 500));
 
-        stage().session.setFlag(m_suite, m_suiteFlag, true);
+        session().setFlag(m_suite, m_suiteFlag, true);
         QVERIFY(waitUntil([&] { return notchIsGone(); }));
-        QVERIFY(stage().session.status().value("yielding"_L1).toBool());
-        stage().input.hotKey();
-        stage().input.move(Place::notch);
+        QVERIFY(session().status().value("yielding"_L1).toBool());
+        input().hotKey();
+        input().move(Place::notch);
         QVERIFY(holdsFor([&] { return notchIsGone(); }, 500));
-        stage().input.move(Place::away);
+        input().move(Place::away);
 
         if (endsByQuitting)
-            QVERIFY(stage().session.bus().unregisterService(m_suite));
+            QVERIFY(session().bus().unregisterService(m_suite));
         else
-            stage().session.setFlag(m_suite, m_suiteFlag, false);
+            session().setFlag(m_suite, m_suiteFlag, false);
         QVERIFY(waitUntil([&] { return !notchIsGone(); }));
-        QVERIFY(!stage().session.status().value("yielding"_L1).toBool());
+        QVERIFY(!session().status().value("yielding"_L1).toBool());
         QVERIFY(stage().openByHotKey());
     }
 
     void aSecondStartWhilePausedTellsWhy()
     {
-        QVERIFY(stage().session.bus().registerService(m_suite));
-        stage().session.setFlag(m_suite, m_suiteFlag, true);
-        stage().session.setFlag(u"kestrune"_s, u"kestrune.welcomed"_s, true);
-        stage().input.move(Place::away);
-        QVERIFY(stage().session.start());
+        QVERIFY(session().bus().registerService(m_suite));
+        session().setFlag(m_suite, m_suiteFlag, true);
+        session().setFlag(u"kestrune"_s, u"kestrune.welcomed"_s, true);
+        input().move(Place::away);
+        QVERIFY(session().start());
         QVERIFY(holdsFor([&] { return notchIsGone(); }, 500));
         const QList<quint32> before = stage().x.clientWindows();
 
-        QCOMPARE(stage().session.command({}).status, 0);
+        QCOMPARE(session().command({}).status, 0);
         QTRY_COMPARE(stage().x.clientWindows().size(), before.size() + 1);
         QTRY_VERIFY(!stage().beneath.hasFocus());
         QVERIFY(notchIsGone());
         QTest::qWait(300); // the alert takes the keyboard as soon as it is drawn
-        stage().input.tap(XK_Return);
+        input().tap(XK_Return);
         QTRY_COMPARE(stage().x.clientWindows(), before);
-        QVERIFY(stage().session.status().value("yielding"_L1).toBool());
+        QVERIFY(session().status().value("yielding"_L1).toBool());
     }
 
     void theNoteSurvivesAKill()
@@ -137,18 +131,18 @@ private Q_SLOTS:
         QString expected;
         for (const char *word : {"One ", "two ", "three."}) {
             QVERIFY(stage().openByHover());
-            stage().input.click(Place::panel);
+            input().click(Place::panel);
             QTRY_VERIFY(!stage().beneath.hasFocus());
-            stage().input.tap(XK_End);
-            stage().input.type(word);
+            input().tap(XK_End);
+            input().type(word);
             expected += QString::fromLatin1(word);
-            QTRY_COMPARE(stage().session.setting(u"note"_s), expected);
-            stage().session.program().killNow();
+            QTRY_COMPARE(session().setting(u"note"_s), expected);
+            session().program().killNow();
 
-            QCOMPARE(stage().session.setting(u"note"_s), expected);
-            stage().input.move(Place::away);
+            QCOMPARE(session().setting(u"note"_s), expected);
+            input().move(Place::away);
             QVERIFY(stage().run() && stage().choose(u"note"_s));
-            QCOMPARE(stage().session.setting(u"note"_s), expected);
+            QCOMPARE(session().setting(u"note"_s), expected);
         }
     }
 
@@ -157,12 +151,12 @@ private Q_SLOTS:
         QVERIFY(stage().run());
         const auto windows = stage().x.topWindows({880, 390}).size();
         QCOMPARE(windows, 1);
-        QCOMPARE(stage().session.command({u"quit"_s}).status, 0);
-        QTRY_VERIFY(!stage().session.isRunning());
-        QCOMPARE(stage().session.program().exitStatus(), QProcess::NormalExit);
-        QCOMPARE(stage().session.program().exitCode(), 0);
+        QCOMPARE(session().command({u"quit"_s}).status, 0);
+        QTRY_VERIFY(!session().isRunning());
+        QCOMPARE(session().program().exitStatus(), QProcess::NormalExit);
+        QCOMPARE(session().program().exitCode(), 0);
         QVERIFY(notchIsGone());
-        QVERIFY(!stage().session.bus().interface()->isServiceRegistered(Session::busName()));
+        QVERIFY(!session().bus().interface()->isServiceRegistered(Session::busName()));
     }
 
 private:

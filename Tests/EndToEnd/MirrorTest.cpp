@@ -1,10 +1,8 @@
 #include "Desktop/BusStandIn.h"
 #include "EndToEnd/CameraServer.h"
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
 
 #include <QDBusVariant>
-#include <QFile>
 
 /// The mirror with a real PipeWire camera.
 class MirrorTest : public StageTest
@@ -14,8 +12,7 @@ class MirrorTest : public StageTest
 private Q_SLOTS:
     void showsTheCameraWhileItIsOpen()
     {
-        setStage({});
-        CameraServer server(stage().session.environment());
+        CameraServer server(session().environment());
         QVERIFY(server.plugIn());
         QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"mirror"_s));
         QTRY_VERIFY(server.state() != "running"_L1);
@@ -25,7 +22,7 @@ private Q_SLOTS:
         QVERIFY2(!maps().contains("libgst") && maps().contains("libQt6Quick"),
                  "the camera's libraries are in the program");
 
-        QCOMPARE(stage().session.command({u"close"_s}).status, 0);
+        QCOMPARE(session().command({u"close"_s}).status, 0);
         const qint64 used = timeUntil([&] { return server.state() != "running"_L1; });
         QVERIFY2(used >= 0 && used < 200, qPrintable(u"released after %1 ms"_s.arg(used)));
 
@@ -34,21 +31,20 @@ private Q_SLOTS:
         QTRY_VERIFY(isBlue(left));
         QVERIFY(server.pullOut());
         QTRY_COMPARE(stage().x.pixel(left), QColor(Qt::black));
-        QCOMPARE(stage().session.command({u"close"_s}).status, 0);
+        QCOMPARE(session().command({u"close"_s}).status, 0);
         QVERIFY(stage().waitClosed() && server.plugIn());
         QVERIFY(stage().openByHotKey());
         QTRY_VERIFY(isBlue(left));
 
-        stage().session.program().killNow();
+        session().program().killNow();
         QTRY_VERIFY2(server.state() != "running"_L1, "the camera outlives the program");
     }
 
     void aRefusalKeepsTheCameraOff()
     {
-        setStage({});
-        CameraServer server(stage().session.environment());
+        CameraServer server(session().environment());
         QVERIFY(server.plugIn());
-        const QString address = stage().session.environment().value(u"DBUS_SESSION_BUS_ADDRESS"_s);
+        const QString address = session().environment().value(u"DBUS_SESSION_BUS_ADDRESS"_s);
         ServiceStandIn portal(address, u"org.freedesktop.portal.Desktop"_s);
         QVERIFY(portal.appear([](const QDBusMessage &call) -> std::optional<QDBusMessage> {
             if (call.member() == "Get"_L1)
@@ -73,11 +69,7 @@ private:
         const QColor colour = stage().x.pixel(place);
         return colour.blue() > 150 && colour.red() > 150;
     }
-    QByteArray maps()
-    {
-        QFile file(u"/proc/%1/maps"_s.arg(stage().session.program().processId()));
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray maps() { return readFile(u"/proc/%1/maps"_s.arg(session().program().processId())); }
 
     static constexpr QPoint left{320, 120};
     static constexpr QPoint right{960, 120};

@@ -1,7 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
-
-#include <QDir>
 
 /// Real players with real songs, from the session bus to the wings and the pane, and back by its buttons.
 class NowPlayingTest : public StageTest
@@ -11,12 +8,11 @@ class NowPlayingTest : public StageTest
 private Q_SLOTS:
     void followsAndControlsRealPlayers()
     {
-        setStage({});
         QVERIFY(makeSongs());
         QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"nowPlaying"_s));
         QVERIFY(!hasActivity() && !stage().covered(wing));
 
-        ChildProcess mpv(stage().session.environment());
+        ChildProcess mpv(session().environment());
         QVERIFY(mpv.launch(u"mpv"_s,
                            {u"--no-config"_s, u"--no-terminal"_s, u"--ao=null"_s, u"--vo=null"_s,
                             u"--script=/usr/lib/mpv-mpris/mpris.so"_s, song(u"one"_s), song(u"two"_s)}));
@@ -28,33 +24,33 @@ private Q_SLOTS:
         const int played = progress();
         QTRY_VERIFY(progress() > played);
 
-        stage().input.click(middle);
+        input().click(middle);
         QTRY_COMPARE(ask(u"mpv"_s, u"status"_s), u"Paused"_s);
         const auto stands = [&] {
             const int paused = progress();
             return holdsFor([&] { return progress() == paused; }, 2500);
         };
         QVERIFY(waitUntil(stands)); // once the pane has looked again
-        stage().input.click(middle);
+        input().click(middle);
         QTRY_COMPARE(ask(u"mpv"_s, u"status"_s), u"Playing"_s);
-        stage().input.click(forward);
+        input().click(forward);
         QTRY_COMPARE(title(), u"two"_s);
-        stage().input.click(backward);
+        input().click(backward);
         QTRY_COMPARE(title(), u"one"_s);
 
-        ChildProcess cmus(stage().session.environment());
+        ChildProcess cmus(session().environment());
         QVERIFY(startCmus(cmus));
         ask(u"mpv"_s, u"pause"_s);
         QTRY_VERIFY(stage().x.pixel(cover) != QColor(Qt::red)); // this one's song has no cover
-        stage().input.click(middle);
+        input().click(middle);
         QTRY_COMPARE(ask(u"cmus"_s, u"status"_s), u"Paused"_s);
         QCOMPARE(ask(u"mpv"_s, u"status"_s), u"Paused"_s);
         ask(u"mpv"_s, u"play"_s);
         QTRY_COMPARE(stage().x.pixel(cover), QColor(Qt::red));
         ask(u"mpv"_s, u"pause"_s);
         QTest::qWait(2200);
-        stage().input.move(Place::away);
-        QCOMPARE(stage().session.command({u"close"_s}).status, 0);
+        input().move(Place::away);
+        QCOMPARE(session().command({u"close"_s}).status, 0);
         QVERIFY(stage().waitClosed());
         QVERIFY2(waitUntil([&] { return !wingsMove() && stage().covered(wing); }), "it is paused");
 
@@ -66,13 +62,13 @@ private Q_SLOTS:
     }
 
 private:
-    bool hasActivity() { return stage().session.status().value("hasActivity"_L1).toBool(); }
-    QString music() { return stage().session.environment().value(u"HOME"_s) + u"/music"_s; }
+    bool hasActivity() { return session().status().value("hasActivity"_L1).toBool(); }
+    QString music() { return session().environment().value(u"HOME"_s) + u"/music"_s; }
     QString song(const QString &title) { return music() + u'/' + title + u".flac"_s; }
 
     QString execute(const QString &program, const QStringList &arguments)
     {
-        ChildProcess process(stage().session.environment());
+        ChildProcess process(session().environment());
         if (!process.launch(program, arguments) || !process.waitForFinished())
             return u"failed"_s;
         return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
@@ -86,9 +82,8 @@ private:
     /// Two songs with a red cover beside them, and one without in another folder.
     bool makeSongs()
     {
-        QImage red(300, 300, QImage::Format_RGB32);
-        red.fill(Qt::red);
-        if (!QDir().mkpath(music() + u"/bare"_s) || !red.save(music() + u"/cover.png"_s))
+        const QByteArray red = encoded(plainImage({300, 300}, Qt::red));
+        if (!QDir().mkpath(music() + u"/bare"_s) || !writeFile(music() + u"/cover.png"_s, red))
             return false;
         for (const QString &name : {u"one"_s, u"two"_s, u"bare/three"_s}) {
             const QString comment = u"TITLE="_s + name;
@@ -103,13 +98,10 @@ private:
     /// The player needs a terminal; it is told what to play over a socket of its own.
     bool startCmus(ChildProcess &cmus)
     {
-        QProcessEnvironment environment = stage().session.environment();
-        const QString folder = environment.value(u"XDG_CONFIG_HOME"_s) + u"/cmus"_s;
-        QFile settings(folder + u"/rc"_s);
-        if (!QDir().mkpath(folder) || !settings.open(QFile::WriteOnly) ||
-            settings.write("set output_plugin=ao\nset dsp.ao.driver=null\nset mpris=true\n") < 0)
+        QProcessEnvironment environment = session().environment();
+        if (!writeFile(environment.value(u"XDG_CONFIG_HOME"_s) + u"/cmus/rc"_s,
+                       "set output_plugin=ao\nset dsp.ao.driver=null\nset mpris=true\n"))
             return false;
-        settings.close();
         environment.insert(u"TERM"_s, u"xterm"_s);
         cmus.setProcessEnvironment(environment);
         const QString socket = environment.value(u"XDG_RUNTIME_DIR"_s) + u"/cmus-socket"_s;

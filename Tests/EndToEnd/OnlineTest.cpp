@@ -1,5 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
 #include "Support/WebStandIn.h"
 
 /// Weather and stocks of the real program, whose web services are a server of the test's own.
@@ -11,8 +10,7 @@ private Q_SLOTS:
     void init()
     {
         m_server.forget();
-        setStage({});
-        stage().session.environment().insert(u"KESTRUNE_SERVICES"_s, m_server.url().toString());
+        session().environment().insert(u"KESTRUNE_SERVICES"_s, m_server.url().toString());
     }
 
     void nothingIsAskedWhileClosed()
@@ -29,10 +27,10 @@ private Q_SLOTS:
         QVERIFY(stage().run({{"hoverDelay", "60"}, {"useFahrenheit", "true"}}) &&
                 stage().choose(u"weather"_s));
         QVERIFY(stage().openByHotKey() && m_server.log().isEmpty());
-        stage().input.type("san jos");
-        stage().input.tap(XK_Return);
-        QTRY_COMPARE(stage().session.setting(u"weatherCity"_s), u"San José"_s);
-        QCOMPARE(stage().session.setting(u"weatherLatitude"_s), u"9.93"_s);
+        input().type("san jos");
+        input().tap(XK_Return);
+        QTRY_COMPARE(session().setting(u"weatherCity"_s), u"San José"_s);
+        QCOMPARE(session().setting(u"weatherLatitude"_s), u"9.93"_s);
         QTRY_COMPARE(m_server.targets(),
                      (QList<QByteArray>{"/v1/search?count=1&language=en&name=san%20jos",
                                         "/v1/forecast?latitude=9.93&longitude=-84.08"
@@ -71,7 +69,7 @@ private Q_SLOTS:
         QCOMPARE(hosts.value(target("ERR")), (QList{first, second}));
 
         m_server.forget();
-        QVERIFY(stage().session.set(u"tickers"_s, uR"(["NEW"])"_s));
+        QVERIFY(session().set(u"tickers"_s, uR"(["NEW"])"_s));
         QVERIFY(stage().openByHotKey());
         QTRY_COMPARE(m_server.targets(), QList{target("NEW")});
     }
@@ -81,8 +79,8 @@ private Q_SLOTS:
         for (const QString &refused :
              {u"https://127.0.0.1:1"_s, u"http://192.0.2.1:80"_s, u"http://localhost:80"_s,
               u"http://127.0.0.1"_s, u"http://127.0.0.1:80/x"_s, u"junk"_s}) {
-            stage().session.environment().insert(u"KESTRUNE_SERVICES"_s, refused);
-            const auto result = stage().session.command({});
+            session().environment().insert(u"KESTRUNE_SERVICES"_s, refused);
+            const auto result = session().command({});
             QCOMPARE(result.status, 2);
             QCOMPARE(result.errors.count(u'\n'), 1);
         }

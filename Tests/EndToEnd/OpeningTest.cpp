@@ -1,5 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
 
 // Lower limits on time are what is promised; upper ones leave room for a busy machine.
 constexpr int leaveDelay = 250;
@@ -10,8 +9,6 @@ class OpeningTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { setStage({}); }
-
     void hoverOpensAfterTheDelay_data()
     {
         QTest::addColumn<QByteArray>("delay");
@@ -24,23 +21,23 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, delay);
         QVERIFY(stage().run({{"hoverDelay", delay.constData()}}));
-        stage().input.move(Place::notch);
+        input().move(Place::notch);
         const qint64 opened = timeUntil([&] { return !stage().looksClosed(); });
         const auto promised = static_cast<qint64>(delay.toDouble() * 1000);
         QVERIFY2(opened >= promised, qPrintable(QString::number(opened)));
         QTRY_VERIFY(stage().looksOpen());
-        QVERIFY(stage().session.isOpen());
-        QVERIFY(stage().session.display().value("pointerEntered"_L1).toBool());
+        QVERIFY(session().isOpen());
+        QVERIFY(session().display().value("pointerEntered"_L1).toBool());
     }
 
     void pressingWhileRestingStartsTheDelayAnew()
     {
         QVERIFY(stage().run({{"hoverDelay", "0.6"}}));
-        stage().input.move(Place::notch);
+        input().move(Place::notch);
         QTest::qWait(300);
-        stage().input.pressButton();
+        input().pressButton();
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 900));
-        stage().input.releaseButton();
+        input().releaseButton();
         const qint64 opened = timeUntil([&] { return !stage().looksClosed(); });
         QVERIFY2(opened >= 600, qPrintable(QString::number(opened)));
     }
@@ -48,11 +45,11 @@ private Q_SLOTS:
     void clickModeOpensOnThePress()
     {
         QVERIFY(stage().run({{"openMode", "click"}}));
-        stage().input.move(Place::notch);
+        input().move(Place::notch);
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
-        stage().input.pressButton();
+        input().pressButton();
         QTRY_VERIFY(stage().looksOpen());
-        stage().input.releaseButton();
+        input().releaseButton();
         QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 500));
     }
 
@@ -61,10 +58,9 @@ private Q_SLOTS:
         QVERIFY(stage().run({{"openMode", "click"}}));
         // The button is down and up again between two looks at the pointer.
         for (int round = 0; round < 5; ++round) {
-            stage().input.click(Place::notch);
+            input().click(Place::notch);
             QTRY_VERIFY(stage().looksOpen());
-            stage().input.move(Place::away);
-            QVERIFY(stage().waitClosed());
+            QVERIFY(stage().leave());
         }
         QCOMPARE(stage().beneath.clicks(), 0);
     }
@@ -80,25 +76,25 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, mode);
         QVERIFY(stage().run({{"openMode", mode.constData()}}));
-        stage().input.move(Place::panel);
-        stage().input.pressButton();
+        input().move(Place::panel);
+        input().pressButton();
         QTest::qWait(100);
-        stage().input.move(Place::notch);
+        input().move(Place::notch);
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 600));
-        stage().input.move(Place::away);
-        stage().input.releaseButton();
+        input().move(Place::away);
+        input().releaseButton();
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 300));
     }
 
     void leavingClosesAfterADelay()
     {
         QVERIFY(stage().run() && stage().openByHover());
-        stage().input.move(Place::away);
+        input().move(Place::away);
         QTest::qWait(100);
-        stage().input.move(Place::panel);
+        input().move(Place::panel);
         QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 700));
 
-        stage().input.move(Place::away);
+        input().move(Place::away);
         const qint64 closed = timeUntil([&] { return !stage().looksOpen(); });
         QVERIFY2(closed >= leaveDelay, qPrintable(QString::number(closed)));
         QVERIFY(stage().waitClosed());
@@ -108,11 +104,11 @@ private Q_SLOTS:
     {
         QVERIFY(stage().run() && stage().openByHotKey());
         QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 800));
-        QVERIFY(!stage().session.display().value("pointerEntered"_L1).toBool());
+        QVERIFY(!session().display().value("pointerEntered"_L1).toBool());
 
-        stage().input.move(Place::panel);
-        QTRY_VERIFY(stage().session.display().value("pointerEntered"_L1).toBool());
-        stage().input.move(Place::away);
+        input().move(Place::panel);
+        QTRY_VERIFY(session().display().value("pointerEntered"_L1).toBool());
+        input().move(Place::away);
         const qint64 closed = timeUntil([&] { return !stage().looksOpen(); });
         QVERIFY2(closed >= leaveDelay, qPrintable(QString::number(closed)));
     }
@@ -121,11 +117,11 @@ private Q_SLOTS:
     {
         QVERIFY(stage().run());
         // A press that is older than the opening is no fresh click.
-        stage().input.pressButton();
+        input().pressButton();
         QTest::qWait(100);
         QVERIFY(stage().openByHotKey());
         QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 500));
-        stage().input.releaseButton();
+        input().releaseButton();
         QTest::qWait(100);
         QVERIFY(stage().clickReachesBeneath(Place::away));
         QVERIFY(stage().waitClosed());
@@ -134,15 +130,14 @@ private Q_SLOTS:
     void pinnedItStays()
     {
         QVERIFY(stage().run() && stage().openByHover());
-        stage().input.click(Place::pin);
-        QTRY_VERIFY(stage().session.display().value("pinned"_L1).toBool());
-        stage().input.move(Place::away);
+        input().click(Place::pin);
+        QTRY_VERIFY(session().display().value("pinned"_L1).toBool());
+        input().move(Place::away);
         QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 800));
 
-        stage().input.click(Place::pin);
-        QTRY_VERIFY(!stage().session.display().value("pinned"_L1).toBool());
-        stage().input.move(Place::away);
-        QVERIFY(stage().waitClosed());
+        input().click(Place::pin);
+        QTRY_VERIFY(!session().display().value("pinned"_L1).toBool());
+        QVERIFY(stage().leave());
     }
 
     void escapeCloses()
@@ -150,7 +145,7 @@ private Q_SLOTS:
         QVERIFY(stage().run() && stage().openByHotKey());
         QTRY_VERIFY(!stage().beneath.hasFocus());
         stage().beneath.forget(); // the modifiers of the hot key
-        stage().input.tap(XK_Escape);
+        input().tap(XK_Escape);
         QVERIFY(stage().waitClosed());
         QTRY_VERIFY(stage().beneath.hasFocus());
         QCOMPARE(stage().beneath.keys(), 0);
@@ -159,17 +154,17 @@ private Q_SLOTS:
     void tabReachesEveryTool()
     {
         QVERIFY(stage().run() && stage().openByHotKey());
-        const QStringList tools = stage().session.tools();
+        const QStringList tools = session().tools();
         QSet<QString> seen;
         for (int button = 0; button < 2; ++button) // The header's: one would show the settings.
-            stage().input.tap(XK_Tab);
+            input().tap(XK_Tab);
         for (int press = 0; press < 120 && seen.size() < tools.size(); ++press) {
-            stage().input.tap(XK_Tab);
-            stage().input.tap(XK_space);
-            seen.insert(stage().session.selected());
+            input().tap(XK_Tab);
+            input().tap(XK_space);
+            seen.insert(session().selected());
         }
         QCOMPARE(seen, QSet<QString>(tools.begin(), tools.end()));
-        stage().input.tap(XK_Escape);
+        input().tap(XK_Escape);
         QVERIFY(stage().waitClosed());
     }
 
@@ -178,12 +173,12 @@ private Q_SLOTS:
         QVERIFY(stage().run() && stage().openByHover());
         QStringList seen;
         for (int x = Place::toolRow.left(); x < Place::toolRow.right(); x += 16) {
-            stage().input.click({x, Place::toolRow.y()});
-            const QString selected = stage().session.selected();
+            input().click({x, Place::toolRow.y()});
+            const QString selected = session().selected();
             if (!seen.contains(selected))
                 seen.append(selected);
         }
-        QCOMPARE(seen, stage().session.tools());
+        QCOMPARE(seen, session().tools());
     }
 };
 

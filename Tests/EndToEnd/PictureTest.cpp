@@ -1,5 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
 
 /// What is seen on the screen: the notch's outline, and the desktop untouched around it.
 class PictureTest : public StageTest
@@ -7,16 +6,11 @@ class PictureTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void onlyTheNotchIsDrawn_data()
-    {
-        QTest::addColumn<bool>("compositor");
-        QTest::newRow("no compositor") << false;
-        QTest::newRow("compositor") << true;
-    }
+    void onlyTheNotchIsDrawn_data() { noAndYes("no compositor", "compositor"); }
 
     void onlyTheNotchIsDrawn()
     {
-        QFETCH(bool, compositor);
+        const auto [compositor] = fetched<bool>();
         setStage({.compositor = compositor});
         const QRect closed(640 - 95, 0, 190, 32);
         const QRect open(640 - 380, 0, 760, 330);
@@ -39,38 +33,33 @@ private Q_SLOTS:
         QVERIFY(!stage().covered({205, 200}) && !stage().covered({1074, 200}) &&
                 !stage().covered({640, 388}));
 
-        QCOMPARE(stage().session.command({u"close"_s}).status, 0);
+        QCOMPARE(session().command({u"close"_s}).status, 0);
         QVERIFY(stage().waitClosed());
         QTRY_VERIFY(fills(changedArea(before), closed));
     }
 
-    void fitsADenseDisplay_data()
-    {
-        QTest::addColumn<bool>("byResource");
-        QTest::newRow("scale factor") << false;
-        QTest::newRow("dots per inch") << true;
-    }
+    void fitsADenseDisplay_data() { noAndYes("scale factor", "dots per inch"); }
 
     void fitsADenseDisplay()
     {
-        QFETCH(bool, byResource);
+        const auto [byResource] = fetched<bool>();
         setStage({.size = {2560, 1600}});
         if (byResource)
             stage().x.setText(stage().x.root(), "RESOURCE_MANAGER", "Xft.dpi:\t192\n");
         else
-            stage().session.environment().insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
+            session().environment().insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
         const QImage before = stage().x.grab({0, 0, 2560, 900});
         QVERIFY(stage().run());
         QTRY_VERIFY(fills(changedArea(before), QRect(1280 - 190, 0, 380, 64)));
-        const QJsonObject frame = stage().session.display().value("frame"_L1).toObject();
+        const QJsonObject frame = session().display().value("frame"_L1).toObject();
         QCOMPARE(frame.value("width"_L1).toDouble(), 1280.0);
         QCOMPARE(frame.value("height"_L1).toDouble(), 800.0);
 
-        stage().input.move({1280, 40});
+        input().move({1280, 40});
         QTRY_VERIFY(fills(changedArea(before), QRect(1280 - 760, 0, 1520, 660)));
         QVERIFY(stage().clickIsKept({1280, 670}));
         QVERIFY(stage().clickReachesBeneath({1280, 684}));
-        stage().input.move({1280, 1500});
+        input().move({1280, 1500});
         QTRY_VERIFY(fills(changedArea(before), QRect(1280 - 190, 0, 380, 64)));
     }
 
@@ -80,13 +69,13 @@ private Q_SLOTS:
     {
         setStage({.compositor = true});
         QVERIFY(stage().run());
-        const QStringList tools = stage().session.tools();
+        const QStringList tools = session().tools();
         QVERIFY(tools.size() > 2);
         xcb_unmap_window(stage().x.connection(), stage().beneath.id());
         QTRY_VERIFY(stage().x.pixel(Place::away) != stage().beneath.colour());
         const QRect body(300, 0, 680, 290); // inside the open notch, whatever little its springs still move
         const QColor desktop = stage().x.pixel(Place::away);
-        QCOMPARE(stage().session.command({u"open"_s, tools.constFirst()}).status, 0);
+        QCOMPARE(session().command({u"open"_s, tools.constFirst()}).status, 0);
         QTest::qWait(700); // the spring comes to rest
         QImage row;
         QVERIFY(waitUntil([&] { return settlesAfter(row); }));
@@ -95,9 +84,11 @@ private Q_SLOTS:
         const auto visit = [&](const QString &tool) {
             if (tool == before)
                 return;
-            const bool opened = stage().session.command({u"open"_s, tool}).status == 0 &&
+            const bool opened = session().command({u"open"_s, tool}).status == 0 &&
                                 waitUntil([&] { return settlesAfter(row); });
-            const QRect hole = colourIn(stage().x.grab(body), desktop);
+            const QImage now = stage().x.grab(body);
+            const QRect hole =
+                areaWhere(now.size(), [&](int x, int y) { return now.pixelColor(x, y) == desktop; });
             if (!opened || !hole.isEmpty())
                 faults += u"%1 after %2: %3 x %4 at %5,%6"_s.arg(tool, before)
                               .arg(hole.width())
@@ -137,31 +128,25 @@ private:
                area.contains(frame.adjusted(frame.height() / 5, 0, -frame.height() / 5, 0));
     }
 
-    /// The smallest rectangle that holds every pixel of that colour.
-    static QRect colourIn(const QImage &picture, const QColor &colour)
+    /// The smallest rectangle that holds every pixel for whose place `condition` holds.
+    template <typename Condition>
+    static QRect areaWhere(QSize size, const Condition &condition)
     {
         QRect found;
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                if (picture.pixelColor(x, y) == colour)
+        for (int y = 0; y < size.height(); ++y) {
+            for (int x = 0; x < size.width(); ++x) {
+                if (condition(x, y))
                     found |= QRect(x, y, 1, 1);
             }
         }
         return found;
     }
 
-    /// The smallest rectangle that holds every pixel of the top of the screen that differs from `before`.
+    /// What of the top of the screen differs from `before`.
     QRect changedArea(const QImage &before)
     {
         const QImage now = stage().x.grab(before.rect());
-        QRect changed;
-        for (int y = 0; y < now.height(); ++y) {
-            for (int x = 0; x < now.width(); ++x) {
-                if (now.pixel(x, y) != before.pixel(x, y))
-                    changed |= QRect(x, y, 1, 1);
-            }
-        }
-        return changed;
+        return areaWhere(now.size(), [&](int x, int y) { return now.pixel(x, y) != before.pixel(x, y); });
     }
 };
 

@@ -1,12 +1,7 @@
 #include "EndToEnd/PrivateBus.h"
 
 #include "EndToEnd/Waiting.h"
-
-#include <QFile>
-
-using namespace Qt::StringLiterals;
-
-namespace {
+#include "Support/TestRegistry.h"
 
 // None of the machine's own folders of services: nothing starts on this bus unasked.
 constexpr auto busConfiguration = R"(<busconfig>
@@ -16,19 +11,16 @@ constexpr auto busConfiguration = R"(<busconfig>
   </policy>
 </busconfig>)";
 
-} // namespace
-
 PrivateBus::PrivateBus(QProcessEnvironment &environment, const QString &folder, const QString &services)
     : m_daemon(environment)
 {
-    QFile configuration(folder + u"/bus.conf"_s);
+    const QString configuration = folder + u"/bus.conf"_s;
     const QString started = services.isEmpty() ? QString() : u"<servicedir>%1</servicedir>"_s.arg(services);
     const QByteArray text = QString::fromLatin1(busConfiguration).arg(started).toUtf8();
-    if (!configuration.open(QFile::WriteOnly) || configuration.write(text) < 0)
+    if (!writeFile(configuration, text))
         qFatal("the bus could not be configured");
-    configuration.close();
     m_daemon.launch(u"dbus-daemon"_s,
-                    {u"--config-file"_s, configuration.fileName(), u"--print-address"_s, u"--nofork"_s});
+                    {u"--config-file"_s, configuration, u"--print-address"_s, u"--nofork"_s});
     if (!waitUntil([&] { return m_daemon.canReadLine(); }))
         qFatal("the bus did not start");
     m_address = QString::fromLatin1(m_daemon.readLine().trimmed());

@@ -6,9 +6,8 @@
 
 /// A session bus of the test's own; it starts no service by itself but those described in `services`, a
 /// folder.
-class PrivateBus
+struct PrivateBus
 {
-public:
     /// Keeps its configuration in `folder` and adds its address to `environment`.
     PrivateBus(QProcessEnvironment &environment, const QString &folder, const QString &services = {});
     ~PrivateBus();

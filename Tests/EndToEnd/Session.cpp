@@ -2,14 +2,10 @@
 
 #include "Desktop/Defaults/SqliteUserDefaults.h"
 #include "EndToEnd/Waiting.h"
+#include "NotchKit/Tools/Clipboard/ClipboardItem.h"
+#include "Support/TestRegistry.h"
 
 #include <QDBusConnectionInterface>
-#include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-
-using namespace Qt::StringLiterals;
 
 Session::Session()
     : m_environment(QProcessEnvironment::systemEnvironment())
@@ -33,7 +29,7 @@ Session::~Session() { m_program.reset(); }
 
 void Session::setFlag(const QString &domain, const QString &key, bool value)
 {
-    Kestrune::SqliteUserDefaults(defaultsFile(domain)).setObject(key, value);
+    SqliteUserDefaults(defaultsFile(domain)).setObject(key, value);
 }
 
 bool Session::flag(const QString &domain, const QString &key) const
@@ -46,9 +42,8 @@ QByteArray Session::data(const QString &key) const
     return read(u"kestrune"_s).value<QByteArray>(key).value_or(QByteArray());
 }
 
-Kestrune::SqliteUserDefaults Session::read(const QString &domain) const
+SqliteUserDefaults Session::read(const QString &domain) const
 {
-    using Kestrune::SqliteUserDefaults;
     return SqliteUserDefaults(defaultsFile(domain), SqliteUserDefaults::Access::ReadOnly);
 }
 
@@ -111,17 +106,32 @@ QStringList Session::tools() const
     return QVariant(status().value("tools"_L1).toArray().toVariantList()).toStringList();
 }
 
+QStringList Session::copiedTexts() const
+{
+    QStringList texts;
+    for (const auto &item : decodeClipboardItems(data(u"notch.clipboardItems"_s)).value_or(ClipboardItems()))
+        texts.append(item.text);
+    return texts;
+}
+
+void Session::copy(const QString &type, const QByteArray &bytes) const
+{
+    ChildProcess client(m_environment);
+    client.launch(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-t"_s, type, u"-i"_s});
+    client.write(bytes);
+    client.closeWriteChannel();
+    client.waitForFinished();
+}
+
 qint64 Session::ownMemory() const
 {
-    QFile file(u"/proc/%1/smaps_rollup"_s.arg(m_program->processId()));
-    if (!file.open(QFile::ReadOnly))
-        return -1;
     qint64 sum = 0;
-    for (const QByteArray &line : file.readAll().split('\n')) {
+    const QByteArray report = readFile(u"/proc/%1/smaps_rollup"_s.arg(m_program->processId()));
+    for (const QByteArray &line : report.split('\n')) {
         if (line.startsWith("Pss_Anon:") || line.startsWith("Pss_Shmem:"))
             sum += line.mid(line.indexOf(':') + 1).simplified().split(' ').constFirst().toLongLong();
     }
-    return sum;
+    return report.isEmpty() ? -1 : sum;
 }
 
 QString Session::defaultsFile(const QString &domain) const

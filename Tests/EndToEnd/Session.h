@@ -9,9 +9,8 @@
 #include <memory>
 
 /// A user's session: an empty home, a private session bus, and the program in it.
-class Session
+struct Session
 {
-public:
     /// How a command ended and what it said.
     struct Result
     {
@@ -54,6 +53,11 @@ public:
     QJsonObject display(int index = 0) const;
     bool isOpen(int index = 0) const;
     QString selected(int index = 0) const;
+    /// The texts of the clipboard history.
+    QStringList copiedTexts() const;
+    /// Copies with xclip, which keeps the clipboard in the background.
+    void copy(const QString &type, const QByteArray &bytes) const;
+
     QStringList tools() const; ///< Those in the tool row, in its order.
 
     /// What the program itself fills, in kilobytes: without the files that it maps, whose share depends on

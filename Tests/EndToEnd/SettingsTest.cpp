@@ -1,5 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
 
 /// The settings window of the real program, beside the command line that reads and writes the same settings.
 class SettingsTest : public StageTest
@@ -9,98 +8,93 @@ class SettingsTest : public StageTest
 private Q_SLOTS:
     void pointerKeyboardAndCommandLineAgree()
     {
-        setStage({});
-        Session &session = stage().session;
-        Input &input = stage().input;
         QVERIFY(stage().run());
         const auto windows = [&] { return stage().x.clientWindows().size(); };
         const auto before = windows();
-        QCOMPARE(session.command({u"settings"_s, u"open"_s}).status, 0);
+        QCOMPARE(session().command({u"settings"_s, u"open"_s}).status, 0);
         QVERIFY(waitUntil([&] { return windows() == before + 1 && isActive(); }));
 
         QTRY_VERIFY(looksOn());
-        input.click(place(picker));
+        input().click(place(picker));
         QTRY_VERIFY(hasColour(firstMode));
-        input.tap(XK_Escape);
+        input().tap(XK_Escape);
         QTRY_VERIFY(!hasColour(firstMode));
-        input.click(place(picker));
+        input().click(place(picker));
         QTRY_VERIFY(hasColour(firstMode));
-        input.click(place(secondMode));
-        QTRY_COMPARE(session.setting(u"openMode"_s), u"click"_s);
+        input().click(place(secondMode));
+        QTRY_COMPARE(session().setting(u"openMode"_s), u"click"_s);
 
         QTRY_VERIFY(looksOn());
-        input.click(place(hotKeySwitch));
-        QTRY_COMPARE(session.setting(u"shortcutEnabled"_s), u"false"_s);
+        input().click(place(hotKeySwitch));
+        QTRY_COMPARE(session().setting(u"shortcutEnabled"_s), u"false"_s);
         QTRY_VERIFY(!looksOn());
-        QVERIFY(session.set(u"shortcutEnabled"_s, u"true"_s));
+        QVERIFY(session().set(u"shortcutEnabled"_s, u"true"_s));
         QTRY_VERIFY(looksOn());
 
-        input.click(place(sliderMiddle));
-        QTRY_COMPARE(session.setting(u"hoverDelay"_s), u"0.4"_s);
-        QVERIFY(session.set(u"hoverDelay"_s, u"0.8"_s));
-        input.tap(XK_Tab);
-        input.tap(XK_space);
-        QTRY_COMPARE(session.setting(u"shortcutEnabled"_s), u"false"_s);
+        input().click(place(sliderMiddle));
+        QTRY_COMPARE(session().setting(u"hoverDelay"_s), u"0.4"_s);
+        QVERIFY(session().set(u"hoverDelay"_s, u"0.8"_s));
+        input().tap(XK_Tab);
+        input().tap(XK_space);
+        QTRY_COMPARE(session().setting(u"shortcutEnabled"_s), u"false"_s);
 
         constexpr int kToFirstColumn = 9; // The switches in between, and the column of Home's first block.
         const QImage top = stage().x.grab(area());
         for (int i = 0; i < kToFirstColumn; ++i)
-            input.tap(XK_Tab);
+            input().tap(XK_Tab);
         QTRY_VERIFY(stage().x.grab(area()) != top); // It has scrolled.
-        input.tap(XK_Down);
-        QTRY_VERIFY(session.setting(u"homeColumns"_s).contains(R"("greeting":"center")"_L1));
+        input().tap(XK_Down);
+        QTRY_VERIFY(session().setting(u"homeColumns"_s).contains(R"("greeting":"center")"_L1));
         const QImage centred = stage().x.grab(area());
-        QVERIFY(session.set(u"homeColumns"_s, u"{}"_s));
+        QVERIFY(session().set(u"homeColumns"_s, u"{}"_s));
         QTRY_VERIFY(stage().x.grab(area()) != centred);
 
-        input.tap(XK_Escape);
+        input().tap(XK_Escape);
         QTRY_COMPARE(windows(), before);
 
-        QCOMPARE(session.command({u"open"_s}).status, 0);
+        QCOMPARE(session().command({u"open"_s}).status, 0);
         QVERIFY(waitUntil([&] { return stage().looksOpen(); }));
-        input.click(Place::settings);
+        input().click(Place::settings);
         QTRY_COMPARE(windows(), before + 1);
     }
 
     /// Down the whole window with the keyboard: each row changes its own setting, and nothing else.
     void everyRowByKeyboard()
     {
-        setStage({});
-        Session &session = stage().session;
         QVERIFY(stage().run());
-        QCOMPARE(session.command({u"settings"_s, u"open"_s}).status, 0);
+        QCOMPARE(session().command({u"settings"_s, u"open"_s}).status, 0);
         QVERIFY(waitUntil([&] { return isActive(); }));
         QTRY_VERIFY(looksOn());
-        stage().input.click(place(sliderMiddle));
-        QTRY_COMPARE(session.setting(u"hoverDelay"_s), u"0.4"_s);
+        input().click(place(sliderMiddle));
+        QTRY_COMPARE(session().setting(u"hoverDelay"_s), u"0.4"_s);
         for (const auto *name :
              {"shortcutEnabled", "liveActivities", "announceScreenshots", "allDisplays", "showWithoutNotch",
               "clipboardHistory", "readCodexUsage", "readClaudeUsage", "useFahrenheit"}) {
             QCOMPARE(changedBy({XK_Tab, XK_space}), QStringList(QLatin1String(name)));
             QCOMPARE(changedBy({XK_space}), QStringList(QLatin1String(name)));
         }
-        const QString order = session.setting(u"homeOrder"_s);
-        const QString columns = session.setting(u"homeColumns"_s);
+        const QString order = session().setting(u"homeOrder"_s);
+        const QString columns = session().setting(u"homeColumns"_s);
         for (int row = 0; row < 12; ++row) {
             QCOMPARE(changedBy({XK_Tab, xcb_keysym_t(row < 5 ? XK_Up : XK_Down)}),
                      QStringList(u"homeColumns"_s));
-            stage().input.tap(XK_Tab);
+            input().tap(XK_Tab);
             if (row == 11)
                 QCOMPARE(changedBy({XK_space}), QStringList(u"homeOrder"_s));
-            stage().input.tap(XK_Tab);
+            input().tap(XK_Tab);
         }
         for (int i = 0; i < 3; ++i) // The last row has moved up: once more over the one below it.
-            stage().input.tap(XK_Tab);
+            input().tap(XK_Tab);
         QCOMPARE(changedBy({XK_Tab, XK_space}), QStringList({u"homeColumns"_s, u"homeOrder"_s}));
-        QCOMPARE(session.setting(u"homeOrder"_s), order);
-        QCOMPARE(session.setting(u"homeColumns"_s), columns);
+        QCOMPARE(session().setting(u"homeOrder"_s), order);
+        QCOMPARE(session().setting(u"homeColumns"_s), columns);
         QCOMPARE(changedBy({XK_Tab, XK_5}), QStringList(u"claudeBlockBudget"_s));
-        QStringList tools = session.tools();
+        QStringList tools = session().tools();
         QCOMPARE(tools.size(), 14);
         while (!tools.isEmpty()) {
             QCOMPARE(changedBy({XK_Tab, XK_space}), QStringList(u"tools"_s));
             tools.removeFirst();
-            QCOMPARE(session.tools(), tools);
+            QCOMPARE(session().tools(), tools);
         }
         QCOMPARE(changedBy({XK_Tab, XK_space}), QStringList(u"launchAtLogin"_s));
         QCOMPARE(changedBy({XK_space}), QStringList(u"launchAtLogin"_s));
@@ -110,12 +104,10 @@ private:
     /// The names of the settings that differ after these keys.
     QStringList changedBy(const QList<xcb_keysym_t> &keys)
     {
-        const auto all = [&] {
-            return stage().session.command({u"settings"_s, u"list"_s}).output.split(u'\n');
-        };
+        const auto all = [&] { return session().command({u"settings"_s, u"list"_s}).output.split(u'\n'); };
         const QStringList before = all();
         for (const xcb_keysym_t key : keys)
-            stage().input.tap(key);
+            input().tap(key);
         QStringList after;
         (void)waitUntil([&] { return (after = all()) != before; }, 3000);
         QStringList changed;

@@ -1,13 +1,5 @@
 #include "EndToEnd/DragSource.h"
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
-
-#include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QTemporaryDir>
-#include <QUrl>
 
 /// Files dragged onto the notch and out of it.
 class ShelfTest : public StageTest
@@ -17,45 +9,44 @@ class ShelfTest : public StageTest
 private Q_SLOTS:
     void filesOfAFileManagerArriveInOrderAndLeaveAsCopies()
     {
-        setStage({});
         const QStringList files{u"a 100%.txt"_s, u"b\nü日本.txt"_s, u"c#.txt"_s};
         QVERIFY(fill(u"from"_s, files) && fill(u"to"_s, {}) && stage().run());
-        ChildProcess manager(stage().session.environment());
+        ChildProcess manager(session().environment());
         QVERIFY(manager.launch(u"pcmanfm"_s, {path(u"from"_s)}));
         const QPoint from = placeWindow();
-        QTRY_VERIFY_WITH_TIMEOUT((dragAllToNotch(from), stage().session.isOpen()), 20000);
-        QCOMPARE(stage().session.selected(), u"shelf"_s);
-        stage().input.move(Place::panel);
+        QTRY_VERIFY_WITH_TIMEOUT((dragAllToNotch(from), session().isOpen()), 20000);
+        QCOMPARE(session().selected(), u"shelf"_s);
+        input().move(Place::panel);
         QTest::qWait(200);
-        stage().input.releaseButton();
+        input().releaseButton();
         QStringList paths;
         for (const QString &file : files)
             paths.append(path(u"from/"_s + file));
         QTRY_COMPARE(shelved(), paths);
-        QVERIFY(stage().session.isOpen());
+        QVERIFY(session().isOpen());
         manager.stop();
 
-        ChildProcess other(stage().session.environment());
+        ChildProcess other(session().environment());
         QVERIFY(other.launch(u"pcmanfm"_s, {path(u"to"_s)}));
         const QPoint to = placeWindow() + QPoint(400, 350);
         QVERIFY(stage().openByHover());
         const auto dragOut = [&] {
             drag(firstOfThree, to);
-            stage().input.releaseButton();
+            input().releaseButton();
             return waitUntil([&] { return QFile::exists(path(u"to/"_s + files[0])); }, 2000);
         };
         QTRY_VERIFY_WITH_TIMEOUT(stage().openByHover() && dragOut(), 20000);
         QVERIFY(QFile::exists(paths[0]) && shelved() == paths && stage().waitClosed());
         other.stop();
 
-        stage().session.program().killNow();
-        QVERIFY(QFile::remove(paths[1]) && stage().session.start());
+        session().program().killNow();
+        QVERIFY(QFile::remove(paths[1]) && session().start());
         QTRY_COMPARE(shelved(), QStringList({paths[0], paths[2]}));
     }
 
     void onlyFilesOpenTheNotch_data()
     {
-        columns<QByteArray, QByteArray, bool, QStringList>();
+        const auto row = columns<QByteArray, QByteArray, bool, QStringList>();
         QTemporaryDir &folder = m_many.emplace();
         const QByteArray files =
             "# two\r\nfile:///etc/passwd\r\nhttps://example.org/\r\nfile:///etc/group\r\n";
@@ -67,18 +58,15 @@ private Q_SLOTS:
             many += QUrl::fromLocalFile(file.fileName()).toEncoded() + "\r\n";
             all.append(file.fileName());
         }
-        QTest::newRow("files") << "text/uri-list"_ba << files << true
-                               << QStringList{u"/etc/passwd"_s, u"/etc/group"_s};
-        QTest::newRow("a list in parts") << "text/uri-list"_ba << many << true << all;
-        QTest::newRow("web links") << "text/uri-list"_ba
-                                   << "https://example.org/\r\n"_ba << true << QStringList();
-        QTest::newRow("text") << "text/plain"_ba << files << true << QStringList();
-        QTest::newRow("a source that hangs") << "text/uri-list"_ba << files << false << QStringList();
+        row("files", "text/uri-list"_ba, files, true, QStringList{u"/etc/passwd"_s, u"/etc/group"_s});
+        row("a list in parts", "text/uri-list"_ba, many, true, all);
+        row("web links", "text/uri-list"_ba, "https://example.org/\r\n"_ba, true, QStringList());
+        row("text", "text/plain"_ba, files, true, QStringList());
+        row("a source that hangs", "text/uri-list"_ba, files, false, QStringList());
     }
     void onlyFilesOpenTheNotch()
     {
         const auto [type, content, answers, kept] = fetched<QByteArray, QByteArray, bool, QStringList>();
-        setStage({});
         QVERIFY(stage().run());
         DragSource source(stage().display.name(), type, content);
         dragIn(source);
@@ -87,16 +75,16 @@ private Q_SLOTS:
                 source.answer();
         };
         const qint64 limit = kept.isEmpty() ? 3000 : 60'000;
-        QCOMPARE(waitUntil([&] { return serve(), stage().session.isOpen(); }, limit), !kept.isEmpty());
+        QCOMPARE(waitUntil([&] { return serve(), session().isOpen(); }, limit), !kept.isEmpty());
         if (kept.isEmpty()) {
-            stage().input.releaseButton();
+            input().releaseButton();
             QCOMPARE(shelved(), QStringList());
             return;
         }
         source.position(Place::notch);
         QTRY_VERIFY(source.accepted());
         source.drop();
-        stage().input.releaseButton();
+        input().releaseButton();
         QTRY_VERIFY((serve(), !shelved().isEmpty()));
         QCOMPARE(shelved().size(), kept.size());
         QCOMPARE(shelved(), kept);
@@ -104,24 +92,22 @@ private Q_SLOTS:
 
     void aDragThatIsOverLeavesNothingBehind()
     {
-        setStage({});
         QVERIFY(stage().run());
         {
             DragSource source(stage().display.name(), "text/uri-list", "file:///etc/passwd\r\n");
             // It still owns the selection, and says nothing to the notch: no drag is going on.
-            stage().input.move(Place::away);
-            stage().input.pressButton();
-            stage().input.move(Place::notch);
-            QVERIFY(holdsFor([&] { return !stage().session.isOpen(); }, 500));
-            stage().input.releaseButton();
+            input().move(Place::away);
+            input().pressButton();
+            input().move(Place::notch);
+            QVERIFY(holdsFor([&] { return !session().isOpen(); }, 500));
+            input().releaseButton();
             QVERIFY(stage().waitClosed());
             dragIn(source);
-            QTRY_VERIFY((source.answer(), stage().session.isOpen()));
+            QTRY_VERIFY((source.answer(), session().isOpen()));
         }
         // It died over the notch, which closes as if nothing had been dragged.
-        stage().input.releaseButton();
-        stage().input.move(Place::away);
-        QVERIFY(stage().waitClosed());
+        input().releaseButton();
+        QVERIFY(stage().leave());
         QCOMPARE(shelved(), QStringList());
     }
 
@@ -130,7 +116,7 @@ private:
 
     std::optional<QTemporaryDir> m_many;
 
-    QString path(const QString &name) { return stage().session.environment().value(u"HOME"_s) + u'/' + name; }
+    QString path(const QString &name) { return session().environment().value(u"HOME"_s) + u'/' + name; }
 
     bool fill(const QString &folder, const QStringList &names)
     {
@@ -142,7 +128,7 @@ private:
 
     QStringList shelved()
     {
-        const auto stored = QJsonDocument::fromJson(stage().session.setting(u"shelfPaths"_s).toUtf8());
+        const auto stored = QJsonDocument::fromJson(session().setting(u"shelfPaths"_s).toUtf8());
         return QVariant(stored.array().toVariantList()).toStringList();
     }
 
@@ -164,11 +150,11 @@ private:
 
     void drag(QPoint from, QPoint to)
     {
-        stage().input.move(from);
+        input().move(from);
         QTest::qWait(100);
-        stage().input.pressButton();
+        input().pressButton();
         for (int step = 1; step <= 12; ++step) {
-            stage().input.move(from + (to - from) * step / 12);
+            input().move(from + (to - from) * step / 12);
             QTest::qWait(25);
         }
         QTest::qWait(300);
@@ -176,22 +162,22 @@ private:
 
     void dragAllToNotch(QPoint window)
     {
-        stage().input.releaseButton();
-        stage().input.click(window + QPoint(560, 330));
-        stage().input.pressKey(XK_Control_L);
-        stage().input.tap(XK_a);
-        stage().input.releaseKey(XK_Control_L);
+        input().releaseButton();
+        input().click(window + QPoint(560, 330));
+        input().pressKey(XK_Control_L);
+        input().tap(XK_a);
+        input().releaseKey(XK_Control_L);
         drag(window + QPoint(204, 79), Place::notch);
     }
 
     /// Presses elsewhere, moves onto the notch and tells its window.
     void dragIn(DragSource &source)
     {
-        stage().input.move(Place::away);
-        stage().input.pressButton();
+        input().move(Place::away);
+        input().pressButton();
         QTest::qWait(100);
         source.enter(stage().x.topWindows({880, 390}).value(0));
-        stage().input.move(Place::notch);
+        input().move(Place::notch);
         source.position(Place::notch);
     }
 };

@@ -1,13 +1,7 @@
 #include "EndToEnd/Stage.h"
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
 constexpr QRgb desktopColour = 0xff7090b0;
 constexpr QRgb beneathColour = 0xff2f6f4f;
-
-} // namespace
 
 Stage::Stage(const Plan &plan)
     : display(plan.server, plan.size, session.environment())
@@ -56,6 +50,12 @@ bool Stage::openByHover()
 bool Stage::waitClosed() const
 {
     return waitUntil([this] { return looksClosed() && !session.isOpen(); });
+}
+
+bool Stage::leave()
+{
+    input.move(Place::away);
+    return waitClosed();
 }
 
 bool Stage::clickReachesBeneath(QPoint place)

@@ -6,9 +6,9 @@
 #include "EndToEnd/VirtualDisplay.h"
 #include "EndToEnd/Waiting.h"
 #include "EndToEnd/X11.h"
+#include "Support/TestRegistry.h"
 
 #include <initializer_list>
-#include <optional>
 
 /// Where things are on a display of 1280 x 800 pixels at scale 1, from the top left.
 namespace Place {
@@ -27,9 +27,8 @@ constexpr QRect toolRow(290, 304, 530, 1);
 
 /// One test's desktop with everything on it: session, display, window manager, a window of another program
 /// that covers the display, pointer and keyboard, and the program once `run` has been called.
-class Stage
+struct Stage
 {
-public:
     struct Plan
     {
         VirtualDisplay::Server server = VirtualDisplay::Server::Plain;
@@ -55,6 +54,8 @@ public:
     bool openByHotKey();
     bool openByHover();
     bool waitClosed() const;
+    /// The pointer goes elsewhere, which closes it.
+    bool leave();
 
     /// Clicks there and says whether the window beneath got the click.
     bool clickReachesBeneath(QPoint place);
@@ -81,7 +82,10 @@ class StageTest : public QObject
     Q_OBJECT
 
 protected:
-    Stage &stage() { return *m_stage; }
+    /// The one that the test has set, or else a plain one.
+    Stage &stage() { return m_stage ? *m_stage : setStage({}); }
+    Session &session() { return stage().session; }
+    Input &input() { return stage().input; }
     Stage &setStage(const Stage::Plan &plan) { return m_stage.emplace(plan); }
 
 private Q_SLOTS:

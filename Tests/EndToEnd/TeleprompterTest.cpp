@@ -1,5 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
 
 /// The script from the keyboard to the scrolling lines.
 class TeleprompterTest : public StageTest
@@ -9,29 +8,27 @@ class TeleprompterTest : public StageTest
 private Q_SLOTS:
     void aTypedScriptSurvivesAndScrolls()
     {
-        setStage({});
         QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"teleprompter"_s));
         QVERIFY(stage().openByHotKey());
-        stage().input.type("good evening all");
-        QTRY_COMPARE(stage().session.setting(u"prompterText"_s), u"good evening all"_s);
-        stage().session.program().killNow();
+        input().type("good evening all");
+        QTRY_COMPARE(session().setting(u"prompterText"_s), u"good evening all"_s);
+        session().program().killNow();
         QVERIFY(stage().run({{"prompterSpeed", "60"}}) && stage().choose(u"teleprompter"_s));
-        QCOMPARE(stage().session.setting(u"prompterText"_s), u"good evening all"_s);
+        QCOMPARE(session().setting(u"prompterText"_s), u"good evening all"_s);
 
         QVERIFY(stage().openByHotKey());
         QTRY_VERIFY(height() > 0);
         const int start = height();
         QVERIFY2(holdsFor([&] { return height() == start; }, 300), "it moves before it is played");
-        stage().input.click(play);
+        input().click(play);
         QTRY_VERIFY(height() < start - 15);
-        stage().input.move(Place::away);
-        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().leave());
         QVERIFY(stage().openByHotKey());
         QTRY_VERIFY(height() > 0);
         const int paused = height();
         QVERIFY2(paused < start - 15, "it lost its place");
         QVERIFY2(holdsFor([&] { return height() == paused; }, 500), "closing did not pause it");
-        stage().input.click(restart);
+        input().click(restart);
         QTRY_COMPARE(height(), start);
     }
 

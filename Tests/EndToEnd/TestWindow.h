@@ -3,9 +3,8 @@
 #include "EndToEnd/X11.h"
 
 /// A window of another program: it has a colour of its own and remembers the clicks and keys it received.
-class TestWindow
+struct TestWindow
 {
-public:
     enum class Kind {
         Plain,      ///< Undecorated, placed where it says.
         FullScreen, ///< Covers the display and asks for the full-screen layer.

@@ -1,7 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
-
-#include <QSet>
 
 /// The countdown from its pane through the closed notch's wings to its sound.
 class TimerTest : public StageTest
@@ -11,9 +8,8 @@ class TimerTest : public StageTest
 private Q_SLOTS:
     void runsDownInTheWingsAndSoundsOnce()
     {
-        setStage({});
-        ChildProcess server(stage().session.environment());
-        ChildProcess watcher(stage().session.environment());
+        ChildProcess server(session().environment());
+        ChildProcess watcher(session().environment());
         QVERIFY(startSound(server, watcher));
         QByteArray events;
         const auto sounds = [&] {
@@ -21,24 +17,24 @@ private Q_SLOTS:
             return events.count("'new' on sink-input");
         };
         // A minute of the wall clock passes every second: five minutes are the shortest countdown offered.
-        stage().session.environment().insert(u"LD_PRELOAD"_s, u"/usr/$LIB/faketime/libfaketimeMT.so.1"_s);
-        stage().session.environment().insert(u"FAKETIME"_s, u"+0 x60"_s);
-        stage().session.environment().insert(u"FAKETIME_DONT_FAKE_MONOTONIC"_s, u"1"_s);
+        session().environment().insert(u"LD_PRELOAD"_s, u"/usr/$LIB/faketime/libfaketimeMT.so.1"_s);
+        session().environment().insert(u"FAKETIME"_s, u"+0 x60"_s);
+        session().environment().insert(u"FAKETIME_DONT_FAKE_MONOTONIC"_s, u"1"_s);
 
         // Hover must not open the notch while its wings are being clicked.
         QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"timer"_s));
         QVERIFY(!stage().covered(wings.topLeft() + QPoint(12, 12)));
         QVERIFY(stage().openByHotKey());
-        stage().input.click(Place::firstPreset);
-        QTRY_VERIFY(stage().session.status().value("hasActivity"_L1).toBool());
-        stage().input.move(Place::away);
+        input().click(Place::firstPreset);
+        QTRY_VERIFY(session().status().value("hasActivity"_L1).toBool());
+        input().move(Place::away);
         QTRY_VERIFY(stage().looksClosed());
 
         QTRY_VERIFY(stage().covered(wings.topLeft() + QPoint(12, 12)));
         QVERIFY(stage().covered(wings.topRight() + QPoint(-12, 12)));
         QVERIFY(stage().clickIsKept(wings.topLeft() + QPoint(2, 12)));
         QVERIFY(stage().clickReachesBeneath(wings.topLeft() + QPoint(-8, 12)));
-        stage().input.move(Place::away);
+        input().move(Place::away);
         QSet<QByteArray> faces;
         const auto look = [&] {
             const QImage now = stage().x.grab(wings);
@@ -50,7 +46,7 @@ private Q_SLOTS:
 
         QVERIFY(waitUntil([&] { return sounds() > 0; }));
         QTRY_VERIFY(!stage().covered(wings.topLeft() + QPoint(12, 12)));
-        QVERIFY(!stage().session.status().value("hasActivity"_L1).toBool());
+        QVERIFY(!session().status().value("hasActivity"_L1).toBool());
         QTest::qWait(3000);
         QCOMPARE(sounds(), 1);
     }
@@ -59,15 +55,15 @@ private:
     /// A sound server whose only output is silence, and a watcher of what is played on it.
     bool startSound(ChildProcess &server, ChildProcess &watcher)
     {
-        const QString socket = stage().session.environment().value(u"XDG_RUNTIME_DIR"_s) + u"/sound"_s;
+        const QString socket = session().environment().value(u"XDG_RUNTIME_DIR"_s) + u"/sound"_s;
         if (!server.launch(u"pulseaudio"_s,
                            {u"-n"_s, u"--daemonize=no"_s, u"--exit-idle-time=-1"_s, u"--log-target=stderr"_s,
                             u"-L"_s, u"module-native-protocol-unix socket=%1 auth-anonymous=1"_s.arg(socket),
                             u"-L"_s, u"module-null-sink"_s}) ||
             !waitUntil([&] { return QFile::exists(socket); }))
             return false;
-        stage().session.environment().insert(u"PULSE_SERVER"_s, u"unix:"_s + socket);
-        watcher.setProcessEnvironment(stage().session.environment());
+        session().environment().insert(u"PULSE_SERVER"_s, u"unix:"_s + socket);
+        watcher.setProcessEnvironment(session().environment());
         // Each event in a line of its own at once, although nobody reads them on a terminal.
         return watcher.launch(u"stdbuf"_s, {u"--output=L"_s, u"pactl"_s, u"subscribe"_s});
     }

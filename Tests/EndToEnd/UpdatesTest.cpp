@@ -1,6 +1,5 @@
 #include "Desktop/Tray/MenuWire.h"
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
 #include "Support/WebStandIn.h"
 
 #include <QDBusMessage>
@@ -24,15 +23,14 @@ private Q_SLOTS:
     void init()
     {
         m_server.forget();
-        setStage({});
-        QProcessEnvironment &environment = stage().session.environment();
+        QProcessEnvironment &environment = session().environment();
         environment.insert(u"KESTRUNE_FEED"_s, m_server.url(u"/feed"_s).toString());
         environment.insert(u"KESTRUNE_FEED_KEY"_s, QString::fromLatin1(m_publicHalf));
         environment.insert(u"PATH"_s, m_files.path() + u':' + environment.value(u"PATH"_s));
         write(u"xdg-open"_s, "#!/bin/sh\necho \"$1\" >> \"$HOME/opened\"\n");
         QFile::setPermissions(m_files.filePath(u"xdg-open"_s), QFile::ReadOwner | QFile::ExeOwner);
         // A tray makes the program offer its menu.
-        QVERIFY(stage().session.bus().registerService(u"org.kde.StatusNotifierWatcher"_s));
+        QVERIFY(session().bus().registerService(u"org.kde.StatusNotifierWatcher"_s));
     }
 
     void whatTheWindowTells_data()
@@ -58,7 +56,7 @@ private Q_SLOTS:
         QVERIFY(offers || holdsFor([this] { return coloured(actionButton()) == 0; }, 500));
         QCOMPARE(m_server.targets(), QList<QByteArray>{"/feed"});
 
-        stage().input.tap(XK_Escape);
+        input().tap(XK_Escape);
         QTRY_VERIFY(!findWindow());
     }
 
@@ -69,24 +67,24 @@ private Q_SLOTS:
         QVERIFY(chooseCheck() && waitUntil([this] { return offersSomething(); }));
         QVERIFY(!QFile::exists(kept()));
         const QImage offered = picture();
-        stage().input.click(geometry().topLeft() + actionButton().center());
-        QTRY_COMPARE(read(kept()), m_package);
+        input().click(geometry().topLeft() + actionButton().center());
+        QTRY_COMPARE(readFile(kept()), m_package);
         QTRY_VERIFY(picture() != offered && offersSomething());
         QVERIFY(!QFile::exists(opened()));
-        stage().input.click(geometry().topLeft() + actionButton().center());
-        QTRY_COMPARE(read(opened()), "file://" + kept().toUtf8() + '\n');
+        input().click(geometry().topLeft() + actionButton().center());
+        QTRY_COMPARE(readFile(opened()), "file://" + kept().toUtf8() + '\n');
     }
 
     void byItself()
     {
-        stage().session.setFlag(u"kestrune"_s, u"kestrune.automaticallyDownloadsUpdates"_s, true);
+        session().setFlag(u"kestrune"_s, u"kestrune.automaticallyDownloadsUpdates"_s, true);
         m_feed = release(m_newer, u"key"_s);
         QVERIFY(stage().run());
         QVERIFY(holdsFor([this] { return m_server.log().isEmpty(); }, 5000));
         QTRY_VERIFY_WITH_TIMEOUT(findWindow(), 180'000);
         QTRY_VERIFY(offersSomething());
         QCOMPARE(m_server.targets(), (QList<QByteArray>{"/feed", "/kestrune.deb"}));
-        QCOMPARE(read(kept()), m_package);
+        QCOMPARE(readFile(kept()), m_package);
         QVERIFY(!QFile::exists(opened()));
         for (const auto &request : m_server.log())
             QCOMPARE(request.headers.keys(), (QList<QByteArray>{"accept-encoding", "accept-language",
@@ -102,11 +100,6 @@ private:
         QFile file(m_files.filePath(name));
         QVERIFY(file.remove() || !file.exists());
         QVERIFY(file.open(QFile::WriteOnly) && file.write(text) == text.size());
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
     }
     static QByteArray sign(const QStringList &arguments)
     {
@@ -124,16 +117,16 @@ private:
 
     QString kept()
     {
-        return stage().session.environment().value(u"XDG_CACHE_HOME"_s) + u"/kestrune/updates/kestrune.deb"_s;
+        return session().environment().value(u"XDG_CACHE_HOME"_s) + u"/kestrune/updates/kestrune.deb"_s;
     }
-    QString opened() { return stage().session.environment().value(u"HOME"_s) + u"/opened"_s; }
+    QString opened() { return session().environment().value(u"HOME"_s) + u"/opened"_s; }
 
     QDBusMessage askMenu(const QString &method, const QVariantList &arguments)
     {
         QDBusMessage call = QDBusMessage::createMethodCall(Session::busName(), u"/MenuBar"_s,
                                                            u"com.canonical.dbusmenu"_s, method);
         call.setArguments(arguments);
-        return stage().session.bus().call(call);
+        return session().bus().call(call);
     }
     bool chooseCheck()
     {

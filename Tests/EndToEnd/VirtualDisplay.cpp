@@ -2,14 +2,9 @@
 
 #include "EndToEnd/Waiting.h"
 #include "EndToEnd/X11.h"
+#include "Support/TestRegistry.h"
 
-#include <QFile>
-
-using namespace Qt::StringLiterals;
-
-namespace {
-
-QByteArray outputsConfiguration(QSize size)
+static QByteArray outputsConfiguration(QSize size)
 {
     return R"(
 Section "ServerFlags"
@@ -40,8 +35,6 @@ EndSection
         .replace("%2", QByteArray::number(size.height()));
 }
 
-} // namespace
-
 VirtualDisplay::VirtualDisplay(Server server, QSize size, const QProcessEnvironment &environment)
     : m_environment(environment)
     , m_server(environment)
@@ -52,16 +45,12 @@ VirtualDisplay::VirtualDisplay(Server server, QSize size, const QProcessEnvironm
         launched = m_server.launch(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, screen,
                                                u"-noreset"_s, u"-nolisten"_s, u"tcp"_s});
     } else {
-        QFile configuration(m_folder.filePath(u"xorg.conf"_s));
-        launched =
-            configuration.open(QFile::WriteOnly) && configuration.write(outputsConfiguration(size)) > 0;
-        configuration.close();
+        const QString configuration = m_folder.filePath(u"xorg.conf"_s);
         // The server itself, not its wrapper, which allows it only to users of a console.
-        launched =
-            launched &&
-            m_server.launch(u"/usr/lib/xorg/Xorg"_s,
-                            {u"-displayfd"_s, u"1"_s, u"-config"_s, configuration.fileName(), u"-logfile"_s,
-                             m_folder.filePath(u"log"_s), u"-noreset"_s, u"-nolisten"_s, u"tcp"_s});
+        launched = writeFile(configuration, outputsConfiguration(size)) &&
+                   m_server.launch(u"/usr/lib/xorg/Xorg"_s,
+                                   {u"-displayfd"_s, u"1"_s, u"-config"_s, configuration, u"-logfile"_s,
+                                    m_folder.filePath(u"log"_s), u"-noreset"_s, u"-nolisten"_s, u"tcp"_s});
     }
     if (!launched || !waitUntil([this] { return m_server.canReadLine(); }))
         return;

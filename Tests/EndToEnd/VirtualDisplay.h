@@ -12,9 +12,8 @@
 class X11;
 
 /// An X server of the test's own on a free display number, and the desktop's programs on it.
-class VirtualDisplay
+struct VirtualDisplay
 {
-public:
     enum class Server {
         Plain,   ///< One display of a fixed size.
         Outputs, ///< Several outputs that can be plugged and unplugged; needs the dummy video driver.

@@ -1,5 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/TestRegistry.h"
 
 /// The notch as a window among others: clicks, focus, stacking and desktops.
 class WindowTest : public StageTest
@@ -7,16 +6,11 @@ class WindowTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void clicksOutsideReachTheWindowBeneath_data()
-    {
-        QTest::addColumn<bool>("compositor");
-        QTest::newRow("no compositor") << false;
-        QTest::newRow("compositor") << true;
-    }
+    void clicksOutsideReachTheWindowBeneath_data() { noAndYes("no compositor", "compositor"); }
 
     void clicksOutsideReachTheWindowBeneath()
     {
-        QFETCH(bool, compositor);
+        const auto [compositor] = fetched<bool>();
         setStage({.compositor = compositor});
         // Hover must not open while the closed notch is being clicked.
         QVERIFY(stage().run({{"hoverDelay", "60"}}));
@@ -26,28 +20,26 @@ private Q_SLOTS:
         QCOMPARE(kept(insideClosed), insideClosed);
 
         QVERIFY(stage().openByHotKey());
-        stage().input.move(Place::panel);
-        QTRY_VERIFY(stage().session.display().value("pointerEntered"_L1).toBool());
-        QCOMPARE(stage().session.command({u"open"_s, u"note"_s}).status, 0);
+        input().move(Place::panel);
+        QTRY_VERIFY(session().display().value("pointerEntered"_L1).toBool());
+        QCOMPARE(session().command({u"open"_s, u"note"_s}).status, 0);
         const QList<QPoint> insideOpen = {{640, 0}, Place::panel, {255, 100}, {1024, 200}, {640, 335}};
         QCOMPARE(kept(insideOpen), insideOpen);
         // Right below and beside the panel, where its transparent window still is. Each click comes right
         // after the pointer left, so the notch is still open.
         for (const QPoint place : {QPoint(640, 340), QPoint(640, 380), QPoint(249, 100), QPoint(210, 10)}) {
-            stage().input.move(Place::panel);
+            input().move(Place::panel);
             QTest::qWait(100);
             QVERIFY(stage().looksOpen());
             QCOMPARE(reachingBeneath({place}), QList<QPoint>{place});
         }
 
-        stage().input.move(Place::away);
-        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().leave());
         QVERIFY(stage().clickReachesBeneath(Place::panel));
     }
 
     void clicksFollowAPointerThatJumps()
     {
-        setStage({});
         QVERIFY(stage().run({{"hoverDelay", "60"}}));
         // There is no time between the jump and the press in which the program could look at the pointer, and
         // the click before it has made the window manager raise the window beneath.
@@ -59,15 +51,13 @@ private Q_SLOTS:
 
     void openingByHoverLeavesTheActiveWindowActive()
     {
-        setStage({});
         QVERIFY(stage().run());
         QVERIFY(stage().openByHover());
         QVERIFY(stage().beneath.hasFocus());
         stage().beneath.forget();
-        stage().input.type("abc");
+        input().type("abc");
         QTRY_COMPARE(stage().beneath.keys(), 3);
-        stage().input.move(Place::away);
-        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().leave());
         QVERIFY(stage().beneath.hasFocus());
     }
 
@@ -81,18 +71,17 @@ private Q_SLOTS:
         QVERIFY(stage().beneath.hasFocus());
         stage().beneath.forget();
 
-        stage().input.click(Place::panel);
+        input().click(Place::panel);
         QTRY_VERIFY(stage().x.focus() != stage().beneath.id());
-        stage().input.type("Milk & 12 eggs");
-        QTRY_COMPARE(stage().session.setting(u"note"_s), u"Milk & 12 eggs"_s);
+        input().type("Milk & 12 eggs");
+        QTRY_COMPARE(session().setting(u"note"_s), u"Milk & 12 eggs"_s);
         QCOMPARE(stage().beneath.keys(), 0);
 
-        stage().input.move(Place::away);
-        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().leave());
         QTRY_VERIFY(stage().beneath.hasFocus());
-        stage().input.type("x");
+        input().type("x");
         QTRY_COMPARE(stage().beneath.keys(), 1);
-        QCOMPARE(stage().session.setting(u"note"_s), u"Milk & 12 eggs"_s);
+        QCOMPARE(session().setting(u"note"_s), u"Milk & 12 eggs"_s);
     }
 
     void staysAboveOtherWindows_data()
@@ -120,16 +109,16 @@ private Q_SLOTS:
         QVERIFY(stage().clickIsKept(Place::notch));
         QCOMPARE(other.clicks(), 0);
 
-        stage().input.move(Place::away);
-        stage().input.move(Place::notch);
-        QTRY_VERIFY(shown(Place::panelEdge) && stage().session.isOpen());
+        input().move(Place::away);
+        input().move(Place::notch);
+        QTRY_VERIFY(shown(Place::panelEdge) && session().isOpen());
         QVERIFY(shown({640, 0}));
 
         // The same for a notch that comes while the other window is there already.
-        stage().session.program().killNow();
+        session().program().killNow();
         QTRY_VERIFY(!shown(Place::notch));
-        stage().input.move(Place::away);
-        QVERIFY(stage().session.start());
+        input().move(Place::away);
+        QVERIFY(session().start());
         QTRY_VERIFY(shown(Place::notch));
         QVERIFY(shown({640, 0}));
     }
@@ -158,8 +147,8 @@ private Q_SLOTS:
         QTRY_VERIFY(stage().covered(Place::away));
         const QColor desktop = stage().x.pixel(Place::away);
         QCOMPARE_NE(stage().x.pixel(Place::notch), desktop);
-        stage().input.move(Place::notch);
-        QTRY_VERIFY(stage().x.pixel(Place::panelEdge) != desktop && stage().session.isOpen());
+        input().move(Place::notch);
+        QTRY_VERIFY(stage().x.pixel(Place::panelEdge) != desktop && session().isOpen());
     }
 
 private:

@@ -11,9 +11,8 @@
 
 /// One client connection to a display, with what the tests ask of it. Coordinates are pixels from the top
 /// left. Every call has taken effect in the server when it returns.
-class X11
+struct X11
 {
-public:
     explicit X11(const QString &display);
     ~X11();
     Q_DISABLE_COPY_MOVE(X11)

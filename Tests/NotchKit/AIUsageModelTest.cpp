@@ -1,15 +1,8 @@
 #include "NotchKit/Tools/AIUsage/AIUsageModel.h"
-#include "NotchKit/Platform/Utc.h"
 #include "NotchKit/Tools/AIUsage/AIUsagePresentation.h"
 #include "NotchKit/Tools/AIUsage/CodexReader.h"
 #include "NotchKit/Tools/AIUsage/UsageGauge.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
-
-#include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -32,10 +25,8 @@ struct Home
 
     void write(const char *place, const QByteArray &text, int age = 0) const
     {
-        const QFileInfo path(folder.filePath(QLatin1String(place)));
-        QVERIFY(QDir().mkpath(path.path()));
-        QFile file(path.filePath());
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush());
+        QFile file(folder.filePath(QLatin1String(place)));
+        QVERIFY(writeFile(file.fileName(), text) && file.open(QFile::ReadWrite));
         QVERIFY(file.setFileTime(core.clock.now().addSecs(-age), QFileDevice::FileModificationTime));
     }
 
@@ -64,10 +55,7 @@ class AIUsageModelTest : public QObject
 private Q_SLOTS:
     void windows_data()
     {
-        QTest::addColumn<std::optional<UsageWindow>>("window");
-        const auto row = [](const char *json, const std::optional<UsageWindow> &window) {
-            QTest::newRow(json) << window;
-        };
+        const auto row = columns<std::optional<UsageWindow>>();
         const QDateTime reset = now.addSecs(90);
         row(R"({"used_percent": 41.5, "window_minutes": 300, "resets_at": 1800000090})",
             UsageWindow{41.5, 300, reset});
@@ -83,7 +71,7 @@ private Q_SLOTS:
 
     void windows()
     {
-        QFETCH(const std::optional<UsageWindow>, window);
+        const auto [window] = fetched<std::optional<UsageWindow>>();
         const QJsonDocument json = QJsonDocument::fromJson(QTest::currentDataTag());
         QVERIFY(!json.isNull());
         QVERIFY(CodexReader::window(json.object(), now) == window);
@@ -124,8 +112,8 @@ private Q_SLOTS:
         for (const char *name : {"1", "2", "3", "4", "5"})
             home.write((QByteArray(".codex/sessions/") + name + ".jsonl").constData(), "{}\n", 60);
         QCOMPARE(percent(), -1);
-        home.write(".codex/sessions/2026/5.jsonl", used(5) + QByteArray(512 << 10, '\n'),
-                   10); // beyond the tail
+        // Beyond the tail.
+        home.write(".codex/sessions/2026/5.jsonl", used(5) + QByteArray(512 << 10, '\n'), 10);
         QCOMPARE(percent(), -1);
         home.write(".codex/sessions/5.jsonl", used(50), 300); // now the sixth
         QCOMPARE(percent(), -1);
@@ -139,8 +127,7 @@ private Q_SLOTS:
         home.core.settings.setReadCodexUsage(true);
         home.write(".codex/sessions/a.jsonl", used(1));
         home.services.start();
-        home.services.setAnyExpanded(true);
-        home.services.show(NotchTool::aiUsage);
+        home.core.show(NotchTool::aiUsage);
         QVERIFY(home.model.loading() && !home.model.codexMissing());
         QTRY_COMPARE(home.usedPercent(), 1);
         home.write(".codex/sessions/a.jsonl", used(2));
@@ -153,8 +140,7 @@ private Q_SLOTS:
         home.core.wait(61'000);
         QVERIFY(home.model.loading());
         QTRY_VERIFY(home.model.codexMissing() && !home.model.codex() && !home.model.loading());
-        home.services.show(std::nullopt);
-        home.services.setAnyExpanded(false);
+        home.core.show({});
         home.core.wait(600'000);
         QVERIFY(!home.model.loading());
     }
@@ -165,8 +151,7 @@ private Q_SLOTS:
         home.write(".codex/sessions/a.jsonl", used(1));
         home.writeClaude(5, 1);
         home.services.start();
-        home.services.setAnyExpanded(true);
-        home.services.show(NotchTool::aiUsage);
+        home.core.show(NotchTool::aiUsage);
         QVERIFY(!home.model.loading());
         home.model.connectCodex();
         QVERIFY(home.model.loading() && home.core.settings.readCodexUsage());
@@ -202,8 +187,8 @@ private Q_SLOTS:
             Home home;
             home.core.settings.setReadClaudeUsage(true);
             home.write(".claude/projects/huge.jsonl", {});
-            QVERIFY(QFile::resize(home.folder.filePath(u".claude/projects/huge.jsonl"_s),
-                                  qint64(1) << 42)); // hours to read
+            // Hours to read.
+            QVERIFY(QFile::resize(home.folder.filePath(u".claude/projects/huge.jsonl"_s), qint64(1) << 42));
             home.model.refresh(true);
             QTest::qWait(i);
         }
@@ -261,28 +246,14 @@ private Q_SLOTS:
 
     void times_data()
     {
-        columns<QString, QString, QString>();
-        QTest::newRow("today") << "2026-03-10T14:30:00"
-                               << "en_GB"
-                               << "14:30";
-        QTest::newRow("today, twelve hours") << "2026-03-10T14:30:00"
-                                             << "en_US"
-                                             << "2:30 PM";
-        QTest::newRow("no language") << "2026-03-10T14:30:00"
-                                     << "C"
-                                     << "14:30";
-        QTest::newRow("tomorrow") << "2026-03-11T00:00:00"
-                                  << "en_GB"
-                                  << "Wed 00:00";
-        QTest::newRow("yesterday") << "2026-03-09T23:59:59"
-                                   << "en_GB"
-                                   << "Mon 23:59";
-        QTest::newRow("six days ahead") << "2026-03-16T09:05:00"
-                                        << "de_DE"
-                                        << "Mo. 09:05";
-        QTest::newRow("a week ahead") << "2026-03-17T09:05:00"
-                                      << "de_DE"
-                                      << "17.03.26 09:05";
+        const auto row = columns<QString, QString, QString>();
+        row("today", "2026-03-10T14:30:00", "en_GB", "14:30");
+        row("today, twelve hours", "2026-03-10T14:30:00", "en_US", "2:30 PM");
+        row("no language", "2026-03-10T14:30:00", "C", "14:30");
+        row("tomorrow", "2026-03-11T00:00:00", "en_GB", "Wed 00:00");
+        row("yesterday", "2026-03-09T23:59:59", "en_GB", "Mon 23:59");
+        row("six days ahead", "2026-03-16T09:05:00", "de_DE", "Mo. 09:05");
+        row("a week ahead", "2026-03-17T09:05:00", "de_DE", "17.03.26 09:05");
     }
 
     void times()

@@ -1,7 +1,6 @@
 #include "NotchKit/Tools/Calendar/CalendarModel.h"
 #include "NotchKit/Tools/Calendar/CalendarFormat.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
 
 namespace {
 
@@ -222,8 +221,7 @@ private Q_SLOTS:
         Stage stage(false);
         auto &asked = stage.calendars.accesses[Entity::events];
         stage.services.start();
-        stage.services.setAnyExpanded(true);
-        stage.services.show(NotchTool::note);
+        stage.show(NotchTool::note);
         stage.wait(60'000);
         QCOMPARE(asked.count(), 0U); // nobody has looked at it yet
         stage.settings.setColumn(HomeColumn::hidden, HomeWidget::events);
@@ -237,8 +235,7 @@ private Q_SLOTS:
         QCOMPARE(asked.count(), 2U);
         stage.wait(90'000);
         QCOMPARE(asked.count(), 5U);
-        stage.services.setAnyExpanded(false);
-        stage.services.show({});
+        stage.show({});
         stage.wait(90'000);
         QCOMPARE(asked.count(), 5U);
     }

@@ -1,8 +1,6 @@
 #include "NotchKit/Tools/Captures/CapturesModel.h"
-#include "NotchKit/Platform/Utc.h"
 #include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
 
 namespace {
 
@@ -87,10 +85,8 @@ private Q_SLOTS:
     void announcesWhatIsNew_data()
     {
         using Minutes = QList<int>;
-        columns<Minutes, Minutes, Minutes, int>(); // the last: what is announced, 0 for nothing
-        const auto row = [](const char *name, const Minutes &first, const Minutes &then,
-                            const Minutes &atLast,
-                            int fresh) { QTest::newRow(name) << first << then << atLast << fresh; };
+        const auto row =
+            columns<Minutes, Minutes, Minutes, int>(); // the last: what is announced, 0 for nothing
         row("first gathering", {3, 2}, {3, 2}, {3, 2}, 0);
         row("one more", {3, 2}, {4, 3, 2}, {4, 3, 2}, 4);
         row("into nothing", {}, {1}, {1}, 1);
@@ -209,8 +205,7 @@ private Q_SLOTS:
         QVERIFY(!stage.model.needsAccess() && !stage.model.fresh());
         stage.model.openPrivacySettings();
         QCOMPARE(stage.workspace.opened.first().toString(),
-                 QStringLiteral(
-                     "x-apple.systempreferences:com.apple.preference.security?Privacy_FilesAndFolders"));
+                 u"x-apple.systempreferences:com.apple.preference.security?Privacy_FilesAndFolders"_s);
     }
 
     void actions()

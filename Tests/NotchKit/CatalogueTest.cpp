@@ -17,9 +17,8 @@ private Q_SLOTS:
                  u"home nowPlaying clipboard captures calendar shelf aiUsage weather stocks timer "
                  "teleprompter mirror note system"_s);
         QCOMPARE(joined(allCases<HomeWidget>()),
-                 QStringLiteral(
-                     "greeting weather nowPlaying events reminders aiUsage timer stocks system clipboard "
-                     "captures note"));
+                 u"greeting weather nowPlaying events reminders aiUsage timer stocks system clipboard "
+                 "captures note"_s);
         QCOMPARE(joined(allCases<HomeColumn>()), u"hidden left center right"_s);
         QCOMPARE(joined(allCases<NotchOpenMode>()), u"hover click"_s);
         QCOMPARE(QString::fromLatin1(entry(NotchTool::captures).title), u"Screenshots"_s);
@@ -37,33 +36,20 @@ private Q_SLOTS:
 
     void localizationFollowsPreference_data()
     {
-        columns<QString, QString>();
-        QTest::newRow("first served wins") << "de,en"
-                                           << "de";
-        QTest::newRow("English before German") << "en,de"
-                                               << "en";
-        QTest::newRow("a region is served by its language") << "de-AT,de-Latn-AT"
-                                                            << "de";
-        QTest::newRow("a language is served by a region") << "pt"
-                                                          << "pt-BR";
-        QTest::newRow("a region is served by another") << "pt-PT,pt-Latn-PT,en"
-                                                       << "pt-BR";
-        QTest::newRow("a region by its own") << "zh-CN,zh-Hans-CN,zh"
-                                             << "zh-CN";
-        QTest::newRow("Simplified elsewhere") << "zh-Hans-SG,zh-SG"
-                                              << "zh-CN";
-        QTest::newRow("Traditional is another script") << "zh-TW,zh-Hant-TW"
-                                                       << "en";
-        QTest::newRow("Traditional before English") << "zh-HK,zh-Hant-HK,en,de"
-                                                    << "en";
-        QTest::newRow("unserved ones are passed over") << "cy,el-GR,de-CH,en"
-                                                       << "de";
-        QTest::newRow("none served") << "cy,el"
-                                     << "en";
-        QTest::newRow("no locale") << "C"
-                                   << "en";
-        QTest::newRow("no preference") << ""
-                                       << "en";
+        const auto row = columns<QString, QString>();
+        row("first served wins", "de,en", "de");
+        row("English before German", "en,de", "en");
+        row("a region is served by its language", "de-AT,de-Latn-AT", "de");
+        row("a language is served by a region", "pt", "pt-BR");
+        row("a region is served by another", "pt-PT,pt-Latn-PT,en", "pt-BR");
+        row("a region by its own", "zh-CN,zh-Hans-CN,zh", "zh-CN");
+        row("Simplified elsewhere", "zh-Hans-SG,zh-SG", "zh-CN");
+        row("Traditional is another script", "zh-TW,zh-Hant-TW", "en");
+        row("Traditional before English", "zh-HK,zh-Hant-HK,en,de", "en");
+        row("unserved ones are passed over", "cy,el-GR,de-CH,en", "de");
+        row("none served", "cy,el", "en");
+        row("no locale", "C", "en");
+        row("no preference", "", "en");
     }
 
     void localizationFollowsPreference()

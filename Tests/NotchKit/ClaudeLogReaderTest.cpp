@@ -4,8 +4,6 @@
 #include "SlowLogReader.h"
 #include "Support/TestRegistry.h"
 
-#include <QTemporaryDir>
-
 #include <fstream>
 #include <thread>
 
@@ -18,7 +16,6 @@ using namespace Kestrune::Tests;
 namespace {
 
 using Entries = QList<std::pair<const char *, qint64>>;
-using Days = std::array<qint64, 7>;
 
 QDateTime at(const char *time) { return QDateTime::fromString(QLatin1String(time), Qt::ISODateWithMs); }
 
@@ -56,9 +53,6 @@ qint64 figure(const char *file, const std::string &name)
 
 } // namespace
 
-Q_DECLARE_METATYPE(Entries)
-Q_DECLARE_METATYPE(Days)
-
 class ClaudeLogReaderTest : public QObject
 {
     Q_OBJECT
@@ -68,8 +62,7 @@ private Q_SLOTS:
     void cleanupTestCase() { useZone("UTC"); }
     void timestamps_data()
     {
-        QTest::addColumn<std::optional<qint64>>("milliseconds");
-        const auto row = [](const char *text, std::optional<qint64> value) { QTest::newRow(text) << value; };
+        const auto row = columns<std::optional<qint64>>();
         row("1970-01-01T00:00:00.000Z", 0);
         row("1969-12-31T23:59:59.5Z", -500);
         row("2024-02-29T12:00:00.123456789+05:45", 1709187300123);
@@ -84,7 +77,7 @@ private Q_SLOTS:
 
     void timestamps()
     {
-        QFETCH(const std::optional<qint64>, milliseconds);
+        const auto [milliseconds] = fetched<std::optional<qint64>>();
         QVERIFY(parseIsoTimestamp(QTest::currentDataTag()) == milliseconds);
     }
 

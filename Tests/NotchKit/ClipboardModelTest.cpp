@@ -1,43 +1,18 @@
 #include "NotchKit/Tools/Clipboard/ClipboardModel.h"
-#include "NotchKit/Platform/Utc.h"
 #include "NotchKit/Tools/Clipboard/ClipboardReader.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
-
-#include <QBuffer>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QTemporaryDir>
 
 #include <sys/stat.h>
 
 namespace {
 
-const QString kKey = u"notch.clipboardItems"_s;
+using Kind = ClipboardItem::Kind;
 
-QByteArray encodedImage(int width, int height, const char *format = "png", QRgb color = 0xff336699)
-{
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(color);
-    QBuffer buffer;
-    image.save(&buffer, format);
-    return buffer.data();
-}
+const QString kKey = u"notch.clipboardItems"_s;
 
 EncodedPicture png(int width, int height, QRgb color = 0xff336699)
 {
-    return {encodedImage(width, height, "png", color), QString::fromLatin1(Pasteboard::kPng)};
-}
-
-/// A few kilobytes that would unpack to more pixels than are allowed.
-EncodedPicture bomb()
-{
-    QImage image(9000, 9000, QImage::Format_Mono);
-    image.fill(0);
-    QBuffer buffer;
-    image.save(&buffer, "png");
-    return {buffer.data(), QString::fromLatin1(Pasteboard::kPng)};
+    return {encoded(plainImage({width, height}, color)), QString::fromLatin1(Pasteboard::kPng)};
 }
 
 /// The core with a pasteboard that other programs copy to.
@@ -71,14 +46,6 @@ struct Stage : Fakes::Core
     QByteArray stored() const { return defaults.value<QByteArray>(kKey).value_or(QByteArray()); }
 };
 
-QList<QUrl> urls(const QStringList &paths)
-{
-    QList<QUrl> urls;
-    for (const QString &path : paths)
-        urls.append(QUrl::fromLocalFile(path));
-    return urls;
-}
-
 } // namespace
 
 class ClipboardModelTest : public QObject
@@ -88,13 +55,7 @@ class ClipboardModelTest : public QObject
 private Q_SLOTS:
     void textsAndLinks_data()
     {
-        using Kind = ClipboardItem::Kind;
-        QTest::addColumn<QString>("copied");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<Kind>("kind");
-        const auto row = [](const char *name, const QString &copied, const QString &text, Kind kind) {
-            QTest::newRow(name) << copied << text << kind;
-        };
+        const auto row = columns<QString, QString, Kind>();
         const QString family = u"👨‍👩‍👧‍👦"_s;
         row("trimmed", u"\n\t a b\u00a0\u2028"_s, u"a b"_s, Kind::text);
         row("link", u" HTTPS://example.org/a?b#c\n"_s, u"HTTPS://example.org/a?b#c"_s, Kind::link);
@@ -114,19 +75,17 @@ private Q_SLOTS:
 
     void textsAndLinks()
     {
-        QFETCH(const QString, copied);
+        const auto [copied, text, kind] = fetched<QString, QString, Kind>();
         const auto item = clipboardItemOfText(copied);
         QVERIFY(item);
-        QTEST(item->text, "text");
-        QTEST(item->kind, "kind");
+        QCOMPARE(item->text, text);
+        QCOMPARE(item->kind, kind);
         QVERIFY(!clipboardItemOfText(u" \n\t "_s));
     }
 
     void filesByTheirExtensions_data()
     {
-        using Kind = ClipboardItem::Kind;
-        QTest::addColumn<QStringList>("paths");
-        QTest::addColumn<Kind>("kind");
+        columns<QStringList, Kind>();
         QTest::newRow("pdfs") << QStringList{u"/a/x.pdf"_s, u"/a/y.PDF"_s} << Kind::pdf;
         QTest::newRow("images") << QStringList{u"/a/x.png"_s, u"/b/y.svg"_s} << Kind::image;
         QTest::newRow("mixed") << QStringList{u"/a/x.pdf"_s, u"/a/y.png"_s} << Kind::file;
@@ -138,11 +97,11 @@ private Q_SLOTS:
 
     void filesByTheirExtensions()
     {
-        QFETCH(const QStringList, paths);
+        const auto [paths, kind] = fetched<QStringList, Kind>();
         Stage stage;
-        stage.userCopies(urls(paths));
+        stage.userCopies(fileUrls(paths));
         const auto item = stage.clipboard.items().value(0);
-        QTEST(item.kind, "kind");
+        QCOMPARE(item.kind, kind);
         QCOMPARE(item.paths, paths);
         QStringList names;
         for (const QString &path : paths)
@@ -182,7 +141,7 @@ private Q_SLOTS:
         stage.pasteboard.replace(
             {QString::fromLatin1(Pasteboard::kFileUrls), QString::fromLatin1(Pasteboard::kString), marker});
         stage.pasteboard.text = u"hunter2"_s;
-        stage.pasteboard.urls = urls({u"/a/x.pdf"_s});
+        stage.pasteboard.urls = fileUrls({u"/a/x.pdf"_s});
         stage.settle();
         QCOMPARE(stage.pasteboard.asked, QStringList{u"types"_s});
         QVERIFY(stage.clipboard.items().isEmpty() && !stage.stored().contains("hunter2"));
@@ -190,17 +149,17 @@ private Q_SLOTS:
 
     void pictures_data()
     {
-        columns<EncodedPicture, QString, QString>();
+        const auto row = columns<EncodedPicture, QString, QString>();
         const EncodedPicture plain = png(300, 200);
-        const EncodedPicture tiff{encodedImage(300, 200, "tiff"), QString::fromLatin1(Pasteboard::kTiff)};
-        QTest::newRow("png") << plain << QString() << "Image 300×200";
-        QTest::newRow("tiff") << tiff << QString() << "Image 300×200";
-        QTest::newRow("narrow") << png(3, 20'000) << QString() << "Image 3×20000";
-        QTest::newRow("text wins") << plain << "beside"
-                                   << "beside";
-        QTest::newRow("damaged") << EncodedPicture{plain.data.left(60), plain.type} << QString() << QString();
-        QTest::newRow("no picture") << EncodedPicture{"nonsense", plain.type} << QString() << QString();
-        QTest::newRow("decompression bomb") << bomb() << QString() << QString();
+        const EncodedPicture tiff{encoded(plainImage({300, 200}), "tiff"),
+                                  QString::fromLatin1(Pasteboard::kTiff)};
+        row("png", plain, QString(), "Image 300×200");
+        row("tiff", tiff, QString(), "Image 300×200");
+        row("narrow", png(3, 20'000), QString(), "Image 3×20000");
+        row("text wins", plain, "beside", "beside");
+        row("damaged", EncodedPicture{plain.data.left(60), plain.type}, QString(), QString());
+        row("no picture", EncodedPicture{"nonsense", plain.type}, QString(), QString());
+        row("decompression bomb", {pictureBomb(), plain.type}, QString(), QString());
     }
 
     void pictures()
@@ -228,22 +187,20 @@ private Q_SLOTS:
     {
         const QTemporaryDir folder;
         const QString path = folder.filePath(u"photo.jpg"_s);
-        const QByteArray bytes = encodedImage(40, 30, "jpg");
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        file.close();
+        const QByteArray bytes = encoded(plainImage({40, 30}), "jpg");
+        QVERIFY(writeFile(path, bytes));
         const QString fifo = folder.filePath(u"pipe.png"_s);
         QCOMPARE(mkfifo(fifo.toLocal8Bit().constData(), 0600), 0);
 
         Stage stage;
-        stage.userCopies(urls({path, fifo}));
+        stage.userCopies(fileUrls({path, fifo}));
         const ClipboardItem shown = stage.clipboard.items().first();
         QCOMPARE(shown.thumbnail().size(), QSize(40, 30));
         stage.clipboard.copy(shown);
         QCOMPARE(std::get<EncodedPicture>(stage.pasteboard.written),
                  (EncodedPicture{bytes, u"image/jpeg"_s}));
 
-        stage.userCopies(urls({fifo}));
+        stage.userCopies(fileUrls({fifo}));
         QVERIFY(stage.clipboard.items().first().thumbnail().isNull());
 
         NotchSettings settings(stage.defaults);
@@ -251,7 +208,7 @@ private Q_SLOTS:
         const ClipboardItem reread = restarted.items().at(1);
         QVERIFY(reread.thumbnail().isNull());
         restarted.copy(reread);
-        QCOMPARE(std::get<QList<QUrl>>(stage.pasteboard.written), urls({path, fifo}));
+        QCOMPARE(std::get<QList<QUrl>>(stage.pasteboard.written), fileUrls({path, fifo}));
     }
 
     void picturesStayWithinTheirBudget()
@@ -268,7 +225,7 @@ private Q_SLOTS:
         int pictures = 0;
         for (const auto &item : stage.clipboard.items()) {
             cost += item.image.wrappedValue ? item.image.wrappedValue->cost() : 0;
-            pictures += item.kind == ClipboardItem::Kind::image ? 1 : 0;
+            pictures += item.kind == Kind::image ? 1 : 0;
         }
         QVERIFY(cost <= ClipboardModel::kPictureBudget);
         QCOMPARE(pictures, 4);
@@ -316,8 +273,8 @@ private Q_SLOTS:
         Stage stage;
         stage.userCopies("Hello World");
         stage.userCopies("https://example.org/hello");
-        stage.userCopies(urls({u"/a/hello.pdf"_s}));
-        stage.userCopies(urls({u"/a/hello.txt"_s}));
+        stage.userCopies(fileUrls({u"/a/hello.pdf"_s}));
+        stage.userCopies(fileUrls({u"/a/hello.txt"_s}));
         stage.userCopies(png(2, 2));
         const QList<std::pair<Filter, int>> expected{
             {Filter::all, 5}, {Filter::text, 1}, {Filter::links, 1}, {Filter::images, 1}, {Filter::pdfs, 1}};
@@ -360,8 +317,7 @@ private Q_SLOTS:
     {
         const QByteArray good =
             R"([{"id":"0A0A0A0A-1111-4222-8333-444444444444","kind":"text","text":"a","paths":[],"date":1,"image":{}}])";
-        QTest::addColumn<DefaultsValue>("value");
-        const auto row = [](const char *name, const DefaultsValue &value) { QTest::newRow(name) << value; };
+        const auto row = columns<DefaultsValue>();
         const auto changed = [&](const char *from, const char *to) {
             return QByteArray(good).replace(from, to);
         };
@@ -379,7 +335,7 @@ private Q_SLOTS:
 
     void damagedStoresAreLeftAlone()
     {
-        QFETCH(const DefaultsValue, value);
+        const auto [value] = fetched<DefaultsValue>();
         Fakes::Core core;
         core.defaults.values.insert(kKey, value);
         ClipboardModel model(core.settings, core.defaults, core.clock, core.pasteboard);
@@ -391,7 +347,7 @@ private Q_SLOTS:
 void ClipboardModelTest::storedFormat()
 {
     Stage stage;
-    stage.userCopies(urls({u"/a/ü.pdf"_s, u"/b/\".pdf"_s}));
+    stage.userCopies(fileUrls({u"/a/ü.pdf"_s, u"/b/\".pdf"_s}));
     const auto item = stage.clipboard.items().first();
     const QJsonObject object = QJsonDocument::fromJson(stage.stored()).array().at(0).toObject();
     const QJsonObject expected{

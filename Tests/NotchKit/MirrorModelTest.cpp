@@ -1,6 +1,5 @@
 #include "NotchKit/Tools/Mirror/MirrorModel.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
 
 using Authorization = CameraAuthorization;
 using State = MirrorModel::State;
@@ -67,9 +66,7 @@ private Q_SLOTS:
 
     void asksForAccess_data()
     {
-        QTest::addColumn<Authorization>("answer");
-        QTest::addColumn<QString>("told");
-        QTest::addColumn<State>("state");
+        columns<Authorization, QString, State>();
         QTest::newRow("allowed") << Authorization::authorized << u"configure"_s << State::Waiting;
         QTest::newRow("denied") << Authorization::denied << QString() << State::NoAccess;
         QTest::newRow("restricted") << Authorization::restricted << QString() << State::NoAccess;
@@ -77,7 +74,7 @@ private Q_SLOTS:
 
     void asksForAccess()
     {
-        QFETCH(const Authorization, answer);
+        const auto [answer, told, state] = fetched<Authorization, QString, State>();
         Stage stage;
         stage.camera.status = Authorization::notDetermined;
         stage.show();
@@ -85,8 +82,8 @@ private Q_SLOTS:
         QCOMPARE(stage.told(), u"access"_s);
         QCOMPARE(stage.mirror.state(), State::Waiting);
         stage.allow(answer);
-        QTEST(stage.told(), "told");
-        QTEST(stage.mirror.state(), "state");
+        QCOMPARE(stage.told(), told);
+        QCOMPARE(stage.mirror.state(), state);
         // What the user changes elsewhere takes effect at the next showing.
         stage.show({});
         stage.camera.called.clear();

@@ -1,19 +1,12 @@
 #include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
-
-#include <QCoreApplication>
 
 using Fakes::builtInDisplay;
 using Fakes::externalDisplay;
 
-namespace {
-
 constexpr QPointF kNotch(960, 1070); ///< In the closed notch of the first external display.
 constexpr QPointF kPanel(700, 800);  ///< In the open notch only.
 constexpr QPointF kOutside(300, 300);
-
-} // namespace
 
 class NotchControllerTest : public QObject
 {
@@ -84,12 +77,8 @@ private Q_SLOTS:
     void hoverOpensAfterItsDelay()
     {
         const auto [delay, closedAt, openAt] = fetched<double, int, int>();
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.settings.setHoverDelay(delay);
-        core.controller.start();
-        core.moveTo(kNotch);
-        core.wait(closedAt);
+        Fakes::StartedCore core({{u"notch.hoverDelay"_s, delay}});
+        core.moveTo(kNotch, closedAt);
         QVERIFY(!core.model().expanded());
         core.wait(openAt - closedAt);
         QVERIFY(core.model().expanded());
@@ -99,16 +88,11 @@ private Q_SLOTS:
 
     void pressingCancelsTheHover()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.controller.start();
-        core.moveTo(kNotch);
-        core.wait(99);
-        core.press(true);
-        core.wait(1000);
+        Fakes::StartedCore core;
+        core.moveTo(kNotch, 99);
+        core.press(true, 1000);
         QVERIFY(!core.model().expanded());
-        core.press(false);
-        core.wait(132);
+        core.press(false, 132);
         QVERIFY(!core.model().expanded());
         core.wait(66);
         QVERIFY(core.model().expanded());
@@ -116,23 +100,15 @@ private Q_SLOTS:
 
     void clickModeOpensOnTheFreshPress()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.settings.setOpenMode(NotchOpenMode::click);
-        core.controller.start();
-        core.moveTo(kNotch);
-        core.wait(2000);
+        Fakes::StartedCore core({{u"notch.openMode"_s, u"click"_s}});
+        core.moveTo(kNotch, 2000);
         QVERIFY(!core.model().expanded());
         core.moveTo(kOutside);
-        core.press(true);
-        core.wait(33);
-        core.moveTo(kNotch);
-        core.wait(500);
+        core.press(true, 33);
+        core.moveTo(kNotch, 500);
         QVERIFY2(!core.model().expanded(), "a press that began outside");
-        core.press(false);
-        core.wait(33);
-        core.press(true);
-        core.wait(33);
+        core.press(false, 33);
+        core.press(true, 33);
         QVERIFY(core.model().expanded());
     }
 
@@ -157,29 +133,20 @@ private Q_SLOTS:
         if (files)
             core.drags.files = {QUrl(u"file:///a"_s)};
         core.moveTo(kOutside);
-        core.press(true);
-        core.wait(33);
-        core.moveTo(kNotch);
-        core.wait(33);
+        core.press(true, 33);
+        core.moveTo(kNotch, 33);
         QCOMPARE(core.model().expanded(), opens);
         QCOMPARE(core.model().selected(), opens ? NotchTool::shelf : NotchTool::note);
     }
 
     void leavingClosesAfterAQuarterSecond()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.controller.start();
-        core.moveTo(kNotch);
-        core.wait(200);
-        core.moveTo(kPanel);
-        core.wait(33);
-        core.moveTo(kOutside);
-        core.wait(198);
-        core.moveTo(kPanel);
-        core.wait(33);
-        core.moveTo(kOutside);
-        core.wait(264);
+        Fakes::StartedCore core;
+        core.moveTo(kNotch, 200);
+        core.moveTo(kPanel, 33);
+        core.moveTo(kOutside, 198);
+        core.moveTo(kPanel, 33);
+        core.moveTo(kOutside, 264);
         QVERIFY2(core.model().expanded(), "the count restarts at each exit");
         core.wait(66);
         QVERIFY(!core.model().expanded());
@@ -188,7 +155,7 @@ private Q_SLOTS:
 
     void whatHoldsTheNotchOpen_data()
     {
-        QTest::addColumn<QString>("held");
+        columns<QString>();
         QTest::newRow("pinned") << "pinned";
         QTest::newRow("pressed") << "pressed";
         QTest::newRow("drag over it") << "dropTargeted";
@@ -196,12 +163,9 @@ private Q_SLOTS:
 
     void whatHoldsTheNotchOpen()
     {
-        QFETCH(const QString, held);
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.controller.start();
-        core.moveTo(kNotch);
-        core.wait(300);
+        const auto [held] = fetched<QString>();
+        Fakes::StartedCore core;
+        core.moveTo(kNotch, 300);
         const auto hold = [&](bool on) {
             core.press(on && held == "pressed"_L1);
             core.model().setPinned(on && held == "pinned"_L1);
@@ -209,8 +173,7 @@ private Q_SLOTS:
         };
         hold(true);
         core.wait(33);
-        core.moveTo(kOutside);
-        core.wait(5000);
+        core.moveTo(kOutside, 5000);
         QVERIFY(core.model().expanded());
         hold(false);
         core.wait(330);
@@ -219,31 +182,24 @@ private Q_SLOTS:
 
     void unvisitedNotchWaits()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.controller.start();
+        Fakes::StartedCore core;
         core.moveTo(kOutside);
         core.controller.open(std::nullopt);
         core.wait(10'000);
         QVERIFY(core.model().expanded());
-        core.press(true);
-        core.wait(33);
+        core.press(true, 33);
         QVERIFY2(!core.model().expanded(), "a fresh press outside closes it");
-        core.press(false);
-        core.wait(33);
+        core.press(false, 33);
         core.controller.open(std::nullopt);
         core.moveTo(kPanel);
-        core.press(true);
-        core.wait(33);
+        core.press(true, 33);
         QVERIFY2(core.model().expanded(), "a press inside does not");
         QVERIFY(core.model().pointerEntered());
     }
 
     void toggleTakesTheKeyboard()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.controller.start();
+        Fakes::StartedCore core;
         core.controller.toggle();
         QVERIFY(core.model().expanded() && core.panel().key);
         core.controller.toggle();
@@ -278,9 +234,7 @@ private Q_SLOTS:
 
     void openChoosesTheTool()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.controller.start();
+        Fakes::StartedCore core;
         core.controller.open(NotchTool::timer);
         QCOMPARE(core.model().selected(), NotchTool::timer);
         core.controller.open(NotchTool::note);
@@ -316,9 +270,7 @@ private Q_SLOTS:
 
     void hitAreaFollowsTheState()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.controller.start();
+        Fakes::StartedCore core;
         const NotchGeometry geometry = core.model().geometry();
         QCOMPARE(core.panel().hitArea, geometry.hitRect(false, false));
         core.controller.open(std::nullopt);
@@ -332,9 +284,7 @@ private Q_SLOTS:
 
     void shortcutFollowsItsSetting()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.controller.start();
+        Fakes::StartedCore core;
         QCOMPARE(core.hotKeys.codes, std::pair(45U, 6400U));
         const HotKeyIdentity first = core.hotKeys.registered.at(0);
         QCOMPARE(first.signature, 0x4b52554eU); // "KRUN"
@@ -360,9 +310,7 @@ private Q_SLOTS:
 
     void startAndStopAreIdempotent()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay()};
-        core.controller.start();
+        Fakes::StartedCore core;
         core.controller.start();
         QCOMPARE(core.panels.alive.size(), 1U);
         QCOMPARE(core.clock.running(), 3U); // poll and both clocks

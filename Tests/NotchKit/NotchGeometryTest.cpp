@@ -3,8 +3,6 @@
 #include "NotchKit/Spring.h"
 #include "Support/TestRegistry.h"
 
-#include <cmath>
-
 class NotchGeometryTest : public QObject
 {
     Q_OBJECT

@@ -1,5 +1,4 @@
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
 
 class NotchServicesTest : public QObject
 {

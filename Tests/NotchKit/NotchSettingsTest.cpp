@@ -36,17 +36,15 @@ private Q_SLOTS:
 
     void toolsAreLoaded_data()
     {
-        columns<QString, QString, QString>();
-        QTest::newRow("screenshots join an old list") << "home clipboard"
-                                                      << ""
-                                                      << "home clipboard captures";
-        QTest::newRow("all known") << "home clipboard" << allTools << "home clipboard";
-        QTest::newRow("catalogue order, unknown dropped") << "timer home sundial" << allTools << "home timer";
-        QTest::newRow("new tools join") << "home"
-                                        << "home timer captures nowPlaying clipboard calendar shelf aiUsage"
-                                           " weather stocks teleprompter mirror"
-                                        << "home note system";
-        QTest::newRow("repeated") << "note note home" << allTools << "home note";
+        const auto row = columns<QString, QString, QString>();
+        row("screenshots join an old list", "home clipboard", "", "home clipboard captures");
+        row("all known", "home clipboard", allTools, "home clipboard");
+        row("catalogue order, unknown dropped", "timer home sundial", allTools, "home timer");
+        row("new tools join", "home",
+            "home timer captures nowPlaying clipboard calendar shelf aiUsage"
+            " weather stocks teleprompter mirror",
+            "home note system");
+        row("repeated", "note note home", allTools, "home note");
     }
 
     void toolsAreLoaded()
@@ -64,23 +62,15 @@ private Q_SLOTS:
 
     void wrongTypesReadAsAbsent_data()
     {
-        columns<QString, QString>();
-        QTest::newRow("hoverDelay") << "hoverDelay"
-                                    << "0.5";
-        QTest::newRow("unknown mode") << "openMode"
-                                      << "Click";
-        QTest::newRow("empty mode") << "openMode"
-                                    << "";
-        QTest::newRow("Boolean") << "showWithoutNotch"
-                                 << "false";
-        QTest::newRow("integer") << "claudeBlockBudget"
-                                 << "12";
-        QTest::newRow("list") << "tools"
-                              << "home";
-        QTest::newRow("map") << "homeColumns"
-                             << "left";
-        QTest::newRow("optional") << "weatherLatitude"
-                                  << "52.5";
+        const auto row = columns<QString, QString>();
+        row("hoverDelay", "hoverDelay", "0.5");
+        row("unknown mode", "openMode", "Click");
+        row("empty mode", "openMode", "");
+        row("Boolean", "showWithoutNotch", "false");
+        row("integer", "claudeBlockBudget", "12");
+        row("list", "tools", "home");
+        row("map", "homeColumns", "left");
+        row("optional", "weatherLatitude", "52.5");
     }
 
     void wrongTypesReadAsAbsent()

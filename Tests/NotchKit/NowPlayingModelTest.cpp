@@ -1,22 +1,13 @@
 #include "NotchKit/Tools/NowPlaying/NowPlayingModel.h"
 #include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
-
-#include <QBuffer>
 
 namespace {
 
 constexpr auto kMusic = MediaPlayer::music;
 constexpr auto kSpotify = MediaPlayer::spotify;
 
-QByteArray picture(int side)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    QImage(side, side, QImage::Format_RGB32).save(&buffer, "png");
-    return bytes;
-}
+QByteArray picture(int side) { return encoded(plainImage({side, side})); }
 
 /// The core with both players, which say what the test makes them say: "", "denied", "failed", or the state,
 /// the title and the position.
@@ -86,9 +77,7 @@ class NowPlayingModelTest : public QObject
 private Q_SLOTS:
     void chooses_data()
     {
-        columns<QString, QString, QString>();
-        const auto row = [](const char *name, const QString &music, const QString &spotify,
-                            const QString &shown) { QTest::newRow(name) << music << spotify << shown; };
+        const auto row = columns<QString, QString, QString>();
         row("both playing", u"playing A 1"_s, u"playing B 2"_s, u"Music A 1"_s);
         row("both paused", u"paused A 1"_s, u"paused B 2"_s, u"Music A 1"_s);
         row("second plays", u"paused A 1"_s, u"playing B 2"_s, u"Spotify B 2"_s);
@@ -124,18 +113,15 @@ private Q_SLOTS:
     {
         Stage stage(u"denied"_s);
         stage.refresh();
-        stage.say(kMusic, u""_s);
-        stage.refresh();
-        QCOMPARE(stage.shown(), u"denied"_s);
-        stage.say(kMusic, u"off"_s);
-        stage.refresh();
-        QCOMPARE(stage.shown(), u"denied"_s);
-        stage.say(kMusic, u"playing A 1"_s);
-        stage.refresh();
-        QCOMPARE(stage.shown(), u"Music A 1"_s);
-        stage.say(kMusic, u"denied"_s);
-        stage.refresh();
-        QCOMPARE(stage.shown(), u"denied"_s);
+        const QList<std::pair<QString, QString>> steps{{u""_s, u"denied"_s},
+                                                       {u"off"_s, u"denied"_s},
+                                                       {u"playing A 1"_s, u"Music A 1"_s},
+                                                       {u"denied"_s, u"denied"_s}};
+        for (const auto &[words, shown] : steps) {
+            stage.say(kMusic, words);
+            stage.refresh();
+            QCOMPARE(stage.shown(), shown);
+        }
     }
 
     void looksInTime_data()
@@ -250,8 +236,8 @@ private Q_SLOTS:
         QCOMPARE(stage.services.activityTool(), NotchTool::nowPlaying);
         stage.services.model<TimerModel>()->start(600);
         QCOMPARE(stage.services.activityTool(), NotchTool::timer);
-        stage.services.model<TimerModel>()
-            ->pause(); // it does not open the wings, but stays in those that a song opens
+        // It does not open the wings, but stays in those that a song opens.
+        stage.services.model<TimerModel>()->pause();
         QCOMPARE(stage.services.activityTool(), NotchTool::timer);
         stage.settings.setEnabled(NotchTool::nowPlaying, false);
         QVERIFY(!stage.services.hasActivity());

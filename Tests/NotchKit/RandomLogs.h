@@ -12,9 +12,8 @@
 namespace Kestrune::Tests {
 
 /// A folder of logs to which random things happen, good and bad; the same for the same seed.
-class RandomLogs
+struct RandomLogs
 {
-public:
     RandomLogs(const QString &folder, unsigned seed)
         : m_folder(folder)
         , m_random(seed)

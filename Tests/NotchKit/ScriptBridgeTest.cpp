@@ -4,44 +4,23 @@
 #include "Support/Fakes.h"
 #include "Support/TestRegistry.h"
 
-#include <QBuffer>
 #include <QPainter>
 
-Q_DECLARE_METATYPE(ScriptOutcome)
-
 namespace {
-
-QByteArray encoded(const QImage &image)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "png");
-    return bytes;
-}
 
 /// A picture whose middle alone is red.
 QByteArray picture(int width, int height)
 {
-    QImage image(width, height, QImage::Format_RGB32);
-    image.fill(Qt::blue);
+    QImage image = plainImage({width, height});
     const int side = std::min(width, height);
     QPainter(&image).fillRect((width - side) / 2, (height - side) / 2, side, side, Qt::red);
     return encoded(image);
 }
 
-/// A small file that holds far too many pixels.
-QByteArray bomb()
-{
-    QImage image(9000, 9000, QImage::Format_Mono);
-    image.fill(0);
-    return encoded(image);
-}
-
 /// What a task gives that `start` starts.
 template <typename Value>
-class Outcome
+struct Outcome
 {
-public:
     template <typename Start>
     explicit Outcome(Start start)
     {
@@ -142,28 +121,26 @@ private Q_SLOTS:
     {
         // sent: by the host of an address
         // side: 0 for no cover
-        columns<ScriptOutcome, QByteArray, bool, int>();
+        const auto row = columns<ScriptOutcome, QByteArray, bool, int>();
         const QByteArray none;
         const auto text = [](const char *address) { return ScriptOutcome(QString::fromLatin1(address)); };
         const auto data = [](const QByteArray &bytes) { return ScriptOutcome(bytes); };
-        QTest::newRow("data") << data(picture(600, 600)) << none << false << CoverImage::kSide;
-        QTest::newRow("wide") << data(picture(900, 400)) << none << false << CoverImage::kSide;
-        QTest::newRow("high") << data(picture(40, 90)) << none << false << 40;
-        QTest::newRow("no data") << data(none) << none << false << 0;
-        QTest::newRow("no picture") << data("hello") << none << false << 0;
-        QTest::newRow("half a picture") << data(picture(64, 64).left(40)) << none << false << 0;
-        QTest::newRow("bomb") << data(bomb()) << none << false << 0;
-        QTest::newRow("too long") << data(picture(9, 9) + QByteArray(kMostCoverBytes, 'x')) << none << false
-                                  << 0;
-        QTest::newRow("address") << text("https://host/cover") << picture(50, 50) << true << 50;
-        QTest::newRow("address of no picture")
-            << text("https://host/cover") << QByteArray("<html>") << true << 0;
-        QTest::newRow("dead address") << text("https://host/gone") << picture(50, 50) << true << 0;
-        QTest::newRow("unsafe address") << text("http://host/cover") << picture(50, 50) << false << 0;
-        QTest::newRow("no address") << text("missing value") << none << false << 0;
-        QTest::newRow("broken address") << text("https://ho st/cover") << none << false << 0;
-        QTest::newRow("failed") << ScriptOutcome() << none << false << 0;
-        QTest::newRow("refused") << ScriptOutcome(ScriptNotPermitted()) << none << false << 0;
+        row("data", data(picture(600, 600)), none, false, CoverImage::kSide);
+        row("wide", data(picture(900, 400)), none, false, CoverImage::kSide);
+        row("high", data(picture(40, 90)), none, false, 40);
+        row("no data", data(none), none, false, 0);
+        row("no picture", data("hello"), none, false, 0);
+        row("half a picture", data(picture(64, 64).left(40)), none, false, 0);
+        row("bomb", data(pictureBomb()), none, false, 0);
+        row("too long", data(picture(9, 9) + QByteArray(kMostCoverBytes, 'x')), none, false, 0);
+        row("address", text("https://host/cover"), picture(50, 50), true, 50);
+        row("address of no picture", text("https://host/cover"), QByteArray("<html>"), true, 0);
+        row("dead address", text("https://host/gone"), picture(50, 50), true, 0);
+        row("unsafe address", text("http://host/cover"), picture(50, 50), false, 0);
+        row("no address", text("missing value"), none, false, 0);
+        row("broken address", text("https://ho st/cover"), none, false, 0);
+        row("failed", ScriptOutcome(), none, false, 0);
+        row("refused", ScriptOutcome(ScriptNotPermitted()), none, false, 0);
     }
 
     void covers()

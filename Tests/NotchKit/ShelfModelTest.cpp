@@ -1,10 +1,6 @@
 #include "NotchKit/Tools/Shelf/ShelfModel.h"
 #include "NotchKit/FileSymbols.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
-
-#include <QDir>
-#include <QTemporaryDir>
 
 /// A folder with files to be shelved.
 struct Folder
@@ -12,9 +8,8 @@ struct Folder
     Folder()
     {
         for (const QString &name : {u"a"_s, u"b %41.txt"_s, u"日本\n.pdf"_s}) {
-            QFile file(dir.filePath(name));
-            if (file.open(QFile::WriteOnly))
-                urls.append(QUrl::fromLocalFile(file.fileName()));
+            if (writeFile(dir.filePath(name)))
+                urls.append(QUrl::fromLocalFile(dir.filePath(name)));
         }
         QDir(dir.path()).mkdir(u"sub"_s);
         urls.append(QUrl::fromLocalFile(dir.filePath(u"sub"_s)));
@@ -76,9 +71,7 @@ private Q_SLOTS:
     {
         const auto [restart, show, seconds] = fetched<bool, bool, int>();
         const Folder folder;
-        Fakes::Core core({{u"notch.shelfPaths"_s, folder.paths()}});
-        core.displays.displays = {Fakes::externalDisplay()};
-        core.controller.start();
+        Fakes::StartedCore core({{u"notch.shelfPaths"_s, folder.paths()}});
         core.controller.open(NotchTool::note);
         QTRY_COMPARE(core.services.model<ShelfModel>()->tiles().at(3).symbol, u"folder"_s);
         QFile::remove(folder.paths()[1]);

@@ -16,9 +16,8 @@
 namespace Kestrune::Tests {
 
 /// The log reader again, as plainly as it can be written: what the real one is compared with.
-class SlowLogReader
+struct SlowLogReader
 {
-public:
     explicit SlowLogReader(const QString &root)
         : m_root(root)
     {}

@@ -2,11 +2,6 @@
 #include "NotchKit/Tools/Stocks/QuoteFormat.h"
 #include "NotchKit/Tools/Stocks/Sparkline.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
-
-#include <QLocale>
-
-#include <cmath>
 
 namespace {
 
@@ -32,11 +27,6 @@ struct Stage : Fakes::Core
         services.start();
     }
 
-    void show(std::optional<NotchTool> tool)
-    {
-        services.setAnyExpanded(tool.has_value());
-        services.show(tool);
-    }
     void answer(std::size_t index, const HttpReply &reply)
     {
         http.questions.answer(index, reply);
@@ -161,12 +151,11 @@ private Q_SLOTS:
 
     void drafts_data()
     {
-        columns<QString, QStringList>();
-        QTest::newRow("commas and blanks")
-            << u"aapl,,tsla  msft"_s << QStringList{u"AAPL"_s, u"TSLA"_s, u"MSFT"_s};
-        QTest::newRow("around") << u" ,\taapl\u00a0^gspc\n, "_s << QStringList{u"AAPL"_s, u"^GSPC"_s};
-        QTest::newRow("twice") << u"b,a,B,c,A"_s << QStringList{u"B"_s, u"A"_s, u"C"_s};
-        QTest::newRow("nothing") << u" , "_s << QStringList();
+        const auto row = columns<QString, QStringList>();
+        row("commas and blanks", u"aapl,,tsla  msft"_s, QStringList{u"AAPL"_s, u"TSLA"_s, u"MSFT"_s});
+        row("around", u" ,\taapl\u00a0^gspc\n, "_s, QStringList{u"AAPL"_s, u"^GSPC"_s});
+        row("twice", u"b,a,B,c,A"_s, QStringList{u"B"_s, u"A"_s, u"C"_s});
+        row("nothing", u" , "_s, QStringList());
     }
 
     void drafts()
@@ -222,8 +211,8 @@ private Q_SLOTS:
         QCOMPARE(Sparkline::line({5}, size), Line());
         QCOMPARE(Sparkline::line({5, 5, 5}, size), Line({{0, 20}, {50, 20}, {100, 20}}));
         QCOMPARE(Sparkline::line({1, 3, 2}, size), Line({{0, 20}, {50, 0}, {100, 10}}));
-        QVERIFY(std::abs(Sparkline::line({1, 1 + 5e-5}, size).at(1).y() - 10) <
-                1e-6); // half of the least range
+        // Half of the least range.
+        QVERIFY(std::abs(Sparkline::line({1, 1 + 5e-5}, size).at(1).y() - 10) < 1e-6);
     }
 };
 

@@ -1,22 +1,13 @@
 #include "NotchKit/Tools/System/SystemModel.h"
 #include "NotchKit/Tools/System/SystemPresentation.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
-
-#include <QLocale>
-
-namespace {
 
 constexpr double kGigabyte = 1024.0 * 1024 * 1024;
 
-PowerSource source(std::optional<qint64> now, std::optional<qint64> full, const QString &state = {})
+static PowerSource source(std::optional<qint64> now, std::optional<qint64> full, const QString &state = {})
 {
     return {now, full, state};
 }
-
-} // namespace
-
-Q_DECLARE_METATYPE(Kestrune::PowerSource)
 
 class SystemModelTest : public QObject
 {

@@ -1,6 +1,5 @@
 #include "NotchKit/Tools/Teleprompter/TeleprompterModel.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
 
 /// The playback, driven by the hub's fast clock.
 class TeleprompterModelTest : public QObject

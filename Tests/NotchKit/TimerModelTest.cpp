@@ -1,6 +1,5 @@
 #include "NotchKit/Tools/Timer/TimerModel.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
 
 class TimerModelTest : public QObject
 {

@@ -1,7 +1,6 @@
 #include "NotchKit/Tools/Weather/WeatherModel.h"
 #include "NotchKit/Tools/Weather/WeatherFigures.h"
 #include "Support/Core.h"
-#include "Support/TestRegistry.h"
 
 namespace {
 
@@ -38,16 +37,6 @@ struct Stage : Fakes::Core
         figures.follow(model, *services.surroundings());
     }
 
-    void show(std::optional<NotchTool> tool)
-    {
-        services.setAnyExpanded(tool.has_value());
-        services.show(tool);
-    }
-    void answer(const HttpReply &reply)
-    {
-        http.questions.answerLast(reply);
-        QCoreApplication::processEvents();
-    }
     void locate(const std::optional<Coordinate> &fix)
     {
         model.useCurrentLocation();
@@ -100,7 +89,7 @@ private Q_SLOTS:
         Stage stage;
         QCOMPARE(stage.figures.temperature(), u"–"_s);
         stage.show(NotchTool::weather);
-        stage.answer(good(kForecast));
+        stage.reply(good(kForecast));
         QCOMPARE(stage.figures.symbol(), u"cloud.fill"_s);
         QCOMPARE(stage.figures.temperature(), u"22°"_s);
         QCOMPARE(stage.figures.wind(), u"Wind 9 km/h"_s);
@@ -112,7 +101,7 @@ private Q_SLOTS:
         stage.settings.setUseFahrenheit(true);
         QCOMPARE(stage.figures.wind(), u"Wind 9 km/h"_s);
         stage.wait(1000);
-        stage.answer(good(R"({"current": {"temperature_2m": 71}})"));
+        stage.reply(good(R"({"current": {"temperature_2m": 71}})"));
         QCOMPARE(stage.http.addresses(),
                  (QStringList{forecastAddress(u"52.52"_s, u"-0.5"_s),
                               forecastAddress(u"52.52"_s, u"-0.5"_s,
@@ -135,9 +124,9 @@ private Q_SLOTS:
         const auto [status, body, temperature] = fetched<int, QByteArray, QString>();
         Stage stage;
         stage.model.refresh(true);
-        stage.answer(good(kForecast));
+        stage.reply(good(kForecast));
         stage.model.refresh(true);
-        stage.answer({status, body});
+        stage.reply({status, body});
         const bool failed = temperature.isEmpty();
         QCOMPARE(stage.model.error(), failed ? u"Weather is not available right now."_s : QString());
         QCOMPARE(stage.figures.temperature(), failed ? u"22°"_s : temperature);
@@ -145,18 +134,14 @@ private Q_SLOTS:
         QCOMPARE(stage.model.code(), 3);
         QCOMPARE(stage.model.days().size(), failed ? 2 : 0);
         stage.model.refresh(true);
-        stage.answer(good(kForecast));
+        stage.reply(good(kForecast));
         QCOMPARE(stage.model.error(), QString());
     }
 
     void days_data()
     {
-        columns<QByteArray, QByteArray, QByteArray, QList<int>>();
+        const auto row = columns<QByteArray, QByteArray, QByteArray, QList<int>>();
         const QByteArray three = R"("2027-01-01", "2027-01-02", "2027-01-03")";
-        const auto row = [](const char *name, const QByteArray &time, const QByteArray &code,
-                            const QByteArray &high, const QList<int> &dates) {
-            QTest::newRow(name) << time << code << high << dates;
-        };
         row("whole", three, "1, 2, 3", "1, 2, 3", {1, 2, 3});
         row("a list ends early", three, "1, 2, 3", "1, 2", {1, 2});
         row("more than days", three, "1, 2, 3, 4", "1, 2, 3, 4", {1, 2, 3});
@@ -212,7 +197,7 @@ private Q_SLOTS:
             return;
         QCOMPARE(stage.http.addresses().first(),
                  u"https://geocoding-api.open-meteo.com/v1/search?count=1&language=en&name="_s + name);
-        stage.answer(good(body));
+        stage.reply(good(body));
         QVERIFY(!stage.model.searching());
         QCOMPARE(stage.model.error(), city.isEmpty() ? u"City not found."_s : QString());
         QCOMPARE(stage.settings.weatherCity(), city.isEmpty() ? u"Berlin"_s : city);
@@ -240,10 +225,10 @@ private Q_SLOTS:
                 stage.location.questions.isGivenUp(stage.location.questions.count() - 1));
         stage.model.search(u"Rome"_s);
         QVERIFY(stage.http.questions.isGivenUp(1) && stage.model.searching());
-        stage.answer(good(R"({"results": [{"latitude": 41.9, "longitude": 12.5}]})"));
+        stage.reply(good(R"({"results": [{"latitude": 41.9, "longitude": 12.5}]})"));
         QCOMPARE(stage.settings.weatherCity(), u"Rome"_s);
         QVERIFY(stage.http.questions.isGivenUp(0));
-        stage.answer(good(kForecast));
+        stage.reply(good(kForecast));
         QCOMPARE(stage.figures.temperature(), u"22°"_s);
     }
 
@@ -270,19 +255,18 @@ private Q_SLOTS:
 void WeatherModelTest::failuresKeepFigures_data()
 {
     // temperature: and without a complaint, unless it is empty
-    columns<int, QByteArray, QString>();
-    QTest::newRow("no reply") << 0 << QByteArray() << QString();
-    QTest::newRow("error page") << 503 << QByteArray("<html>") << QString();
-    QTest::newRow("error in JSON") << 400 << kForecast << QString();
-    QTest::newRow("no JSON") << 200 << QByteArray("<html>") << QString();
-    QTest::newRow("truncated") << 200 << kForecast.chopped(9) << QString();
-    QTest::newRow("a list") << 200 << QByteArray("[1]") << QString();
-    QTest::newRow("empty object") << 200 << QByteArray("{}") << u"22°"_s;
-    QTest::newRow("wrong types") << 200
-                                 << QByteArray(R"({"current": {"temperature_2m": "1", "weather_code": 1.5,
-                                                   "wind_speed_10m": null}, "daily": []})")
-                                 << u"22°"_s;
-    QTest::newRow("one figure") << 200 << QByteArray(R"({"current": {"temperature_2m": -1e1}})") << u"−10°"_s;
+    const auto row = columns<int, QByteArray, QString>();
+    row("no reply", 0, QByteArray(), QString());
+    row("error page", 503, QByteArray("<html>"), QString());
+    row("error in JSON", 400, kForecast, QString());
+    row("no JSON", 200, QByteArray("<html>"), QString());
+    row("truncated", 200, kForecast.chopped(9), QString());
+    row("a list", 200, QByteArray("[1]"), QString());
+    row("empty object", 200, QByteArray("{}"), u"22°"_s);
+    row("wrong types", 200, QByteArray(R"({"current": {"temperature_2m": "1", "weather_code": 1.5,
+                                                   "wind_speed_10m": null}, "daily": []})"),
+        u"22°"_s);
+    row("one figure", 200, QByteArray(R"({"current": {"temperature_2m": -1e1}})"), u"−10°"_s);
 }
 
 REGISTER_TEST(WeatherModelTest);

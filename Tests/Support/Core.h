@@ -5,8 +5,7 @@
 #include "NotchKit/NotchController.h"
 #include "NotchKit/NotchServices.h"
 #include "NotchKit/NotchSettings.h"
-
-#include <QCoreApplication>
+#include "Support/TestRegistry.h"
 
 namespace Kestrune::Fakes {
 
@@ -36,6 +35,30 @@ struct Core : Platform
     /// Moves the pointer, the button as it is.
     void moveTo(const QPointF &place) { pointer.now.location = place; }
     void press(bool down) { pointer.now.primaryDown = down; }
+    /// The same, and that many milliseconds after it.
+    void moveTo(const QPointF &place, int milliseconds)
+    {
+        moveTo(place);
+        wait(milliseconds);
+    }
+    void press(bool down, int milliseconds)
+    {
+        press(down);
+        wait(milliseconds);
+    }
+
+    /// Some notch is open with that tool, or all are closed.
+    void show(std::optional<NotchTool> tool)
+    {
+        services.setAnyExpanded(tool.has_value());
+        services.show(tool);
+    }
+    /// The last request to the web is answered.
+    void reply(const HttpReply &reply)
+    {
+        http.questions.answerLast(reply);
+        QCoreApplication::processEvents();
+    }
 };
 
 /// A 1920 × 1080 display without a camera housing, `index` display widths to the right of the main one.
@@ -43,6 +66,17 @@ inline Display externalDisplay(int index = 0)
 {
     return {QStringLiteral("HDMI-%1").arg(index + 1), QRectF(1920.0 * index, 0, 1920, 1080), 0, {}, {}};
 }
+
+/// The core with one such display, started.
+struct StartedCore : Core
+{
+    explicit StartedCore(MemoryDefaults::Values stored = {})
+        : Core(std::move(stored))
+    {
+        displays.displays = {externalDisplay()};
+        controller.start();
+    }
+};
 
 /// A notebook display with a camera housing of 200 × 38.
 inline Display builtInDisplay(double x)

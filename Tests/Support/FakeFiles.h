@@ -17,9 +17,8 @@
 namespace Kestrune::Fakes {
 
 /// Answers at once, or, while `held`, when `release` is called. Counts what it was asked for.
-class FakePasteboard : public Pasteboard
+struct FakePasteboard : Pasteboard
 {
-public:
     qint64 changeCount() const override { return count; }
     QFuture<QStringList> types() override { return answer(offered, QStringLiteral("types")); }
     QFuture<QList<QUrl>> fileUrls() override { return answer(urls, QStringLiteral("urls")); }
@@ -80,9 +79,8 @@ private:
 };
 
 /// Reaches devices "id0", "Device 0" and so on. Answers at once, or, while `held`, when `release` is called.
-class FakeSharing : public FileSharing
+struct FakeSharing : FileSharing
 {
-public:
     explicit FakeSharing(int count = 0)
     {
         for (int i = 0; i < count; ++i)
@@ -113,9 +111,8 @@ public:
 };
 
 /// Finds what the test puts in `found`, when the test says so.
-class FakeCaptureQuery : public ScreenCaptureQuery
+struct FakeCaptureQuery : ScreenCaptureQuery
 {
-public:
     void installHandler(Handler installed) override { handler = std::move(installed); }
     void start() override { running = true; }
     void stop() override { running = false; }
@@ -131,9 +128,8 @@ public:
 };
 
 /// Answers when the test does: a promise for each request, in their order.
-class FakeThumbnails : public Thumbnails
+struct FakeThumbnails : Thumbnails
 {
-public:
     QFuture<QImage> thumbnail(const QString &path) override
     {
         asked.append(path);

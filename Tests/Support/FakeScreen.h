@@ -19,9 +19,8 @@
 /// Stand-ins for the platform's ports, steered by the tests.
 namespace Kestrune::Fakes {
 
-class FakeDisplays : public Displays
+struct FakeDisplays : Displays
 {
-public:
     QList<Display> all() const override { return displays; }
     std::optional<Display> main() const override
     {
@@ -34,18 +33,16 @@ public:
     int mainIndex = 0;
 };
 
-class FakePointer : public Pointer
+struct FakePointer : Pointer
 {
-public:
     QPointF location() override { return now.location; }
     PointerSample sample() override { return now; }
 
     PointerSample now;
 };
 
-class FakePanels : public NotchPanels
+struct FakePanels : NotchPanels
 {
-public:
     struct Panel : NotchPanel
     {
         explicit Panel(FakePanels &owner)
@@ -54,8 +51,7 @@ public:
             panels.alive.push_back(this);
         }
         ~Panel() override { std::erase(panels.alive, this); }
-        Panel(const Panel &) = delete;
-        Panel &operator=(const Panel &) = delete;
+        Q_DISABLE_COPY_MOVE(Panel)
 
         void setFrame(const QRectF &place) override { frame = place; }
         void orderFront() override { shown = true; }
@@ -83,9 +79,8 @@ public:
     std::vector<Panel *> alive;
 };
 
-class FakeHotKeys : public HotKeys
+struct FakeHotKeys : HotKeys
 {
-public:
     void installHandler(Handler installed) override { handler = std::move(installed); }
     bool registerHotKey(quint32 keyCode, quint32 modifiers, HotKeyIdentity identity) override
     {
@@ -103,9 +98,8 @@ public:
     bool taken = false;
 };
 
-class FakeDrags : public DragPasteboard
+struct FakeDrags : DragPasteboard
 {
-public:
     bool holdsFileUrls() const override { return !files.isEmpty(); }
     QFuture<QList<QUrl>> fileUrls() override
     {
@@ -119,9 +113,8 @@ public:
 };
 
 /// Gives what the test put there.
-class FakeWindowSystem : public WindowSystem
+struct FakeWindowSystem : WindowSystem
 {
-public:
     struct Parts
     {
         Displays *displays;

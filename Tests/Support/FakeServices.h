@@ -12,16 +12,14 @@
 
 #include <map>
 #include <optional>
-#include <vector>
 
 /// Stand-ins for the platform's ports, steered by the tests.
 namespace Kestrune::Fakes {
 
 /// Answers when the test does: a promise for each request, in their order. Addresses among the `replies` are
 /// answered at once.
-class FakeHttp : public HttpClient
+struct FakeHttp : HttpClient
 {
-public:
     QFuture<HttpReply> get(const HttpRequest &request) override
     {
         asked.append(request);
@@ -44,17 +42,15 @@ public:
     Questions<HttpReply> questions;
 };
 
-class FakeLocation : public LocationService
+struct FakeLocation : LocationService
 {
-public:
     QFuture<std::optional<Coordinate>> locate() override { return questions.ask(); }
 
     Questions<std::optional<Coordinate>> questions;
 };
 
-class FakeHost : public HostStatistics
+struct FakeHost : HostStatistics
 {
-public:
     std::optional<ProcessorTicks> processorTicks() override { return ++asked, ticks; }
     std::optional<MemoryPages> memoryPages() override { return pages; }
     double physicalMemory() override { return installed; }
@@ -71,9 +67,8 @@ public:
 
 /// Answers each script at once with what the test put there for it, or, while `held`, when `release` is
 /// called.
-class FakeScripts : public ScriptExecutor
+struct FakeScripts : ScriptExecutor
 {
-public:
     QFuture<ScriptOutcome> execute(const QString &source) override
     {
         m_executed.append(source);
@@ -105,9 +100,8 @@ private:
 };
 
 /// Allows and has a camera unless told otherwise. Questions are answered when the test does.
-class FakeCamera : public CameraSession
+struct FakeCamera : CameraSession
 {
-public:
     void installHandlers(Handlers installed) override { handlers = std::move(installed); }
     CameraAuthorization authorization() override { return status; }
     QFuture<bool> requestAccess() override { return ask(QStringLiteral("access")); }
@@ -135,9 +129,8 @@ private:
 };
 
 /// Answers when the test does: a promise for each question, in their order.
-class FakeCalendars : public CalendarStore
+struct FakeCalendars : CalendarStore
 {
-public:
     QFuture<CalendarAccess> access(CalendarEntity entity) override { return accesses[entity].ask(); }
     QFuture<bool> requestAccess(CalendarEntity entity) override { return requests[entity].ask(); }
     QFuture<std::optional<Events>> events(const QDateTime &from, const QDateTime &to) override

@@ -25,9 +25,8 @@
 namespace Kestrune::Fakes {
 
 /// Time stands still until `advance`, which runs what falls due in order.
-class FakeClock : public Clock
+struct FakeClock : Clock
 {
-public:
     QDateTime now() const override { return m_start.addMSecs(m_elapsed.count()); }
     std::chrono::nanoseconds uptime() const override { return m_elapsed; }
 
@@ -79,8 +78,7 @@ private:
         {
             clock.m_entries.remove_if([this](const Entry &other) { return &other == &entry; });
         }
-        Timer(const Timer &) = delete;
-        Timer &operator=(const Timer &) = delete;
+        Q_DISABLE_COPY_MOVE(Timer)
         FakeClock &clock;
         Entry &entry;
     };
@@ -107,9 +105,8 @@ private:
     std::list<Entry> m_entries;
 };
 
-class MemoryDefaults : public UserDefaults
+struct MemoryDefaults : UserDefaults
 {
-public:
     using Values = QMap<QString, DefaultsValue>;
 
     explicit MemoryDefaults(Values stored = {})
@@ -127,17 +124,15 @@ public:
     Values values;
 };
 
-class FakeSounds : public SoundPlayer
+struct FakeSounds : SoundPlayer
 {
-public:
     void play(const QString &name) override { played.append(name); }
 
     QStringList played;
 };
 
-class FakeWorkspace : public Workspace
+struct FakeWorkspace : Workspace
 {
-public:
     void open(const QUrl &url) override { opened.append(url); }
     void reveal(const QList<QUrl> &files) override { revealed.append(files); }
 
@@ -145,9 +140,8 @@ public:
     QList<QList<QUrl>> revealed;
 };
 
-class FakeApplications : public RunningApplications
+struct FakeApplications : RunningApplications
 {
-public:
     bool isRunning(const QString &bundleIdentifier) const override
     {
         return running.contains(bundleIdentifier);
@@ -156,9 +150,8 @@ public:
     QSet<QString> running;
 };
 
-class FakeLoginItem : public LoginItem
+struct FakeLoginItem : LoginItem
 {
-public:
     bool isEnabled() const override { return enabled; }
     std::optional<QString> setEnabled(bool wanted) override
     {
@@ -171,9 +164,8 @@ public:
     std::optional<QString> failure;
 };
 
-class FakeUpdater : public Updater
+struct FakeUpdater : Updater
 {
-public:
     bool canCheckForUpdates() const override { return canCheck; }
     void checkForUpdates() override { ++checks; }
     bool automaticallyDownloadsUpdates() const override { return automatic; }
@@ -197,9 +189,8 @@ public:
     UpdateStatus shown;
 };
 
-class FakeAppearance : public Appearance
+struct FakeAppearance : Appearance
 {
-public:
     bool isDark() const override { return m_dark; }
     void setDark(bool dark)
     {

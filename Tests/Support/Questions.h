@@ -8,9 +8,8 @@ namespace Kestrune::Fakes {
 
 /// The futures that a fake has given out, in their order; answered when the test does.
 template <typename Value>
-class Questions
+struct Questions
 {
-public:
     QFuture<Value> ask()
     {
         m_promises.emplace_back().start();

@@ -7,9 +7,8 @@
 #include <sodium.h>
 
 /// Both halves of a new key, which tells and signs releases as the makers do.
-class ReleaseSigner
+struct ReleaseSigner
 {
-public:
     ReleaseSigner()
     {
         if (sodium_init() < 0 || crypto_sign_keypair(bytes(m_public), bytes(m_secret)) != 0)

@@ -1,15 +1,32 @@
 #pragma once
 
-#include <QObject>
-#include <QSignalSpy>
-#include <QTest>
+#include "Support/Files.h"
+#include "Support/Rows.h"
 
-#include <array>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+#include <QObject>
+#include <QSet>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QUrl>
+
+#include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <functional>
+#include <limits>
+#include <map>
 #include <memory>
-#include <tuple>
+#include <optional>
 #include <utility>
+#include <vector>
 
 namespace Kestrune {}
 
@@ -28,33 +45,6 @@ using Factory = std::function<std::unique_ptr<QObject>()>;
 bool add(const char *name, Factory factory);
 
 } // namespace TestRegistry
-
-constexpr std::array kColumnNames{"a", "b", "c", "d", "e", "f", "g", "h", "i", "j"};
-
-/// In the `_data` of a test: what its rows, made with QTest::newRow, hold.
-template <typename... Values>
-void columns()
-{
-    std::size_t column = 0;
-    (QTest::addColumn<Values>(kColumnNames.at(column++)), ...);
-}
-
-template <typename Value>
-Value fetchedFrom(std::size_t column)
-{
-    return *static_cast<Value *>(QTest::qData(kColumnNames.at(column), qMetaTypeId<Value>()));
-}
-
-/// In the test: its row, of the same columns.
-template <typename... Values>
-std::tuple<Values...> fetched()
-{
-    const auto fetch = []<std::size_t... Columns>(std::index_sequence<Columns...>)
-    {
-        return std::tuple<Values...>(fetchedFrom<Values>(Columns)...);
-    };
-    return fetch(std::index_sequence_for<Values...>());
-}
 
 // A condition is waited for as long as the slowest machine may need; a test that passes waits no longer than
 // it must.

@@ -15,9 +15,8 @@ class QTcpServer;
 class QTcpSocket;
 
 /// A web server on a loopback port, on a thread of its own, which answers as a test says and keeps a log.
-class WebStandIn
+struct WebStandIn
 {
-public:
     struct Request
     {
         QByteArray target;                    ///< Path and query as they were sent.

@@ -4,21 +4,12 @@
 #include "EndToEnd/PrivateBus.h"
 #include "EndToEnd/Waiting.h"
 #include "Support/Fakes.h"
-
-#include <QDir>
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QTemporaryDir>
-
-using namespace Qt::StringLiterals;
+#include "Support/TestRegistry.h"
 
 /// What a test asks of a program that keeps calendars, whichever it is: calendars with items in them, the
 /// adapter that reads them, and a look at them with another program's eyes.
-class CalendarStage
+struct CalendarStage
 {
-public:
     virtual ~CalendarStage() = default;
 
     /// A calendar ("Calendar") or task list ("Task List") with those components. Returns what `texts` wants.
@@ -26,7 +17,7 @@ public:
     /// A list that cannot be written.
     virtual QString createReadOnly(const QByteArray &components) = 0;
     virtual QByteArray texts(const QString &calendar) = 0;
-    virtual Kestrune::CalendarStore &store() = 0;
+    virtual CalendarStore &store() = 0;
 
     static QByteArray calendar(const QByteArray &components)
     {
@@ -43,19 +34,17 @@ public:
 };
 
 /// Folders of files.
-class FolderStage : public CalendarStage
+struct FolderStage : CalendarStage
 {
-public:
     FolderStage()
     {
-        m_defaults.setObject(Kestrune::DesktopCalendars::sourceKey(), u"folders"_s);
-        m_defaults.setObject(Kestrune::DesktopCalendars::folderKey(), m_root.path());
+        m_defaults.setObject(DesktopCalendars::sourceKey(), u"folders"_s);
+        m_defaults.setObject(DesktopCalendars::folderKey(), m_root.path());
     }
 
     QString create(const QString &kind, const QByteArray &components, const QString &color) override
     {
         const QString folder = m_root.filePath(u"account/%1 %2"_s.arg(kind).arg(++m_count));
-        QDir().mkpath(folder);
         write(folder + u"/color"_s, color.toUtf8() + '\n');
         write(folder + u"/item.ics"_s, calendar(components));
         return folder + u"/item.ics"_s;
@@ -67,35 +56,29 @@ public:
         write(file, calendar(components));
         return file;
     }
-    QByteArray texts(const QString &file) override
-    {
-        QFile open(file);
-        return open.open(QFile::ReadOnly) ? open.readAll() : QByteArray();
-    }
-    Kestrune::CalendarStore &store() override { return m_store; }
+    QByteArray texts(const QString &file) override { return readFile(file); }
+    CalendarStore &store() override { return m_store; }
     QString path() const { return m_root.path(); }
 
     static void write(const QString &path, const QByteArray &data)
     {
-        QFile file(path);
-        if (!file.open(QFile::WriteOnly) || file.write(data) != data.size())
+        if (!writeFile(path, data))
             qFatal("%s cannot be written", qPrintable(path));
     }
 
 private:
     QTemporaryDir m_root;
     int m_count = 0;
-    Kestrune::Fakes::MemoryDefaults m_defaults;
-    Kestrune::DesktopCalendars m_store{QDBusConnection(QString()), m_defaults};
+    Fakes::MemoryDefaults m_defaults;
+    DesktopCalendars m_store{QDBusConnection(QString()), m_defaults};
 };
 
 /// Evolution Data Server on a bus and in a home of its own, filled by its own library.
-class EvolutionStage : public CalendarStage
+struct EvolutionStage : CalendarStage
 {
-public:
     EvolutionStage()
     {
-        m_defaults.setObject(Kestrune::DesktopCalendars::sourceKey(), u"evolution"_s);
+        m_defaults.setObject(DesktopCalendars::sourceKey(), u"evolution"_s);
         m_client.launch(u"/usr/bin/python3"_s, {QString::fromLatin1(KESTRUNE_EVOLUTION_CLIENT)});
     }
 
@@ -116,7 +99,7 @@ public:
             all += text.toString();
         return all.toUtf8();
     }
-    Kestrune::CalendarStore &store() override { return m_store; }
+    CalendarStore &store() override { return m_store; }
 
     QJsonObject ask(const QJsonObject &request)
     {
@@ -141,7 +124,6 @@ private:
 
     static QString services(const QTemporaryDir &home)
     {
-        QDir().mkpath(home.filePath(u"services"_s));
         for (const auto &[name, program] : {std::pair("Sources5", "evolution-source-registry"),
                                             std::pair("Calendar8", "evolution-calendar-factory")}) {
             const QByteArray service = QByteArray("org.gnome.evolution.dataserver.") + name;
@@ -165,6 +147,6 @@ private:
     PrivateBus m_bus{m_environment, m_home.path(), services(m_home)};
     ChildProcess m_client{m_environment};
     int m_count = 0;
-    Kestrune::Fakes::MemoryDefaults m_defaults;
-    Kestrune::DesktopCalendars m_store{m_bus.connection(), m_defaults};
+    Fakes::MemoryDefaults m_defaults;
+    DesktopCalendars m_store{m_bus.connection(), m_defaults};
 };

@@ -1,7 +1,6 @@
 #include "Desktop/Calendars/CalendarStage.h"
 #include "NotchKit/NotchSettings.h"
 #include "NotchKit/Tools/Calendar/CalendarModel.h"
-#include "Support/TestRegistry.h"
 
 #include <sys/stat.h>
 
@@ -70,9 +69,7 @@ private Q_SLOTS:
     }
     void events()
     {
-        QFETCH(const bool, evolution);
-        QFETCH(const QByteArray, components);
-        QFETCH(const QStringList, expected);
+        const auto [evolution, components, expected] = fetched<bool, QByteArray, QStringList>();
         const auto stage = makeStage(evolution);
         stage->create(u"Calendar"_s, components, u"#ff8000"_s);
         const auto found = readEvents(*stage);
@@ -96,7 +93,7 @@ private Q_SLOTS:
     void tasks_data() { adapters(); }
     void tasks()
     {
-        QFETCH(const bool, evolution);
+        const auto [evolution] = fetched<bool>();
         const auto stage = makeStage(evolution);
         const QString list = stage->create(
             u"Task List"_s,
@@ -130,7 +127,7 @@ private Q_SLOTS:
     void whatCannotBeSavedStays_data() { adapters(); }
     void whatCannotBeSavedStays()
     {
-        QFETCH(const bool, evolution);
+        const auto [evolution] = fetched<bool>();
         const auto stage = makeStage(evolution);
         const QString list = stage->createReadOnly(vtodo("fixed", "PRIORITY:1"));
         const QByteArray before = stage->texts(list);
@@ -143,7 +140,7 @@ private Q_SLOTS:
     void theNinthEventIsLeftOut_data() { adapters(); }
     void theNinthEventIsLeftOut()
     {
-        QFETCH(const bool, evolution);
+        const auto [evolution] = fetched<bool>();
         const auto stage = makeStage(evolution);
         Fakes::FakeClock clock;
         Fakes::MemoryDefaults defaults;
@@ -310,18 +307,11 @@ private:
         return false;
     }
 
-    static void adapters()
-    {
-        QTest::addColumn<bool>("evolution");
-        QTest::newRow("folders") << false;
-        QTest::newRow("server") << true;
-    }
+    static void adapters() { noAndYes("folders", "server"); }
 
     void both(const std::function<void()> &addAll)
     {
-        QTest::addColumn<bool>("evolution");
-        QTest::addColumn<QByteArray>("components");
-        QTest::addColumn<QStringList>("expected");
+        columns<bool, QByteArray, QStringList>();
         for (const bool evolution : {false, true}) {
             m_evolution = evolution;
             addAll();

@@ -1,14 +1,10 @@
 #include "Desktop/Camera/HelperCamera.h"
 #include "Desktop/BusStandIn.h"
 #include "EndToEnd/CameraServer.h"
-#include "EndToEnd/Waiting.h"
-#include "Support/TestRegistry.h"
 
 #include <QDBusArgument>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
-#include <QDir>
-#include <QFile>
 
 using Authorization = CameraAuthorization;
 
@@ -70,9 +66,7 @@ qint64 childProcesses()
 {
     qint64 all = 0;
     for (const QString &thread : QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        QFile list(u"/proc/self/task/%1/children"_s.arg(thread));
-        if (list.open(QFile::ReadOnly))
-            all += list.readAll().count(' ');
+        all += readFile(u"/proc/self/task/%1/children"_s.arg(thread)).count(' ');
     }
     return all;
 }
@@ -86,10 +80,7 @@ QList<qint64> holdings()
 /// Memory of this process's own, in kilobytes.
 qint64 memory()
 {
-    QFile file(u"/proc/self/smaps_rollup"_s);
-    if (!file.open(QFile::ReadOnly))
-        return -1;
-    const QByteArray text = file.readAll();
+    const QByteArray text = readFile(u"/proc/self/smaps_rollup"_s);
     return text.mid(text.indexOf("Pss:") + 4, 20).simplified().split(' ').constFirst().toLongLong();
 }
 

@@ -1,16 +1,13 @@
 #pragma once
 
-#include <QBuffer>
-#include <QDir>
-#include <QFile>
-#include <QImage>
+#include "Support/Files.h"
+
 #include <QTemporaryDir>
 #include <QThread>
 
 /// A user's home folder of its own, with a Pictures folder; screenshot tools find nothing else.
-class CaptureHome
+struct CaptureHome
 {
-public:
     CaptureHome()
     {
         qputenv("HOME", folder.path().toUtf8());
@@ -30,25 +27,19 @@ public:
 
     static QByteArray picture(QSize size = {40, 30}, const char *format = "png", const QString &software = {})
     {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(0xff2a6bd1);
+        QImage image = plainImage(size);
         if (!software.isNull())
             image.setText(QStringLiteral("Software"), software);
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        image.save(&buffer, format);
-        return bytes;
+        return encoded(image, format);
     }
 
     /// Writes a file below the home folder, later than all before; its folder is made too.
     QString write(const QString &name, const QByteArray &bytes = picture()) const
     {
         QThread::msleep(10); // the kernel's time for files moves in steps
-        make(QFileInfo(name).path());
-        QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        if (!writeFile(path(name), bytes))
             qFatal("%s cannot be written", qPrintable(name));
-        return file.fileName();
+        return path(name);
     }
 
     QTemporaryDir folder;

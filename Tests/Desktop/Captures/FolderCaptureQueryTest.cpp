@@ -132,11 +132,7 @@ private Q_SLOTS:
 
     void settingsOfTools_data()
     {
-        columns<QString, QString, QString>();
-        const auto row = [](const char *name, const char *file, const char *setting, const char *capture) {
-            QTest::newRow(name) << QString::fromLatin1(file) << QString::fromLatin1(setting)
-                                << QString::fromLatin1(capture);
-        };
+        const auto row = columns<QString, QString, QString>();
         row("xfce", "xfce4/xfce4-screenshooter", "screenshot_dir=file:HOME/office\n",
             "office/Screenshot_1.png");
         row("xfce's title", "xfce4/xfce4-screenshooter", "title=My %shot\nscreenshot_dir=file://HOME/w%20k\n",

@@ -3,8 +3,6 @@
 #include "Desktop/Captures/ThumbnailFile.h"
 #include "Support/TestRegistry.h"
 
-#include <QDateTime>
-
 #include <sys/stat.h>
 
 class SharedThumbnailsTest : public QObject
@@ -14,8 +12,7 @@ class SharedThumbnailsTest : public QObject
 private Q_SLOTS:
     void sizes_data()
     {
-        QTest::addColumn<QSize>("picture");
-        QTest::addColumn<QSize>("thumbnail");
+        columns<QSize, QSize>();
         QTest::newRow("screen") << QSize(1280, 800) << QSize(256, 160);
         QTest::newRow("tall") << QSize(300, 3000) << QSize(25, 256);
         QTest::newRow("line") << QSize(4000, 1) << QSize(256, 1);
@@ -24,21 +21,17 @@ private Q_SLOTS:
 
     void sizes()
     {
-        QFETCH(const QSize, picture);
+        const auto [picture, thumbnail] = fetched<QSize, QSize>();
         const CaptureHome home;
         const QString path = home.write(u"a.png"_s, CaptureHome::picture(picture));
-        QTEST(ThumbnailFile::read(path).size(), "thumbnail");
+        QCOMPARE(ThumbnailFile::read(path).size(), thumbnail);
     }
 
     void refusals_data()
     {
         QTest::addColumn<QByteArray>("bytes");
-        QImage bomb(9000, 9000, QImage::Format_Mono);
-        bomb.fill(0);
-        QBuffer buffer;
-        bomb.save(&buffer, "png");
-        QVERIFY(buffer.data().size() < 100'000);
-        QTest::newRow("bomb") << buffer.data();
+        QVERIFY(pictureBomb().size() < 100'000);
+        QTest::newRow("bomb") << pictureBomb();
         QTest::newRow("cut off") << CaptureHome::picture({400, 300}).left(30);
         QTest::newRow("text") << QByteArray("a text");
         QTest::newRow("long") << CaptureHome::picture() + QByteArray(64 * 1024 * 1024, 'x');
@@ -81,8 +74,7 @@ private Q_SLOTS:
 
         // One that another program made is taken as it is, unless it is of an earlier state or another file.
         const auto replace = [&](const char *key, const QString &value) {
-            QImage other(64, 48, QImage::Format_RGB32);
-            other.fill(0xffff0000);
+            QImage other = plainImage({64, 48}, Qt::red);
             for (const QString &name : stored.textKeys())
                 other.setText(name, stored.text(name));
             other.setText(QString::fromLatin1(key), value);

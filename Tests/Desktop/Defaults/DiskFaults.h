@@ -13,9 +13,8 @@
 #include <unistd.h>
 
 /// Keeps a file or folder from being changed, even by root, while it lives.
-class Freeze
+struct Freeze
 {
-public:
     explicit Freeze(const QString &path)
         : m_descriptor(open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC))
     {
@@ -45,9 +44,8 @@ private:
 };
 
 /// Makes this process's writes past `size` bytes of any file fail while it lives, as a full disk does.
-class FileSizeLimit
+struct FileSizeLimit
 {
-public:
     explicit FileSizeLimit(rlim_t size)
         : m_handler(std::signal(SIGXFSZ, SIG_IGN))
     {

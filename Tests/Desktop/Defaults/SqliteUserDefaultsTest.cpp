@@ -3,21 +3,9 @@
 #include "Desktop/Defaults/SqliteDatabase.h"
 #include "Support/TestRegistry.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
-
-#include <algorithm>
-#include <cmath>
-#include <functional>
-#include <limits>
-#include <memory>
-#include <vector>
-
-Q_DECLARE_METATYPE(Kestrune::DefaultsValue)
 
 namespace {
 
@@ -34,26 +22,13 @@ std::unique_ptr<QProcess> startWriter(const QStringList &arguments)
     return process;
 }
 
-QByteArray bytes(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void overwrite(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    QCOMPARE(file.write(content), content.size());
-}
-
 /// A finished defaults file that holds `text` under the key.
 QByteArray fileHolding(const QString &text)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"other.sqlite"_s);
     SqliteUserDefaults(path).setObject(key(), text);
-    return bytes(path);
+    return readFile(path);
 }
 
 SqliteValue queried(const QString &path, const char *sql)
@@ -79,9 +54,8 @@ private Q_SLOTS:
 
     void roundTrip_data()
     {
-        QTest::addColumn<DefaultsValue>("value");
+        const auto add = columns<DefaultsValue>();
         const QString oddText = u"\ufeffa\0\U0001f600"_s + QChar(0xd800) + u"b"_s + QChar(0xdc00);
-        const auto add = [](const char *name, const DefaultsValue &value) { QTest::newRow(name) << value; };
         add("false", false);
         add("true", true);
         add("smallest integer", std::numeric_limits<qint64>::min());
@@ -105,7 +79,7 @@ private Q_SLOTS:
 
     void roundTrip()
     {
-        QFETCH(const DefaultsValue, value);
+        const auto [value] = fetched<DefaultsValue>();
         const QString oddKey = u"k\0"_s + QChar(0xdfff);
         SqliteUserDefaults reader(m_path);
         QVERIFY(!reader.object(key()));
@@ -151,8 +125,8 @@ private Q_SLOTS:
     {
         const mode_t before = umask(0);
         SqliteUserDefaults(m_path).setObject(key(), true);
-        QVERIFY(
-            QFile(m_path).setPermissions(QFile::Permissions::fromInt(0x6644))); // as a restored backup may be
+        // As a restored backup may be.
+        QVERIFY(QFile(m_path).setPermissions(QFile::Permissions::fromInt(0x6644)));
         SqliteUserDefaults defaults(m_path);
         defaults.setObject(key(), false);
         umask(before);
@@ -206,13 +180,12 @@ private Q_SLOTS:
     void damagedFile()
     {
         QFETCH(const QByteArray, content);
-        QVERIFY(QDir().mkpath(QFileInfo(m_path).path()));
-        overwrite(m_path, content);
+        QVERIFY(writeFile(m_path, content));
         SqliteUserDefaults defaults(m_path);
         defaults.setObject(u"new"_s, true);
         QCOMPARE(SqliteUserDefaults(m_path).value<bool>(u"new"_s), true);
         QCOMPARE(damaged().size(), 1);
-        QCOMPARE(bytes(QFileInfo(m_path).path() + u'/' + damaged().constFirst()), content);
+        QCOMPARE(readFile(QFileInfo(m_path).path() + u'/' + damaged().constFirst()), content);
     }
 
     void damageWhileRunning()
@@ -221,7 +194,7 @@ private Q_SLOTS:
         defaults.setObject(key(), QString(50000, u'x'));
         QTRY_COMPARE(QFileInfo(m_path + u"-wal"_s).size(), 0);
         for (int round = 1; round <= 2; ++round) {
-            overwrite(m_path, QByteArray(20000, 'z'));
+            QVERIFY(writeFile(m_path, QByteArray(20000, 'z')));
             QVERIFY(!defaults.object(key()));
             defaults.setObject(u"new"_s, qint64{round});
             QCOMPARE(SqliteUserDefaults(m_path).value<qint64>(u"new"_s), round);
@@ -232,8 +205,7 @@ private Q_SLOTS:
 
     void manyFindDamageAndWrite()
     {
-        QVERIFY(QDir().mkpath(QFileInfo(m_path).path()));
-        overwrite(m_path, QByteArray(9000, 'z'));
+        QVERIFY(writeFile(m_path, QByteArray(9000, 'z')));
         std::vector<std::unique_ptr<QProcess>> writers;
         writers.reserve(6);
         for (int i = 0; i < 6; ++i)
@@ -262,7 +234,7 @@ private Q_SLOTS:
         QFETCH(const QString, name);
         const QDir folder(m_folder->path());
         const QString path = folder.absoluteFilePath(name);
-        overwrite(folder.filePath(u"file"_s), "x");
+        QVERIFY(writeFile(folder.filePath(u"file"_s), "x"));
         QVERIFY(folder.mkdir(u"folder"_s));
         SqliteUserDefaults(folder.filePath(u"frozen/defaults.sqlite"_s)).setObject(u"before"_s, true);
         auto file = std::make_unique<Freeze>(folder.filePath(u"frozen/defaults.sqlite"_s));
@@ -368,11 +340,11 @@ private Q_SLOTS:
         defaults.setObject(key(), u"present"_s);
         QVERIFY(other.object(key()));
         if (how == u"moved over"_s) {
-            overwrite(m_path + u".new"_s, backup);
+            QVERIFY(writeFile(m_path + u".new"_s, backup));
             QCOMPARE(rename(QFile::encodeName(m_path + u".new"_s), QFile::encodeName(m_path)), 0);
         } else if (how == u"copied over"_s) {
             QTRY_COMPARE(QFileInfo(m_path + u"-wal"_s).size(), 0);
-            overwrite(m_path, backup);
+            QVERIFY(writeFile(m_path, backup));
         } else if (how == u"folder deleted"_s) {
             QVERIFY(QDir(QFileInfo(m_path).path()).removeRecursively());
         } else {
@@ -411,11 +383,11 @@ private Q_SLOTS:
         QCOMPARE(foreign.value<qint64>(key()), 2);
         QCOMPARE(folder.entryList(QDir::Files), closed);
         for (const QByteArray &damage : {QByteArray(), QByteArray(9000, 'z')}) {
-            overwrite(m_path, damage);
+            QVERIFY(writeFile(m_path, damage));
             QVERIFY(!foreign.object(key()));
             QCOMPARE(folder.entryList(QDir::Files), closed);
         }
-        overwrite(m_path, fileHolding(u"new"_s));
+        QVERIFY(writeFile(m_path, fileHolding(u"new"_s)));
         QCOMPARE(foreign.value<QString>(key()), u"new"_s);
         QVERIFY(QFile::remove(m_path));
         QVERIFY(!foreign.object(key()));

@@ -1,19 +1,14 @@
 #include "Desktop/Location/GeoClueLocation.h"
 #include "Async/Threads.h"
 #include "Desktop/BusStandIn.h"
-#include "Support/TestRegistry.h"
 
 #include <QDBusObjectPath>
 
-namespace {
-
 /// A value of a property, as a reply to the question for it.
-QDBusMessage valueReply(const QDBusMessage &call, const QVariant &value)
+static QDBusMessage valueReply(const QDBusMessage &call, const QVariant &value)
 {
     return call.createReply(QVariant::fromValue(QDBusVariant(value)));
 }
-
-} // namespace
 
 /// The adapter against a stand-in of GeoClue on a system bus of the test's own.
 class GeoClueLocationTest : public QObject

@@ -2,15 +2,11 @@
 #include "Desktop/Media/CoverSource.h"
 #include "Desktop/Media/MprisApplications.h"
 #include "Desktop/Media/MprisExecutor.h"
-#include "EndToEnd/Waiting.h"
 #include "NotchKit/Platform/PlayerScripts.h"
-#include "Support/TestRegistry.h"
 
 #include <deque>
 
 #include <sys/stat.h>
-
-Q_DECLARE_METATYPE(ScriptOutcome)
 
 namespace {
 
@@ -85,10 +81,7 @@ class MprisTest : public QObject
 private Q_SLOTS:
     void status_data()
     {
-        QTest::addColumn<QVariantMap>("song");
-        QTest::addColumn<QVariant>("state");
-        QTest::addColumn<QVariant>("position");
-        QTest::addColumn<QString>("status");
+        const auto row = columns<QVariantMap, QVariant, QVariant, QString>();
         const QVariant on = u"Playing"_s;
         const QVariant at = 2'500'000LL;
         const QVariantMap full{{u"xesam:title"_s, u"Sång"_s},
@@ -99,39 +92,38 @@ private Q_SLOTS:
             song.insert(key, value);
             return song;
         };
-        QTest::newRow("playing") << full << on << at << u"playing|Sång|One, Two|215.500|2.500"_s;
-        QTest::newRow("paused") << full << QVariant(u"Paused"_s) << at
-                                << u"paused|Sång|One, Two|215.500|2.500"_s;
-        QTest::newRow("stopped") << full << QVariant(u"Stopped"_s) << at << u""_s;
-        QTest::newRow("no state") << full << QVariant(7) << at << u""_s;
-        QTest::newRow("lines") << with(u"xesam:title"_s, u" a\nb\r\n c"_s) << on << at
-                               << u"playing|a b c|One, Two|215.500|2.500"_s;
-        QTest::newRow("other types") << QVariantMap{{u"xesam:title"_s, u"T"_s},
-                                                    {u"xesam:artist"_s, u"One"_s},
-                                                    {u"mpris:length"_s, quint64{1'000'000}}}
-                                     << on << QVariant(1'500'000.0) << u"playing|T|One|1.000|1.500"_s;
-        QTest::newRow("nonsense") << QVariantMap{{u"xesam:title"_s, QStringList{u"T"_s, u"U"_s}},
-                                                 {u"xesam:artist"_s, QVariantMap{{u"a"_s, 1}}},
-                                                 {u"mpris:length"_s, -9LL}}
-                                  << on << QVariant(u"x"_s) << u"playing|vlc||0.000|0.000"_s;
-        QTest::newRow("file") << QVariantMap{{u"xesam:url"_s, u"file:///music/My%20song.mp3"_s}} << on << at
-                              << u"playing|My song.mp3||0.000|2.500"_s;
-        QTest::newRow("nothing known") << QVariantMap() << on << at << u"playing|vlc||0.000|2.500"_s;
-        QTest::newRow("long") << QVariantMap{{u"xesam:title"_s, QString(50'000, u'x')}} << on << at
-                              << u"playing|%1||0.000|2.500"_s.arg(QString(1000, u'x'));
+        row("playing", full, on, at, u"playing|Sång|One, Two|215.500|2.500"_s);
+        row("paused", full, QVariant(u"Paused"_s), at, u"paused|Sång|One, Two|215.500|2.500"_s);
+        row("stopped", full, QVariant(u"Stopped"_s), at, u""_s);
+        row("no state", full, QVariant(7), at, u""_s);
+        row("lines", with(u"xesam:title"_s, u" a\nb\r\n c"_s), on, at,
+            u"playing|a b c|One, Two|215.500|2.500"_s);
+        row("other types",
+            QVariantMap{{u"xesam:title"_s, u"T"_s},
+                        {u"xesam:artist"_s, u"One"_s},
+                        {u"mpris:length"_s, quint64{1'000'000}}},
+            on, QVariant(1'500'000.0), u"playing|T|One|1.000|1.500"_s);
+        row("nonsense",
+            QVariantMap{{u"xesam:title"_s, QStringList{u"T"_s, u"U"_s}},
+                        {u"xesam:artist"_s, QVariantMap{{u"a"_s, 1}}},
+                        {u"mpris:length"_s, -9LL}},
+            on, QVariant(u"x"_s), u"playing|vlc||0.000|0.000"_s);
+        row("file", QVariantMap{{u"xesam:url"_s, u"file:///music/My%20song.mp3"_s}}, on, at,
+            u"playing|My song.mp3||0.000|2.500"_s);
+        row("nothing known", QVariantMap(), on, at, u"playing|vlc||0.000|2.500"_s);
+        row("long", QVariantMap{{u"xesam:title"_s, QString(50'000, u'x')}}, on, at,
+            u"playing|%1||0.000|2.500"_s.arg(QString(1000, u'x')));
     }
 
     void status()
     {
-        QFETCH(const QVariantMap, song);
+        const auto [song, state, position, status] = fetched<QVariantMap, QVariant, QVariant, QString>();
         Stage stage;
         Player &player = stage.add(u"vlc.instance77"_s);
         player.song = song;
-        QFETCH(const QVariant, state);
-        QFETCH(const QVariant, position);
         player.state = state;
         player.position = position;
-        QTEST(stage.status(kMusic), "status");
+        QCOMPARE(stage.status(kMusic), status);
         QCOMPARE(stage.status(kSpotify), u"failed"_s);
         QCOMPARE(player.called().constFirst(),
                  u"/org/mpris/MediaPlayer2 org.freedesktop.DBus.Properties.GetAll"_s);
@@ -145,20 +137,19 @@ private Q_SLOTS:
         Player &spotify = stage.add(u"spotify"_s);
         stage.add(u"playerctld"_s).song = {{u"xesam:title"_s, u"an echo"_s}};
         spotify.song.insert(u"mpris:length"_s, 1'500'000LL);
-        const auto set = [](Player &player, const QString &state) { player.state = state; };
-        set(mpv, u"Paused"_s);
+        mpv.state = u"Paused"_s;
         QCOMPARE(stage.title(kMusic), u"vlc song"_s);
-        set(mpv, u"Playing"_s); // the last one that began
+        mpv.state = u"Playing"_s; // the last one that began
         QCOMPARE(stage.title(kMusic), u"mpv song"_s);
         vlc.song.insert(u"xesam:title"_s, u"another"_s);
         QCOMPARE(stage.title(kMusic), u"another"_s);
-        set(vlc, u"Paused"_s);
+        vlc.state = u"Paused"_s;
         QCOMPARE(stage.title(kMusic), u"mpv song"_s);
-        set(mpv, u"Paused"_s); // the last one that was paused
+        mpv.state = u"Paused"_s; // the last one that was paused
         QCOMPARE(stage.title(kMusic), u"mpv song"_s);
-        set(mpv, u"Stopped"_s);
+        mpv.state = u"Stopped"_s;
         QCOMPARE(stage.title(kMusic), u"another"_s);
-        set(vlc, u"Stopped"_s);
+        vlc.state = u"Stopped"_s;
         QCOMPARE(stage.status(kMusic), u""_s);
         QCOMPARE(stage.status(kSpotify), u"playing|spotify song||1500|2.500"_s);
     }
@@ -172,8 +163,8 @@ private Q_SLOTS:
         spotify.hangs = mpv.hangs = true;
         QCOMPARE(stage.title(kMusic), u"vlc song"_s);
         QCOMPARE(stage.status(kSpotify), u"failed"_s);
-        qint64 fastest =
-            stage.milliseconds; // The slowest machine has one round in which nothing but a wait takes long.
+        // The slowest machine has one round in which nothing but a wait takes long.
+        qint64 fastest = stage.milliseconds;
         QVERIFY(fastest >= 400);
         for (int i = 0; i < 10; ++i) {
             QCOMPARE(stage.title(kMusic), u"vlc song"_s);
@@ -266,9 +257,7 @@ private Q_SLOTS:
     {
         auto [address, outcome] = fetched<QString, ScriptOutcome>();
         const QTemporaryDir folder;
-        QFile file(folder.filePath(u"a cover ü.png"_s));
-        QVERIFY(file.open(QFile::WriteOnly) && file.write("hello") == 5);
-        file.close();
+        QVERIFY(writeFile(folder.filePath(u"a cover ü.png"_s), "hello"));
         QFile large(folder.filePath(u"large"_s));
         QVERIFY(large.open(QFile::WriteOnly) && large.resize(kMostCoverBytes + 1));
         QCOMPARE(mkfifo(QFile::encodeName(folder.filePath(u"pipe"_s)).constData(), 0600), 0);

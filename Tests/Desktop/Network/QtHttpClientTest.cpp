@@ -2,12 +2,9 @@
 #include "Support/TestRegistry.h"
 #include "Support/WebStandIn.h"
 
-#include <QFile>
-#include <QNetworkProxyFactory>
 #include <QProcess>
 #include <QSslConfiguration>
 #include <QSslKey>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -63,18 +60,12 @@ QSslConfiguration selfSigned()
 }
 
 /// Makes the most memory that this process has held at once what it holds now.
-void forgetPeakMemory()
-{
-    QFile file(u"/proc/self/clear_refs"_s);
-    QVERIFY(file.open(QFile::WriteOnly) && file.write("5") == 1);
-}
+void forgetPeakMemory() { QVERIFY(writeFile(u"/proc/self/clear_refs"_s, "5")); }
 
 /// In kilobytes, since then.
 qint64 peakMemory()
 {
-    QFile file(u"/proc/self/status"_s);
-    file.open(QFile::ReadOnly);
-    for (const QByteArray &line : file.readAll().split('\n')) {
+    for (const QByteArray &line : readFile(u"/proc/self/status"_s).split('\n')) {
         if (line.startsWith("VmHWM:"))
             return line.mid(6).simplified().split(' ').constFirst().toLongLong();
     }
@@ -82,8 +73,6 @@ qint64 peakMemory()
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(WebStandIn::Answer)
 
 /// The adapter against a server of the test's own, polite and otherwise.
 class QtHttpClientTest : public QObject

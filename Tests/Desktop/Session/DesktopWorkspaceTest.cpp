@@ -1,9 +1,5 @@
 #include "Desktop/Session/DesktopWorkspace.h"
 #include "Desktop/BusStandIn.h"
-#include "EndToEnd/Waiting.h"
-#include "Support/TestRegistry.h"
-
-#include <QUrl>
 
 /// Showing files in the file manager, over a stand-in of it and of the program that opens folders.
 class DesktopWorkspaceTest : public QObject
@@ -15,8 +11,8 @@ private Q_SLOTS:
     {
         m_path = qgetenv("PATH");
         QFile opener(m_folder.filePath(u"xdg-open"_s));
-        QVERIFY(opener.open(QFile::WriteOnly));
-        opener.write("#!/bin/sh\necho \"$@\" >> " + m_folder.filePath(u"opened"_s).toUtf8() + '\n');
+        const QByteArray log = m_folder.filePath(u"opened"_s).toUtf8();
+        QVERIFY(writeFile(opener.fileName(), "#!/bin/sh\necho \"$@\" >> " + log + '\n'));
         opener.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         qputenv("PATH", m_folder.path().toUtf8() + ':' + m_path);
     }
@@ -30,7 +26,7 @@ private Q_SLOTS:
         DesktopWorkspace workspace(manager.bus());
         workspace.reveal({});
         workspace.reveal({QUrl(u"https://example.org/a"_s)});
-        workspace.reveal(files({u"/tmp/50% of it?#1"_s, u"/tmp/Grüße 日本.png"_s}));
+        workspace.reveal(fileUrls({u"/tmp/50% of it?#1"_s, u"/tmp/Grüße 日本.png"_s}));
         QTRY_COMPARE(manager.called(),
                      QStringList{u"/org/freedesktop/FileManager1 org.freedesktop.FileManager1.ShowItems"_s});
         const QVariantList expected{QStringList{u"file:///tmp/50%25%20of%20it%3F%231"_s,
@@ -62,9 +58,9 @@ private Q_SLOTS:
         QElapsedTimer blocked;
         blocked.start();
         workspace.reveal(
-            files({u"/tmp/a b/1"_s, u"/tmp/a b/2"_s, u"/tmp/c/folder/"_s, u"/file"_s, u"/d/4"_s}));
-        QVERIFY2(blocked.elapsed() < 4000, // of the five seconds that it hangs
-                 "the caller waited");
+            fileUrls({u"/tmp/a b/1"_s, u"/tmp/a b/2"_s, u"/tmp/c/folder/"_s, u"/file"_s, u"/d/4"_s}));
+        // Of the five seconds that it hangs.
+        QVERIFY2(blocked.elapsed() < 4000, "the caller waited");
         QVERIFY(waitUntil([&] { return opened().size() == 3; }));
         QVERIFY(holdsFor([&] { return opened().size() == 3; }, 100));
         QStringList folders = opened();
@@ -73,19 +69,10 @@ private Q_SLOTS:
     }
 
 private:
-    static QList<QUrl> files(const QStringList &paths)
-    {
-        QList<QUrl> urls;
-        for (const QString &path : paths)
-            urls.append(QUrl::fromLocalFile(path));
-        return urls;
-    }
-
     QStringList opened() const
     {
-        QFile log(m_folder.filePath(u"opened"_s));
-        return log.open(QFile::ReadOnly) ? QString::fromUtf8(log.readAll()).split(u'\n', Qt::SkipEmptyParts)
-                                         : QStringList();
+        const QByteArray log = readFile(m_folder.filePath(u"opened"_s));
+        return QString::fromUtf8(log).split(u'\n', Qt::SkipEmptyParts);
     }
 
     QTemporaryDir m_folder;

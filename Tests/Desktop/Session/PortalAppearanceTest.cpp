@@ -1,9 +1,6 @@
 #include "Desktop/Session/PortalAppearance.h"
 #include "Desktop/BusStandIn.h"
-#include "EndToEnd/Waiting.h"
-#include "Support/TestRegistry.h"
 
-#include <QGuiApplication>
 #include <QPalette>
 
 /// The colour scheme against a stand-in of the desktop's portal.

@@ -2,10 +2,6 @@
 #include "NotchKit/Platform/CameraHousings.h"
 #include "Support/TestRegistry.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
 class SessionTest : public QObject
 {
     Q_OBJECT
@@ -18,20 +14,16 @@ private Q_SLOTS:
         AutostartLoginItem item(u"/opt/my \"apps\"/50% kestrune"_s);
         QVERIFY(!item.isEnabled());
         QVERIFY(!item.setEnabled(true) && item.isEnabled());
-        QFile entry(config.filePath(u"autostart/kestrune.desktop"_s));
-        QVERIFY(entry.open(QIODevice::ReadOnly));
-        QVERIFY(entry.readAll().contains("\nExec=\"/opt/my \\\\\"apps\\\\\"/50%% kestrune\"\n"));
-        entry.close();
-        QVERIFY(entry.open(QIODevice::Append));
-        entry.write("Hidden = true\n");
-        entry.close();
+        const QString entry = config.filePath(u"autostart/kestrune.desktop"_s);
+        const QByteArray text = readFile(entry);
+        QVERIFY(text.contains("\nExec=\"/opt/my \\\\\"apps\\\\\"/50%% kestrune\"\n"));
+        QVERIFY(writeFile(entry, text + "Hidden = true\n"));
         QVERIFY2(!item.isEnabled(), "the desktop's own settings switched it off");
         QVERIFY(!item.setEnabled(true) && item.isEnabled());
         QVERIFY(!item.setEnabled(false) && !item.isEnabled());
         QVERIFY(!item.setEnabled(false));
         QVERIFY(QDir(config.path()).rmdir(u"autostart"_s));
-        QFile blocker(config.filePath(u"autostart"_s));
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
+        QVERIFY(writeFile(config.filePath(u"autostart"_s)));
         QVERIFY2(item.setEnabled(true).has_value(), "a folder that cannot be made is told");
     }
 

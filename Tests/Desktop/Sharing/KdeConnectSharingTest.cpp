@@ -1,7 +1,5 @@
 #include "Desktop/Sharing/KdeConnectSharing.h"
 #include "Desktop/BusStandIn.h"
-#include "EndToEnd/Waiting.h"
-#include "Support/TestRegistry.h"
 
 #include <QDBusMetaType>
 

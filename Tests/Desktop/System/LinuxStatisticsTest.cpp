@@ -1,10 +1,7 @@
 #include "Desktop/System/LinuxStatistics.h"
 #include "Support/TestRegistry.h"
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 
 /// The kernel's own figures, and power supplies of a made-up tree.
 class LinuxStatisticsTest : public QObject
@@ -62,34 +59,34 @@ private Q_SLOTS:
 
     void powerSupplies_data()
     {
-        columns<Files, QStringList>();
+        const auto row = columns<Files, QStringList>();
         const Files adapter{{u"AC/type"_s, u"Mains"_s}, {u"AC/online"_s, u"1"_s}};
         const Files battery{{u"BAT0/type"_s, u"Battery"_s},
                             {u"BAT0/status"_s, u"Discharging"_s},
                             {u"BAT0/energy_now"_s, u"4999"_s},
                             {u"BAT0/energy_full"_s, u"5000"_s}};
         const auto with = [](Files files, const Files &more) { return files.insert(more), files; };
-        QTest::newRow("none") << adapter << QStringList();
-        QTest::newRow("on the battery") << battery << QStringList{u"4999/5000"_s};
-        QTest::newRow("on mains") << with(battery, adapter) << QStringList{u"4999/5000 AC Power"_s};
-        QTest::newRow("unplugged") << with(with(battery, adapter), {{u"AC/online"_s, u"0"_s}})
-                                   << QStringList{u"4999/5000"_s};
-        QTest::newRow("no adapter to ask")
-            << with(battery, {{u"BAT0/status"_s, u"Full"_s}}) << QStringList{u"4999/5000 AC Power"_s};
-        QTest::newRow("a USB adapter")
-            << with(battery, {{u"ucsi/type"_s, u"USB"_s}, {u"ucsi/online"_s, u"1"_s}})
-            << QStringList{u"4999/5000 AC Power"_s};
-        QTest::newRow("two, and a mouse") << with(battery, {{u"BAT1/type"_s, u"Battery"_s},
-                                                            {u"BAT1/charge_now"_s, u"7"_s},
-                                                            {u"BAT1/charge_full"_s, u"0"_s},
-                                                            {u"hid/type"_s, u"Battery"_s},
-                                                            {u"hid/scope"_s, u"Device"_s},
-                                                            {u"hid/capacity"_s, u"9"_s}})
-                                          << QStringList{u"4999/5000"_s, u"7/0"_s};
-        QTest::newRow("per cent only") << Files{{u"BAT0/type"_s, u"Battery"_s}, {u"BAT0/capacity"_s, u"42"_s}}
-                                       << QStringList{u"42/100"_s};
-        QTest::newRow("unreadable") << Files{{u"BAT0/type"_s, u"Battery"_s}, {u"BAT0/charge_now"_s, u"x"_s}}
-                                    << QStringList{u"-/100"_s};
+        row("none", adapter, QStringList());
+        row("on the battery", battery, QStringList{u"4999/5000"_s});
+        row("on mains", with(battery, adapter), QStringList{u"4999/5000 AC Power"_s});
+        row("unplugged", with(with(battery, adapter), {{u"AC/online"_s, u"0"_s}}),
+            QStringList{u"4999/5000"_s});
+        row("no adapter to ask", with(battery, {{u"BAT0/status"_s, u"Full"_s}}),
+            QStringList{u"4999/5000 AC Power"_s});
+        row("a USB adapter", with(battery, {{u"ucsi/type"_s, u"USB"_s}, {u"ucsi/online"_s, u"1"_s}}),
+            QStringList{u"4999/5000 AC Power"_s});
+        row("two, and a mouse",
+            with(battery, {{u"BAT1/type"_s, u"Battery"_s},
+                           {u"BAT1/charge_now"_s, u"7"_s},
+                           {u"BAT1/charge_full"_s, u"0"_s},
+                           {u"hid/type"_s, u"Battery"_s},
+                           {u"hid/scope"_s, u"Device"_s},
+                           {u"hid/capacity"_s, u"9"_s}}),
+            QStringList{u"4999/5000"_s, u"7/0"_s});
+        row("per cent only", Files{{u"BAT0/type"_s, u"Battery"_s}, {u"BAT0/capacity"_s, u"42"_s}},
+            QStringList{u"42/100"_s});
+        row("unreadable", Files{{u"BAT0/type"_s, u"Battery"_s}, {u"BAT0/charge_now"_s, u"x"_s}},
+            QStringList{u"-/100"_s});
     }
     void powerSupplies()
     {
@@ -98,9 +95,7 @@ private Q_SLOTS:
         QCOMPARE(LinuxStatistics(root.path()).powerSources().has_value(), false);
         for (auto file = files.cbegin(); file != files.cend(); ++file) {
             const QString path = root.path() + u"/sys/class/power_supply/"_s + file.key();
-            QDir().mkpath(QFileInfo(path).path());
-            QFile out(path);
-            QVERIFY(out.open(QFile::WriteOnly) && out.write(file.value().toUtf8() + '\n') > 0);
+            QVERIFY(writeFile(path, file.value().toUtf8() + '\n'));
         }
         const auto found = LinuxStatistics(root.path()).powerSources();
         QVERIFY(found);

@@ -1,10 +1,6 @@
 #include "Desktop/Time/SystemClock.h"
 #include "Support/TestRegistry.h"
 
-#include <QTimer>
-
-#include <cmath>
-
 class SystemClockTest : public QObject
 {
     Q_OBJECT

@@ -6,9 +6,6 @@
 #include "Support/TestRegistry.h"
 #include "Support/WebStandIn.h"
 
-#include <QFile>
-#include <QTemporaryDir>
-
 #include <csignal>
 #include <sys/resource.h>
 
@@ -72,9 +69,8 @@ struct Stage : Fakes::Platform
 };
 
 /// As long as it lives, no file can grow beyond a few bytes.
-class FullDisk
+struct FullDisk
 {
-public:
     FullDisk()
     {
         std::signal(SIGXFSZ, SIG_IGN);
@@ -90,8 +86,6 @@ private:
 };
 
 } // namespace
-
-Q_DECLARE_METATYPE(WebStandIn::Answer)
 
 /// What the updater makes of feeds and packages, right and wrong, over a real connection.
 class FeedUpdaterTest : public QObject
@@ -192,16 +186,15 @@ private Q_SLOTS:
     void packages_data()
     {
         // told: of its size, beyond the truth
-        columns<WebStandIn::Answer, int, UpdateStatus::Phase>();
+        const auto row = columns<WebStandIn::Answer, int, UpdateStatus::Phase>();
         const Reply whole = WebStandIn::page(200, kPackage);
-        QTest::newRow("whole") << whole << 0 << Phase::ready;
-        QTest::newRow("truncated") << WebStandIn::page(200, kPackage.chopped(1)) << 0 << Phase::failed;
-        QTest::newRow("broken off") << Reply{whole.bytes.chopped(1), 0, 0ms, Reply::End::close} << 0
-                                    << Phase::failed;
-        QTest::newRow("altered") << WebStandIn::page(200, "b package") << 0 << Phase::failed;
-        QTest::newRow("longer than told") << whole << -1 << Phase::failed;
-        QTest::newRow("shorter than told") << whole << 1 << Phase::failed;
-        QTest::newRow("gone") << WebStandIn::page(410, {}) << 0 << Phase::failed;
+        row("whole", whole, 0, Phase::ready);
+        row("truncated", WebStandIn::page(200, kPackage.chopped(1)), 0, Phase::failed);
+        row("broken off", Reply{whole.bytes.chopped(1), 0, 0ms, Reply::End::close}, 0, Phase::failed);
+        row("altered", WebStandIn::page(200, "b package"), 0, Phase::failed);
+        row("longer than told", whole, -1, Phase::failed);
+        row("shorter than told", whole, 1, Phase::failed);
+        row("gone", WebStandIn::page(410, {}), 0, Phase::failed);
     }
     void packages()
     {
@@ -219,19 +212,13 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(stage.path), phase == Phase::ready);
     }
 
-    void aDiskThatTakesNothing_data()
-    {
-        QTest::addColumn<bool>("full");
-        QTest::newRow("full") << true;
-        QTest::newRow("unwritable") << false;
-    }
+    void aDiskThatTakesNothing_data() { noAndYes("unwritable", "full"); }
     void aDiskThatTakesNothing()
     {
-        QFETCH(const bool, full);
+        const auto [full] = fetched<bool>();
         Stage stage;
         QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
-        QFile blocking(stage.folder.filePath(u"updates"_s));
-        QVERIFY(full || blocking.open(QFile::WriteOnly));
+        QVERIFY(full || writeFile(stage.folder.filePath(u"updates"_s)));
         {
             const std::optional<FullDisk> disk = full ? std::make_optional<FullDisk>() : std::nullopt;
             stage.updater.fetchUpdate();

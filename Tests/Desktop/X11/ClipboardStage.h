@@ -20,9 +20,8 @@ Answer wait(const QFuture<Answer> &future)
 }
 
 /// A virtual display, the adapter on it, and the programs that it exchanges with.
-class ClipboardStage
+struct ClipboardStage
 {
-public:
     ClipboardStage();
 
     /// A new adapter, and none of the programs.

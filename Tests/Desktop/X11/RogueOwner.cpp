@@ -32,9 +32,8 @@ using Owned = std::unique_ptr<T, Free>;
 
 /// A program on the clipboard that offers `targets`, says on standard output which of them it is asked for,
 /// and answers as its mode has it.
-class Owner
+struct Owner
 {
-public:
     Owner(std::string mode, std::vector<std::string> targets, std::string text)
         : m_mode(std::move(mode))
         , m_targets(std::move(targets))

@@ -1,21 +1,10 @@
 #include "Desktop/X11/ClipboardStage.h"
 #include "Desktop/X11/PasteboardTypes.h"
 #include "Desktop/X11/UriLists.h"
-#include "EndToEnd/Waiting.h"
 #include "EndToEnd/X11.h"
 #include "Support/TestRegistry.h"
 
-#include <QBuffer>
-#include <QDir>
-#include <QImage>
 #include <QRandomGenerator>
-
-#include <algorithm>
-
-using Kestrune::EncodedPicture;
-using Kestrune::Pasteboard;
-using Kestrune::PasteboardContent;
-using Kestrune::X11Pasteboard;
 
 namespace {
 
@@ -32,14 +21,9 @@ QByteArray random(qsizetype size)
 
 QByteArray png()
 {
-    QImage image(300, 200, QImage::Format_RGB32);
-    image.fill(Qt::red);
+    QImage image = plainImage({300, 200}, Qt::red);
     image.setPixel(7, 9, 0xff00ff00);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QBuffer::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes;
+    return encoded(image);
 }
 
 } // namespace
@@ -113,7 +97,6 @@ private Q_SLOTS:
 
     void namesAndForms()
     {
-        using namespace Kestrune;
         QCOMPARE(PasteboardTypes::named({"TARGETS", "STRING", "x-special/gnome-copied-files", "COMPOUND_TEXT",
                                          "text/uri-list", "org.nspasteboard.TransientType", "image/tiff",
                                          "text/html"}),
@@ -286,8 +269,7 @@ private Q_SLOTS:
         const auto wakeUps = [] {
             const QDir tasks(u"/proc/self/task"_s);
             for (const QString &task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-                QFile file(tasks.filePath(task + u"/status"_s));
-                const QByteArray status = file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+                const QByteArray status = readFile(tasks.filePath(task + u"/status"_s));
                 if (status.startsWith("Name:\tpasteboard\n"))
                     return status.mid(status.indexOf("\nvoluntary_ctxt_switches:") + 25)
                         .split('\n')[0]

@@ -1,5 +1,4 @@
 #include "NotchKit/AirDrop.h"
-#include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
 #include <QQmlComponent>

@@ -1,5 +1,3 @@
-#include "NotchKit/Tools/Captures/CapturesModel.h"
-#include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
 class CapturesPaneTest : public QObject
@@ -16,13 +14,11 @@ private Q_SLOTS:
         const QDateTime date = stage.core.clock.now();
         captures.found = {{u"/shots/2.png"_s, date, date}, {url.toLocalFile(), date.addSecs(-9), date}};
         captures.handler();
-        stage.core.controller.open(NotchTool::captures);
-        QVERIFY(QTest::qWaitFor([&] { return stage.outline == QRectF(60, 0, 760, 330); }, 60'000));
-        stage.window->requestActivate();
+        stage.open(NotchTool::captures);
         const auto click = [&](const QString &type, qsizetype index, Qt::MouseButton button) {
             const QQuickItem *item = stage.all(type).value(index);
             if (item)
-                QTest::mouseClick(stage.window.get(), button, {}, item->mapToScene({20, 9}).toPoint());
+                stage.click(item, {20, 9}, button);
             return item != nullptr;
         };
         const auto choose = [&](int entry) {
@@ -31,8 +27,8 @@ private Q_SLOTS:
                                     return focused && focused->property("text") == "Show in Finder"_L1;
                                 });
             for (int i = 0; i < entry; ++i)
-                QTest::keyClick(stage.window.get(), Qt::Key_Down);
-            QTest::keyClick(stage.window.get(), Qt::Key_Return);
+                stage.key(Qt::Key_Down);
+            stage.key(Qt::Key_Return);
             return opened && QTest::qWaitFor([&] {
                        return !stage.window->activeFocusItem()->inherits("QQuickAbstractButton");
                    });

@@ -1,6 +1,5 @@
 #include "NotchKit/Kit/KeyedListModel.h"
 #include "NotchKit/Tools/Clipboard/ClipboardModel.h"
-#include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
 #include <QAbstractItemModelTester>
@@ -26,14 +25,10 @@ struct Stage : WindowStage
     Stage()
         : WindowStage({{u"notch.clipboardItems"_s, stored({u"one"_s, u"two"_s, u"three"_s})}})
     {
-        core.controller.open(NotchTool::clipboard);
-        if (QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }, 60'000))
-            pane = find(u"ClipboardPane"_s);
-        window->requestActivate();
-        QTest::qWait(50);
+        open(NotchTool::clipboard);
+        pane = find(u"ClipboardPane"_s);
     }
 
-    void key(Qt::Key key) const { QTest::keyClick(window.get(), key); }
     QStringList rows() const
     {
         QMap<qreal, QString> byPlace;
@@ -48,7 +43,7 @@ struct Stage : WindowStage
     }
     void click(const QQuickItem *item, Qt::MouseButton button = Qt::LeftButton) const
     {
-        QTest::mouseClick(window.get(), button, {}, item->mapToScene({item->width() / 2, 9}).toPoint());
+        WindowStage::click(item, {item->width() / 2, 9}, button);
     }
 };
 

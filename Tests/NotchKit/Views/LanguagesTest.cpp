@@ -7,22 +7,17 @@
 #include "NotchKit/Tools/AIUsage/AIUsagePresentation.h"
 #include "NotchKit/Tools/NowPlaying/ScriptBridge.h"
 #include "NotchKit/Tools/Timer/TimerModel.h"
-#include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
-#include <QFile>
 #include <QFontDatabase>
-#include <QGuiApplication>
-#include <QTemporaryDir>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
 namespace {
 
 /// The program's texts, numbers, dates and direction are those of a language.
-class Speaking
+struct Speaking
 {
-public:
     explicit Speaking(const QString &language)
     {
         if (m_translator.load(QString(language).replace(u'-', u'_'), u":/translations"_s))
@@ -35,8 +30,7 @@ public:
         QLocale::setDefault(QLocale::system());
         QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     }
-    Speaking(const Speaking &) = delete;
-    Speaking &operator=(const Speaking &) = delete;
+    Q_DISABLE_COPY_MOVE(Speaking)
 
 private:
     QTranslator m_translator;
@@ -219,9 +213,8 @@ void writeLogs(const QString &home)
     const QString time = Fakes::FakeClock().now().addSecs(-600).toString(Qt::ISODateWithMs);
     const QString seconds = QString::number(Fakes::FakeClock().now().addDays(3).toSecsSinceEpoch());
     const auto write = [&](const QString &folder, const QString &text) {
-        QVERIFY(QDir(home).mkpath(folder));
         QFile file(home + u'/' + folder + u"/log.jsonl"_s);
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text.toUtf8() + "\n") > 0 && file.flush());
+        QVERIFY(writeFile(file.fileName(), text.toUtf8() + "\n") && file.open(QFile::ReadWrite));
         QVERIFY(file.setFileTime(Fakes::FakeClock().now(), QFileDevice::FileModificationTime));
     };
     write(u".claude/projects/p"_s,
@@ -274,7 +267,7 @@ class LanguagesTest : public QObject
 
     static void languages()
     {
-        QTest::addColumn<QString>("language");
+        columns<QString>();
         for (const QString &language : availableLocalizations())
             QTest::newRow(qPrintable(language)) << language;
     }
@@ -301,7 +294,7 @@ private Q_SLOTS:
     void saysEverything_data() { languages(); }
     void saysEverything()
     {
-        QFETCH(const QString, language);
+        const auto [language] = fetched<QString>();
         const QString folder = QFINDTESTDATA("../../../Resources/translations");
         const auto german = translations(folder + u"/de.ts"_s);
         QVERIFY(german.size() > 150);
@@ -334,7 +327,7 @@ private Q_SLOTS:
     void fits_data() { languages(); }
     void fits()
     {
-        QFETCH(const QString, language);
+        const auto [language] = fetched<QString>();
         const Speaking speaking(language);
         QStringList found;
         const auto look = [&](const char *place, QQuickWindow *window) {
@@ -378,7 +371,7 @@ private Q_SLOTS:
     void settingsFit_data() { languages(); }
     void settingsFit()
     {
-        QFETCH(const QString, language);
+        const auto [language] = fetched<QString>();
         const Speaking speaking(language);
         AppStage stage;
         stage.launch();
@@ -395,7 +388,7 @@ private Q_SLOTS:
     void updatesFit_data() { languages(); }
     void updatesFit()
     {
-        QFETCH(const QString, language);
+        const auto [language] = fetched<QString>();
         const Speaking speaking(language);
         QQmlEngine engine;
         Fakes::FakeUpdater updater;

@@ -1,5 +1,4 @@
 #include "NotchKit/Tools/Mirror/CameraPreview.h"
-#include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
 namespace {
@@ -14,14 +13,7 @@ struct Stage : WindowStage
             qFatal("the notch did not open");
     }
 
-    CameraPreview *preview() const
-    {
-        for (QQuickItem *item : items(window->contentItem())) {
-            if (auto *found = qobject_cast<CameraPreview *>(item))
-                return found;
-        }
-        return nullptr;
-    }
+    CameraPreview *preview() const { return find<CameraPreview>(); }
     QRect area() const { return preview()->mapRectToScene(preview()->boundingRect()).toRect(); }
     void take(QColor colour)
     {

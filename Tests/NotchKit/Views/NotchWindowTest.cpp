@@ -1,28 +1,20 @@
-#include "NotchKit/Shell/NotchWindow.h"
 #include "NotchKit/Kit/SpringValue.h"
 #include "NotchKit/Kit/Symbols.h"
 #include "NotchKit/Tools/Timer/TimerModel.h"
-#include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
 #include <QClipboard>
-#include <QFontDatabase>
 #include <QRawFont>
-#include <QSet>
 
 using Stage = WindowStage;
 
-namespace {
+static QStringList warnings;
 
-QStringList warnings;
-
-void collectWarnings(QtMsgType type, const QMessageLogContext &, const QString &text)
+static void collectWarnings(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type != QtDebugMsg && type != QtInfoMsg)
         warnings.append(text);
 }
-
-} // namespace
 
 class NotchWindowTest : public QObject
 {

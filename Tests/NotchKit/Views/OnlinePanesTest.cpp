@@ -1,6 +1,3 @@
-#include "NotchKit/Tools/Stocks/StocksModel.h"
-#include "NotchKit/Tools/Weather/WeatherModel.h"
-#include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
 namespace {
@@ -13,11 +10,7 @@ struct Stage : WindowStage
     explicit Stage(NotchTool tool, const Fakes::MemoryDefaults::Values &stored = {})
         : WindowStage(stored)
     {
-        core.controller.open(tool);
-        if (!QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }, 60'000))
-            qFatal("the notch did not open");
-        window->requestActivate();
-        QTest::qWait(50);
+        open(tool);
     }
 
     QQuickItem *field() const { return find(u"LineField"_s); }
@@ -31,18 +24,14 @@ struct Stage : WindowStage
     }
     void press(const QString &help) const
     {
-        for (QQuickItem *item : buttons(window->contentItem())) {
-            if (item->property("help") == help || item->property("text") == help)
-                QTest::mouseClick(window.get(), Qt::LeftButton, {},
-                                  item->mapToScene({item->width() / 2, item->height() / 2}).toPoint());
-        }
+        const QQuickItem *item = button(help);
+        click(item, {item->width() / 2, item->height() / 2});
     }
     void type(const QString &text) const
     {
         for (const QChar character : text)
             QTest::keyClick(window.get(), character.toLatin1());
     }
-    void key(Qt::Key key) const { QTest::keyClick(window.get(), key); }
     void answer(const QByteArray &body)
     {
         http.questions.answerLast({body.isEmpty() ? 0 : 200, body});

@@ -2,7 +2,6 @@
 #include "NotchKit/Tools/Teleprompter/ScriptLayout.h"
 #include "Support/TestRegistry.h"
 
-#include <QGuiApplication>
 #include <QTextLayout>
 
 /// How the script breaks into lines, and how it glides.

@@ -1,6 +1,5 @@
 #include "NotchKit/Tools/Teleprompter/PrompterScript.h"
 #include "NotchKit/Tools/Teleprompter/TeleprompterModel.h"
-#include "Support/TestRegistry.h"
 #include "WindowStage.h"
 
 namespace {
@@ -14,33 +13,13 @@ struct Stage : WindowStage
     explicit Stage(const QString &script)
         : WindowStage({{u"notch.prompterText"_s, script}})
     {
-        core.controller.open(NotchTool::teleprompter);
-        if (!QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }, 60'000))
-            qFatal("the notch did not open");
-        window->requestActivate();
-        QTest::qWait(50);
+        open(NotchTool::teleprompter);
     }
 
-    PrompterScript *script() const
-    {
-        for (QQuickItem *item : items(window->contentItem())) {
-            if (auto *found = qobject_cast<PrompterScript *>(item))
-                return found;
-        }
-        return nullptr;
-    }
-    QQuickItem *button(const QString &text) const
-    {
-        for (QQuickItem *item : buttons(window->contentItem())) {
-            if (item->property("text") == text || item->property("help") == text)
-                return item;
-        }
-        return nullptr;
-    }
+    PrompterScript *script() const { return find<PrompterScript>(); }
     void click(const QQuickItem *item, double x = 0.5) const
     {
-        QTest::mouseClick(window.get(), Qt::LeftButton, {},
-                          item->mapToScene({item->width() * x, item->height() / 2}).toPoint());
+        WindowStage::click(item, {item->width() * x, item->height() / 2});
     }
 };
 

@@ -9,25 +9,60 @@
 /// A notch window over fake ports, shown on the offscreen platform.
 struct WindowStage
 {
-    Kestrune::Fakes::Core core;
+    Fakes::Core core;
     QQmlEngine engine;
-    std::unique_ptr<Kestrune::NotchWindow> window;
+    std::unique_ptr<NotchWindow> window;
     QRectF outline;
 
-    explicit WindowStage(Kestrune::Fakes::MemoryDefaults::Values stored = {})
+    explicit WindowStage(Fakes::MemoryDefaults::Values stored = {})
         : core(std::move(stored))
     {
-        core.displays.displays = {Kestrune::Fakes::externalDisplay()};
-        core.settings.setColumn(Kestrune::HomeColumn::center, Kestrune::HomeWidget::timer);
-        core.settings.setColumn(Kestrune::HomeColumn::right, Kestrune::HomeWidget::note);
+        core.displays.displays = {Fakes::externalDisplay()};
+        core.settings.setColumn(HomeColumn::center, HomeWidget::timer);
+        core.settings.setColumn(HomeColumn::right, HomeWidget::note);
         core.controller.start();
-        window = std::make_unique<Kestrune::NotchWindow>(engine, core.model(), core.services);
-        QObject::connect(window.get(), &Kestrune::NotchWindow::outlineChanged, window.get(),
+        window = std::make_unique<NotchWindow>(engine, core.model(), core.services);
+        QObject::connect(window.get(), &NotchWindow::outlineChanged, window.get(),
                          [this](const QPainterPath &path) { outline = path.boundingRect(); });
         window->resize(880, 390);
         window->show();
     }
 
+    /// Opens the notch with that tool and the keyboard, and waits until it has its whole size.
+    void open(NotchTool tool)
+    {
+        core.controller.open(tool);
+        if (!QTest::qWaitFor([this] { return outline == QRectF(60, 0, 760, 330); }, 60'000))
+            qFatal("the notch did not open");
+        window->requestActivate();
+        QTest::qWait(50);
+    }
+
+    void key(Qt::Key key) const { QTest::keyClick(window.get(), key); }
+    void click(const QQuickItem *item, QPointF inside, Qt::MouseButton button = Qt::LeftButton) const
+    {
+        QTest::mouseClick(window.get(), button, {}, item->mapToScene(inside).toPoint());
+    }
+
+    /// The first item of the C++ class, or null.
+    template <typename Item>
+    Item *find() const
+    {
+        for (QQuickItem *item : items(window->contentItem())) {
+            if (auto *found = qobject_cast<Item *>(item))
+                return found;
+        }
+        return nullptr;
+    }
+    /// The button that can be pressed and says that, or null.
+    QQuickItem *button(const QString &text) const
+    {
+        for (QQuickItem *item : buttons(window->contentItem())) {
+            if (item->property("text") == text || item->property("help") == text)
+                return item;
+        }
+        return nullptr;
+    }
     /// The first visible item of the QML type, or null.
     QQuickItem *find(const QString &type) const { return all(type).value(0); }
     QList<QQuickItem *> all(const QString &type) const { return all(window->contentItem(), type); }
