@@ -3,6 +3,8 @@
 #include "EndToEnd/Waiting.h"
 #include "Support/TestRegistry.h"
 
+#include <csignal>
+
 constexpr auto configuration = R"(
 context.spa-libs = { videotestsrc = videotestsrc/libspa-videotestsrc }
 context.objects = [ { factory = spa-node-factory args = {
@@ -28,6 +30,11 @@ bool CameraServer::pullOut()
 {
     run(u"pw-cli"_s, {u"destroy"_s, camera("id")});
     return state().isEmpty();
+}
+
+bool CameraServer::hang(bool manager)
+{
+    return ::kill(static_cast<pid_t>((manager ? m_manager : m_server)->processId()), SIGSTOP) == 0;
 }
 
 QString CameraServer::camera(const char *field) const

@@ -18,6 +18,9 @@ struct CameraServer
     /// Takes the camera away.
     bool pullOut();
 
+    /// Lets the server, or what manages its sessions, answer no more, until it is started anew.
+    bool hang(bool manager);
+
     /// As PipeWire sees the camera from outside: "running" while a program uses it. Empty without one.
     QString state() const { return camera("state"); }
 

@@ -40,6 +40,25 @@ private Q_SLOTS:
         QTRY_VERIFY2(server.state() != "running"_L1, "the camera outlives the program");
     }
 
+    void comesBackAfterAServerThatHangs_data() { noAndYes("server", "manager"); }
+
+    void comesBackAfterAServerThatHangs()
+    {
+        const auto [manager] = fetched<bool>();
+        CameraServer server(session().environment());
+        QVERIFY(server.plugIn());
+        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"mirror"_s));
+        QVERIFY(stage().openByHotKey());
+        QTRY_VERIFY(isBlue(left));
+        QVERIFY(server.hang(manager));
+        if (!manager)
+            QTRY_COMPARE(stage().x.pixel(left), QColor(Qt::black));
+        QCOMPARE(session().command({u"close"_s}).status, 0);
+        QVERIFY(stage().waitClosed() && server.plugIn());
+        QVERIFY(stage().openByHotKey());
+        QTRY_VERIFY(isBlue(left));
+    }
+
     void aRefusalKeepsTheCameraOff()
     {
         CameraServer server(session().environment());
