@@ -4,6 +4,7 @@
 
 #include <array>
 #include <string>
+#include <utility>
 
 namespace Kestrune {
 
@@ -20,6 +21,7 @@ constexpr std::array kWishes{
 };
 
 constexpr GstClockTime kSlice = 100 * GST_MSECOND;
+constexpr gint64 kLongestLook = 2 * G_TIME_SPAN_SECOND; // A service that just began lists cameras bit by bit.
 constexpr GstClockTime kLongestStart = 10 * GST_SECOND; // Some cameras first measure the light.
 constexpr GstClockTime kLongestPause = 3 * GST_SECOND;
 
@@ -60,25 +62,36 @@ Camera::~Camera()
         gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
 }
 
+void Camera::look()
+{
+    GList *const devices = gst_device_monitor_get_devices(m_monitor);
+    for (const GList *entry = devices; entry; entry = entry->next) {
+        auto *const device = GST_DEVICE(entry->data);
+        if (m_device && (isDefault(m_device.get()) || !isDefault(device)))
+            continue;
+        if (Handle<GstCaps> format = chooseFormat(device)) {
+            m_device.reset(GST_DEVICE(gst_object_ref(device)));
+            m_format = std::move(format);
+        }
+    }
+    g_list_free_full(devices, gst_object_unref);
+}
+
 bool Camera::find()
 {
     gst_device_monitor_add_filter(m_monitor, "Video/Source", nullptr);
     if (!gst_device_monitor_start(m_monitor))
         return false;
-    GList *const devices = gst_device_monitor_get_devices(m_monitor);
-    for (const GList *entry = devices; entry; entry = entry->next) {
-        auto *const device = GST_DEVICE(entry->data);
-        if (!m_device || (isDefault(device) && !isDefault(m_device.get())))
-            m_device.reset(GST_DEVICE(gst_object_ref(device)));
-    }
-    g_list_free_full(devices, gst_object_unref);
+    const Handle<GstBus> bus(gst_device_monitor_get_bus(m_monitor));
+    const gint64 end = g_get_monotonic_time() + kLongestLook;
+    for (look(); !m_device && g_get_monotonic_time() < end; look())
+        const Handle<GstMessage> news(gst_bus_timed_pop(bus.get(), kSlice));
     return m_device != nullptr;
 }
 
 bool Camera::open()
 {
-    const Handle<GstCaps> format = find() ? chooseFormat(m_device.get()) : nullptr;
-    GstElement *const source = format ? gst_device_create_element(m_device.get(), nullptr) : nullptr;
+    GstElement *const source = find() ? gst_device_create_element(m_device.get(), nullptr) : nullptr;
     if (!source)
         return false;
     m_pipeline.reset(gst_pipeline_new(nullptr));
@@ -87,14 +100,14 @@ bool Camera::open()
         g_object_set(source, "always-copy", TRUE, nullptr);
     gst_bin_add(GST_BIN(m_pipeline.get()), source);
     const std::string rest = std::string("capsfilter name=format ! ") +
-                             (isJpeg(format.get()) ? "jpegdec ! " : "") +
+                             (isJpeg(m_format.get()) ? "jpegdec ! " : "") +
                              "appsink name=sink caps=video/x-raw max-buffers=1 drop=true sync=false";
     GstElement *const bin = gst_parse_bin_from_description(rest.c_str(), TRUE, nullptr);
     if (!bin)
         return false;
     gst_bin_add(GST_BIN(m_pipeline.get()), bin);
     const Handle<GstElement> filter(gst_bin_get_by_name(GST_BIN(bin), "format"));
-    g_object_set(filter.get(), "caps", format.get(), nullptr);
+    g_object_set(filter.get(), "caps", m_format.get(), nullptr);
     m_sink.reset(gst_bin_get_by_name(GST_BIN(bin), "sink"));
     return gst_element_link(source, bin) &&
            gst_element_set_state(m_pipeline.get(), GST_STATE_READY) != GST_STATE_CHANGE_FAILURE;

@@ -11,7 +11,8 @@ namespace Kestrune {
 class Camera
 {
 public:
-    /// Opens it without turning it on; false where there is none that can be used.
+    /// Opens it without turning it on; false where there is none that can be used within seconds. Hangs where
+    /// PipeWire does.
     bool open();
     bool start();
 
@@ -25,6 +26,7 @@ public:
     Camera &operator=(const Camera &) = delete;
 
 private:
+    void look();
     bool find();
     bool hasFailed() const;
     bool isPulledOut() const;
@@ -32,6 +34,7 @@ private:
     /// Never ended: some of PipeWire's versions corrupt memory when it stops to look.
     GstDeviceMonitor *const m_monitor = gst_device_monitor_new();
     Handle<GstDevice> m_device;
+    Handle<GstCaps> m_format; ///< What is asked of the device.
     Handle<GstElement> m_pipeline;
     Handle<GstElement> m_sink;
     bool m_hasGivenPictures = false;

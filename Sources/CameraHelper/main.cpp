@@ -30,6 +30,8 @@ std::optional<Order> readOrder()
     return CameraWire::isPossible(order) ? std::optional(order) : std::nullopt;
 }
 
+constexpr unsigned kLongestOpening = 15; // s; what hangs for longer, PipeWire or a driver, hangs for good.
+
 bool hasInputEnded()
 {
     pollfd input{STDIN_FILENO, 0, 0};
@@ -42,6 +44,7 @@ bool show(Camera &camera, int descriptor)
                                 MAP_SHARED, descriptor, 0);
     if (memory == MAP_FAILED || !camera.start())
         return false;
+    ::alarm(0);
     PictureMaker maker;
     while (const auto order = readOrder()) {
         const Handle<GstSample> sample = camera.next(hasInputEnded);
@@ -63,6 +66,7 @@ int main(int argc, char *argv[])
     if (argc != 2)
         return EXIT_FAILURE;
     gst_init(nullptr, nullptr);
+    ::alarm(kLongestOpening); // Its signal ends the process.
     Camera camera;
     bool good = camera.open();
     if (good && std::strcmp(argv[1], CameraWire::kProbe) != 0)

@@ -127,11 +127,12 @@ constexpr std::array kTools{
                    .symbol = "text.alignleft",
                    .view = "TeleprompterPane",
                    .makeModel = [](Context c) { return made<TeleprompterModel>(c.settings); }},
-    CatalogueEntry{.rawValue = "mirror",
-                   .title = QT_TRANSLATE_NOOP("notch", "Mirror"),
-                   .symbol = "camera",
-                   .view = "MirrorPane",
-                   .makeModel = [](Context c) { return made<MirrorModel>(c.platform.camera); }},
+    CatalogueEntry{
+        .rawValue = "mirror",
+        .title = QT_TRANSLATE_NOOP("notch", "Mirror"),
+        .symbol = "camera",
+        .view = "MirrorPane",
+        .makeModel = [](Context c) { return made<MirrorModel>(c.platform.clock, c.platform.camera); }},
     CatalogueEntry{.rawValue = "note",
                    //: A note to oneself, such as one jots down.
                    .title = QT_TRANSLATE_NOOP("notch", "Note"),

@@ -3,6 +3,7 @@
 #include "EndToEnd/Waiting.h"
 #include "Support/TestRegistry.h"
 
+#include <algorithm>
 #include <csignal>
 
 constexpr auto configuration = R"(
@@ -20,15 +21,24 @@ bool CameraServer::plugIn()
         return false;
     m_server = std::make_unique<ChildProcess>(m_environment);
     const QString socket = m_environment.value(u"XDG_RUNTIME_DIR"_s) + u"/pipewire-0"_s;
+    QFile::remove(socket); // of a server that was killed, or the manager would call there and give up
     if (!m_server->launch(u"pipewire"_s) || !waitUntil([&] { return QFile::exists(socket); }))
         return false;
     m_manager = std::make_unique<ChildProcess>(m_environment);
-    return m_manager->launch(u"wireplumber"_s) && waitUntil([this] { return state() == "suspended"_L1; });
+    const auto isReady = [this] {
+        const QString now = state();
+        return !now.isEmpty() && now != "creating"_L1 && isManaged();
+    };
+    return m_manager->launch(u"wireplumber"_s) && waitUntil(isReady);
 }
 
 bool CameraServer::pullOut()
 {
     run(u"pw-cli"_s, {u"destroy"_s, camera("id")});
+    if (dump().isEmpty()) {
+        qWarning("the camera's server stands still and is ended, which takes the camera away as well");
+        m_server->killNow();
+    }
     return state().isEmpty();
 }
 
@@ -37,10 +47,18 @@ bool CameraServer::hang(bool manager)
     return ::kill(static_cast<pid_t>((manager ? m_manager : m_server)->processId()), SIGSTOP) == 0;
 }
 
+bool CameraServer::isManaged() const
+{
+    return std::ranges::any_of(dump(), [](const QJsonValue &entry) {
+        return entry["props"_L1]["metadata.name"_L1] == "default"_L1;
+    });
+}
+
+QJsonArray CameraServer::dump() const { return QJsonDocument::fromJson(run(u"pw-dump"_s, {})).array(); }
+
 QString CameraServer::camera(const char *field) const
 {
-    const QJsonArray all = QJsonDocument::fromJson(run(u"pw-dump"_s, {})).array();
-    for (const auto &entry : all) {
+    for (const auto &entry : dump()) {
         const QJsonObject object = entry.toObject();
         const QJsonObject info = object.value("info"_L1).toObject();
         if (info.value("props"_L1).toObject().value("node.name"_L1) != "camera"_L1)

@@ -2,6 +2,8 @@
 
 #include "EndToEnd/ChildProcess.h"
 
+#include <QJsonArray>
+
 #include <memory>
 
 /// PipeWire with one camera, whose picture has coloured bars: light grey at its left, blue at its right.
@@ -25,6 +27,10 @@ struct CameraServer
     QString state() const { return camera("state"); }
 
 private:
+    /// Whether the manager is there, which gives programs the camera that they ask for.
+    bool isManaged() const;
+    /// All that the server has; nothing when it does not answer.
+    QJsonArray dump() const;
     QString camera(const char *field) const;
     QByteArray run(const QString &program, const QStringList &arguments) const;
 

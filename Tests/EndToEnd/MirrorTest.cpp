@@ -40,6 +40,22 @@ private Q_SLOTS:
         QTRY_VERIFY2(server.state() != "running"_L1, "the camera outlives the program");
     }
 
+    void comesBackByItself()
+    {
+        CameraServer server(session().environment());
+        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"mirror"_s));
+        QVERIFY(stage().openByHotKey());
+        QTRY_COMPARE(stage().x.pixel(left), QColor(Qt::black));
+        QVERIFY(server.plugIn());
+        QTRY_VERIFY(isBlue(left));
+        QVERIFY(server.pullOut());
+        QTRY_COMPARE(stage().x.pixel(left), QColor(Qt::black));
+        QVERIFY(server.plugIn());
+        QTRY_VERIFY(isBlue(left));
+        QCOMPARE(session().command({u"close"_s}).status, 0);
+        QTRY_VERIFY(server.state() != "running"_L1);
+    }
+
     void comesBackAfterAServerThatHangs_data() { noAndYes("server", "manager"); }
 
     void comesBackAfterAServerThatHangs()

@@ -136,6 +136,63 @@ private Q_SLOTS:
         QCOMPARE(stage.told(), u"start"_s);
         QCOMPARE(stage.mirror.state(), State::Picture);
     }
+
+    void comesBackWhileItIsShown()
+    {
+        Stage stage;
+        stage.showFirst();
+        stage.camera.handlers.lost();
+        for (const int pause : {1000, 2000, 5000, 5000}) {
+            stage.core.wait(pause - 1);
+            QCOMPARE(stage.told(), u"stop"_s);
+            stage.core.wait(1);
+            QCOMPARE(stage.told(), u"start"_s);
+            QCOMPARE(stage.mirror.state(), State::NoCamera); // the pane does not flicker
+            stage.camera.handlers.lost();
+        }
+        stage.core.wait(5000);
+        stage.camera.handlers.picture({});
+        QCOMPARE(stage.mirror.state(), State::Picture);
+        QCOMPARE(stage.told(), u"stop start"_s);
+        // After a picture, and at a new showing, the pauses are short again.
+        stage.camera.handlers.lost();
+        stage.core.wait(1000);
+        QCOMPARE(stage.told(), u"stop start"_s);
+        stage.camera.handlers.lost();
+        stage.show();
+        stage.core.wait(60'000);
+        QCOMPARE(stage.told(), u"stop start"_s);
+        stage.camera.handlers.lost();
+        stage.core.wait(1000);
+        QCOMPARE(stage.told(), u"stop start"_s);
+        // Closed, it stays off.
+        stage.camera.handlers.lost();
+        stage.show({});
+        stage.core.wait(60'000);
+        QCOMPARE(stage.told(), u"stop"_s);
+    }
+
+    void findsACameraWhileItIsShown()
+    {
+        Stage stage;
+        stage.show();
+        for (const int pause : {1000, 2000, 5000, 5000}) {
+            QCOMPARE(stage.told(), u"configure"_s);
+            stage.answer(false);
+            stage.core.wait(pause - 1);
+            QCOMPARE(stage.told(), QString());
+            stage.core.wait(1);
+            QCOMPARE(stage.mirror.state(), State::NoCamera);
+        }
+        stage.answer(true);
+        QCOMPARE(stage.told(), u"configure start"_s);
+        QVERIFY(stage.mirror.noCamera() && stage.mirror.state() == State::Picture);
+        stage.camera.handlers.picture({});
+        stage.camera.handlers.lost();
+        stage.camera.status = Authorization::notDetermined; // One showing asks once.
+        stage.core.wait(1000);
+        QCOMPARE(stage.told(), u"stop start"_s);
+    }
 };
 
 REGISTER_TEST(MirrorModelTest);

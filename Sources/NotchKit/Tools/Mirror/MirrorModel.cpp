@@ -1,14 +1,26 @@
 #include "MirrorModel.h"
 
+#include <algorithm>
+#include <array>
+
 namespace Kestrune {
 
-MirrorModel::MirrorModel(CameraSession &session, QObject *parent)
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr std::array<std::chrono::milliseconds, 3> kPauses{1s, 2s, 5s}; ///< Before each try; the last stays.
+
+}
+
+MirrorModel::MirrorModel(Clock &clock, CameraSession &session, QObject *parent)
     : ToolModel(NotchTool::mirror, parent)
+    , m_clock(clock)
     , m_session(session)
     , m_status(session.authorization())
 {
     m_session.installHandlers(
-        {[this](const QImage &picture) { Q_EMIT pictureTaken(picture); }, [this] { takeLoss(); }});
+        {[this](const QImage &picture) { takePicture(picture); }, [this] { takeLoss(); }});
     connect(this, &MirrorModel::runningChanged, this, &MirrorModel::stateChanged);
 }
 
@@ -22,9 +34,11 @@ MirrorModel::State MirrorModel::state() const
 {
     if (m_status == CameraAuthorization::denied || m_status == CameraAuthorization::restricted)
         return State::NoAccess;
+    if (m_lost)
+        return State::NoCamera;
     if (m_running)
         return State::Picture;
-    return m_noCamera || m_lost ? State::NoCamera : State::Waiting;
+    return m_noCamera ? State::NoCamera : State::Waiting;
 }
 
 void MirrorModel::start()
@@ -40,10 +54,9 @@ void MirrorModel::start()
     case CameraAuthorization::denied:
         break;
     case CameraAuthorization::authorized:
-        if (m_configured)
-            run();
-        else if (!m_configuration.isWaiting())
-            m_configuration.start(&MirrorModel::configure, this);
+        m_tries = 0;
+        m_lost = false;
+        goOn();
         break;
     }
 }
@@ -62,15 +75,26 @@ QCoro::Task<> MirrorModel::configure()
     m_configured = co_await until(asked);
     if (m_configured)
         run();
-    else
+    else {
         m_noCamera = true;
+        tryLater();
+    }
+}
+
+/// What the permission of this showing still allows.
+void MirrorModel::goOn()
+{
+    m_pause.reset();
+    if (m_configured)
+        run();
+    else if (!m_configuration.isWaiting())
+        m_configuration.start(&MirrorModel::configure, this);
 }
 
 void MirrorModel::run()
 {
     if (m_running)
         return;
-    m_lost = false;
     m_session.startRunning(); // first: who sees it running asks for a picture
     m_running = true;
 }
@@ -79,17 +103,37 @@ void MirrorModel::run()
 void MirrorModel::stop()
 {
     m_wanted = false;
+    m_pause.reset();
     m_configuration.end();
+    halt();
+}
+
+void MirrorModel::halt()
+{
     if (!m_running)
         return;
     m_running = false;
     m_session.stopRunning();
 }
 
+void MirrorModel::takePicture(const QImage &picture)
+{
+    m_tries = 0;
+    m_lost = false;
+    Q_EMIT pictureTaken(picture);
+}
+
 void MirrorModel::takeLoss()
 {
     m_lost = true;
-    stop();
+    halt();
+    tryLater();
+}
+
+void MirrorModel::tryLater()
+{
+    const auto pause = kPauses.at(std::min(m_tries++, kPauses.size() - 1));
+    m_pause = m_clock.after(pause, [this] { goOn(); });
 }
 
 void MirrorModel::visibleToolChanged(std::optional<NotchTool> visible)

@@ -2,13 +2,15 @@
 
 #include "Async/Scope.h"
 #include "NotchKit/Platform/CameraSession.h"
+#include "NotchKit/Platform/Clock.h"
 #include "NotchKit/ToolModel.h"
 
 #include <QProperty>
 
 namespace Kestrune {
 
-/// The camera as a mirror: runs while its pane is on screen and is off at all other times. Main thread only.
+/// The camera as a mirror: runs while its pane is on screen and is off at all other times. Where there is no
+/// camera, or no more, it is looked for again while the pane stays on screen. Main thread only.
 class MirrorModel : public ToolModel
 {
     Q_OBJECT
@@ -25,7 +27,7 @@ public:
     };
     Q_ENUM(State)
 
-    explicit MirrorModel(CameraSession &session, QObject *parent = nullptr);
+    MirrorModel(Clock &clock, CameraSession &session, QObject *parent = nullptr);
     ~MirrorModel() override;
 
     State state() const;
@@ -58,18 +60,26 @@ Q_SIGNALS:
 private:
     QCoro::Task<> ask();
     QCoro::Task<> configure();
+    void goOn();
     void run();
+    void halt();
+    void takePicture(const QImage &picture);
     void takeLoss();
+    void tryLater();
 
+    Clock &m_clock;
     CameraSession &m_session;
     bool m_wanted = false; ///< Between start and stop: what is answered later takes effect.
     bool m_configured = false;
+    std::size_t m_tries = 0;               ///< In vain since the start or the last picture.
+    std::unique_ptr<RunningTimer> m_pause; ///< Until the next try.
     Scope m_access;
     Scope m_configuration;
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(MirrorModel, CameraAuthorization, m_status,
                                          CameraAuthorization::notDetermined, &MirrorModel::stateChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(MirrorModel, bool, m_running, false, &MirrorModel::runningChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(MirrorModel, bool, m_noCamera, false, &MirrorModel::stateChanged)
+    /// The camera was lost, and neither a picture nor a start came since.
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(MirrorModel, bool, m_lost, false, &MirrorModel::stateChanged)
 };
 
