@@ -17,7 +17,7 @@ struct CameraServer
     /// Starts it anew and waits until programs find the camera.
     bool plugIn();
 
-    /// Takes the camera away.
+    /// Takes the camera away; where that is more than PipeWire bears, the server as well.
     bool pullOut();
 
     /// Lets the server, or what manages its sessions, answer no more, until it is started anew.
