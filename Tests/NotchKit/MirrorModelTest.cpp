@@ -187,11 +187,27 @@ private Q_SLOTS:
         stage.answer(true);
         QCOMPARE(stage.told(), u"configure start"_s);
         QVERIFY(stage.mirror.noCamera() && stage.mirror.state() == State::Picture);
+    }
+
+    void asksForAccessEachTimeItComesBack()
+    {
+        Stage stage;
+        stage.showFirst();
+        const auto comesBack = [&](Authorization answer) {
+            stage.camera.status = Authorization::notDetermined;
+            stage.camera.handlers.lost();
+            stage.core.wait(1000);
+            QCOMPARE(stage.told(), u"stop access"_s);
+            QCOMPARE(stage.mirror.state(), State::NoCamera);
+            stage.allow(answer);
+        };
+        comesBack(Authorization::authorized);
+        QCOMPARE(stage.told(), u"start"_s);
         stage.camera.handlers.picture({});
-        stage.camera.handlers.lost();
-        stage.camera.status = Authorization::notDetermined; // One showing asks once.
-        stage.core.wait(1000);
-        QCOMPARE(stage.told(), u"stop start"_s);
+        comesBack(Authorization::denied);
+        QCOMPARE(stage.mirror.state(), State::NoAccess);
+        stage.core.wait(60'000);
+        QCOMPARE(stage.told(), QString());
     }
 };
 

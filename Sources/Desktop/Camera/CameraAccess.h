@@ -33,7 +33,7 @@ public:
     /// Asks for it. One question at a time: a second one joins the first.
     QFuture<bool> request();
 
-    /// The camera was turned off: the next showing asks again.
+    /// The camera was turned off or not found: the next use asks again.
     void forget() { m_answer.reset(); }
 
 private Q_SLOTS:

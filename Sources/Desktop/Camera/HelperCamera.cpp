@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
+#include <functional>
+#include <utility>
 
 namespace Kestrune {
 
@@ -27,9 +29,11 @@ constexpr auto kSlack = 10s;        // A loop that needs longer to notice hangs.
 class Probe : public QObject
 {
 public:
-    Probe(QObject *parent, const QString &helper, const Pledge<bool> &pledge)
+    /// `failed` is called before the pledge is given, on this thread.
+    Probe(QObject *parent, const QString &helper, const Pledge<bool> &pledge, std::function<void()> failed)
         : QObject(parent)
         , m_pledge(pledge)
+        , m_failed(std::move(failed))
     {
         connect(&m_process, &QProcess::finished, this, [this](int status, QProcess::ExitStatus how) {
             finish(how == QProcess::NormalExit && status == 0);
@@ -47,11 +51,14 @@ private:
     void finish(bool usable)
     {
         qCInfo(cameraLog, usable ? "a camera is there" : "no camera, or no helper to find one");
+        if (!usable)
+            m_failed();
         m_pledge.give(usable);
         deleteLater();
     }
 
     Pledge<bool> m_pledge;
+    std::function<void()> m_failed;
     QProcess m_process;
 };
 
@@ -87,8 +94,10 @@ QString HelperCamera::installedHelper()
 
 QFuture<bool> HelperCamera::configure()
 {
-    const auto probe = [helper = m_helper](QObject &thread, const Pledge<bool> &pledge) {
-        new Probe(&thread, helper, pledge);
+    // A portal that knew of no camera was not asked for one: it is before the next look.
+    const auto forget = [this, back = m_back.handle()] { back.post([this] { m_access.forget(); }); };
+    const auto probe = [helper = m_helper, forget](QObject &thread, const Pledge<bool> &pledge) {
+        new Probe(&thread, helper, pledge, forget);
     };
     return m_loop.ask<bool>(kLongestProbe + kSlack, probe);
 }

@@ -44,6 +44,14 @@ MirrorModel::State MirrorModel::state() const
 void MirrorModel::start()
 {
     m_wanted = true;
+    m_tries = 0;
+    m_lost = false;
+    goOn();
+}
+
+void MirrorModel::goOn()
+{
+    m_pause.reset();
     m_status = m_session.authorization();
     switch (m_status) {
     case CameraAuthorization::notDetermined:
@@ -54,9 +62,10 @@ void MirrorModel::start()
     case CameraAuthorization::denied:
         break;
     case CameraAuthorization::authorized:
-        m_tries = 0;
-        m_lost = false;
-        goOn();
+        if (m_configured)
+            run();
+        else if (!m_configuration.isWaiting())
+            m_configuration.start(&MirrorModel::configure, this);
         break;
     }
 }
@@ -66,7 +75,7 @@ QCoro::Task<> MirrorModel::ask()
     const QFuture<bool> asked = m_session.requestAccess();
     co_await until(asked);
     if (m_wanted)
-        start();
+        goOn();
 }
 
 QCoro::Task<> MirrorModel::configure()
@@ -79,16 +88,6 @@ QCoro::Task<> MirrorModel::configure()
         m_noCamera = true;
         tryLater();
     }
-}
-
-/// What the permission of this showing still allows.
-void MirrorModel::goOn()
-{
-    m_pause.reset();
-    if (m_configured)
-        run();
-    else if (!m_configuration.isWaiting())
-        m_configuration.start(&MirrorModel::configure, this);
 }
 
 void MirrorModel::run()
