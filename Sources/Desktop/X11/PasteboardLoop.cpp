@@ -1,7 +1,7 @@
 #include "PasteboardLoop.h"
 
+#include "Desktop/Mime/UriLists.h"
 #include "Log.h"
-#include "UriLists.h"
 
 #include <QtEndian>
 
