@@ -1,21 +1,7 @@
 #include "Desktop/X11/ClipboardStage.h"
 #include "EndToEnd/X11.h"
-#include "Support/TestRegistry.h"
-
-#include <QRandomGenerator>
 
 namespace {
-
-constexpr int kMegabyte = 1024 * 1024;
-const QString kText =
-    u"Zwölf Boxkämpfer · עברית · العربية · 漢字 · 👩‍👩‍👧‍👦\nnext line\t"_s;
-
-QByteArray random(qsizetype size)
-{
-    QList<quint32> words(size / 4);
-    QRandomGenerator(1).fillRange(words.data(), words.size());
-    return {reinterpret_cast<const char *>(words.constData()), size};
-}
 
 QByteArray png()
 {
@@ -236,26 +222,15 @@ private Q_SLOTS:
 
     void idle()
     {
-        const auto wakeUps = [] {
-            const QDir tasks(u"/proc/self/task"_s);
-            for (const QString &task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-                const QByteArray status = readFile(tasks.filePath(task + u"/status"_s));
-                if (status.startsWith("Name:\tpasteboard\n"))
-                    return status.mid(status.indexOf("\nvoluntary_ctxt_switches:") + 25)
-                        .split('\n')[0]
-                        .toLongLong();
-            }
-            return qint64{-1};
-        };
         QVERIFY(m_stage->startRogue({u"hangHalfWay"_s, u"image/png"_s}));
         types();
         picture();
         m_stage->write(EncodedPicture{random(kMegabyte), u"image/png"_s});
         m_stage->paste(u"qt"_s, u"image/png"_s);
         QTest::qWait(500);
-        const qint64 before = wakeUps();
+        const qint64 before = timesAsleep("pasteboard");
         QTest::qWait(2000);
-        QVERIFY(before > 0 && wakeUps() == before);
+        QVERIFY(before > 0 && timesAsleep("pasteboard") == before);
     }
 
     void endsWhileAsked()
