@@ -14,7 +14,7 @@ namespace {
 
 constexpr auto kPatience = 10s;
 constexpr size_t kMostReaders = 64;
-constexpr qsizetype kPiece = qsizetype{256} * 1024;
+constexpr qsizetype kWritten = qsizetype{256} * 1024; // At once.
 
 /// A write to one of the others may wait, whatever it was told.
 bool isPipe(const Descriptor &descriptor)
@@ -54,7 +54,7 @@ void PipeWriters::write(std::span<const pollfd> polled)
 
 void PipeWriters::writePiece(Writer &writer)
 {
-    const qsizetype size = std::min(kPiece, writer.content.size() - writer.sent);
+    const qsizetype size = std::min(kWritten, writer.content.size() - writer.sent);
     const auto taken =
         ::write(writer.reader.get(), writer.content.constData() + writer.sent, static_cast<size_t>(size));
     if (taken > 0) {

@@ -243,6 +243,57 @@ private Q_SLOTS:
         compositor.process->killNow();
     }
 
+    void eitherName_data()
+    {
+        const auto row = columns<QString, QByteArray>();
+        row("present", "ext", "ext_data_control_manager_v1");
+        row("former", "zwlr", "zwlr_data_control_manager_v1");
+        row("both", "zwlr ext", "ext_data_control_manager_v1");
+    }
+
+    void eitherName()
+    {
+        const auto [names, bound] = fetched<QString, QByteArray>();
+        CompositorStage stage(u"CompositorStandIn"_s, names.split(u' '));
+        QVERIFY(DataControlPasteboard::isThere(stage.compositor.display()));
+        stage.reset();
+        QTRY_VERIFY(stage.compositor.process->canReadLine());
+        QCOMPARE(stage.compositor.process->readLine().trimmed(), bound);
+        QVERIFY(stage.startRogue({u"honest"_s, u"UTF8_STRING"_s}));
+        QCOMPARE(wait(stage.pasteboard->types()), QStringList{u"text/plain"_s});
+        QCOMPARE(wait(stage.pasteboard->string()), u"public"_s);
+        DataControlPasteboard other(stage.compositor.display());
+        stage.write(kText);
+        QCOMPARE(stage.pasteboard->changeCount(), 2);
+        QTRY_COMPARE(wait(other.types()), QStringList{u"text/plain"_s});
+        QTRY_COMPARE(wait(other.string()), kText);
+    }
+
+    void seatGoes()
+    {
+        CompositorStage stage(u"CompositorStandIn"_s, {u"ext"_s});
+        stage.reset();
+        stage.write(kText);
+        QCOMPARE(wait(stage.pasteboard->types()), QStringList{u"text/plain"_s});
+        stage.compositor.process->write("finish\n");
+        QTRY_COMPARE(wait(stage.pasteboard->types()), QStringList());
+        QCOMPARE(stage.pasteboard->write(u"kept until there is a seat"_s), 2);
+        QCOMPARE(wait(stage.pasteboard->types()), QStringList());
+        stage.compositor.process->write("seat\n");
+        QTRY_COMPARE(wait(stage.pasteboard->types()), QStringList{u"text/plain"_s});
+        QCOMPARE(wait(stage.pasteboard->string()), u"kept until there is a seat"_s);
+        QVERIFY(stage.startRogue({u"honest"_s, u"UTF8_STRING"_s}));
+        QCOMPARE(stage.pasteboard->changeCount(), 3);
+    }
+
+    void compositorWithoutDataControl()
+    {
+        CompositorStage stage(u"CompositorStandIn"_s);
+        QVERIFY(!DataControlPasteboard::isThere(stage.compositor.display()));
+        stage.reset();
+        QCOMPARE(wait(stage.pasteboard->types()), QStringList());
+    }
+
     void compositorNeverAnswers()
     {
         const QTemporaryDir folder;
