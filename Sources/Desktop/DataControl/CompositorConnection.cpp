@@ -51,7 +51,7 @@ CompositorConnection::~CompositorConnection()
         wl_display_disconnect(m_display);
 }
 
-bool CompositorConnection::dispatch() { return wl_display_dispatch_pending(m_display) > 0; }
+bool CompositorConnection::dispatch() { return m_display && wl_display_dispatch_pending(m_display) > 0; }
 
 void CompositorConnection::sleep(std::vector<pollfd> &others, int timeout)
 {

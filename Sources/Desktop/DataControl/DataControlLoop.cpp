@@ -41,6 +41,11 @@ DataControlLoop::DataControlLoop(const QByteArray &display, PasteboardLink &link
     });
 }
 
+DataControlLoop::~DataControlLoop()
+{
+    m_connection.dispatch(); // What was read and is not handed over is never freed.
+}
+
 void DataControlLoop::fail(const char *why)
 {
     m_state = State::Failed;
@@ -99,6 +104,9 @@ void DataControlLoop::expire()
     m_writers.expire(now);
     if (m_reader)
         m_reader->expire(now);
+    // A death that the compositor can know of is handled by the second time that it looks around.
+    if (m_reader && m_reader->wantsConfirmation(now))
+        confirm(m_reader, 2);
     finishReading();
 }
 
@@ -121,13 +129,8 @@ void DataControlLoop::sleep()
     m_writers.addTo(polled);
     m_connection.sleep(polled, timeoutUntil(deadline()));
     m_writers.write(std::span(polled).subspan(others));
-    if (polled[1].revents == 0)
-        return;
-    m_reader->read();
-    // A death comes to the compositor before the end of the pipe comes here, so it is looked at by the
-    // second time that the compositor looks around.
-    if (m_reader->awaitsConfirmation())
-        confirm(m_reader, 2);
+    if (polled[1].revents != 0)
+        m_reader->read();
 }
 
 void DataControlLoop::confirm(const std::weak_ptr<PipeReader> &reader, int roundTrips)

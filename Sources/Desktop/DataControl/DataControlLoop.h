@@ -14,6 +14,8 @@ class DataControlLoop : public PasteboardLoop
 {
 public:
     DataControlLoop(const QByteArray &display, PasteboardLink &link);
+    ~DataControlLoop() override;
+    Q_DISABLE_COPY_MOVE(DataControlLoop)
 
     void offer(const PasteboardContent &content) override;
 

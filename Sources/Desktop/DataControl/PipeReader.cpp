@@ -5,9 +5,13 @@
 
 namespace Kestrune {
 
+using namespace std::chrono_literals;
+
 namespace {
 
 constexpr qsizetype kPiece = qsizetype{64} * 1024; // What a pipe holds.
+// The pipes of a program that dies are closed shortly before its connection to the compositor.
+constexpr auto kMostBetween = 100ms;
 
 } // namespace
 
@@ -25,6 +29,8 @@ void PipeReader::read()
     const auto got = ::read(m_pipe.get(), piece.data(), piece.size());
     if (got == 0) {
         end(State::Ended);
+        m_patience.progress();
+        m_askFrom = Clock::now() + kMostBetween;
     } else if (got < 0) {
         if (errno != EAGAIN && errno != EINTR)
             end(State::Failed);
@@ -36,10 +42,23 @@ void PipeReader::read()
     }
 }
 
+bool PipeReader::wantsConfirmation(Clock::time_point now)
+{
+    if (m_state != State::Ended || (now < m_askFrom && !m_patience.isHurried()))
+        return false;
+    m_state = State::Asked;
+    return true;
+}
+
+PipeReader::Clock::time_point PipeReader::deadline() const
+{
+    return m_state == State::Ended ? m_askFrom : m_patience.deadline();
+}
+
 void PipeReader::confirm()
 {
     // An owner that was overtaken before it was asked gives nothing, which is no empty answer.
-    if (m_state == State::Ended)
+    if (m_state == State::Asked)
         end(m_patience.isHurried() && m_answer.isEmpty() ? State::Failed : State::Complete);
 }
 
@@ -53,7 +72,7 @@ void PipeReader::overtaken(bool gone)
 
 void PipeReader::expire(Clock::time_point now)
 {
-    if (!isFinished() && now >= deadline())
+    if (!isFinished() && now >= m_patience.deadline())
         end(State::Failed);
 }
 

@@ -21,15 +21,17 @@ public:
     int descriptor() const { return m_pipe.get(); }
     void read();
 
-    /// A pipe ends in the same way when its writer is through and when it dies: whether the answer is whole
-    /// is known once the compositor has had the time to tell of a death.
-    bool awaitsConfirmation() const { return m_state == State::Ended; }
+    /// A pipe ends in the same way when its writer is through and when it dies. A moment later, once, the
+    /// compositor is to be asked for what it knows: the answer is whole when `confirm` comes before
+    /// `overtaken`.
+    bool wantsConfirmation(Clock::time_point now);
     void confirm();
 
     /// Another program has copied, or, when `gone`, there is nothing any more.
     void overtaken(bool gone);
 
-    Clock::time_point deadline() const { return m_patience.deadline(); }
+    /// When to call one of `expire` and `wantsConfirmation` next.
+    Clock::time_point deadline() const;
     void expire(Clock::time_point now);
 
     bool isFinished() const { return m_state == State::Complete || m_state == State::Failed; }
@@ -38,7 +40,7 @@ public:
     std::optional<QByteArray> take();
 
 private:
-    enum class State { Reading, Ended, Complete, Failed };
+    enum class State { Reading, Ended, Asked, Complete, Failed };
 
     void end(State state);
 
@@ -46,6 +48,7 @@ private:
     qsizetype m_limit;
     State m_state = State::Reading;
     ReadingPatience m_patience;
+    Clock::time_point m_askFrom; ///< Once it has ended.
     QByteArray m_answer;
 };
 
