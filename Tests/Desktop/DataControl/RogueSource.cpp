@@ -110,8 +110,8 @@ private:
             if (m_mode == "drip")
                 std::this_thread::sleep_for(100ms);
             if (m_mode == "dieHalfWay" && sent > 3 * kPiece) {
-                close(wl_display_get_fd(
-                    m_clipboard.display)); // Before the pipe, so that nothing is left to chance.
+                // The connection before the pipe, so that nothing is left to chance.
+                close(wl_display_get_fd(m_clipboard.display));
                 std::_Exit(0);
             }
             if (m_mode == "hangHalfWay" && sent > 3 * kPiece)
