@@ -6,12 +6,13 @@
 # USES names foreign libraries, as in KESTRUNE_FOREIGN; the headers of all the others are walled off from the layer,
 # though they lie in the system's include folder. What a layer sees of this project, it links with
 # target_link_libraries afterwards.
-set(KESTRUNE_FOREIGN XCB DBUS SQLITE ICAL SODIUM CANBERRA)
+set(KESTRUNE_FOREIGN XCB WAYLAND DBUS SQLITE ICAL SODIUM CANBERRA)
 foreach(library IN LISTS KESTRUNE_FOREIGN)
     set(KESTRUNE_TARGET_${library} PkgConfig::${library})
 endforeach()
 set(KESTRUNE_TARGET_DBUS Qt6::DBus)
 set(KESTRUNE_HEADERS_XCB xcb/*.h)
+set(KESTRUNE_HEADERS_WAYLAND wayland-*.h)
 set(KESTRUNE_HEADERS_DBUS QtDBus/*)
 set(KESTRUNE_HEADERS_SQLITE sqlite3.h)
 set(KESTRUNE_HEADERS_ICAL libical/*.h)

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Desktop/Mime/PasteboardTypes.h"
 #include "IncrementalTransfers.h"
-#include "PasteboardTypes.h"
 
 namespace Kestrune {
 

@@ -1,18 +1,8 @@
 #include "SelectionReader.h"
 
-#include <algorithm>
-
 namespace Kestrune {
 
-using namespace std::chrono_literals;
-
 namespace {
-
-constexpr auto kMostSilence = 2s;
-constexpr auto kMostInAll = 15s;
-// Once another has taken the selection, its content waits for the end of this transfer.
-constexpr auto kMostSilenceOvertaken = 250ms;
-constexpr auto kMostOvertaken = 2s;
 
 constexpr uint32_t kPiece = 1 << 20; // Bytes of a property read at once.
 constexpr auto kProperty = "KESTRUNE_SELECTION";
@@ -45,7 +35,7 @@ void SelectionReader::handle(const xcb_generic_event_t &event)
         const auto &notify = reinterpret_cast<const xcb_selection_notify_event_t &>(event);
         if (notify.requestor != m_window)
             return;
-        progress();
+        m_patience.progress();
         m_ownerIsDone = true;
         if (notify.property == m_x.atom(kProperty))
             begin();
@@ -64,21 +54,12 @@ void SelectionReader::ownerChanged(uint32_t sequence, bool gone)
     // The change came before the request, so the one who took over was asked, not the one who was meant.
     if (SelectionConnection::precedes(sequence, m_sequence)) {
         fail();
-    } else if (gone && !m_overtaken) {
+    } else if (gone && !m_patience.isHurried()) {
         m_ownerIsDone = true;
         fail();
-    } else if (!m_overtaken) {
-        m_overtaken = Clock::now();
+    } else {
+        m_patience.hurry();
     }
-}
-
-SelectionReader::Clock::time_point SelectionReader::deadline() const
-{
-    const auto latest = m_started + kMostInAll;
-    if (!m_overtaken)
-        return std::min<Clock::time_point>(latest, m_progress + kMostSilence);
-    return std::min<Clock::time_point>(
-        {latest, *m_overtaken + kMostOvertaken, std::max(m_progress, *m_overtaken) + kMostSilenceOvertaken});
 }
 
 void SelectionReader::expire(Clock::time_point now)
@@ -145,7 +126,7 @@ void SelectionReader::readIncrement()
         return;
     }
     if (readProperty(*value))
-        progress();
+        m_patience.progress();
     else
         fail();
 }

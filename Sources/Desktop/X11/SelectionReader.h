@@ -1,9 +1,7 @@
 #pragma once
 
+#include "Desktop/Pasteboard/ReadingPatience.h"
 #include "SelectionConnection.h"
-
-#include <chrono>
-#include <optional>
 
 namespace Kestrune {
 
@@ -12,7 +10,7 @@ namespace Kestrune {
 class SelectionReader
 {
 public:
-    using Clock = std::chrono::steady_clock;
+    using Clock = ReadingPatience::Clock;
 
     struct Question
     {
@@ -37,7 +35,7 @@ public:
     /// The selection changed hands, by an event numbered `sequence`; `gone` when it has no owner now.
     void ownerChanged(uint32_t sequence, bool gone);
 
-    Clock::time_point deadline() const;
+    Clock::time_point deadline() const { return m_patience.deadline(); }
     void expire(Clock::time_point now);
 
     bool isFinished() const { return m_state == State::Complete || m_state == State::Failed; }
@@ -60,7 +58,6 @@ private:
     void beginIncrements();
     void readIncrement();
     bool readProperty(const Value &value);
-    void progress() { m_progress = Clock::now(); }
     void fail() { m_state = State::Failed; }
 
     SelectionConnection &m_x;
@@ -69,9 +66,7 @@ private:
     uint32_t m_sequence = 0; ///< Of the request to the owner.
     State m_state = State::Asked;
     bool m_ownerIsDone = false; ///< It writes no more to the window.
-    Clock::time_point m_started = Clock::now();
-    Clock::time_point m_progress = m_started;
-    std::optional<Clock::time_point> m_overtaken; ///< When another owner turned up.
+    ReadingPatience m_patience; ///< Hurried once another owner turned up.
     Answer m_answer{{}, XCB_ATOM_NONE};
 };
 

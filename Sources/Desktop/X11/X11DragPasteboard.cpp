@@ -1,6 +1,6 @@
 #include "X11DragPasteboard.h"
 
-#include "UriLists.h"
+#include "Desktop/Mime/UriLists.h"
 #include "X11Connection.h"
 
 #include <QCoreApplication>

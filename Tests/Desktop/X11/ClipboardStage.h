@@ -1,23 +1,12 @@
 #pragma once
 
+#include "Desktop/PasteboardAnswers.h"
 #include "Desktop/X11/X11Pasteboard.h"
 #include "EndToEnd/VirtualDisplay.h"
-#include "EndToEnd/Waiting.h"
 
 #include <functional>
 #include <memory>
 #include <vector>
-
-/// The answer, or an empty one with a word in the test's log when none was given.
-template <typename Answer>
-Answer wait(const QFuture<Answer> &future)
-{
-    if (!waitUntil([&] { return future.isFinished(); }) || future.resultCount() != 1) {
-        qWarning("a question was not answered");
-        return {};
-    }
-    return future.result();
-}
 
 /// A virtual display, the adapter on it, and the programs that it exchanges with.
 struct ClipboardStage

@@ -1,23 +1,7 @@
 #include "Desktop/X11/ClipboardStage.h"
-#include "Desktop/X11/PasteboardTypes.h"
-#include "Desktop/X11/UriLists.h"
 #include "EndToEnd/X11.h"
-#include "Support/TestRegistry.h"
-
-#include <QRandomGenerator>
 
 namespace {
-
-constexpr int kMegabyte = 1024 * 1024;
-const QString kText =
-    u"Zwölf Boxkämpfer · עברית · العربية · 漢字 · 👩‍👩‍👧‍👦\nnext line\t"_s;
-
-QByteArray random(qsizetype size)
-{
-    QList<quint32> words(size / 4);
-    QRandomGenerator(1).fillRange(words.data(), words.size());
-    return {reinterpret_cast<const char *>(words.constData()), size};
-}
 
 QByteArray png()
 {
@@ -93,34 +77,6 @@ private Q_SLOTS:
                               : PasteboardContent(EncodedPicture{bytes, type}));
         m_stage->programs.clear(); // Nobody else can answer.
         QVERIFY(m_stage->paste(client, type) == bytes);
-    }
-
-    void namesAndForms()
-    {
-        QCOMPARE(PasteboardTypes::named({"TARGETS", "STRING", "x-special/gnome-copied-files", "COMPOUND_TEXT",
-                                         "text/uri-list", "org.nspasteboard.TransientType", "image/tiff",
-                                         "text/html"}),
-                 (QStringList{u"text/plain"_s, u"text/uri-list"_s, u"org.nspasteboard.TransientType"_s,
-                              u"image/tiff"_s, u"text/html"_s}));
-        const QByteArray latin1 = QByteArray::fromHex("fc6265720000"); // "über" and two terminators
-        QCOMPARE(PasteboardTypes::text(latin1, "STRING"), u"über"_s);
-        QCOMPARE(PasteboardTypes::text(latin1, "text/plain"), u"über"_s);
-        QCOMPARE(PasteboardTypes::text(latin1, "UTF8_STRING"), u"\ufffdber"_s);
-        QCOMPARE(PasteboardTypes::text(latin1, "COMPOUND_TEXT"), std::nullopt);
-        const auto latin1Form = [](const QString &text) {
-            const auto forms = PasteboardTypes::forms(text);
-            return std::ranges::find(forms, "STRING", &PasteboardTypes::Form::target) != forms.end();
-        };
-        QVERIFY(latin1Form(u"über"_s) && !latin1Form(kText));
-
-        const QByteArray lines =
-            "# a comment\r\nfile:///a%20b\r\nhttp://example.org/c\r\nfile://localhost/d\n"
-            "file://elsewhere.example/e\r\nfile:///%C3%BC";
-        const QList<QUrl> files{QUrl::fromLocalFile(u"/a b"_s), QUrl::fromLocalFile(u"/d"_s),
-                                QUrl::fromLocalFile(u"/ü"_s)};
-        QCOMPARE(UriLists::localFiles(lines, "text/uri-list"), files);
-        QCOMPARE(UriLists::localFiles("cut\n" + lines, UriLists::kCopiedFiles), files);
-        QCOMPARE(UriLists::copiedFiles(files), "copy\nfile:///a%20b\nfile:///d\nfile:///%C3%BC"_ba);
     }
 
     void secretsAreNotAskedFor_data()
@@ -266,26 +222,15 @@ private Q_SLOTS:
 
     void idle()
     {
-        const auto wakeUps = [] {
-            const QDir tasks(u"/proc/self/task"_s);
-            for (const QString &task : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-                const QByteArray status = readFile(tasks.filePath(task + u"/status"_s));
-                if (status.startsWith("Name:\tpasteboard\n"))
-                    return status.mid(status.indexOf("\nvoluntary_ctxt_switches:") + 25)
-                        .split('\n')[0]
-                        .toLongLong();
-            }
-            return qint64{-1};
-        };
         QVERIFY(m_stage->startRogue({u"hangHalfWay"_s, u"image/png"_s}));
         types();
         picture();
         m_stage->write(EncodedPicture{random(kMegabyte), u"image/png"_s});
         m_stage->paste(u"qt"_s, u"image/png"_s);
         QTest::qWait(500);
-        const qint64 before = wakeUps();
+        const qint64 before = timesAsleep("pasteboard");
         QTest::qWait(2000);
-        QVERIFY(before > 0 && wakeUps() == before);
+        QVERIFY(before > 0 && timesAsleep("pasteboard") == before);
     }
 
     void endsWhileAsked()
