@@ -39,9 +39,10 @@ QCoro::Task<> PortalShortcut::bind()
 {
     const QFuture<QDBusMessage> introducing = introduceProgram();
     const QDBusMessage introduced = co_await until(introducing);
+    // It takes a name once for a connection, and that of a desktop entry only.
     if (introduced.type() == QDBusMessage::ErrorMessage)
-        qCInfo(shortcutsLog, "the portal does not know %s: %s", qUtf8Printable(m_wanted.program),
-               qUtf8Printable(introduced.errorName()));
+        qCInfo(shortcutsLog, "the portal does not take the name %s: %s", qUtf8Printable(m_wanted.program),
+               qUtf8Printable(introduced.errorMessage()));
 
     const QFuture<PortalAnswer> creating = createSession();
     const PortalAnswer created = co_await until(creating);
