@@ -111,10 +111,10 @@ private Q_SLOTS:
         QTest::newRow("chosen") << State::chosen << u"<b>%1+N"_s << u"Bound to <b>%1+N"_s;
         QTest::newRow("taken")
             << State::taken << QString()
-            << u"Another program has these keys. In the desktop’s settings, bind others to: kestrune toggle"_s;
+            << u"Another program has these keys. In the desktop’s settings, bind others to: kestrune\u00a0toggle"_s;
         QTest::newRow("unbound")
             << State::unbound << QString()
-            << u"No keys are bound. In the desktop’s settings, bind some to: kestrune toggle"_s;
+            << u"No keys are bound. In the desktop’s settings, bind some to: kestrune\u00a0toggle"_s;
     }
 
     void theHotKeyTellsWhatItIsBoundTo()

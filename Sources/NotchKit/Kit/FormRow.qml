@@ -43,6 +43,7 @@ Item {
             rightMargin: 12
             verticalCenter: parent.verticalCenter
         }
+        spacing: 2
         opacity: row.enabled ? 1 : row.look.disabledOpacity
 
         FormLabel {

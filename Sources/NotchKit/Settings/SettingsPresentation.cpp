@@ -77,7 +77,7 @@ void SettingsPresentation::setHoverDelay(double seconds)
 
 QString SettingsPresentation::hotKeyText() const
 {
-    const QString command = QStringLiteral("kestrune toggle");
+    const QString command = QStringLiteral("kestrune\u00a0toggle"); // On one line.
     const HotKeyBinding binding = m_controller ? m_controller->hotKeyBinding() : HotKeyBinding();
     switch (binding.state) {
     case HotKeyBinding::State::pending:
