@@ -915,5 +915,20 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Close</source>
         <translation>إغلاق</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>المفاتيح: %1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>يستخدم برنامج آخر هذه المفاتيح. في إعدادات سطح المكتب، اربط مفاتيح أخرى بالأمر: %1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>لا توجد مفاتيح مرتبطة. في إعدادات سطح المكتب، اربط مفاتيح بالأمر: %1</translation>
+    </message>
 </context>
 </TS>

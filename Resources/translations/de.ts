@@ -903,5 +903,20 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <source>Close</source>
         <translation>Schließen</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>Zugewiesen: %1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Ein anderes Programm hat diese Tasten. Weise in den Einstellungen des Desktops andere zu: %1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Keine Tasten sind zugewiesen. Weise in den Einstellungen des Desktops welche zu: %1</translation>
+    </message>
 </context>
 </TS>

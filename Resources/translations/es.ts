@@ -903,5 +903,20 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
         <source>Close</source>
         <translation>Cerrar</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>Asignado a %1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Otro programa usa estas teclas. En los ajustes del escritorio, asigna otras a: %1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>No hay teclas asignadas. En los ajustes del escritorio, asigna unas a: %1</translation>
+    </message>
 </context>
 </TS>

@@ -903,5 +903,20 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <source>Close</source>
         <translation>Fermer</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>Raccourci : %1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Un autre programme utilise ces touches. Dans les réglages du bureau, attribuez-en d’autres à : %1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Aucune touche n’est attribuée. Dans les réglages du bureau, attribuez-en à : %1</translation>
+    </message>
 </context>
 </TS>

@@ -903,5 +903,20 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
         <source>Close</source>
         <translation>Chiudi</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>Assegnato a %1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Un altro programma usa questi tasti. Nelle impostazioni del desktop assegnane altri a: %1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Nessun tasto è assegnato. Nelle impostazioni del desktop assegnane alcuni a: %1</translation>
+    </message>
 </context>
 </TS>

@@ -900,5 +900,20 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>割り当て: %1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>このキーは別のプログラムが使っています。デスクトップの設定で、別のキーを次のコマンドに割り当ててください: %1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>キーが割り当てられていません。デスクトップの設定で、キーを次のコマンドに割り当ててください: %1</translation>
+    </message>
 </context>
 </TS>

@@ -900,5 +900,20 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Close</source>
         <translation>닫기</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>지정된 키: %1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>다른 프로그램이 이 키를 쓰고 있습니다. 데스크톱 설정에서 다른 키를 다음 명령에 지정하세요: %1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>지정된 키가 없습니다. 데스크톱 설정에서 키를 다음 명령에 지정하세요: %1</translation>
+    </message>
 </context>
 </TS>

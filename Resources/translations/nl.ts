@@ -903,5 +903,20 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
         <source>Close</source>
         <translation>Sluiten</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>Toegewezen: %1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Een ander programma heeft deze toetsen. Wijs in de instellingen van het bureaublad andere toe aan: %1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Er zijn geen toetsen toegewezen. Wijs ze in de instellingen van het bureaublad toe aan: %1</translation>
+    </message>
 </context>
 </TS>

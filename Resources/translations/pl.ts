@@ -906,5 +906,20 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
         <source>Close</source>
         <translation>Zamknij</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>Przypisano: %1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Inny program używa tych klawiszy. W ustawieniach pulpitu przypisz inne do polecenia: %1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Nie przypisano klawiszy. W ustawieniach pulpitu przypisz je do polecenia: %1</translation>
+    </message>
 </context>
 </TS>

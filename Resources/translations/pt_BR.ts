@@ -903,5 +903,20 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
         <source>Close</source>
         <translation>Fechar</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>Atribuído a %1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Outro programa usa essas teclas. Nas configurações da área de trabalho, atribua outras a: %1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>Nenhuma tecla está atribuída. Nas configurações da área de trabalho, atribua alguma a: %1</translation>
+    </message>
 </context>
 </TS>

@@ -900,5 +900,20 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Close</source>
         <translation>关闭</translation>
     </message>
+    <message>
+        <source>Bound to %1</source>
+        <extracomment>%1 is a combination of keys, as the desktop writes it.</extracomment>
+        <translation>已绑定：%1</translation>
+    </message>
+    <message>
+        <source>Another program has these keys. In the desktop’s settings, bind others to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>其他程序占用了这些按键。请在桌面设置中将其他按键绑定到命令：%1</translation>
+    </message>
+    <message>
+        <source>No keys are bound. In the desktop’s settings, bind some to: %1</source>
+        <extracomment>%1 is a command.</extracomment>
+        <translation>未绑定按键。请在桌面设置中将按键绑定到命令：%1</translation>
+    </message>
 </context>
 </TS>

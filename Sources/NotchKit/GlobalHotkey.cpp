@@ -11,9 +11,15 @@ namespace {
 
 constexpr quint32 kSignature = 'K' << 24 | 'R' << 16 | 'U' << 8 | 'N';
 
-std::map<quint32, GlobalHotkey::Action> &handlers()
+struct Actions
 {
-    static std::map<quint32, GlobalHotkey::Action> table;
+    GlobalHotkey::Action pressed;
+    GlobalHotkey::BindingAction bound;
+};
+
+std::map<quint32, Actions> &handlers()
+{
+    static std::map<quint32, Actions> table;
     return table;
 }
 
@@ -22,7 +28,7 @@ void run(quint32 id)
     const auto found = handlers().find(id);
     if (found == handlers().end())
         return;
-    const auto action = found->second; // The action may unregister its own hot key.
+    const auto action = found->second.pressed; // The action may unregister its own hot key.
     action();
 }
 
@@ -32,6 +38,13 @@ void pressed(HotKeyIdentity identity)
         return;
     QMetaObject::invokeMethod(
         QCoreApplication::instance(), [id = identity.id] { run(id); }, Qt::QueuedConnection);
+}
+
+void bindingChanged(HotKeyIdentity identity, const HotKeyBinding &binding)
+{
+    const auto found = handlers().find(identity.id);
+    if (identity.signature == kSignature && found != handlers().end())
+        found->second.bound(binding);
 }
 
 quint32 takeId()
@@ -45,13 +58,14 @@ quint32 takeId()
 } // namespace
 
 std::unique_ptr<GlobalHotkey> GlobalHotkey::make(HotKeys &hotKeys, quint32 keyCode, quint32 modifiers,
-                                                 Action action)
+                                                 Action action, BindingAction bound)
 {
     const HotKeyIdentity identity{kSignature, takeId()};
     hotKeys.installHandler(pressed);
+    hotKeys.installBindingHandler(bindingChanged);
     if (!hotKeys.registerHotKey(keyCode, modifiers, identity))
         return nullptr;
-    handlers().emplace(identity.id, std::move(action));
+    handlers().emplace(identity.id, Actions{std::move(action), std::move(bound)});
     return std::unique_ptr<GlobalHotkey>(new GlobalHotkey(hotKeys, identity));
 }
 

@@ -12,11 +12,13 @@ class GlobalHotkey
 {
 public:
     using Action = std::function<void()>;
+    using BindingAction = std::function<void(const HotKeyBinding &)>;
 
     /// Registers the combination (codes as in HotKeys::registerHotKey); null when it is taken. `action`
-    /// runs on the main thread, from the event loop, at each press. `hotKeys` outlives the result.
+    /// runs on the main thread, from the event loop, at each press; `bound` whenever the desktop tells what
+    /// came of the registration, but not before this returns. `hotKeys` outlives the result.
     static std::unique_ptr<GlobalHotkey> make(HotKeys &hotKeys, quint32 keyCode, quint32 modifiers,
-                                              Action action);
+                                              Action action, BindingAction bound);
 
     ~GlobalHotkey();
     GlobalHotkey(const GlobalHotkey &) = delete;

@@ -64,6 +64,7 @@ void NotchController::stop()
     m_poller.reset();
     disconnect(m_screenObserver);
     m_hotkey.reset();
+    setHotKeyBinding({});
     collapseAll();
     m_services.stop();
     for (Notch &notch : m_notches)
@@ -84,10 +85,23 @@ void NotchController::settingsChanged()
 void NotchController::applyShortcut()
 {
     m_hotkey.reset();
-    if (m_services.settings()->shortcutEnabled()) {
-        m_hotkey =
-            GlobalHotkey::make(m_windows.hotKeys(), kShortcutKey, kShortcutModifiers, [this] { toggle(); });
+    if (!m_services.settings()->shortcutEnabled()) {
+        setHotKeyBinding({});
+        return;
     }
+    HotKeys &keys = m_windows.hotKeys();
+    m_hotkey = GlobalHotkey::make(
+        keys, kShortcutKey, kShortcutModifiers, [this] { toggle(); },
+        [this](const HotKeyBinding &binding) { setHotKeyBinding(binding); });
+    const HotKeyBinding binding = m_hotkey ? keys.firstBinding() : HotKeyBinding{HotKeyBinding::State::taken};
+    if (binding.state != HotKeyBinding::State::pending)
+        setHotKeyBinding(binding);
+}
+
+void NotchController::setHotKeyBinding(const HotKeyBinding &binding)
+{
+    if (std::exchange(m_hotKeyBinding, binding) != binding)
+        Q_EMIT hotKeyBindingChanged();
 }
 
 QList<Display> NotchController::wantedScreens() const

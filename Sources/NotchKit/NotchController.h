@@ -2,6 +2,7 @@
 
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/Displays.h"
+#include "NotchKit/Platform/HotKeys.h"
 #include "NotchKit/Platform/NotchPanel.h"
 #include "NotchScreenModel.h"
 #include "NotchServices.h"
@@ -44,6 +45,8 @@ public:
     bool isRunning() const { return m_poller != nullptr; }
     const Notches &notches() const { return m_notches; }
     bool hasHotkey() const { return m_hotkey != nullptr; }
+    /// What came of the hot key; while it is asked for anew, what came of it before. Pending when it is off.
+    const HotKeyBinding &hotKeyBinding() const { return m_hotKeyBinding; }
 
     void start();
     void stop();
@@ -62,6 +65,9 @@ public:
     /// Closes every open notch, pinned ones included.
     void collapseAll();
 
+Q_SIGNALS:
+    void hotKeyBindingChanged();
+
 private:
     using Moment = std::chrono::nanoseconds;
 
@@ -74,6 +80,7 @@ private:
     Notch *mainNotch();
     Notch *notchUnderPointer();
     void applyShortcut();
+    void setHotKeyBinding(const HotKeyBinding &binding);
     void select(NotchScreenModel &model, std::optional<NotchTool> tool);
     void set(Notch &notch, bool expanded);
     void opened(const Notch &notch);
@@ -94,6 +101,7 @@ private:
     QHash<QString, Moment> m_leaveStart; ///< When the pointer left an open notch.
     bool m_wasPressed = false;
     std::unique_ptr<GlobalHotkey> m_hotkey;
+    HotKeyBinding m_hotKeyBinding;
     QMetaObject::Connection m_screenObserver;
 };
 

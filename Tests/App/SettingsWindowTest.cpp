@@ -102,6 +102,36 @@ private Q_SLOTS:
         QVERIFY(stage.hotKeys.registered.empty()); // What depends on a setting has followed.
     }
 
+    void theHotKeyTellsWhatItIsBoundTo_data()
+    {
+        using State = HotKeyBinding::State;
+        columns<State, QString, QString>();
+        QTest::newRow("pending") << State::pending << QString() << QString();
+        QTest::newRow("asked") << State::asked << QString() << QString();
+        QTest::newRow("chosen") << State::chosen << u"<b>%1+N"_s << u"Bound to <b>%1+N"_s;
+        QTest::newRow("taken")
+            << State::taken << QString()
+            << u"Another program has these keys. In the desktop’s settings, bind others to: kestrune\u00a0toggle"_s;
+        QTest::newRow("unbound")
+            << State::unbound << QString()
+            << u"No keys are bound. In the desktop’s settings, bind some to: kestrune\u00a0toggle"_s;
+    }
+
+    void theHotKeyTellsWhatItIsBoundTo()
+    {
+        const auto [state, trigger, note] = fetched<HotKeyBinding::State, QString, QString>();
+        Stage stage;
+        const QQuickItem *row = stage.switchRow(u"Open and close with ⌃⌥⌘N"_s);
+        const QQuickItem *other = stage.switchRow(u"Show on every display"_s);
+        QCOMPARE(row->height(), other->height());
+        stage.hotKeys.bind({state, trigger});
+        QCOMPARE(row->property("note").toString(), note);
+        QCOMPARE(row->height() > other->height(), !note.isEmpty());
+        stage.settings().setShortcutEnabled(false);
+        QCOMPARE(row->property("note").toString(), QString());
+        QCOMPARE(row->height(), other->height());
+    }
+
     void tools()
     {
         Stage stage;

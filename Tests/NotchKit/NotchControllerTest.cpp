@@ -308,6 +308,33 @@ private Q_SLOTS:
         QVERIFY(!core.model().expanded());
     }
 
+    void whatCameOfTheShortcutIsKnown()
+    {
+        using State = HotKeyBinding::State;
+        Fakes::StartedCore core;
+        const auto binding = [&] { return core.controller.hotKeyBinding(); };
+        const QSignalSpy changed(&core.controller, &NotchController::hotKeyBindingChanged);
+        QCOMPARE(binding(), HotKeyBinding{State::asked});
+        core.hotKeys.first = {};
+        core.controller.settingsChanged();
+        QCOMPARE(binding(), HotKeyBinding{State::asked}); // The desktop has not answered yet.
+        const HotKeyBinding chosen{State::chosen, QStringLiteral("F9")};
+        core.hotKeys.bind(chosen);
+        QCOMPARE(binding(), chosen);
+        const auto late = core.hotKeys.registered.back();
+        core.settings.setShortcutEnabled(false);
+        core.controller.settingsChanged();
+        core.hotKeys.bindingHandler(late, chosen);
+        QCOMPARE(binding(), HotKeyBinding());
+        core.hotKeys.taken = true;
+        core.settings.setShortcutEnabled(true);
+        core.controller.settingsChanged();
+        QCOMPARE(binding(), HotKeyBinding{State::taken});
+        core.controller.stop();
+        QCOMPARE(binding(), HotKeyBinding());
+        QCOMPARE(changed.count(), 4);
+    }
+
     void startAndStopAreIdempotent()
     {
         Fakes::StartedCore core;

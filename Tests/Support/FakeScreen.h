@@ -82,6 +82,7 @@ struct FakePanels : NotchPanels
 struct FakeHotKeys : HotKeys
 {
     void installHandler(Handler installed) override { handler = std::move(installed); }
+    void installBindingHandler(BindingHandler installed) override { bindingHandler = std::move(installed); }
     bool registerHotKey(quint32 keyCode, quint32 modifiers, HotKeyIdentity identity) override
     {
         if (taken)
@@ -90,9 +91,15 @@ struct FakeHotKeys : HotKeys
         codes = {keyCode, modifiers};
         return true;
     }
+    HotKeyBinding firstBinding() const override { return first; }
     void unregisterHotKey(HotKeyIdentity identity) override { std::erase(registered, identity); }
 
+    /// The desktop tells what came of the newest registration.
+    void bind(const HotKeyBinding &binding) { bindingHandler(registered.back(), binding); }
+
     Handler handler;
+    BindingHandler bindingHandler;
+    HotKeyBinding first{HotKeyBinding::State::asked};
     std::vector<HotKeyIdentity> registered;
     std::pair<quint32, quint32> codes;
     bool taken = false;

@@ -1,20 +1,23 @@
 import QtQuick
 import Kestrune.Views
 
-/// A row of a group: its title, with a symbol before it where one is given, and its controls at the end.
+/// A row of a group: its title, with a symbol before it where one is given, a small note below it where there is
+/// one to make, and its controls at the end.
 ///
 ///   | symbol  title         controls |
+///   |         note                   |
 Item {
     id: row
 
     required property string title
+    property string note: ""
     property string symbol: ""
     property bool first: false // No hairline above.
     property Look look: Theme.window
     default property alias controls: trailing.data
 
     width: parent?.width ?? 0
-    implicitHeight: row.look.rowHeight
+    implicitHeight: row.look.rowHeight + (notice.visible ? notice.height : 0)
 
     Rectangle {
         visible: !row.first
@@ -32,7 +35,7 @@ Item {
         size: 17
         color: row.look.dim
     }
-    FormLabel {
+    Column {
         anchors {
             left: icon.visible ? icon.right : parent.left
             leftMargin: icon.visible ? 10 : row.look.rowInset
@@ -40,10 +43,27 @@ Item {
             rightMargin: 12
             verticalCenter: parent.verticalCenter
         }
-        look: row.look
-        text: row.title
+        spacing: 2
         opacity: row.enabled ? 1 : row.look.disabledOpacity
-        Accessible.ignored: true // The controls bear the name.
+
+        FormLabel {
+            width: parent.width
+            look: row.look
+            text: row.title
+            Accessible.ignored: true // The controls bear the name, and the note.
+        }
+        FormLabel {
+            id: notice
+
+            visible: text !== ""
+            width: parent.width
+            look: row.look
+            text: row.note
+            font.pixelSize: row.look.smallFontSize
+            color: row.look.dim
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
     }
     Row {
         id: trailing

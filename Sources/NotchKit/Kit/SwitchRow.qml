@@ -8,6 +8,7 @@ T.AbstractButton {
 
     required property string title
     required property bool on
+    property string note: ""
     property string symbol: ""
     property bool first: false
     property Look look: Theme.window
@@ -16,11 +17,12 @@ T.AbstractButton {
     signal modified(bool on)
 
     width: parent?.width ?? 0
-    implicitHeight: look.rowHeight
+    implicitHeight: implicitContentHeight
     focusPolicy: look.focusPolicy
     hoverEnabled: true
     Accessible.role: Accessible.CheckBox
     Accessible.name: title
+    Accessible.description: note
     Accessible.checkable: true
     Accessible.checked: on
     Accessible.onToggleAction: control.modified(!control.on)
@@ -29,6 +31,7 @@ T.AbstractButton {
     contentItem: FormRow {
         look: control.look
         title: control.title
+        note: control.note
         symbol: control.symbol
         first: control.first
 

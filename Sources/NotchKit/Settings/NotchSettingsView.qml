@@ -6,8 +6,12 @@ Column {
     id: view
 
     required property NotchSettings settings
+    required property NotchController controller
 
-    readonly property SettingsPresentation presentation: SettingsPresentation { settings: view.settings }
+    readonly property SettingsPresentation presentation: SettingsPresentation {
+        settings: view.settings
+        controller: view.controller
+    }
 
     spacing: 20
 
@@ -39,6 +43,7 @@ Column {
         }
         SwitchRow {
             title: qsTranslate("notch", "Open and close with ⌃⌥⌘N")
+            note: view.presentation.hotKeyText
             on: view.settings.shortcutEnabled
             onModified: on => view.settings.shortcutEnabled = on
         }

@@ -41,6 +41,14 @@ void SettingsPresentation::setSettings(NotchSettings *settings)
         Q_EMIT(this->*changed)();
 }
 
+void SettingsPresentation::setController(NotchController *controller)
+{
+    m_controller = controller;
+    connect(controller, &NotchController::hotKeyBindingChanged, this,
+            &SettingsPresentation::hotKeyTextChanged);
+    Q_EMIT hotKeyTextChanged();
+}
+
 QStringList SettingsPresentation::openModeTitles() { return titles<NotchOpenMode>(); }
 
 int SettingsPresentation::openMode() const
@@ -65,6 +73,31 @@ QString SettingsPresentation::hoverDelayText() const
 void SettingsPresentation::setHoverDelay(double seconds)
 {
     m_settings->setHoverDelay(std::round(seconds * kDelaysPerSecond) / kDelaysPerSecond);
+}
+
+QString SettingsPresentation::hotKeyText() const
+{
+    const QString command = QStringLiteral("kestrune\u00a0toggle"); // On one line.
+    const HotKeyBinding binding = m_controller ? m_controller->hotKeyBinding() : HotKeyBinding();
+    switch (binding.state) {
+    case HotKeyBinding::State::pending:
+    case HotKeyBinding::State::asked:
+        break;
+    case HotKeyBinding::State::chosen:
+        //: %1 is a combination of keys, as the desktop writes it.
+        return notchStrings(QT_TRANSLATE_NOOP("notch", "Bound to %1")).arg(binding.trigger);
+    case HotKeyBinding::State::taken:
+        //: %1 is a command.
+        return notchStrings(QT_TRANSLATE_NOOP("notch", "Another program has these keys. In the desktop’s "
+                                                       "settings, bind others to: %1"))
+            .arg(command);
+    case HotKeyBinding::State::unbound:
+        //: %1 is a command.
+        return notchStrings(QT_TRANSLATE_NOOP("notch", "No keys are bound. In the desktop’s settings, bind "
+                                                       "some to: %1"))
+            .arg(command);
+    }
+    return {};
 }
 
 QString SettingsPresentation::budgetText() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "NotchKit/NotchController.h"
 #include "NotchKit/NotchSettings.h"
 
 #include <QPointer>
@@ -50,11 +51,14 @@ class SettingsPresentation : public QObject
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Kestrune::NotchSettings *settings READ settings WRITE setSettings REQUIRED)
+    Q_PROPERTY(Kestrune::NotchController *controller READ controller WRITE setController REQUIRED)
     Q_PROPERTY(QStringList openModeTitles READ openModeTitles CONSTANT)
     /// The place of the chosen mode among the titles.
     Q_PROPERTY(int openMode READ openMode WRITE setOpenMode NOTIFY openModeChanged)
     /// The hover delay in whole milliseconds: "120 ms".
     Q_PROPERTY(QString hoverDelayText READ hoverDelayText NOTIFY hoverDelayChanged)
+    /// What came of the hot key, where it is not simply held as asked.
+    Q_PROPERTY(QString hotKeyText READ hotKeyText NOTIFY hotKeyTextChanged)
     Q_PROPERTY(QString budgetText READ budgetText NOTIFY budgetChanged)
     Q_PROPERTY(QStringList columnTitles READ columnTitles CONSTANT)
     /// Every block of Home, in its order.
@@ -68,6 +72,9 @@ public:
     NotchSettings *settings() const { return m_settings; }
     void setSettings(NotchSettings *settings);
 
+    NotchController *controller() const { return m_controller; }
+    void setController(NotchController *controller);
+
     static QStringList openModeTitles();
     int openMode() const;
     void setOpenMode(int mode);
@@ -75,6 +82,8 @@ public:
     QString hoverDelayText() const;
     /// Takes a slider's value, in seconds, rounded to its steps of 0.05.
     Q_INVOKABLE void setHoverDelay(double seconds);
+
+    QString hotKeyText() const;
 
     QString budgetText() const;
     /// Takes what is typed: no digit at all is 0, and what is no number changes nothing.
@@ -92,12 +101,14 @@ public:
 Q_SIGNALS:
     void openModeChanged();
     void hoverDelayChanged();
+    void hotKeyTextChanged();
     void budgetChanged();
     void homeRowsChanged();
     void toolsChanged();
 
 private:
     QPointer<NotchSettings> m_settings;
+    QPointer<NotchController> m_controller;
 };
 
 } // namespace Kestrune

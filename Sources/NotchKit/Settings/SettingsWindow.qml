@@ -7,6 +7,7 @@ DesktopWindow {
     id: window
 
     required property NotchSettings settings
+    required property NotchController controller
     required property Updater updater
     required property QtObject app // `launchAtLogin`, `openSuitePage()`
 
@@ -58,6 +59,7 @@ DesktopWindow {
                 NotchSettingsView {
                     width: parent.width
                     settings: window.settings
+                    controller: window.controller
                 }
                 FormSection {
                     width: parent.width

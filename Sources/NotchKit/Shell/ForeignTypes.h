@@ -1,6 +1,7 @@
 #pragma once
 
 #include "NotchKit/AirDrop.h"
+#include "NotchKit/NotchController.h"
 #include "NotchKit/NotchScreenModel.h"
 #include "NotchKit/NotchServices.h"
 #include "NotchKit/NotchSettings.h"
@@ -48,6 +49,7 @@ KESTRUNE_VIEW_TYPE(CapturesModel);
 KESTRUNE_VIEW_TYPE(ClipboardModel);
 KESTRUNE_VIEW_TYPE(AIUsageModel);
 KESTRUNE_VIEW_TYPE(MirrorModel);
+KESTRUNE_VIEW_TYPE(NotchController);
 KESTRUNE_VIEW_TYPE(NotchScreenModel);
 KESTRUNE_VIEW_TYPE(NotchServices);
 KESTRUNE_VIEW_TYPE(NotchSettings);

@@ -381,8 +381,14 @@ private Q_SLOTS:
         SettingsWindow holder(engine, *stage.app, updater, appearance);
         holder.open();
         QVERIFY(QTest::qWaitForWindowExposed(holder.window()));
-        holder.window()->grabWindow();
-        report(misfits(holder.window()->contentItem()));
+        QStringList found;
+        using State = HotKeyBinding::State;
+        for (const State state : {State::asked, State::chosen, State::taken, State::unbound}) {
+            stage.hotKeys.bind({state, QString(80, u'x')});
+            holder.window()->grabWindow();
+            found += misfits(holder.window()->contentItem());
+        }
+        report(found);
     }
 
     void updatesFit_data() { languages(); }
