@@ -20,7 +20,13 @@ struct ServiceStandIn : QDBusVirtualObject
     {
         m_connection.registerVirtualObject(QStringLiteral("/"), this, QDBusConnection::SubPath);
     }
-    ~ServiceStandIn() override { QDBusConnection::disconnectFromBus(m_name); }
+    ~ServiceStandIn() override
+    {
+        // A call that has not been delivered yet must not outlive the connection that it came over.
+        m_connection.unregisterObject(QStringLiteral("/"), QDBusConnection::UnregisterTree);
+        QCoreApplication::removePostedEvents(this);
+        QDBusConnection::disconnectFromBus(m_name);
+    }
     Q_DISABLE_COPY_MOVE(ServiceStandIn)
 
     /// The service appears on the bus.
