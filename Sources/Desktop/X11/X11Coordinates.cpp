@@ -1,23 +1,13 @@
 #include "X11Coordinates.h"
 
+#include "Desktop/Screens/Points.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 
 namespace Kestrune::X11 {
 
 namespace {
-
-/// Qt's y of the main display's bottom edge, where y is 0 in points.
-double baseline()
-{
-    const QScreen *main = QGuiApplication::primaryScreen();
-    return main ? QRectF(main->geometry()).bottom() : 0;
-}
-
-QRectF turned(const QRectF &rect)
-{
-    return {rect.x(), baseline() - rect.y() - rect.height(), rect.width(), rect.height()};
-}
 
 /// A screen keeps its place in device pixels; only its size is divided by its scale.
 QRectF pixelsOf(const QScreen &screen)
@@ -28,22 +18,16 @@ QRectF pixelsOf(const QScreen &screen)
 
 } // namespace
 
-QRectF frameOf(const QScreen &screen) { return turned(screen.geometry()); }
-
-QRectF toQt(const QRectF &points) { return turned(points); }
-
 QPointF toPoints(int x, int y)
 {
     const QPointF centre(x + 0.5, y + 0.5);
-    QPointF place = centre;
     for (const QScreen *screen : QGuiApplication::screens()) {
         const QRectF pixels = pixelsOf(*screen);
-        if (pixels.contains(centre)) {
-            place = pixels.topLeft() + (centre - pixels.topLeft()) / screen->devicePixelRatio();
-            break;
-        }
+        if (pixels.contains(centre))
+            return Points::fromQt(pixels.topLeft() +
+                                  (centre - pixels.topLeft()) / screen->devicePixelRatio());
     }
-    return {place.x(), baseline() - place.y()};
+    return Points::fromQt(centre);
 }
 
 } // namespace Kestrune::X11

@@ -1,6 +1,6 @@
 #include "X11Desktop.h"
 
-#include "Log.h"
+#include "Desktop/Screens/Log.h"
 #include "X11Connection.h"
 
 #include <QCoreApplication>

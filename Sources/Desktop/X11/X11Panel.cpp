@@ -1,10 +1,9 @@
 #include "X11Panel.h"
 
+#include "Desktop/Screens/Points.h"
 #include "X11Connection.h"
-#include "X11Coordinates.h"
 #include "X11Desktop.h"
 
-#include <QGuiApplication>
 #include <QRegion>
 #include <QScreen>
 
@@ -61,15 +60,6 @@ bool focus(xcb_window_t window)
     return !error;
 }
 
-QScreen *screenAt(const QRectF &qtFrame)
-{
-    for (QScreen *screen : QGuiApplication::screens()) {
-        if (QRectF(screen->geometry()).contains(QPointF(qtFrame.center().x(), qtFrame.top() + 1)))
-            return screen;
-    }
-    return QGuiApplication::primaryScreen();
-}
-
 xcb_window_t createHitWindow()
 {
     const xcb_window_t window = xcb_generate_id(X11::connection());
@@ -122,8 +112,8 @@ void X11Panel::announceType() const
 void X11Panel::setFrame(const QRectF &frame)
 {
     m_frame = frame;
-    const QRectF qtFrame = X11::toQt(frame);
-    m_window->setScreen(screenAt(qtFrame));
+    const QRectF qtFrame = Points::toQt(frame);
+    m_window->setScreen(Points::screenAt(qtFrame));
     m_window->setGeometry(QRect(QPoint(qRound(qtFrame.x()), qRound(qtFrame.y())), qtFrame.size().toSize()));
     if (m_window->handle()) {
         applyHitArea();
@@ -149,7 +139,7 @@ void X11Panel::orderOut()
 
 QRect X11Panel::pixelsInPanel(const QRectF &points) const
 {
-    const QRectF local = X11::toQt(points).translated(-m_window->position());
+    const QRectF local = Points::toQt(points).translated(-m_window->position());
     const double scale = m_window->devicePixelRatio();
     return pixelsWithin(QRectF(local.topLeft() * scale, local.size() * scale));
 }

@@ -58,8 +58,7 @@ bool X11Pointer::nativeEventFilter(const QByteArray &, void *message, qintptr *)
         m_watching = true;
     if (isRawPress(event)) {
         m_watching = true;
-        if (!m_press)
-            m_press = query().location;
+        m_presses.press(query().location);
     }
     return false;
 }
@@ -109,15 +108,7 @@ void X11Pointer::observe()
 PointerSample X11Pointer::sample()
 {
     observe();
-    PointerSample sample = m_last;
-    // A press since the last sample is a new one even if the button was down then: one sample says that it
-    // was let go, the next that it was pressed.
-    if (m_press && m_wasDown)
-        sample.primaryDown = false;
-    else if (const auto press = std::exchange(m_press, std::nullopt); press && !sample.primaryDown)
-        sample = {*press, true};
-    m_wasDown = sample.primaryDown;
-    return sample;
+    return m_presses.sample(m_last);
 }
 
 } // namespace Kestrune

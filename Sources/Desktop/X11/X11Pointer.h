@@ -1,11 +1,10 @@
 #pragma once
 
-#include "NotchKit/Platform/Pointer.h"
+#include "Desktop/Screens/PressLatch.h"
 
 #include <QAbstractNativeEventFilter>
 
 #include <memory>
-#include <optional>
 
 #include <xcb/xcb.h>
 
@@ -42,11 +41,10 @@ private:
 
     std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
     uint8_t m_inputOpcode = 0;
-    PointerSample m_last;           ///< The last answer.
-    int m_cached = 0;               ///< Samples since it was asked for.
-    bool m_watching = true;         ///< The next sample asks.
-    std::optional<QPointF> m_press; ///< Where the primary button went down since the last sample.
-    bool m_wasDown = false;         ///< In the last sample.
+    PointerSample m_last;   ///< The last answer.
+    int m_cached = 0;       ///< Samples since it was asked for.
+    bool m_watching = true; ///< The next sample asks.
+    PressLatch m_presses;
 };
 
 } // namespace Kestrune

@@ -1,10 +1,9 @@
 #include "X11WindowSystem.h"
 
-#include "Log.h"
+#include "Desktop/Screens/ScreenDisplays.h"
 #include "NotchKit/Platform/WindowSystem.h"
 #include "X11Connection.h"
 #include "X11Desktop.h"
-#include "X11Displays.h"
 #include "X11DragPasteboard.h"
 #include "X11HotKeys.h"
 #include "X11Panel.h"
@@ -12,8 +11,6 @@
 #include "X11Pointer.h"
 
 namespace Kestrune {
-
-Q_LOGGING_CATEGORY(windowsLog, "kestrune.windows", QtWarningMsg)
 
 namespace {
 
@@ -36,7 +33,7 @@ public:
 
 private:
     X11Desktop m_desktop;
-    X11Displays m_displays;
+    ScreenDisplays m_displays;
     X11Pointer m_pointer;
     X11HotKeys m_hotKeys;
     X11DragPasteboard m_drags;

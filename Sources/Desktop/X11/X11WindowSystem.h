@@ -10,6 +10,8 @@ class WindowSystem;
 /// An X server, or the one for guests in a Wayland session.
 struct X11WindowSystem
 {
+    static constexpr auto kName = "x11";
+
     /// Qt's name for it; Qt must run on it before one is made.
     static constexpr auto kQtPlatform = "xcb";
 

@@ -4,7 +4,7 @@
 
 namespace Kestrune {
 
-/// "kestrune.windows": displays, the compositor.
+/// "kestrune.windows": displays, the window system and its compositor.
 Q_DECLARE_LOGGING_CATEGORY(windowsLog)
 
 } // namespace Kestrune

@@ -8,13 +8,13 @@ class QScreen;
 
 namespace Kestrune {
 
-/// The X server's outputs. They report no camera housing; the user can describe one (CameraHousings).
-class X11Displays : public Displays
+/// The displays as Qt knows them. They report no camera housing; the user can describe one (CameraHousings).
+class ScreenDisplays : public Displays
 {
     Q_OBJECT
 
 public:
-    explicit X11Displays(const UserDefaults &defaults, QObject *parent = nullptr);
+    explicit ScreenDisplays(const UserDefaults &defaults, QObject *parent = nullptr);
 
     QList<Display> all() const override;
     std::optional<Display> main() const override;

@@ -1,7 +1,7 @@
-#include "X11Displays.h"
+#include "ScreenDisplays.h"
 
 #include "Log.h"
-#include "X11Coordinates.h"
+#include "Points.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -10,7 +10,9 @@
 
 namespace Kestrune {
 
-X11Displays::X11Displays(const UserDefaults &defaults, QObject *parent)
+Q_LOGGING_CATEGORY(windowsLog, "kestrune.windows", QtWarningMsg)
+
+ScreenDisplays::ScreenDisplays(const UserDefaults &defaults, QObject *parent)
     : Displays(parent)
     , m_housings(defaults)
 {
@@ -34,14 +36,14 @@ X11Displays::X11Displays(const UserDefaults &defaults, QObject *parent)
     }
 }
 
-void X11Displays::watch(const QScreen *screen)
+void ScreenDisplays::watch(const QScreen *screen)
 {
     const auto settle = [this] { m_settle.start(); };
     connect(screen, &QScreen::geometryChanged, this, settle);
     connect(screen, &QScreen::physicalDotsPerInchChanged, this, settle);
 }
 
-QList<Display> X11Displays::all() const
+QList<Display> ScreenDisplays::all() const
 {
     QList<Display> displays;
     for (const QScreen *screen : QGuiApplication::screens()) {
@@ -54,7 +56,7 @@ QList<Display> X11Displays::all() const
     return displays;
 }
 
-std::optional<Display> X11Displays::main() const
+std::optional<Display> ScreenDisplays::main() const
 {
     const QScreen *screen = QGuiApplication::primaryScreen();
     if (!screen || screen->name().isEmpty())
@@ -62,12 +64,12 @@ std::optional<Display> X11Displays::main() const
     return describe(*screen);
 }
 
-Display X11Displays::describe(const QScreen &screen) const
+Display ScreenDisplays::describe(const QScreen &screen) const
 {
-    return m_housings.describe(screen.name(), X11::frameOf(screen));
+    return m_housings.describe(screen.name(), Points::frameOf(screen));
 }
 
-void X11Displays::housingsChanged()
+void ScreenDisplays::housingsChanged()
 {
     if (m_housings.reload())
         m_settle.start();

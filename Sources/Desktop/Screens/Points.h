@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+
+class QScreen;
+
+/// Qt counts from the top left; the program counts points from the bottom left of the main display. Here one
+/// turns into the other. Main thread only.
+namespace Kestrune::Points {
+
+/// A screen's frame in points, y growing upwards.
+QRectF frameOf(const QScreen &screen);
+
+/// A rectangle in points, y growing upwards, in Qt's own coordinates, y growing downwards.
+QRectF toQt(const QRectF &points);
+
+/// A place in Qt's own coordinates in points, y growing upwards.
+QPointF fromQt(const QPointF &place);
+
+/// The screen that a panel in that frame belongs to, in Qt's own coordinates: the one that has the middle of
+/// its upper edge, or the main one; null while there is none.
+QScreen *screenAt(const QRectF &qtFrame);
+
+} // namespace Kestrune::Points
