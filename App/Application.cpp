@@ -9,7 +9,8 @@
 namespace Kestrune {
 
 Application::Application(const QDBusConnection &bus, const WindowSystemChoice &windows)
-    : m_bus(bus)
+    : m_windows(windows)
+    , m_bus(bus)
     , m_desktop(bus, windows)
     , m_platform(m_desktop.platform())
     , m_updater(makeUpdater(m_platform))
@@ -37,7 +38,7 @@ void Application::run(const LaunchRequest &request)
     m_statusItem = std::make_unique<BusStatusItem>(m_bus, NotchBranding::fennivar().name, trayIcon);
     m_menu = std::make_unique<AppMenu>(*m_state, *m_updater, *m_statusItem);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());
-    m_control = std::make_unique<ControlService>(*m_state, *m_keys);
+    m_control = std::make_unique<ControlService>(*m_state, *m_keys, m_windows);
     m_bus.registerObject(ControlService::objectPath(), m_control.get(),
                          QDBusConnection::ExportScriptableSlots);
 }

@@ -21,7 +21,7 @@ namespace Kestrune {
 class Application
 {
 public:
-    /// Nothing is on screen yet.
+    /// Nothing is on screen yet. `windows` outlives the program.
     Application(const QDBusConnection &bus, const WindowSystemChoice &windows);
 
     /// Starts the program proper once it is known which other applications run.
@@ -31,6 +31,7 @@ private:
     void run(const LaunchRequest &request);
     SettingsKeys makeKeys();
 
+    const WindowSystemChoice &m_windows;
     QDBusConnection m_bus;
     DesktopPlatform m_desktop;
     const Platform &m_platform;

@@ -8,10 +8,12 @@
 
 namespace Kestrune {
 
-ControlService::ControlService(AppState &app, SettingsKeys &settings, QObject *parent)
+ControlService::ControlService(AppState &app, SettingsKeys &settings, const WindowSystemChoice &windows,
+                               QObject *parent)
     : QObject(parent)
     , m_app(app)
     , m_settings(settings)
+    , m_windows(windows)
 {}
 
 void ControlService::Toggle() { m_app.toggle(); }
@@ -29,7 +31,7 @@ void ControlService::Reopen(const QString &tool)
     m_app.showNotch(fromRawValue<NotchTool>(tool).value_or(NotchTool::home));
 }
 
-QString ControlService::Status() { return QString::fromUtf8(statusReport(m_app)); }
+QString ControlService::Status() { return QString::fromUtf8(statusReport(m_app, m_windows)); }
 
 QString ControlService::GetSetting(const QString &key)
 {

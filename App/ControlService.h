@@ -8,6 +8,7 @@
 namespace Kestrune {
 
 class AppState;
+struct WindowSystemChoice;
 
 /// The running program on the session bus. Its calls come from the command line, from key bindings and
 /// from a second start. Main thread only.
@@ -21,8 +22,9 @@ public:
     static QString objectPath() { return QStringLiteral("/example/kestrune/Kestrune"); }
     static QString interfaceName() { return QStringLiteral("example.kestrune.Control"); }
 
-    /// Both outlive the service.
-    ControlService(AppState &app, SettingsKeys &settings, QObject *parent = nullptr);
+    /// All outlive the service.
+    ControlService(AppState &app, SettingsKeys &settings, const WindowSystemChoice &windows,
+                   QObject *parent = nullptr);
 
 public Q_SLOTS:
     /// Opens or closes the notch of the display under the pointer.
@@ -47,6 +49,7 @@ private:
 
     AppState &m_app;
     SettingsKeys &m_settings;
+    const WindowSystemChoice &m_windows;
 };
 
 } // namespace Kestrune

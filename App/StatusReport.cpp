@@ -1,6 +1,7 @@
 #include "StatusReport.h"
 
 #include "AppState.h"
+#include "WindowSystems.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -39,7 +40,7 @@ QJsonObject describe(const NotchController::Notch &notch)
 
 } // namespace
 
-QByteArray statusReport(AppState &app)
+QByteArray statusReport(AppState &app, const WindowSystemChoice &windows)
 {
     const NotchServices &services = app.services();
     QJsonArray displays;
@@ -53,6 +54,8 @@ QByteArray statusReport(AppState &app)
         {QStringLiteral("anyExpanded"), services.anyExpanded()},
         {QStringLiteral("hasActivity"), services.hasActivity()},
         {QStringLiteral("tools"), QJsonArray::fromStringList(rawValues(services.settings()->tools()))},
+        {QStringLiteral("windowSystem"), QString::fromLatin1(windows.name)},
+        {QStringLiteral("windowSystemReason"), windows.reason},
         {QStringLiteral("displays"), displays},
     };
     return QJsonDocument(report).toJson(QJsonDocument::Indented);

@@ -5,8 +5,9 @@
 namespace Kestrune {
 
 class AppState;
+struct WindowSystemChoice;
 
 /// What the program is doing, as JSON for scripts and tests. Lengths are points, origin bottom left.
-QByteArray statusReport(AppState &app);
+QByteArray statusReport(AppState &app, const WindowSystemChoice &windows);
 
 } // namespace Kestrune

@@ -107,16 +107,19 @@ int runProgram(int argc, char *argv[], const LaunchRequest &request)
                      LocalServices::kVariable);
         return 2;
     }
-    const WindowSystemChoice *windows = chooseWindowSystem();
+    QString fault;
+    const std::optional<WindowSystemChoice> windows = chooseWindowSystem(&fault);
     if (!windows) {
-        std::fputs("Kestrune: it needs a display; an X server, or the one of a Wayland session\n", stderr);
+        std::fprintf(stderr, "Kestrune: %s\n", qPrintable(fault));
         return 1;
     }
     TemporaryEnvironment environment = setUpPlatform(*windows);
     QGuiApplication application(argc, argv);
     environment.restore();
-    qCInfo(appLog, "version " KESTRUNE_VERSION ", windows by %s", windows->qtPlatform);
+    qCInfo(appLog, "version " KESTRUNE_VERSION ", windows by %s: %s", windows->name,
+           qUtf8Printable(windows->reason));
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setDesktopFileName(QStringLiteral("example.kestrune.Kestrune"));
     setUpFont();
     setUpDirection();
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "CompositorConnection.h"
 #include "DataControlDevice.h"
 #include "DataControlGlobals.h"
 #include "DataControlSource.h"
+#include "Desktop/Compositor/CompositorConnection.h"
 #include "Desktop/Pasteboard/PasteboardLoop.h"
 #include "PipeReader.h"
 

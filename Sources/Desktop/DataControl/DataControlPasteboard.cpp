@@ -1,26 +1,15 @@
 #include "DataControlPasteboard.h"
 
 #include "DataControlLoop.h"
+#include "Desktop/Compositor/CompositorGlobals.h"
 
 namespace Kestrune {
 
-using namespace std::chrono_literals;
-
 bool DataControlPasteboard::isThere(const QByteArray &display)
 {
-    CompositorConnection connection(display);
-    if (!connection.isAlive())
-        return false;
-    const DataControlGlobals globals(connection.get());
-    bool answered = false;
-    connection.whenCarriedOut([&answered] { answered = true; });
-    std::vector<pollfd> nothingElse;
-    const auto end = std::chrono::steady_clock::now() + 2s;
-    while (connection.isAlive() && !answered && std::chrono::steady_clock::now() < end) {
-        connection.sleep(nothingElse, PasteboardLoop::timeoutUntil(end));
-        connection.dispatch();
-    }
-    return answered && globals.hasManager();
+    const QSet<QByteArray> globals = compositorGlobals(display);
+    return globals.contains("ext_data_control_manager_v1") ||
+           globals.contains("zwlr_data_control_manager_v1");
 }
 
 DataControlPasteboard::DataControlPasteboard(const QByteArray &display)

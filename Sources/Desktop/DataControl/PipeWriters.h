@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Descriptor.h"
+#include "Desktop/Compositor/Descriptor.h"
 
 #include <QByteArray>
 #include <QtGlobal>

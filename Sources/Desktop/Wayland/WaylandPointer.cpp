@@ -1,0 +1,105 @@
+#include "WaylandPointer.h"
+
+#include <QDropEvent>
+#include <QMouseEvent>
+#include <QThread>
+#include <QWindow>
+
+namespace Kestrune {
+
+namespace {
+
+constexpr QPointF kOutside(-1e6, -1e6); // No display is there.
+constexpr int kLongestRest = 2000;      // ms
+
+} // namespace
+
+void WaylandPointer::watch(QWindow &window, const QRectF &frame)
+{
+    if (!m_panels.contains(&window))
+        window.installEventFilter(this);
+    m_panels.insert(&window, frame);
+}
+
+void WaylandPointer::forget(QWindow &window)
+{
+    window.removeEventFilter(this);
+    if (m_panels.remove(&window))
+        left();
+}
+
+void WaylandPointer::pressOutside() { m_presses.press(kOutside); }
+
+PointerSample WaylandPointer::sample()
+{
+    // A drag runs in an event loop of its own. Once that is over the button is up, and no event says so.
+    if (m_dragging && QThread::currentThread()->loopLevel() <= m_loops)
+        m_dragging = m_down = false;
+    if (m_restsAfterDrop.hasExpired())
+        left();
+    return m_presses.sample({m_over ? m_seen : kOutside, m_down});
+}
+
+bool WaylandPointer::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::Enter:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+        moved(watched, static_cast<const QSinglePointEvent &>(*event));
+        break;
+    case QEvent::DragEnter:
+    case QEvent::DragMove:
+        see(watched, static_cast<const QDropEvent &>(*event).position());
+        m_down = true;
+        break;
+    case QEvent::Drop:
+        m_down = m_dragging = false;
+        m_restsAfterDrop.setRemainingTime(kLongestRest);
+        break;
+    case QEvent::Leave:
+        left();
+        break;
+    case QEvent::DragLeave:
+        if (m_restsAfterDrop.isForever())
+            left();
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void WaylandPointer::see(const QObject *window, const QPointF &place)
+{
+    const QRectF frame = m_panels.value(window);
+    m_seen = {frame.left() + place.x(), frame.bottom() - place.y()};
+    m_over = true;
+    m_restsAfterDrop = QDeadlineTimer(QDeadlineTimer::Forever);
+}
+
+void WaylandPointer::moved(const QObject *window, const QSinglePointEvent &event)
+{
+    see(window, event.position());
+    if (event.type() == QEvent::Enter)
+        m_dragging = false; // While something is dragged, it enters as a drag.
+    const bool down = event.type() != QEvent::Enter && event.buttons().testFlag(Qt::LeftButton);
+    if (down && !m_down) {
+        m_presses.press(m_seen);
+        m_loops = QThread::currentThread()->loopLevel();
+    }
+    m_down = down;
+}
+
+void WaylandPointer::left()
+{
+    // A held button keeps the pointer with the panel, unless it drags something out of it.
+    m_dragging = m_dragging || (m_over && m_down && QThread::currentThread()->loopLevel() > m_loops);
+    m_down = m_dragging;
+    m_over = false;
+    m_restsAfterDrop = QDeadlineTimer(QDeadlineTimer::Forever);
+}
+
+} // namespace Kestrune

@@ -1,0 +1,164 @@
+#include "EndToEnd/Wayland/Compositor.h"
+
+#include "EndToEnd/Waiting.h"
+#include "EndToEnd/Wayland/WaylandInput.h"
+#include "Support/TestRegistry.h"
+
+#include <linux/input-event-codes.h>
+#include <unistd.h>
+
+constexpr auto swayConfiguration = R"(
+output * mode 1280x800
+output HEADLESS-1 pos 0 0
+output * bg #7090b0 solid_color
+default_border none
+xwayland disable
+)";
+
+// Displays come and go by key alone.
+constexpr auto labwcConfiguration = R"(<labwc_config><keyboard>
+  <keybind key="W-F1"><action name="VirtualOutputAdd" output_name="SIDE"/></keybind>
+  <keybind key="W-F2"><action name="VirtualOutputRemove" output_name="SIDE"/></keybind>
+</keyboard></labwc_config>
+)";
+
+Compositor::Compositor(Kind kind, QProcessEnvironment &environment)
+    : m_kind(kind)
+    , m_environment(environment)
+    , m_process([&] {
+        QProcessEnvironment own = environment;
+        own.insert(u"WLR_BACKENDS"_s, u"headless"_s);
+        own.insert(u"WLR_LIBINPUT_NO_DEVICES"_s, u"1"_s);
+        own.insert(u"WLR_RENDERER"_s, u"pixman"_s);
+        own.insert(u"XDG_RUNTIME_DIR"_s, m_folder.path());
+        own.insert(u"KWIN_WAYLAND_NO_PERMISSION_CHECKS"_s, u"1"_s); // Else it takes no input from a test.
+        return own;
+    }())
+{
+    m_process.setStandardOutputFile(QProcess::nullDevice());
+    m_process.setStandardErrorFile(QProcess::nullDevice());
+    switch (kind) {
+    case Kind::Sway:
+        startSway();
+        break;
+    case Kind::Labwc:
+        startLabwc();
+        break;
+    case Kind::KWin:
+        startKWin();
+        break;
+    }
+}
+
+Compositor::~Compositor() { m_process.stop(); }
+
+void Compositor::startSway()
+{
+    const QString configuration = m_folder.filePath(u"sway"_s);
+    if (writeFile(configuration, swayConfiguration) &&
+        launchUnprivileged(u"sway"_s, {u"-c"_s, configuration}))
+        awaitSocket(u"wayland-1"_s);
+    const QStringList ipc = QDir(m_folder.path()).entryList({u"sway-ipc.*"_s}, QDir::System);
+    m_environment.insert(u"SWAYSOCK"_s, m_folder.filePath(ipc.value(0)));
+}
+
+void Compositor::startLabwc()
+{
+    if (writeFile(m_folder.filePath(u"rc.xml"_s), labwcConfiguration) &&
+        m_process.launch(u"labwc"_s, {u"-C"_s, m_folder.path()}) && awaitSocket(u"wayland-0"_s))
+        run(u"wlr-randr"_s, {u"--output"_s, outputs().value(0), u"--custom-mode"_s, u"1280x800"_s});
+}
+
+void Compositor::startKWin()
+{
+    if (m_process.launch(u"kwin_wayland"_s, {u"--virtual"_s, u"--width"_s, u"1280"_s, u"--height"_s, u"800"_s,
+                                             u"--output-count"_s, u"2"_s, u"--no-lockscreen"_s, u"--socket"_s,
+                                             u"wayland-0"_s}) &&
+        awaitSocket(u"wayland-0"_s))
+        run(u"kscreen-doctor"_s, {u"output.Virtual-1.disable"_s});
+}
+
+/// As nobody where the tests run as root, as which it refuses to run.
+bool Compositor::launchUnprivileged(const QString &program, const QStringList &arguments)
+{
+    constexpr uid_t nobody = 65534;
+    if (::geteuid() != 0)
+        return m_process.launch(program, arguments);
+    QProcessEnvironment own = m_process.processEnvironment();
+    for (const auto &name : {u"HOME"_s, u"XDG_CONFIG_HOME"_s, u"XDG_CACHE_HOME"_s})
+        own.insert(name, m_folder.path());
+    m_process.setProcessEnvironment(own);
+    const QStringList words{u"--reuid=nobody"_s, u"--regid=nogroup"_s, u"--clear-groups"_s,
+                            u"--pdeathsig=KILL"_s, program};
+    return ::chown(QFile::encodeName(m_folder.path()).constData(), nobody, nobody) == 0 &&
+           m_process.launch(u"setpriv"_s, words + arguments);
+}
+
+bool Compositor::awaitSocket(const QString &name)
+{
+    const QString socket = m_folder.filePath(name);
+    if (!waitUntil([&] { return QFile::exists(socket) || m_process.state() == QProcess::NotRunning; }) ||
+        m_process.state() == QProcess::NotRunning)
+        return false;
+    m_environment.insert(u"WAYLAND_DISPLAY"_s, socket);
+    m_socket = socket;
+    return true;
+}
+
+QByteArray Compositor::run(const QString &program, const QStringList &arguments) const
+{
+    ChildProcess process(m_environment);
+    process.setProcessChannelMode(QProcess::SeparateChannels);
+    process.launch(program, arguments);
+    if (!process.waitForFinished(60000) || process.exitCode() != 0)
+        qWarning("%s: %s", qPrintable(program), process.readAllStandardError().constData());
+    return process.readAllStandardOutput();
+}
+
+QStringList Compositor::outputs() const
+{
+    if (m_kind == Kind::KWin)
+        return {u"Virtual-0"_s, u"Virtual-1"_s};
+    QStringList names;
+    for (const auto &output : QJsonDocument::fromJson(run(u"wlr-randr"_s, {u"--json"_s})).array())
+        names.append(output.toObject().value("name"_L1).toString());
+    names.sort(); // "HEADLESS-1" before those that came later.
+    return names;
+}
+
+bool Compositor::plugSecond(bool plugged, WaylandInput &input)
+{
+    const qsizetype count = plugged ? 2 : 1;
+    if (m_kind == Kind::KWin) {
+        run(u"kscreen-doctor"_s, {plugged ? u"output.Virtual-1.enable"_s : u"output.Virtual-1.disable"_s});
+        return true;
+    }
+    if (m_kind == Kind::Sway) {
+        run(u"swaymsg"_s, plugged ? QStringList{u"create_output"_s}
+                                  : QStringList{u"output"_s, outputs().value(1), u"unplug"_s});
+    } else {
+        input.key(KEY_LEFTMETA, true);
+        input.tap(plugged ? KEY_F1 : KEY_F2);
+        input.key(KEY_LEFTMETA, false);
+    }
+    return waitUntil([&] { return outputs().size() == count; });
+}
+
+bool Compositor::setScale(int index, double scale)
+{
+    const QString output = outputs().value(index);
+    if (m_kind == Kind::KWin)
+        run(u"kscreen-doctor"_s, {u"output.%1.scale.%2"_s.arg(output).arg(scale)});
+    else
+        run(u"wlr-randr"_s, {u"--output"_s, output, u"--scale"_s, QString::number(scale)});
+    return true;
+}
+
+QImage Compositor::picture() const
+{
+    if (m_kind == Kind::KWin)
+        return {};
+    const QString file = m_folder.filePath(u"picture.png"_s);
+    run(u"grim"_s, {u"-o"_s, outputs().value(0), file});
+    return QImage(file);
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "EndToEnd/ChildProcess.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+
+class WaylandInput;
+
+/// A Wayland compositor without a screen, with one display of 1280 x 800.
+class Compositor
+{
+public:
+    enum class Kind { Sway, Labwc, KWin };
+
+    /// Starts it and tells `environment`, which its clients get, how to reach it.
+    Compositor(Kind kind, QProcessEnvironment &environment);
+    ~Compositor();
+    Q_DISABLE_COPY_MOVE(Compositor)
+
+    /// With its folder; empty when it did not start.
+    QString socket() const { return m_socket; }
+
+    /// Plugs in or unplugs a display right of the first one.
+    bool plugSecond(bool plugged, WaylandInput &input);
+
+    /// Sets the scale of the display number `index`.
+    bool setScale(int index, double scale);
+
+    /// What the first display shows; null on a compositor that lets nobody look.
+    QImage picture() const;
+
+private:
+    void startSway();
+    void startLabwc();
+    void startKWin();
+    bool launchUnprivileged(const QString &program, const QStringList &arguments);
+    bool awaitSocket(const QString &name);
+    QByteArray run(const QString &program, const QStringList &arguments) const;
+    QStringList outputs() const;
+
+    QTemporaryDir m_folder; ///< Of its sockets and configuration.
+    Kind m_kind;
+    QProcessEnvironment &m_environment;
+    QString m_socket;
+    ChildProcess m_process;
+};

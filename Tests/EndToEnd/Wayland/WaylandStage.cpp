@@ -1,0 +1,46 @@
+#include "EndToEnd/Wayland/WaylandStage.h"
+
+WaylandStage::WaylandStage(Compositor::Kind kind, const QStringList &otherProgram)
+    : compositor(kind, session.environment())
+    , input(compositor.socket())
+    , other(session.environment(), otherProgram)
+{
+    session.environment().remove(u"QT_QPA_PLATFORM"_s);
+    if (!input.isReady())
+        qFatal("the compositor did not start, or takes no input");
+}
+
+bool WaylandStage::run(Settings settings)
+{
+    session.setFlag(u"kestrune"_s, u"kestrune.welcomed"_s, true);
+    for (const auto &[name, value] : settings) {
+        if (!session.set(QString::fromLatin1(name), QString::fromLatin1(value)))
+            return false;
+    }
+    input.move(Place::away);
+    return waitUntil([this] { return other.hasFocus(); }) && session.start() &&
+           waitUntil([this] { return session.displays().size() == 1; });
+}
+
+bool WaylandStage::waitOpen(int display) const
+{
+    return waitUntil([&] { return session.isOpen(display); });
+}
+
+bool WaylandStage::waitClosed(int display) const
+{
+    return waitUntil([&] { return !session.isOpen(display); });
+}
+
+bool WaylandStage::clickReachesOther(QPoint place)
+{
+    const qsizetype before = other.count(u"press"_s);
+    input.move(place);
+    // The place belongs to the other window with the program's next frame.
+    return waitUntil(
+        [&] {
+            input.click(place);
+            return waitUntil([&] { return other.count(u"press"_s) > before; }, 500);
+        },
+        5000);
+}

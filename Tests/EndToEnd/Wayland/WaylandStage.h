@@ -1,0 +1,73 @@
+#pragma once
+
+#include "EndToEnd/Session.h"
+#include "EndToEnd/Waiting.h"
+#include "EndToEnd/Wayland/Compositor.h"
+#include "EndToEnd/Wayland/WaylandInput.h"
+#include "Support/TestRegistry.h"
+
+#include <initializer_list>
+
+/// Where things are on a display of 1280 x 800, from the top left.
+namespace Place {
+
+constexpr QPoint notch(640, 16);      ///< Inside the closed notch.
+constexpr QPoint panel(640, 200);     ///< Inside the open notch only.
+constexpr QPoint panelEdge(640, 324); ///< Inside the fully open notch only.
+constexpr QPoint beside(220, 200);    ///< Inside the panel's surface, outside the open notch.
+constexpr QPoint below(640, 60);      ///< Outside the closed notch.
+constexpr QPoint away(640, 600);      ///< Outside the surface.
+constexpr QPoint pin(938, 20);
+constexpr QPoint secondCopy(480, 137); ///< The second copy in the clipboard's pane.
+constexpr QPoint onlyTile(640, 120);   ///< The one file on the shelf.
+
+} // namespace Place
+
+/// A window of another program on the same compositor; it covers the display and says what happens to it.
+class OtherProgram : public ChildProcess
+{
+    Q_OBJECT
+
+public:
+    OtherProgram(const QProcessEnvironment &environment, const QStringList &arguments)
+        : ChildProcess(environment)
+    {
+        setProcessChannelMode(QProcess::SeparateChannels);
+        launch(QStringLiteral(KESTRUNE_OTHER_PROGRAM), arguments);
+    }
+
+    /// How often it has said `line`.
+    qsizetype count(const QString &line)
+    {
+        m_said += QString::fromUtf8(readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        return m_said.count(line);
+    }
+    bool hasFocus() { return count(QStringLiteral("focus")) > count(QStringLiteral("no focus")); }
+
+private:
+    QStringList m_said;
+};
+
+/// One test's desktop: session, compositor, another program's window, and Kestrune once `run` was called.
+struct WaylandStage
+{
+    using Settings = std::initializer_list<std::pair<const char *, const char *>>;
+
+    WaylandStage(Compositor::Kind kind, const QStringList &otherProgram);
+    ~WaylandStage() { session.endProgram(); }
+    Q_DISABLE_COPY_MOVE(WaylandStage)
+
+    /// Starts the program, which has been started before, with these settings; the pointer is elsewhere.
+    bool run(Settings settings = {});
+
+    bool waitOpen(int display = 0) const;
+    bool waitClosed(int display = 0) const;
+
+    /// Clicks there and says whether the other program got it.
+    bool clickReachesOther(QPoint place);
+
+    Session session;
+    Compositor compositor;
+    WaylandInput input;
+    OtherProgram other;
+};

@@ -1,0 +1,242 @@
+#include "EndToEnd/Wayland/WaylandStage.h"
+
+#include <linux/input-event-codes.h>
+
+// Lower limits on time are what is promised; upper ones leave room for a busy machine.
+constexpr int leaveDelay = 250;
+
+/// The real program as a native client of each compositor.
+class WaylandTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { m_stage.reset(); }
+
+    void hoverOpensAndLeavingCloses_data() { compositors(); }
+    void hoverOpensAndLeavingCloses()
+    {
+        QVERIFY(stage().run({{"hoverDelay", "0.5"}}));
+        QCOMPARE(session().status().value("windowSystem"_L1).toString(), u"wayland"_s);
+        input().move(Place::notch);
+        const qint64 opened = timeUntil([&] { return session().isOpen(); });
+        QVERIFY2(opened >= 500, qPrintable(QString::number(opened)));
+        input().glide(Place::notch, Place::panel);
+        QVERIFY(holdsFor([&] { return session().isOpen(); }, 700));
+        QVERIFY(stage().other.hasFocus());
+
+        input().move(Place::away);
+        const qint64 closed = timeUntil([&] { return !session().isOpen(); });
+        QVERIFY2(closed >= leaveDelay, qPrintable(QString::number(closed)));
+        QCOMPARE(stage().other.count(u"no focus"_s), 0);
+    }
+
+    void clicksOpenAndPin_data() { compositors(); }
+    void clicksOpenAndPin()
+    {
+        QVERIFY(stage().run({{"openMode", "click"}}));
+        input().move(Place::notch);
+        QVERIFY(holdsFor([&] { return !session().isOpen(); }, 500));
+        input().click(Place::notch);
+        QVERIFY(stage().waitOpen());
+        input().glide(Place::notch, Place::pin);
+        input().click(Place::pin);
+        QTRY_VERIFY(session().display().value("pinned"_L1).toBool());
+        input().move(Place::away);
+        QVERIFY(holdsFor([&] { return session().isOpen(); }, 800));
+        input().click(Place::pin);
+        QTRY_VERIFY(!session().display().value("pinned"_L1).toBool());
+        input().move(Place::away);
+        QVERIFY(stage().waitClosed());
+
+        // A press that began elsewhere does not open it.
+        input().move(Place::away);
+        input().pressButton();
+        input().move(Place::notch);
+        QVERIFY(holdsFor([&] { return !session().isOpen(); }, 500));
+        input().releaseButton();
+    }
+
+    void clicksBesideReachTheOtherProgram_data() { compositors(); }
+    void clicksBesideReachTheOtherProgram()
+    {
+        QVERIFY(stage().run({{"hoverDelay", "0"}}));
+        for (const QPoint place : {Place::beside, Place::below})
+            QVERIFY(stage().clickReachesOther(place));
+        input().move(Place::notch);
+        QVERIFY(stage().waitOpen());
+        input().glide(Place::notch, Place::panel);
+        QVERIFY(stage().clickReachesOther(Place::beside));
+        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().clickReachesOther(Place::panel));
+        const qsizetype pressed = stage().other.count(u"press"_s);
+        input().click(Place::notch);
+        QVERIFY(holdsFor([&] { return stage().other.count(u"press"_s) == pressed; }, 500));
+    }
+
+    void theKeyboardIsTakenAndGivenBack_data() { compositors(); }
+    void theKeyboardIsTakenAndGivenBack()
+    {
+        QVERIFY(stage().run());
+        for (int round = 1; round <= 2; ++round) {
+            QCOMPARE(session().command({u"open"_s, u"note"_s}).status, 0);
+            QTRY_VERIFY(!stage().other.hasFocus());
+            QTest::qWait(300);
+            input().tap(KEY_A);
+            QTRY_COMPARE(session().setting(u"note"_s), QString(round, u'a'));
+            input().tap(KEY_ESC);
+            QVERIFY(stage().waitClosed());
+            QTRY_VERIFY(stage().other.hasFocus());
+            input().tap(KEY_H);
+            QTRY_COMPARE(stage().other.count(u"key h"_s), round);
+        }
+        QCOMPARE(stage().other.count(u"key a"_s), 0);
+    }
+
+    void aFullScreenWindowCoversIt_data() { compositors(); }
+    void aFullScreenWindowCoversIt()
+    {
+        setStage({u"full"_s});
+        QVERIFY(stage().run({{"hoverDelay", "0"}}));
+        QVERIFY(stage().clickReachesOther(Place::notch));
+        input().move(Place::away);
+        for (int round = 0; round < 2; ++round) {
+            QCOMPARE(session().command({u"open"_s, u"note"_s}).status, 0);
+            QVERIFY(stage().waitOpen());
+            QTRY_VERIFY(!stage().other.hasFocus());
+            QTRY_VERIFY(looksOpen());
+            QTest::qWait(300);
+            input().tap(KEY_ESC);
+            QVERIFY(stage().waitClosed());
+            QTRY_VERIFY(stage().other.hasFocus());
+        }
+        QVERIFY(stage().clickReachesOther(Place::notch));
+    }
+
+    void filesAreDraggedInAndOut_data() { compositors(); }
+    void filesAreDraggedInAndOut()
+    {
+        QTemporaryDir folder;
+        const QString file = folder.filePath(u"a 100% file.txt"_s);
+        QVERIFY(writeFile(file, "text"));
+        setStage({u"maximized"_s, file});
+        QVERIFY(stage().run());
+        input().move(Place::away);
+        input().pressButton();
+        input().glide(Place::away, Place::notch);
+        QVERIFY(stage().waitOpen());
+        QCOMPARE(session().selected(), u"shelf"_s);
+        input().glide(Place::notch, Place::panel);
+        input().releaseButton();
+        QTRY_COMPARE(session().setting(u"shelfPaths"_s), u"[\"%1\"]"_s.arg(file));
+
+        input().glide(Place::panel, Place::onlyTile);
+        QVERIFY(stage().waitOpen());
+        input().pressButton();
+        input().glide(Place::onlyTile, Place::away);
+        QVERIFY(session().isOpen()); // As long as the button is held.
+        input().releaseButton();
+        QTRY_COMPARE(stage().other.count(u"dropped "_s + file), 1);
+        QVERIFY(stage().waitClosed());
+    }
+
+    void copiesOfOtherProgramsAreKept_data() { compositors(); }
+    void copiesOfOtherProgramsAreKept()
+    {
+        QVERIFY(stage().run());
+        QStringList copied;
+        for (const QString &text : {u"eins"_s, u"二 zwei"_s}) {
+            copy(text);
+            copied.prepend(text);
+            QTRY_COMPARE(session().copiedTexts(), copied);
+        }
+        // The older one again, by a click, with the notch closed when another program asks for it.
+        QCOMPARE(session().command({u"open"_s, u"clipboard"_s}).status, 0);
+        QVERIFY(stage().waitOpen());
+        input().glide(Place::panel, Place::secondCopy);
+        input().click(Place::secondCopy);
+        QTRY_COMPARE(pasted(), u"eins"_s);
+        input().move(Place::away);
+        QVERIFY(stage().waitClosed());
+        QCOMPARE(pasted(), u"eins"_s);
+    }
+
+    void displaysComeAndGo_data() { compositors(); }
+    void displaysComeAndGo()
+    {
+        QVERIFY(stage().run({{"allDisplays", "true"}, {"hoverDelay", "0"}}));
+        QVERIFY(stage().compositor.plugSecond(true, input()));
+        QTRY_COMPARE(session().displays().size(), 2);
+        QVERIFY(stage().compositor.setScale(1, 1.25));
+        QTRY_COMPARE(session().display(1).value("frame"_L1).toObject().value("width"_L1).toDouble(), 1024.0);
+        input().setExtent({1280 + 1024, 800});
+        input().move({1280 + 512, 10});
+        QVERIFY(stage().waitOpen(1));
+        QVERIFY(!session().isOpen(0));
+        QVERIFY(stage().compositor.plugSecond(false, input()));
+        input().setExtent({1280, 800});
+        QTRY_COMPARE(session().displays().size(), 1);
+
+        qint64 memory = 0;
+        for (int round = 1; round <= 100; ++round) {
+            QVERIFY(stage().compositor.plugSecond(true, input()));
+            QTRY_VERIFY2(session().displays().size() == 2, qPrintable(QString::number(round)));
+            QVERIFY(stage().compositor.plugSecond(false, input()));
+            QTRY_VERIFY2(session().displays().size() == 1, qPrintable(QString::number(round)));
+            if (round == 20)
+                memory = session().ownMemory();
+        }
+        // One lost picture of a notch is more than a megabyte; eighty of them would not go unseen.
+        const qint64 growth = session().ownMemory() - memory;
+        QVERIFY2(memory > 0 && growth < 4096, qPrintable(u"%1 kB more"_s.arg(growth)));
+        input().move(Place::notch);
+        QVERIFY(stage().waitOpen());
+    }
+
+private:
+    static void compositors()
+    {
+        QTest::addColumn<Compositor::Kind>("kind");
+        QTest::newRow("sway") << Compositor::Kind::Sway;
+        QTest::newRow("labwc") << Compositor::Kind::Labwc;
+        QTest::newRow("KWin") << Compositor::Kind::KWin;
+    }
+
+    /// Also where nobody can look.
+    bool looksOpen()
+    {
+        const QImage picture = stage().compositor.picture();
+        return picture.isNull() || picture.pixelColor(Place::panelEdge) == QColor(Qt::black);
+    }
+
+    void copy(const QString &text)
+    {
+        ChildProcess client(session().environment());
+        client.launch(u"wl-copy"_s, {text}); // It stays in the background.
+        client.waitForFinished();
+    }
+    QString pasted()
+    {
+        ChildProcess client(session().environment());
+        client.setProcessChannelMode(QProcess::SeparateChannels);
+        client.launch(u"wl-paste"_s, {u"--no-newline"_s});
+        client.waitForFinished();
+        return QString::fromUtf8(client.readAllStandardOutput());
+    }
+
+    WaylandStage &setStage(const QStringList &otherProgram)
+    {
+        return m_stage.emplace(
+            *static_cast<Compositor::Kind *>(QTest::qData("kind", qMetaTypeId<Compositor::Kind>())),
+            otherProgram);
+    }
+    WaylandStage &stage() { return m_stage ? *m_stage : setStage({u"maximized"_s}); }
+    Session &session() { return stage().session; }
+    WaylandInput &input() { return stage().input; }
+
+    std::optional<WaylandStage> m_stage;
+};
+
+Q_DECLARE_METATYPE(Compositor::Kind)
+REGISTER_TEST(WaylandTest);
+#include "WaylandTest.moc"
