@@ -3,6 +3,8 @@
 #include <QGuiApplication>
 #include <QHash>
 
+#include <string_view>
+
 namespace Kestrune::X11 {
 
 bool canConnect()
@@ -11,6 +13,14 @@ bool canConnect()
     const bool reached = xcb_connection_has_error(attempt) == 0;
     xcb_disconnect(attempt);
     return reached;
+}
+
+bool isGuest()
+{
+    constexpr std::string_view name = "XWAYLAND";
+    const auto cookie = xcb_query_extension(connection(), name.size(), name.data());
+    const Reply<xcb_query_extension_reply_t> reply(xcb_query_extension_reply(connection(), cookie, nullptr));
+    return (reply && reply->present) || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
 }
 
 xcb_connection_t *connection()

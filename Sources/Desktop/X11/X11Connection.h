@@ -15,6 +15,10 @@ bool canConnect();
 /// The connection that Qt's own windows use; null when Qt does not run on X11.
 xcb_connection_t *connection();
 
+/// Whether the server is the one for guests in a Wayland session; older ones do not say so themselves, but
+/// the session does.
+bool isGuest();
+
 /// The root window of the default screen.
 xcb_window_t root();
 

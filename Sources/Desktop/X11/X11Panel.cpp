@@ -103,10 +103,11 @@ X11Panel::~X11Panel() { xcb_destroy_window(X11::connection(), m_hitWindow); }
 
 void X11Panel::announceType() const
 {
-    // Compositors draw neither shadows around docks nor effects when they appear.
-    const xcb_atom_t dock = X11::atom("_NET_WM_WINDOW_TYPE_DOCK");
+    // Compositors draw neither shadows around docks nor effects when they appear. Those of Wayland that give
+    // a guest's dock the keyboard give a utility none.
+    const std::array types{X11::atom("_NET_WM_WINDOW_TYPE_DOCK"), X11::atom("_NET_WM_WINDOW_TYPE_UTILITY")};
     xcb_change_property(X11::connection(), XCB_PROP_MODE_REPLACE, id(), X11::atom("_NET_WM_WINDOW_TYPE"),
-                        XCB_ATOM_ATOM, 32, 1, &dock);
+                        XCB_ATOM_ATOM, 32, X11::isGuest() ? 2 : 1, types.data());
 }
 
 void X11Panel::setFrame(const QRectF &frame)

@@ -17,7 +17,8 @@ namespace {
 Q_LOGGING_CATEGORY(pointerLog, "kestrune.pointer", QtWarningMsg)
 
 constexpr uint32_t kPrimaryButton = 1;
-constexpr int kMostCached = 8; // Samples, thirty a second.
+constexpr QPointF kOutside(-1e6, -1e6); // No display is there.
+constexpr int kMostCached = 8;          // Samples, thirty a second.
 
 /// Asks the server for raw button presses from every device.
 void selectRawPresses()
@@ -38,6 +39,8 @@ void selectRawPresses()
 
 X11Pointer::X11Pointer()
     : m_connection(xcb_connect(nullptr, nullptr))
+    , m_isGuest(X11::isGuest())
+    , m_away(m_isGuest)
 {
     const auto *extension = xcb_get_extension_data(X11::connection(), &xcb_input_id);
     if (!extension || !extension->present) {
@@ -54,8 +57,10 @@ X11Pointer::~X11Pointer() = default;
 bool X11Pointer::nativeEventFilter(const QByteArray &, void *message, qintptr *)
 {
     const auto &event = *static_cast<const xcb_generic_event_t *>(message);
-    if (isCrossing(event))
+    if (isCrossing(event)) {
         m_watching = true;
+        cross(event);
+    }
     if (isRawPress(event)) {
         m_watching = true;
         m_presses.press(query().location);
@@ -75,6 +80,21 @@ bool X11Pointer::isCrossing(const xcb_generic_event_t &event) const
     const int type = event.response_type & 0x7f;
     return type == XCB_ENTER_NOTIFY || type == XCB_LEAVE_NOTIFY || isInput(event, XCB_INPUT_ENTER) ||
            isInput(event, XCB_INPUT_LEAVE);
+}
+
+void X11Pointer::cross(const xcb_generic_event_t &event)
+{
+    const bool byInput = (event.response_type & 0x7f) == XCB_GE_GENERIC;
+    const auto &core = reinterpret_cast<const xcb_enter_notify_event_t &>(event);
+    const auto &input = reinterpret_cast<const xcb_input_enter_event_t &>(event);
+    // A grab that begins or ends moves nothing, and a child is still within.
+    const bool moved =
+        byInput ? input.mode == XCB_INPUT_NOTIFY_MODE_NORMAL : core.mode == XCB_NOTIFY_MODE_NORMAL;
+    const bool within = byInput ? input.detail == XCB_INPUT_NOTIFY_DETAIL_INFERIOR
+                                : core.detail == XCB_NOTIFY_DETAIL_INFERIOR;
+    if (!m_isGuest || !moved || within)
+        return;
+    m_away = byInput ? input.event_type == XCB_INPUT_LEAVE : (event.response_type & 0x7f) == XCB_LEAVE_NOTIFY;
 }
 
 bool X11Pointer::isRawPress(const xcb_generic_event_t &event) const
@@ -99,7 +119,9 @@ void X11Pointer::observe()
 {
     if (!m_watching && ++m_cached < kMostCached)
         return;
-    const PointerSample now = query();
+    PointerSample now = query();
+    if (m_away)
+        now.location = kOutside;
     m_watching = now != m_last || now.primaryDown;
     m_last = now;
     m_cached = 0;

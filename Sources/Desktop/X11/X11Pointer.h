@@ -17,6 +17,10 @@ namespace Kestrune {
 /// down anywhere, until it rests; and a few times a second in any case. In between the pointer may move
 /// elsewhere on the desktop unnoticed. The questions go over a connection of their own: on the one that
 /// Qt's event thread reads, each answer would wake that thread too.
+///
+/// As the guest of a Wayland compositor the server knows nothing of a pointer that is over a Wayland window,
+/// and leaves it where it last was. There the pointer counts as outside from when it left this program's
+/// windows until it enters one.
 class X11Pointer : public Pointer, private QAbstractNativeEventFilter
 {
 public:
@@ -37,10 +41,13 @@ private:
     bool isInput(const xcb_generic_event_t &event, uint16_t type) const;
     bool isCrossing(const xcb_generic_event_t &event) const;
     bool isRawPress(const xcb_generic_event_t &event) const;
+    void cross(const xcb_generic_event_t &event);
     void observe();
 
     std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
     uint8_t m_inputOpcode = 0;
+    bool m_isGuest;
+    bool m_away;            ///< Of a guest: over none of this program's windows.
     PointerSample m_last;   ///< The last answer.
     int m_cached = 0;       ///< Samples since it was asked for.
     bool m_watching = true; ///< The next sample asks.

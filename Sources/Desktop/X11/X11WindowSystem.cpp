@@ -1,6 +1,9 @@
 #include "X11WindowSystem.h"
 
+#include "Desktop/DataControl/DataControlPasteboard.h"
 #include "Desktop/Screens/ScreenDisplays.h"
+#include "Desktop/Shortcuts/MakePortalHotKeys.h"
+#include "GuestHotKeys.h"
 #include "NotchKit/Platform/WindowSystem.h"
 #include "X11Connection.h"
 #include "X11Desktop.h"
@@ -14,18 +17,35 @@ namespace Kestrune {
 
 namespace {
 
+std::unique_ptr<HotKeys> makeHotKeys()
+{
+    if (X11::isGuest())
+        return std::make_unique<GuestHotKeys>(makePortalHotKeys());
+    return std::make_unique<X11HotKeys>();
+}
+
+/// A guest is not told of all that is copied in Wayland windows; the compositor may tell whoever asks.
+std::unique_ptr<Pasteboard> makePasteboard()
+{
+    if (X11::isGuest() && DataControlPasteboard::isThere())
+        return std::make_unique<DataControlPasteboard>();
+    return std::make_unique<X11Pasteboard>();
+}
+
 class System : public WindowSystem
 {
 public:
     explicit System(const UserDefaults &defaults)
         : m_displays(defaults)
+        , m_hotKeys(makeHotKeys())
+        , m_pasteboard(makePasteboard())
     {}
 
     Displays &displays() override { return m_displays; }
     Pointer &pointer() override { return m_pointer; }
-    HotKeys &hotKeys() override { return m_hotKeys; }
+    HotKeys &hotKeys() override { return *m_hotKeys; }
     DragPasteboard &drags() override { return m_drags; }
-    Pasteboard &pasteboard() override { return m_pasteboard; }
+    Pasteboard &pasteboard() override { return *m_pasteboard; }
     std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> window, const QRectF &frame) override
     {
         return std::make_unique<X11Panel>(std::move(window), m_desktop, frame);
@@ -35,9 +55,9 @@ private:
     X11Desktop m_desktop;
     ScreenDisplays m_displays;
     X11Pointer m_pointer;
-    X11HotKeys m_hotKeys;
+    std::unique_ptr<HotKeys> m_hotKeys;
     X11DragPasteboard m_drags;
-    X11Pasteboard m_pasteboard;
+    std::unique_ptr<Pasteboard> m_pasteboard;
 };
 
 } // namespace

@@ -12,7 +12,6 @@ output * mode 1280x800
 output HEADLESS-1 pos 0 0
 output * bg #7090b0 solid_color
 default_border none
-xwayland disable
 )";
 
 // Displays come and go by key alone.
@@ -22,8 +21,9 @@ constexpr auto labwcConfiguration = R"(<labwc_config><keyboard>
 </keyboard></labwc_config>
 )";
 
-Compositor::Compositor(Kind kind, QProcessEnvironment &environment)
+Compositor::Compositor(Kind kind, bool guests, QProcessEnvironment &environment)
     : m_kind(kind)
+    , m_guests(guests)
     , m_environment(environment)
     , m_process([&] {
         QProcessEnvironment own = environment;
@@ -55,7 +55,8 @@ Compositor::~Compositor() { m_process.stop(); }
 void Compositor::startSway()
 {
     const QString configuration = m_folder.filePath(u"sway"_s);
-    if (writeFile(configuration, swayConfiguration) &&
+    const QString guests = m_guests ? u"exec %1\n"_s.arg(tellDisplay()) : u"xwayland disable\n"_s;
+    if (writeFile(configuration, swayConfiguration + guests.toUtf8()) &&
         launchUnprivileged(u"sway"_s, {u"-c"_s, configuration}))
         awaitSocket(u"wayland-1"_s);
     const QStringList ipc = QDir(m_folder.path()).entryList({u"sway-ipc.*"_s}, QDir::System);
@@ -71,10 +72,12 @@ void Compositor::startLabwc()
 
 void Compositor::startKWin()
 {
-    if (m_process.launch(u"kwin_wayland"_s, {u"--virtual"_s, u"--width"_s, u"1280"_s, u"--height"_s, u"800"_s,
-                                             u"--output-count"_s, u"2"_s, u"--no-lockscreen"_s, u"--socket"_s,
-                                             u"wayland-0"_s}) &&
-        awaitSocket(u"wayland-0"_s))
+    QStringList arguments{u"--virtual"_s, u"--width"_s,        u"1280"_s, u"--height"_s,
+                          u"800"_s,       u"--output-count"_s, u"2"_s,    u"--no-lockscreen"_s,
+                          u"--socket"_s,  u"wayland-0"_s};
+    if (m_guests)
+        arguments += {u"--xwayland"_s, tellDisplay()};
+    if (m_process.launch(u"kwin_wayland"_s, arguments) && awaitSocket(u"wayland-0"_s))
         run(u"kscreen-doctor"_s, {u"output.Virtual-1.disable"_s});
 }
 
@@ -102,12 +105,30 @@ bool Compositor::awaitSocket(const QString &name)
         return false;
     m_environment.insert(u"WAYLAND_DISPLAY"_s, socket);
     m_socket = socket;
+    const QString display = m_folder.filePath(u"display"_s);
+    if (!m_guests || !waitUntil([&] { return readFile(display).endsWith(".\n"); }))
+        return !m_guests;
+    const QStringList told = QString::fromUtf8(readFile(display)).split(u'\n');
+    m_environment.insert(u"DISPLAY"_s, told.value(0));
+    m_environment.insert(u"XAUTHORITY"_s, told.value(1));
     return true;
+}
+
+/// A program that writes down which X11 display the guests have, and what opens it.
+QString Compositor::tellDisplay() const
+{
+    const QString program = m_folder.filePath(u"tell"_s);
+    writeFile(program, "#!/bin/sh\nprintf '%s\\n%s\\n.\\n' \"$DISPLAY\" \"$XAUTHORITY\" >" +
+                           m_folder.filePath(u"display"_s).toUtf8() + '\n');
+    QFile::setPermissions(program, QFile::Permissions(0x5555) | QFile::WriteOwner);
+    return program;
 }
 
 QByteArray Compositor::run(const QString &program, const QStringList &arguments) const
 {
-    ChildProcess process(m_environment);
+    QProcessEnvironment environment = m_environment;
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"wayland"_s);
+    ChildProcess process(environment);
     process.setProcessChannelMode(QProcess::SeparateChannels);
     process.launch(program, arguments);
     if (!process.waitForFinished(60000) || process.exitCode() != 0)

@@ -13,8 +13,9 @@ class Compositor
 public:
     enum class Kind { Sway, Labwc, KWin };
 
-    /// Starts it and tells `environment`, which its clients get, how to reach it.
-    Compositor(Kind kind, QProcessEnvironment &environment);
+    /// Starts it, with Xwayland where X11's programs are to be its guests, and tells `environment`, which its
+    /// clients get, how to reach it.
+    Compositor(Kind kind, bool guests, QProcessEnvironment &environment);
     ~Compositor();
     Q_DISABLE_COPY_MOVE(Compositor)
 
@@ -38,9 +39,11 @@ private:
     bool awaitSocket(const QString &name);
     QByteArray run(const QString &program, const QStringList &arguments) const;
     QStringList outputs() const;
+    QString tellDisplay() const;
 
     QTemporaryDir m_folder; ///< Of its sockets and configuration.
     Kind m_kind;
+    bool m_guests;
     QProcessEnvironment &m_environment;
     QString m_socket;
     ChildProcess m_process;

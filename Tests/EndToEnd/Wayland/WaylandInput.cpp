@@ -126,7 +126,6 @@ void WaylandInput::sync()
 
 void WaylandInput::move(QPoint place)
 {
-    m_place = place;
     const auto [x, y] = std::pair(static_cast<uint32_t>(place.x()), static_cast<uint32_t>(place.y()));
     if (m_devices->pointer) {
         zwlr_virtual_pointer_v1_motion_absolute(m_devices->pointer, now(), x, y,
@@ -139,12 +138,25 @@ void WaylandInput::move(QPoint place)
     sync();
 }
 
+void WaylandInput::push(QPoint by)
+{
+    const auto [x, y] = std::pair(wl_fixed_from_int(by.x()), wl_fixed_from_int(by.y()));
+    if (m_devices->pointer)
+        zwlr_virtual_pointer_v1_motion(m_devices->pointer, now(), x, y);
+    else
+        org_kde_kwin_fake_input_pointer_motion(m_devices->fake, x, y);
+    sync();
+}
+
 void WaylandInput::glide(QPoint from, QPoint to)
 {
     constexpr int steps = 12;
-    for (int step = 0; step <= steps; ++step) {
-        move(from + (to - from) * step / steps);
+    move(from);
+    QPoint place = from;
+    for (int step = 1; step <= steps; ++step) {
+        const QPoint next = from + (to - from) * step / steps;
         QTest::qWait(30);
+        push(next - std::exchange(place, next));
     }
 }
 

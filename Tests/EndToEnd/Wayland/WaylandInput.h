@@ -23,7 +23,9 @@ public:
     void setExtent(QSize extent) { m_extent = extent; }
 
     void move(QPoint place);
-    /// In small steps, as a hand does.
+    /// As a mouse does, from where it is.
+    void push(QPoint by);
+    /// In small steps, as a hand does with a mouse.
     void glide(QPoint from, QPoint to);
     void pressButton();
     void releaseButton();
@@ -38,6 +40,5 @@ private:
 
     struct Devices;
     std::unique_ptr<Devices> m_devices;
-    QPoint m_place;
     QSize m_extent{1280, 800};
 };

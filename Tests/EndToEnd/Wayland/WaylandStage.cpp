@@ -1,11 +1,12 @@
 #include "EndToEnd/Wayland/WaylandStage.h"
 
-WaylandStage::WaylandStage(Compositor::Kind kind, const QStringList &otherProgram)
-    : compositor(kind, session.environment())
+WaylandStage::WaylandStage(Desktop desktop, const QStringList &otherProgram)
+    : compositor(desktop.kind, desktop.guest, session.environment())
     , input(compositor.socket())
     , other(session.environment(), otherProgram)
 {
-    session.environment().remove(u"QT_QPA_PLATFORM"_s);
+    if (desktop.guest)
+        session.environment().insert(u"KESTRUNE_WINDOW_SYSTEM"_s, u"x11"_s);
     if (!input.isReady())
         qFatal("the compositor did not start, or takes no input");
 }

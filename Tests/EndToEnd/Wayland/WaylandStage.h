@@ -29,9 +29,11 @@ class OtherProgram : public ChildProcess
     Q_OBJECT
 
 public:
-    OtherProgram(const QProcessEnvironment &environment, const QStringList &arguments)
+    OtherProgram(QProcessEnvironment environment, const QStringList &arguments)
         : ChildProcess(environment)
     {
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("wayland"));
+        setProcessEnvironment(environment);
         setProcessChannelMode(QProcess::SeparateChannels);
         launch(QStringLiteral(KESTRUNE_OTHER_PROGRAM), arguments);
     }
@@ -53,7 +55,14 @@ struct WaylandStage
 {
     using Settings = std::initializer_list<std::pair<const char *, const char *>>;
 
-    WaylandStage(Compositor::Kind kind, const QStringList &otherProgram);
+    /// As a guest, Kestrune runs on X11.
+    struct Desktop
+    {
+        Compositor::Kind kind;
+        bool guest = false;
+    };
+
+    WaylandStage(Desktop desktop, const QStringList &otherProgram);
     ~WaylandStage() { session.endProgram(); }
     Q_DISABLE_COPY_MOVE(WaylandStage)
 

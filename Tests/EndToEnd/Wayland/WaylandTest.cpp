@@ -2,6 +2,8 @@
 
 #include <linux/input-event-codes.h>
 
+Q_DECLARE_METATYPE(WaylandStage::Desktop)
+
 // Lower limits on time are what is promised; upper ones leave room for a busy machine.
 constexpr int leaveDelay = 250;
 
@@ -13,11 +15,12 @@ class WaylandTest : public QObject
 private Q_SLOTS:
     void cleanup() { m_stage.reset(); }
 
-    void hoverOpensAndLeavingCloses_data() { compositors(); }
+    void hoverOpensAndLeavingCloses_data() { compositors(true); }
     void hoverOpensAndLeavingCloses()
     {
         QVERIFY(stage().run({{"hoverDelay", "0.5"}}));
-        QCOMPARE(session().status().value("windowSystem"_L1).toString(), u"wayland"_s);
+        QCOMPARE(session().status().value("windowSystem"_L1).toString(),
+                 desktop().guest ? u"x11"_s : u"wayland"_s);
         input().move(Place::notch);
         const qint64 opened = timeUntil([&] { return session().isOpen(); });
         QVERIFY2(opened >= 500, qPrintable(QString::number(opened)));
@@ -25,7 +28,7 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return session().isOpen(); }, 700));
         QVERIFY(stage().other.hasFocus());
 
-        input().move(Place::away);
+        input().push(Place::away - Place::panel);
         const qint64 closed = timeUntil([&] { return !session().isOpen(); });
         QVERIFY2(closed >= leaveDelay, qPrintable(QString::number(closed)));
         QCOMPARE(stage().other.count(u"no focus"_s), 0);
@@ -140,7 +143,7 @@ private Q_SLOTS:
         QVERIFY(stage().waitClosed());
     }
 
-    void copiesOfOtherProgramsAreKept_data() { compositors(); }
+    void copiesOfOtherProgramsAreKept_data() { compositors(true); }
     void copiesOfOtherProgramsAreKept()
     {
         QVERIFY(stage().run());
@@ -194,12 +197,23 @@ private Q_SLOTS:
     }
 
 private:
-    static void compositors()
+    static void compositors(bool guestsToo = false)
     {
-        QTest::addColumn<Compositor::Kind>("kind");
-        QTest::newRow("sway") << Compositor::Kind::Sway;
-        QTest::newRow("labwc") << Compositor::Kind::Labwc;
-        QTest::newRow("KWin") << Compositor::Kind::KWin;
+        using enum Compositor::Kind;
+        QTest::addColumn<WaylandStage::Desktop>("desktop");
+        QTest::newRow("sway") << WaylandStage::Desktop{Sway};
+        QTest::newRow("labwc") << WaylandStage::Desktop{Labwc};
+        QTest::newRow("KWin") << WaylandStage::Desktop{KWin};
+        if (!guestsToo)
+            return;
+        QTest::newRow("guest of sway") << WaylandStage::Desktop{Sway, true};
+        QTest::newRow("guest of KWin") << WaylandStage::Desktop{KWin, true};
+    }
+
+    static WaylandStage::Desktop desktop()
+    {
+        QFETCH(WaylandStage::Desktop, desktop);
+        return desktop;
     }
 
     /// Also where nobody can look.
@@ -226,9 +240,7 @@ private:
 
     WaylandStage &setStage(const QStringList &otherProgram)
     {
-        return m_stage.emplace(
-            *static_cast<Compositor::Kind *>(QTest::qData("kind", qMetaTypeId<Compositor::Kind>())),
-            otherProgram);
+        return m_stage.emplace(desktop(), otherProgram);
     }
     WaylandStage &stage() { return m_stage ? *m_stage : setStage({u"maximized"_s}); }
     Session &session() { return stage().session; }
@@ -237,6 +249,5 @@ private:
     std::optional<WaylandStage> m_stage;
 };
 
-Q_DECLARE_METATYPE(Compositor::Kind)
 REGISTER_TEST(WaylandTest);
 #include "WaylandTest.moc"
