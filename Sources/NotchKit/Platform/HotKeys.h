@@ -49,7 +49,7 @@ public:
 
     /// Installs the one handler of what comes of registrations later, where a desktop is asked for them and
     /// answers in its own time. It is told nothing where registerHotKey itself gives the answer.
-    virtual void installBindingHandler(BindingHandler /*handler*/) {}
+    virtual void installBindingHandler(BindingHandler /*handler*/) {} // NOLINT(performance-*): heirs keep it.
 
     /// Registers a combination, whatever the state of Caps Lock and Num Lock. `keyCode` is a virtual key
     /// code (45 is N), `modifiers` a mask of 256 (command, the Super key), 512 (shift), 2048 (option,

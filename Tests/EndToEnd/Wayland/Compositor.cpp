@@ -114,12 +114,14 @@ bool Compositor::awaitSocket(const QString &name)
     return true;
 }
 
-/// A program that writes down which X11 display the guests have, and what opens it.
+/// A program that writes down which X11 display the guests have, and what opens it; to root it is open in any
+/// case.
 QString Compositor::tellDisplay() const
 {
     const QString program = m_folder.filePath(u"tell"_s);
-    writeFile(program, "#!/bin/sh\nprintf '%s\\n%s\\n.\\n' \"$DISPLAY\" \"$XAUTHORITY\" >" +
-                           m_folder.filePath(u"display"_s).toUtf8() + '\n');
+    writeFile(program,
+              "#!/bin/sh\nxhost +si:localuser:root\nprintf '%s\\n%s\\n.\\n' \"$DISPLAY\" \"$XAUTHORITY\" >" +
+                  m_folder.filePath(u"display"_s).toUtf8() + '\n');
     QFile::setPermissions(program, QFile::Permissions(0x5555) | QFile::WriteOwner);
     return program;
 }
@@ -171,7 +173,8 @@ bool Compositor::setScale(int index, double scale)
     if (m_kind == Kind::KWin)
         run(u"kscreen-doctor"_s, {u"output.%1.scale.%2"_s.arg(output).arg(scale)});
     else
-        run(u"wlr-randr"_s, {u"--output"_s, output, u"--scale"_s, QString::number(scale)});
+        run(u"wlr-randr"_s,
+            {u"--output"_s, output, u"--custom-mode"_s, u"1280x800"_s, u"--scale"_s, QString::number(scale)});
     return true;
 }
 
