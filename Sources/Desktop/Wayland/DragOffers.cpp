@@ -1,5 +1,7 @@
 #include "DragOffers.h"
 
+#include "NotchKit/Platform/Pasteboard.h"
+
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -15,7 +17,6 @@ namespace Kestrune {
 
 namespace {
 
-constexpr auto kUriList = "text/uri-list";
 constexpr uint32_t kManagerVersion = 3;
 
 QNativeInterface::QWaylandApplication *qtConnection()
@@ -53,7 +54,7 @@ struct DragOfferEvents
     static void offerType(void *data, wl_data_offer *offer, const char *type)
     {
         DragOffers &self = of(data);
-        if (offer == self.m_announced && std::strcmp(type, kUriList) == 0)
+        if (offer == self.m_announced && std::strcmp(type, Pasteboard::kFileUrls) == 0)
             self.m_announcedFiles = true;
     }
     static void offerActions(void *, wl_data_offer *, uint32_t) {}
@@ -122,7 +123,7 @@ int DragOffers::readFiles() const
         return -1;
     // The source gets a writing end like any other.
     ::fcntl(ends[1], F_SETFL, 0);
-    wl_data_offer_receive(m_drag, kUriList, ends[1]);
+    wl_data_offer_receive(m_drag, Pasteboard::kFileUrls, ends[1]);
     wl_display_flush(qtConnection()->display());
     ::close(ends[1]);
     return ends[0];

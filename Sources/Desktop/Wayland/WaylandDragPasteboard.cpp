@@ -1,6 +1,7 @@
 #include "WaylandDragPasteboard.h"
 
 #include "Desktop/Mime/UriLists.h"
+#include "NotchKit/Platform/Pasteboard.h"
 #include "WaylandPointer.h"
 
 #include <QDropEvent>
@@ -18,7 +19,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kUriList = "text/uri-list";
 constexpr auto kDragPatience = 2s;
 constexpr qsizetype kMostListed = qsizetype{16} * 1024 * 1024; // Bytes of addresses.
 
@@ -50,7 +50,8 @@ bool WaylandDragPasteboard::eventFilter(QObject *, QEvent *event)
         m_answer.emplace();
     } else if (event->type() == QEvent::Drop && m_byQt) {
         m_over = false;
-        finish(UriLists::localFiles(drop->mimeData()->data(QLatin1String(kUriList)), kUriList));
+        finish(UriLists::localFiles(drop->mimeData()->data(QLatin1String(Pasteboard::kFileUrls)),
+                                    Pasteboard::kFileUrls));
     } else if (event->type() == QEvent::DragLeave && m_byQt) {
         leave();
     }
@@ -91,7 +92,7 @@ void WaylandDragPasteboard::read()
         m_list.append(part.data(), got);
         return;
     }
-    finish(got == 0 ? UriLists::localFiles(m_list, kUriList) : QList<QUrl>());
+    finish(got == 0 ? UriLists::localFiles(m_list, Pasteboard::kFileUrls) : QList<QUrl>());
 }
 
 void WaylandDragPasteboard::finish(const QList<QUrl> &files)
