@@ -172,18 +172,23 @@ private Q_SLOTS:
         QTRY_COMPARE(session().displays().size(), 2);
         QVERIFY(stage().compositor.setScale(1, 1.25));
         QTRY_COMPARE(session().display(1).value("frame"_L1).toObject().value("width"_L1).toDouble(), 1024.0);
-        // KWin without a screen moves the test's pointer no more once it has a second display.
-        const bool pointed = desktop().kind != Compositor::Kind::KWin;
         input().setExtent({1280 + 1024, 800});
-        input().move({1280 + 512, 10});
-        QVERIFY(!pointed || (stage().waitOpen(1) && !session().isOpen(0)));
+        // KWin without a screen moves the test's pointer no more once it has a second display, and loses
+        // displays that come and go at once.
+        const bool isKWin = desktop().kind == Compositor::Kind::KWin;
+        if (!isKWin)
+            input().move({1280 + 512, 10});
+        QVERIFY(isKWin || (stage().waitOpen(1) && !session().isOpen(0)));
         QVERIFY(stage().compositor.plugSecond(false, input()));
         input().setExtent({1280, 800});
         QTRY_COMPARE(session().displays().size(), 1);
 
+        if (isKWin)
+            return;
+
         qint64 memory = 0;
         const int rounds =
-            desktop().kind == Compositor::Kind::Sway ? 100 : 30; // The others take long for each.
+            desktop().kind == Compositor::Kind::Sway ? 100 : 30; // The other takes long for each.
         for (int round = 1; round <= rounds; ++round) {
             QVERIFY(stage().compositor.plugSecond(true, input()));
             QTRY_VERIFY2(session().displays().size() == 2, qPrintable(QString::number(round)));
@@ -196,7 +201,7 @@ private Q_SLOTS:
         const qint64 growth = session().ownMemory() - memory;
         QVERIFY2(memory > 0 && growth < 4096, qPrintable(u"%1 kB more"_s.arg(growth)));
         input().move(Place::notch);
-        QVERIFY(!pointed || stage().waitOpen());
+        QVERIFY(stage().waitOpen());
     }
 
 private:
