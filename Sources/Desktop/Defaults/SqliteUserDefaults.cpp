@@ -2,13 +2,17 @@
 
 #include "Desktop/Defaults/DefaultsStore.h"
 #include "Desktop/Defaults/Log.h"
+#include "Desktop/Defaults/SqliteDatabase.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QStandardPaths>
 
 #include <cstdio>
+#include <system_error>
 #include <utility>
+
+#include <sqlite3.h>
 
 namespace Kestrune {
 
@@ -19,7 +23,17 @@ Q_LOGGING_CATEGORY(settingsLog, "kestrune.settings", QtWarningMsg)
 namespace {
 
 constexpr milliseconds patience{250};
+constexpr milliseconds lastPatience{1000}; // of the last try, at the end of the program
 constexpr std::chrono::seconds retryInterval{2};
+
+/// Somebody else is writing, which is over soon as a rule.
+bool isBusy(const std::exception &error)
+{
+    if (const auto *sqlite = dynamic_cast<const SqliteError *>(&error))
+        return sqlite->code() == SQLITE_BUSY;
+    const auto *system = dynamic_cast<const std::system_error *>(&error);
+    return system && system->code() == std::errc::operation_would_block;
+}
 
 } // namespace
 
@@ -39,8 +53,10 @@ SqliteUserDefaults::SqliteUserDefaults(const QString &path, Access access)
 
 SqliteUserDefaults::~SqliteUserDefaults()
 {
-    if (!m_unsaved.empty())
-        save();
+    if (m_unsaved.empty())
+        return;
+    m_store->setPatience(lastPatience);
+    save();
 }
 
 std::optional<DefaultsValue> SqliteUserDefaults::object(const QString &key) const
@@ -82,22 +98,27 @@ void SqliteUserDefaults::save()
     try {
         m_store->apply(m_unsaved);
         m_unsaved.clear();
-        if (std::exchange(m_isFailing, false)) {
-            m_retry.stop();
-            m_store->setPatience(patience);
-            qCInfo(settingsLog, "the settings can be written again");
-        }
+        if (!m_failing.isValid())
+            return;
+        m_failing.invalidate();
+        m_isReported = false;
+        m_retry.stop();
+        m_store->setPatience(patience);
+        qCInfo(settingsLog, "the settings can be written again");
     } catch (const std::exception &error) {
-        keepInMemory(error.what());
+        keepInMemory(error);
     }
 }
 
-void SqliteUserDefaults::keepInMemory(const char *reason)
+void SqliteUserDefaults::keepInMemory(const std::exception &reason)
 {
-    if (!m_isFailing)
+    if (!m_failing.isValid())
+        m_failing.start();
+    if (!m_isReported && (!isBusy(reason) || m_failing.hasExpired(milliseconds(retryInterval).count()))) {
+        m_isReported = true;
         std::fprintf(stderr, "Kestrune: settings are kept in memory until %s can be written: %s\n",
-                     QFile::encodeName(m_path).constData(), reason);
-    m_isFailing = true;
+                     QFile::encodeName(m_path).constData(), reason.what());
+    }
     m_store->setPatience(milliseconds(0)); // one wait is enough: whoever holds the file may be stuck
     if (QCoreApplication::instance())
         m_retry.start(retryInterval);

@@ -3,6 +3,7 @@
 #include "Desktop/Defaults/StoredValue.h"
 #include "NotchKit/Platform/UserDefaults.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <memory>
@@ -16,7 +17,8 @@ class DefaultsStore;
 /// A write is in the file when the call returns, so that it survives the end of this process, however it
 /// comes; within about a second it survives a power cut too. A damaged file is renamed and a new one
 /// begun. What cannot be written is kept in memory and written as soon as that works again: with the next
-/// write, or after some seconds where an event loop runs.
+/// write, after some seconds where an event loop runs, or at the end. Standard error says so once; where
+/// another process is just writing, not before that has lasted for some seconds.
 class SqliteUserDefaults : public UserDefaults
 {
 public:
@@ -40,12 +42,13 @@ private:
     std::optional<StoredValue> find(const QString &key) const;
     void change(const QString &key, std::optional<StoredValue> value);
     void save();
-    void keepInMemory(const char *reason);
+    void keepInMemory(const std::exception &reason);
 
     const QString m_path;
     const std::unique_ptr<DefaultsStore> m_store; // none for ReadOnly
     Changes m_unsaved;
-    bool m_isFailing = false;
+    QElapsedTimer m_failing; ///< Since the first of the writes that fail.
+    bool m_isReported = false;
     QTimer m_retry;
 };
 
