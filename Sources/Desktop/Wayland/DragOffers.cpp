@@ -4,7 +4,6 @@
 
 #include <QGuiApplication>
 
-#include <algorithm>
 #include <array>
 #include <cstring>
 #include <utility>

@@ -123,7 +123,7 @@ void WaylandPanel::remap()
 void WaylandPanel::hide()
 {
     m_window->hide();
-    m_pointer.left();
+    m_pointer.left(m_window.get());
 }
 
 void WaylandPanel::activeChanged()

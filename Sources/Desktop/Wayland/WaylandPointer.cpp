@@ -24,8 +24,8 @@ void WaylandPointer::watch(QWindow &window, const QRectF &frame)
 void WaylandPointer::forget(QWindow &window)
 {
     window.removeEventFilter(this);
-    if (m_panels.remove(&window))
-        left();
+    m_panels.remove(&window);
+    left(&window);
 }
 
 void WaylandPointer::pressOutside() { m_presses.press(kOutside); }
@@ -36,7 +36,7 @@ PointerSample WaylandPointer::sample()
     if (m_dragging && QThread::currentThread()->loopLevel() <= m_loops)
         m_dragging = m_down = false;
     if (m_restsAfterDrop.hasExpired())
-        left();
+        left(m_over);
     return m_presses.sample({m_over ? m_seen : kOutside, m_down});
 }
 
@@ -60,11 +60,11 @@ bool WaylandPointer::eventFilter(QObject *watched, QEvent *event)
         m_restsAfterDrop.setRemainingTime(kLongestRest);
         break;
     case QEvent::Leave:
-        left();
+        left(watched);
         break;
     case QEvent::DragLeave:
         if (m_restsAfterDrop.isForever())
-            left();
+            left(watched);
         break;
     default:
         break;
@@ -76,7 +76,7 @@ void WaylandPointer::see(const QObject *window, const QPointF &place)
 {
     const QRectF frame = m_panels.value(window);
     m_seen = {frame.left() + place.x(), frame.bottom() - place.y()};
-    m_over = true;
+    m_over = window;
     m_restsAfterDrop = QDeadlineTimer(QDeadlineTimer::Forever);
 }
 
@@ -93,12 +93,14 @@ void WaylandPointer::moved(const QObject *window, const QSinglePointEvent &event
     m_down = down;
 }
 
-void WaylandPointer::left()
+void WaylandPointer::left(const QObject *window)
 {
+    if (!window || window != m_over)
+        return;
     // A held button keeps the pointer with the panel, unless it drags something out of it.
-    m_dragging = m_dragging || (m_over && m_down && QThread::currentThread()->loopLevel() > m_loops);
+    m_dragging = m_dragging || (m_down && QThread::currentThread()->loopLevel() > m_loops);
     m_down = m_dragging;
-    m_over = false;
+    m_over = nullptr;
     m_restsAfterDrop = QDeadlineTimer(QDeadlineTimer::Forever);
 }
 

@@ -30,8 +30,8 @@ public:
     /// The panel goes.
     void forget(QWindow &window);
 
-    /// A panel is hidden: no event tells of the pointer's leaving it.
-    void left();
+    /// That panel is hidden or has lost the pointer, which may be over another one.
+    void left(const QObject *window);
 
     /// Something is dragged that was taken from a panel.
     bool isDragging() const { return m_dragging; }
@@ -46,9 +46,9 @@ private:
 
     QHash<const QObject *, QRectF> m_panels;
     QPointF m_seen;
-    bool m_over = false;     ///< The pointer is over a panel, or was pressed there and is held.
-    bool m_down = false;     ///< The primary button.
-    bool m_dragging = false; ///< The button was taken away to a drag that began in a panel.
+    const QObject *m_over = nullptr; ///< The panel that the pointer is over, or was pressed in and is held.
+    bool m_down = false;             ///< The primary button.
+    bool m_dragging = false;         ///< The button was taken away to a drag that began in a panel.
     /// After a drop some compositors tell of the pointer again only when it moves: until then it is taken to
     /// rest where it was, but not for ever.
     QDeadlineTimer m_restsAfterDrop{QDeadlineTimer::Forever};
