@@ -15,6 +15,8 @@ std::unique_ptr<NotchPanel> PanelFactory::create(const QRectF &frame, NotchScree
 {
     auto window = std::make_unique<NotchWindow>(m_engine, model, services);
     auto *view = window.get();
+    if (m_windows.pacesFrames())
+        view->paceAnimations();
     auto panel = m_windows.makePanel(std::move(window), frame);
     // The window goes with its panel.
     QObject::connect(view, &NotchWindow::outlineChanged, view,

@@ -28,7 +28,7 @@ private:
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
         qputenv("QT_XCB_GL_INTEGRATION", "none");
         qputenv("QT_NO_GLIB", "1");
-        qputenv("QT_QPA_PLATFORM", "xcb");
+        qputenv("QT_QPA_PLATFORM", qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ? "wayland" : "xcb");
         return argc;
     }
 

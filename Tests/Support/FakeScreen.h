@@ -136,6 +136,7 @@ struct FakeWindowSystem : WindowSystem
     HotKeys &hotKeys() override { return *now.hotKeys; }
     DragPasteboard &drags() override { return *now.drags; }
     Pasteboard &pasteboard() override { return *now.pasteboard; }
+    bool pacesFrames() const override { return false; }
     std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> /*window*/,
                                           const QRectF & /*frame*/) override
     {

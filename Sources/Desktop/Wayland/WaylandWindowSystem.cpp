@@ -26,6 +26,7 @@ public:
     HotKeys &hotKeys() override { return *m_hotKeys; }
     DragPasteboard &drags() override { return m_drags; }
     Pasteboard &pasteboard() override { return m_pasteboard; }
+    bool pacesFrames() const override { return true; }
     std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> window, const QRectF &frame) override
     {
         m_drags.watch(*window);

@@ -46,6 +46,7 @@ public:
     HotKeys &hotKeys() override { return *m_hotKeys; }
     DragPasteboard &drags() override { return m_drags; }
     Pasteboard &pasteboard() override { return *m_pasteboard; }
+    bool pacesFrames() const override { return false; }
     std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> window, const QRectF &frame) override
     {
         return std::make_unique<X11Panel>(std::move(window), m_desktop, frame);

@@ -27,6 +27,9 @@ public:
     virtual DragPasteboard &drags() = 0;
     virtual Pasteboard &pasteboard() = 0;
 
+    /// Whether a window is asked to draw once its display is ready for the next frame, and not before.
+    virtual bool pacesFrames() const = 0;
+
     /// A hidden panel at `frame` (screen coordinates in points, y growing upwards) that hosts `window`, which
     /// has not been shown yet.
     virtual std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> window, const QRectF &frame) = 0;

@@ -14,14 +14,19 @@ namespace {
 
 constexpr auto kNotchView = "qrc:/Kestrune/Views/NotchView.qml";
 
+FrameDriver &frames()
+{
+    static auto *const driver =
+        new FrameDriver; // Kept to the end: animations outlive the application object.
+    return *driver;
 }
+
+} // namespace
 
 void registerViews()
 {
     qml_register_types_Kestrune_Views();
-    static auto *const frames =
-        new FrameDriver; // Kept to the end: animations outlive the application object.
-    frames->install();
+    frames().install();
 }
 
 NotchWindow::NotchWindow(QQmlEngine &engine, NotchScreenModel &model, NotchServices &services)
@@ -47,5 +52,7 @@ NotchWindow::NotchWindow(QQmlEngine &engine, NotchScreenModel &model, NotchServi
 }
 
 NotchWindow::~NotchWindow() = default;
+
+void NotchWindow::paceAnimations() { frames().follow(*this); }
 
 } // namespace Kestrune

@@ -20,6 +20,9 @@ public:
     NotchWindow(QQmlEngine &engine, NotchScreenModel &model, NotchServices &services);
     ~NotchWindow() override;
 
+    /// From now on all animations step with this window's frames, where it draws any.
+    void paceAnimations();
+
 Q_SIGNALS:
     /// The notch as it is drawn from now on, in points from the window's top left, y growing downwards.
     void outlineChanged(const QPainterPath &outline);

@@ -5,6 +5,7 @@
 
 #include <QClipboard>
 #include <QRawFont>
+#include <QVariantAnimation>
 
 using Stage = WindowStage;
 
@@ -55,6 +56,33 @@ private Q_SLOTS:
         moved.clear();
         value.setDampingFraction(0.5);
         QVERIFY2(!value.running(), "a spring at rest stays there");
+    }
+
+    void animationsStepWithTheFramesOfPacedWindows_data()
+    {
+        QTest::addColumn<bool>("paced");
+        QTest::newRow("paced") << true;
+        QTest::newRow("by time alone") << false;
+    }
+    void animationsStepWithTheFramesOfPacedWindows()
+    {
+        QFETCH(const bool, paced);
+        Stage stage;
+        if (paced)
+            stage.window->paceAnimations();
+        QVariantAnimation animation;
+        animation.setDuration(60000);
+        animation.start();
+        QTRY_VERIFY(animation.currentTime() > 0);
+        int steps = 0;
+        for (int frame = 0; frame < 4; ++frame) { // No timer runs out meanwhile.
+            const int before = animation.currentTime();
+            QTest::qSleep(5);
+            QEvent request(QEvent::UpdateRequest);
+            QCoreApplication::sendEvent(stage.window.get(), &request);
+            steps += animation.currentTime() > before;
+        }
+        QCOMPARE(steps, paced ? 4 : 0);
     }
 
     void outlineFollowsTheState()
