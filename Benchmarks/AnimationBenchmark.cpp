@@ -1,4 +1,4 @@
-// Opens and closes a real notch many times, drawn in software at scale 1, and looks at each frame.
+// Opens and closes a real notch many times, drawn in software, and looks at each frame.
 
 #include "App/PanelFactory.h"
 #include "App/WindowSystems.h"
@@ -79,13 +79,28 @@ private:
     int m_repeated = 0;
 };
 
-void report(Table &table, const std::string &motion, const Frames &frames)
+/// What a display allows.
+struct Limits
 {
-    table.add({motion + ", frames per second, median", median(frames.perSecond), 60, "/s", "noisy: wall time",
-               true});
-    table.add({motion + ", work per frame, 95 %", quantile(frames.work, 0.95), 16.7, "ms", ""});
-    table.add({motion + ", time between frames, 95 %", quantile(frames.intervals, 0.95), 16.7, "ms",
-               "noisy: wall time"});
+    double perSecond;
+    double work;     ///< ms
+    double interval; ///< ms
+};
+
+Limits limits(const NotchWindow &window, bool isPaced)
+{
+    const double work = window.effectiveDevicePixelRatio() > 1 ? 16.7 : 8;
+    // A display that paces the frames has sixty a second, some of them a little late, none left out.
+    return isPaced ? Limits{59, work, 25} : Limits{60, work, 16.7};
+}
+
+void report(Table &table, const std::string &motion, const Frames &frames, const Limits &limits)
+{
+    table.add({motion + ", frames per second, median", median(frames.perSecond), limits.perSecond, "/s",
+               "noisy: wall time", true});
+    table.add({motion + ", work per frame, 95 %", quantile(frames.work, 0.95), limits.work, "ms", ""});
+    table.add({motion + ", time between frames, 95 %", quantile(frames.intervals, 0.95), limits.interval,
+               "ms", "noisy: wall time"});
     Table::note("  work per frame, median", median(frames.work), "ms");
     Table::note("  time between frames, median", median(frames.intervals), "ms");
     Table::note("  frames without a new step, each motion", median(frames.repeated), "");
@@ -141,8 +156,9 @@ int main(int argc, char *argv[])
     }
 
     Table table;
-    report(table, "Opening animation", opening);
-    report(table, "Closing animation", closing);
+    const Limits allowed = limits(*window, windows->pacesFrames());
+    report(table, "Opening animation", opening, allowed);
+    report(table, "Closing animation", closing, allowed);
     Table::note("First opening: making the pane, work", milliseconds(loaded), "ms");
     return table.exitStatus();
 }
