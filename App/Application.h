@@ -7,13 +7,13 @@
 #include "Desktop/Tray/BusStatusItem.h"
 #include "DesktopPlatform.h"
 #include "NotchKit/Shell/AlertWindow.h"
+#include "NotchKit/Shell/ViewEngine.h"
 #include "NotchKit/Updates/Updater.h"
 #include "PanelFactory.h"
 #include "SettingsWindow.h"
 #include "UpdateWindow.h"
 
 #include <QDBusConnection>
-#include <QQmlEngine>
 
 namespace Kestrune {
 
@@ -37,7 +37,7 @@ private:
     const Platform &m_platform;
     std::unique_ptr<Updater> m_updater;
     PortalAppearance m_appearance;
-    QQmlEngine m_engine;
+    ViewEngine m_engine;
     PanelFactory m_panels;
     AlertWindow m_alert;
     std::unique_ptr<AppState> m_state;

@@ -70,7 +70,7 @@ T.Popup {
                     menu.close()
                     menu.chosen(index)
                 }
-                contentItem: Text {
+                contentItem: PlainText {
                     id: label
 
                     leftPadding: 8

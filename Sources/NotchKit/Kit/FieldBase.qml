@@ -33,7 +33,7 @@ T.TextField {
     }
     Component.onCompleted: ClipboardGuard.detach(field)
 
-    Text {
+    PlainText {
         anchors { fill: parent; leftMargin: field.leftPadding; rightMargin: field.rightPadding }
         visible: field.length === 0 && field.preeditText === ""
         text: field.placeholderText

@@ -10,7 +10,7 @@ ButtonBase {
     radius: height / 2
     Accessible.role: Accessible.RadioButton
 
-    contentItem: Text {
+    contentItem: PlainText {
         id: label
 
         text: chip.text

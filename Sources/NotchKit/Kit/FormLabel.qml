@@ -2,12 +2,11 @@ import QtQuick
 import Kestrune.Views
 
 /// A text of the form.
-Text {
+PlainText {
     property Look look: Theme.window
 
     font.pixelSize: look.fontSize
     color: look.text
-    textFormat: Text.PlainText
     horizontalAlignment: Text.AlignLeft
     verticalAlignment: Text.AlignVCenter
     elide: Text.ElideRight

@@ -30,13 +30,12 @@ Rectangle {
     color: Theme.tip
     visible: delay.done
 
-    Text {
+    PlainText {
         id: label
 
         anchors.centerIn: parent
         width: tip.width - 16
         elide: Text.ElideMiddle
-        textFormat: Text.PlainText
         text: tip.text
         color: Theme.text
         font.pixelSize: Theme.smallFontSize

@@ -22,7 +22,7 @@ Item {
             size: 26
             color: Theme.dim
         }
-        Text {
+        PlainText {
             width: parent.width
             text: message.text
             font.pixelSize: Theme.largeFontSize

@@ -21,7 +21,7 @@ Tile {
             input.text = stored
     }
 
-    Text {
+    PlainText {
         objectName: "placeholder"
         anchors.fill: parent
         anchors.margins: 14

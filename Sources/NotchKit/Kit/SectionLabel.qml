@@ -19,7 +19,7 @@ Row {
         size: 13
         color: Theme.text
     }
-    Text {
+    PlainText {
         anchors.verticalCenter: parent.verticalCenter
         text: label.title
         font.pixelSize: Theme.fontSize

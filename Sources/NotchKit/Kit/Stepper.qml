@@ -38,7 +38,7 @@ FocusScope {
     Keys.onDownPressed: step(-1)
     Keys.onLeftPressed: step(Theme.mirrored ? 1 : -1)
 
-    Text {
+    PlainText {
         id: label
 
         anchors { right: buttons.left; rightMargin: 8; verticalCenter: parent.verticalCenter }

@@ -2,7 +2,7 @@ import QtQuick
 import Kestrune.Views
 
 /// One symbol of the icon font by its name.
-Text {
+PlainText {
     required property string name
     property real size: 16
 

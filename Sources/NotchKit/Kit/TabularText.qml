@@ -27,7 +27,7 @@ Row {
     Repeater {
         model: line.text.length
 
-        Text {
+        PlainText {
             required property int index
 
             readonly property string character: Format.digits(line.text.charAt(index))

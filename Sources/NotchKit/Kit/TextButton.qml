@@ -27,7 +27,7 @@ ButtonBase {
                 anchors.verticalCenter: parent.verticalCenter
                 color: control.ink
             }
-            Text {
+            PlainText {
                 anchors.verticalCenter: parent.verticalCenter
                 text: control.text
                 font.pixelSize: control.look.fontSize

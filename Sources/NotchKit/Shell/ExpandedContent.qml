@@ -23,7 +23,7 @@ FocusScope {
         height: 40
         z: 1
 
-        Text {
+        PlainText {
             anchors { left: parent.left; right: buttons.left; verticalCenter: parent.verticalCenter }
             text: content.presentation.paneTitle
             font.pixelSize: Theme.titleFontSize

@@ -14,7 +14,7 @@ HomeBlock {
         width: parent.width
         spacing: 2
 
-        Text {
+        PlainText {
             id: greeting
 
             width: parent.width
@@ -28,7 +28,7 @@ HomeBlock {
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
-        Text {
+        PlainText {
             width: parent.width
             text: block.now.toLocaleDateString(Qt.locale(), Locale.LongFormat)
             font.pixelSize: Theme.fontSize

@@ -71,7 +71,7 @@ Item {
         text: row.presentation.creditTitle
         Accessible.role: Accessible.Link
         onClicked: row.presentation.openCredit()
-        contentItem: Text {
+        contentItem: PlainText {
             id: line
 
             leftPadding: 8

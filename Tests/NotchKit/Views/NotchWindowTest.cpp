@@ -4,7 +4,9 @@
 #include "WindowStage.h"
 
 #include <QClipboard>
+#include <QQmlComponent>
 #include <QRawFont>
+#include <QTcpServer>
 #include <QVariantAnimation>
 
 using Stage = WindowStage;
@@ -83,6 +85,29 @@ private Q_SLOTS:
             steps += animation.currentTime() > before;
         }
         QCOMPARE(steps, paced ? 4 : 0);
+    }
+
+    void viewsReachNoServer_data()
+    {
+        QTest::addColumn<bool>("view");
+        QTest::newRow("an engine that may") << false;
+        QTest::newRow("the views' engine") << true;
+    }
+    void viewsReachNoServer()
+    {
+        QFETCH(const bool, view);
+        QTcpServer server;
+        QVERIFY(server.listen(QHostAddress::LocalHost));
+        const std::unique_ptr<QQmlEngine> engine(view ? new ViewEngine : new QQmlEngine);
+        QQmlComponent component(engine.get());
+        component.setData("import QtQuick\nImage { source: 'http://127.0.0.1:" +
+                              QByteArray::number(server.serverPort()) + "/picture.png' }",
+                          {});
+        const std::unique_ptr<QObject> image(component.create());
+        QVERIFY2(image, qPrintable(component.errorString()));
+        constexpr int error = 3; // Image.Error
+        QTRY_VERIFY(server.hasPendingConnections() || image->property("status").toInt() == error);
+        QCOMPARE(server.hasPendingConnections(), !view);
     }
 
     void outlineFollowsTheState()

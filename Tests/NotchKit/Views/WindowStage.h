@@ -1,16 +1,16 @@
 #pragma once
 
 #include "NotchKit/Shell/NotchWindow.h"
+#include "NotchKit/Shell/ViewEngine.h"
 #include "Support/Core.h"
 
-#include <QQmlEngine>
 #include <QQuickItem>
 
 /// A notch window over fake ports, shown on the offscreen platform.
 struct WindowStage
 {
     Fakes::Core core;
-    QQmlEngine engine;
+    ViewEngine engine;
     std::unique_ptr<NotchWindow> window;
     QRectF outline;
 

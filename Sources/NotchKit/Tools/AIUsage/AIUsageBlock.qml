@@ -24,7 +24,7 @@ HomeBlock {
             title: block.title
             symbol: "sparkles"
         }
-        Text {
+        PlainText {
             width: parent.width
             visible: !figures.codexOn && !figures.claudeOn
             text: qsTranslate("notch", "Connect Codex or Claude Code to see your limits.")

@@ -44,7 +44,7 @@ Pane {
                     line: modelData
                 }
             }
-            Text {
+            PlainText {
                 width: parent.width
                 text: figures.codexUpdated
                 font.pixelSize: Theme.smallFontSize
@@ -68,7 +68,7 @@ Pane {
                 width: parent.width
                 height: tokens.implicitHeight
 
-                Text {
+                PlainText {
                     anchors { left: parent.left; right: tokens.left; rightMargin: 8; baseline: tokens.baseline }
                     text: figures.claudeBlock.title
                     font.pixelSize: Theme.fontSize
@@ -76,7 +76,7 @@ Pane {
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
                 }
-                Text {
+                PlainText {
                     id: tokens
 
                     anchors.right: parent.right
@@ -98,7 +98,7 @@ Pane {
                     width: parent.width
                     height: yardstick.implicitHeight
 
-                    Text {
+                    PlainText {
                         id: yardstick
 
                         anchors { left: parent.left; right: resets.left; rightMargin: 8 }
@@ -108,7 +108,7 @@ Pane {
                         horizontalAlignment: Text.AlignLeft
                         elide: Text.ElideRight
                     }
-                    Text {
+                    PlainText {
                         id: resets
 
                         anchors.right: parent.right
@@ -122,7 +122,7 @@ Pane {
                 width: parent.width
                 spacing: 6
 
-                Text {
+                PlainText {
                     anchors.left: parent.left
                     text: qsTranslate("notch", "Last 7 days")
                     font.pixelSize: Theme.fontSize
@@ -142,7 +142,7 @@ Pane {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         height: 24
 
-        Text {
+        PlainText {
             anchors { left: parent.left; right: again.left; verticalCenter: parent.verticalCenter }
             text: qsTranslate("notch", "Nothing leaves your Mac.")
             font.pixelSize: Theme.smallFontSize

@@ -32,7 +32,7 @@ Row {
                 radius: 3
                 color: day.isToday ? Theme.accent : area.containsMouse ? Theme.dim : Theme.faded
             }
-            Text {
+            PlainText {
                 id: letter
 
                 anchors { bottom: parent.bottom; horizontalCenter: parent.horizontalCenter }

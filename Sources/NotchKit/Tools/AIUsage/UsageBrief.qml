@@ -16,7 +16,7 @@ Column {
         spacing: 2
         visible: brief.hint !== ""
 
-        Text {
+        PlainText {
             width: parent.width
             text: brief.title
             font.pixelSize: Theme.fontSize
@@ -24,7 +24,7 @@ Column {
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
-        Text {
+        PlainText {
             width: parent.width
             text: brief.hint
             font.pixelSize: Theme.smallFontSize
@@ -52,7 +52,7 @@ Column {
                 width: parent.width
                 height: value.implicitHeight
 
-                Text {
+                PlainText {
                     anchors { left: parent.left; right: value.left; rightMargin: 8 }
                     text: line.index === 0 ? brief.title : line.modelData.title
                     font.pixelSize: Theme.fontSize
@@ -60,7 +60,7 @@ Column {
                     horizontalAlignment: Text.AlignLeft
                     elide: Text.ElideRight
                 }
-                Text {
+                PlainText {
                     id: value
 
                     anchors.right: parent.right

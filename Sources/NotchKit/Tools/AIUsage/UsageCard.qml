@@ -38,7 +38,7 @@ Tile {
         anchors { left: parent.left; right: parent.right; top: heading.bottom; bottom: parent.bottom; margins: 20 }
         visible: !body.visible
 
-        Text {
+        PlainText {
             anchors { left: parent.left; right: parent.right; top: parent.top; bottom: button.top; bottomMargin: 8 }
             text: card.on ? card.hint : card.explanation
             font.pixelSize: Theme.fontSize

@@ -17,7 +17,7 @@ Column {
         width: parent.width
         height: value.implicitHeight
 
-        Text {
+        PlainText {
             anchors { left: parent.left; right: value.left; rightMargin: 8 }
             text: limit.line.title
             font.pixelSize: Theme.fontSize
@@ -25,7 +25,7 @@ Column {
             horizontalAlignment: Text.AlignLeft
             elide: Text.ElideRight
         }
-        Text {
+        PlainText {
             id: value
 
             anchors.right: parent.right
@@ -41,7 +41,7 @@ Column {
         width: parent.width
         fraction: limit.line.fraction
     }
-    Text {
+    PlainText {
         width: parent.width
         visible: text !== ""
         text: limit.line.resets

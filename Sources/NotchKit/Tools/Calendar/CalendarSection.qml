@@ -50,7 +50,7 @@ Tile {
         }
         displaced: Transition { NumberAnimation { properties: "y"; duration: 160; easing.type: Easing.OutCubic } }
     }
-    Text {
+    PlainText {
         anchors { left: parent.left; right: parent.right; top: parent.top; margins: 12; topMargin: 40 }
         visible: section.known && section.status === CalendarModel.Full && rows.count === 0
         text: section.emptyText

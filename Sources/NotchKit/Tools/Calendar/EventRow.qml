@@ -28,10 +28,9 @@ Item {
         anchors { left: bar.right; leftMargin: 9; right: parent.right; verticalCenter: parent.verticalCenter }
         spacing: 1
 
-        Text {
+        PlainText {
             width: parent.width
             text: row.item.title
-            textFormat: Text.PlainText
             font.pixelSize: Theme.fontSize
             color: Theme.text
             horizontalAlignment: Text.AlignLeft
@@ -39,7 +38,7 @@ Item {
             maximumLineCount: 1
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             id: when
 
             width: parent.width

@@ -27,7 +27,7 @@ HomeBlock {
             title: block.title
             symbol: "calendar"
         }
-        Text {
+        PlainText {
             width: parent.width
             visible: block.allowed && block.calendar.eventsKnown && today.events.length === 0
             text: qsTranslate("notch", "Nothing else today.")

@@ -41,7 +41,7 @@ Item {
         Accessible.name: help + ": " + row.reminder.title
         onClicked: row.completed()
     }
-    Text {
+    PlainText {
         anchors {
             left: complete.right
             leftMargin: 3
@@ -50,14 +50,13 @@ Item {
             verticalCenter: parent.verticalCenter
         }
         text: row.reminder.title
-        textFormat: Text.PlainText
         font.pixelSize: Theme.fontSize
         color: Theme.text
         horizontalAlignment: Text.AlignLeft
         elide: Text.ElideRight
         maximumLineCount: 1
     }
-    Text {
+    PlainText {
         id: due
 
         anchors { right: parent.right; verticalCenter: parent.verticalCenter }

@@ -21,7 +21,7 @@ HomeBlock {
             title: block.title
             symbol: "checklist"
         }
-        Text {
+        PlainText {
             width: parent.width
             visible: block.allowed && block.calendar.remindersKnown && block.first.length === 0
             //: Instead of a list: no reminder is left.

@@ -45,10 +45,9 @@ ButtonBase {
             Column {
                 anchors { left: parent.left; right: parent.right; margins: 8; verticalCenter: parent.verticalCenter }
 
-                Text {
+                PlainText {
                     width: parent.width
                     text: thumb.item.name
-                    textFormat: Text.PlainText
                     font.pixelSize: Theme.tinyFontSize
                     color: Theme.text
                     horizontalAlignment: Text.AlignLeft
@@ -56,7 +55,7 @@ ButtonBase {
                     maximumLineCount: 1
                     Accessible.ignored: true
                 }
-                Text {
+                PlainText {
                     width: parent.width
                     text: Format.relativeTime(thumb.item.date, thumb.surroundings.now)
                     font.pixelSize: Theme.tinyFontSize

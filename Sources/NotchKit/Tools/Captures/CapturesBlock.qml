@@ -19,7 +19,7 @@ HomeBlock {
             title: block.title
             symbol: "camera.viewfinder"
         }
-        Text {
+        PlainText {
             width: parent.width
             visible: block.newest.length === 0
             text: block.captures.needsAccess

@@ -73,7 +73,7 @@ Pane {
         displaced: move
     }
 
-    Text {
+    PlainText {
         id: hint
 
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }

@@ -32,7 +32,7 @@ ButtonBase {
         image: line.item.thumbnail
         radius: 3
     }
-    Text {
+    PlainText {
         anchors {
             left: kind.right
             leftMargin: 6
@@ -41,7 +41,6 @@ ButtonBase {
             verticalCenter: parent.verticalCenter
         }
         text: line.copied ? qsTranslate("notch", "Copied") : line.item.preview
-        textFormat: Text.PlainText
         font.pixelSize: Theme.fontSize
         color: line.copied ? Theme.dim : line.item.isLink ? Theme.accent : Theme.text
         horizontalAlignment: Text.AlignLeft

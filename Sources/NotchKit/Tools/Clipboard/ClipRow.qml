@@ -53,7 +53,7 @@ ButtonBase {
             radius: 6
         }
     }
-    Text {
+    PlainText {
         anchors {
             left: square.right
             leftMargin: 10
@@ -62,7 +62,6 @@ ButtonBase {
             verticalCenter: parent.verticalCenter
         }
         text: row.item.preview
-        textFormat: Text.PlainText
         font.pixelSize: Theme.fontSize
         color: row.item.isLink ? Theme.accent : Theme.text
         horizontalAlignment: Text.AlignLeft
@@ -71,7 +70,7 @@ ButtonBase {
         elide: Text.ElideRight
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         id: age
 
         anchors { right: parent.right; rightMargin: 10; verticalCenter: parent.verticalCenter }

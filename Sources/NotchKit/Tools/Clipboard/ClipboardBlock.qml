@@ -21,7 +21,7 @@ HomeBlock {
             title: block.title
             symbol: "doc.on.clipboard"
         }
-        Text {
+        PlainText {
             width: parent.width
             visible: block.newest.length === 0
             text: block.historyOn

@@ -17,12 +17,11 @@ HomeBlock {
             title: block.title
             symbol: "note.text"
         }
-        Text {
+        PlainText {
             width: parent.width
             text: block.note === "" ? qsTranslate("notch", "Quick note… it saves as you type.") : block.note
             font.pixelSize: Theme.fontSize
             color: block.note === "" ? Theme.faded : Theme.dim
-            textFormat: Text.PlainText
             wrapMode: Text.Wrap
             maximumLineCount: 4
             elide: Text.ElideRight

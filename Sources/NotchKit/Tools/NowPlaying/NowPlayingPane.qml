@@ -52,7 +52,7 @@ Pane {
             title: qsTranslate("notch", "Now Playing")
             symbol: "music.note"
         }
-        Text {
+        PlainText {
             width: parent.width
             text: (pane.player.permissionDenied ? pane.allowText : pane.emptyText).replace("\n", " ")
             font.pixelSize: Theme.fontSize

@@ -45,10 +45,9 @@ Row {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 5
 
-        Text {
+        PlainText {
             width: parent.width
             text: view.track ? view.track.title : ""
-            textFormat: Text.PlainText
             font.pixelSize: view.compact ? 13 : 20
             font.weight: Font.DemiBold
             color: Theme.text
@@ -57,11 +56,10 @@ Row {
             wrapMode: view.compact ? Text.NoWrap : Text.Wrap
             maximumLineCount: view.compact ? 1 : 2
         }
-        Text {
+        PlainText {
             width: parent.width
             visible: text !== ""
             text: view.track ? view.track.artist : ""
-            textFormat: Text.PlainText
             font.pixelSize: view.compact ? 12 : 14
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft

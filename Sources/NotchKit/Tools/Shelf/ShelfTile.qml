@@ -44,13 +44,12 @@ Tile {
             size: 40
             color: Theme.dim
         }
-        Text {
+        PlainText {
             id: name
 
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
             height: 32
             text: view.tile.name
-            textFormat: Text.PlainText
             font.pixelSize: Theme.smallFontSize
             color: Theme.text
             horizontalAlignment: Text.AlignHCenter

@@ -18,7 +18,7 @@ Tile {
         y: card.tall ? 10 : (parent.height - height) / 2
         spacing: 1
 
-        Text {
+        PlainText {
             width: parent.width
             text: card.quote.symbol
             font.pixelSize: Theme.largeFontSize
@@ -28,7 +28,7 @@ Tile {
             elide: Text.ElideRight
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             width: parent.width
             visible: text !== card.quote.symbol
             text: card.quote.name
@@ -47,7 +47,7 @@ Tile {
         width: card.tall ? 96 : 66
         spacing: 1
 
-        Text {
+        PlainText {
             id: price
 
             width: parent.width
@@ -59,7 +59,7 @@ Tile {
             minimumPixelSize: 9
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             id: change
 
             width: parent.width

@@ -20,7 +20,7 @@ HomeBlock {
             title: block.title
             symbol: "chart.xyaxis.line"
         }
-        Text {
+        PlainText {
             width: parent.width
             visible: text !== ""
             text: block.empty ? qsTranslate("notch", "Type the symbols that you want to follow.")
@@ -45,7 +45,7 @@ HomeBlock {
                 width: parent.width
                 height: 18
 
-                Text {
+                PlainText {
                     anchors { left: parent.left; right: line.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
                     text: row.modelData.symbol
                     font.pixelSize: Theme.fontSize
@@ -63,7 +63,7 @@ HomeBlock {
                     points: row.modelData.points
                     up: row.modelData.change >= 0
                 }
-                Text {
+                PlainText {
                     id: price
 
                     anchors { right: change.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
@@ -73,7 +73,7 @@ HomeBlock {
                     font.pixelSize: Theme.fontSize
                     color: Theme.text
                 }
-                Text {
+                PlainText {
                     id: change
 
                     anchors { right: parent.right; verticalCenter: parent.verticalCenter }

@@ -91,7 +91,7 @@ Pane {
         }
     }
 
-    Text {
+    PlainText {
         id: missing
 
         anchors { left: parent.left; right: parent.right; bottom: footer.top }
@@ -111,7 +111,7 @@ Pane {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         height: 28
 
-        Text {
+        PlainText {
             anchors { left: parent.left; right: busy.left; verticalCenter: parent.verticalCenter }
             text: qsTranslate("notch", "Delayed quotes from Yahoo Finance.")
             font.pixelSize: Theme.smallFontSize

@@ -32,12 +32,11 @@ Item {
                 title: row.line?.title ?? ""
                 symbol: row.line?.symbol ?? "cpu"
             }
-            Text {
+            PlainText {
                 id: value
 
                 anchors { right: parent.right; verticalCenter: parent.verticalCenter }
                 text: row.line?.value ?? ""
-                textFormat: Text.PlainText
                 font.pixelSize: row.textSize
                 color: Theme.text
                 Accessible.ignored: true

@@ -24,7 +24,7 @@ Item {
         size: face.size
         weight: Font.Light
     }
-    Text {
+    PlainText {
         id: done
 
         anchors.centerIn: parent

@@ -43,7 +43,7 @@ Pane {
             timer: pane.timer
         }
 
-        Text {
+        PlainText {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTranslate("notch", "The time stays visible beside the closed notch.")
             font.pixelSize: Theme.smallFontSize

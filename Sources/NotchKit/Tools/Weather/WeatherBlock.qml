@@ -25,7 +25,7 @@ HomeBlock {
             title: block.title
             symbol: "cloud.sun"
         }
-        Text {
+        PlainText {
             width: parent.width
             visible: !block.weather.hasPlace
             text: qsTranslate("notch", "Choose a city to see its weather.")
@@ -47,7 +47,7 @@ HomeBlock {
                 size: 26
                 color: figures.symbol === "sun.max.fill" ? Theme.sun : Theme.text
             }
-            Text {
+            PlainText {
                 id: temperature
 
                 anchors { left: sky.right; leftMargin: 8; verticalCenter: parent.verticalCenter }
@@ -58,7 +58,7 @@ HomeBlock {
             Column {
                 anchors { left: temperature.right; leftMargin: 12; right: parent.right; verticalCenter: parent.verticalCenter }
 
-                Text {
+                PlainText {
                     width: parent.width
                     text: figures.city
                     font.pixelSize: Theme.fontSize
@@ -66,7 +66,7 @@ HomeBlock {
                     horizontalAlignment: Text.AlignRight
                     elide: Text.ElideRight
                 }
-                Text {
+                PlainText {
                     width: parent.width
                     text: figures.range
                     font.pixelSize: Theme.fontSize
@@ -76,7 +76,7 @@ HomeBlock {
                 }
             }
         }
-        Text {
+        PlainText {
             width: parent.width
             visible: block.weather.hasPlace && block.weather.error !== ""
             text: block.weather.error

@@ -15,7 +15,7 @@ Tile {
         width: parent.width - 8
         spacing: 4
 
-        Text {
+        PlainText {
             width: parent.width
             text: tile.day.label
             font.pixelSize: Theme.fontSize
@@ -35,14 +35,14 @@ Tile {
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 6
 
-            Text {
+            PlainText {
                 text: tile.day.high
                 font.pixelSize: Theme.largeFontSize
                 font.weight: Font.Medium
                 color: Theme.text
                 Accessible.ignored: true
             }
-            Text {
+            PlainText {
                 text: tile.day.low
                 font.pixelSize: Theme.largeFontSize
                 color: Theme.dim

@@ -50,7 +50,7 @@ Pane {
         screenModel: pane.screenModel
     }
 
-    Text {
+    PlainText {
         id: error
 
         anchors { left: parent.left; right: parent.right }
@@ -86,7 +86,7 @@ Pane {
                 size: 52
                 color: figures.symbol === "sun.max.fill" ? Theme.sun : Theme.text
             }
-            Text {
+            PlainText {
                 id: temperature
 
                 anchors { left: sky.right; leftMargin: 16; verticalCenter: parent.verticalCenter }
@@ -107,7 +107,7 @@ Pane {
                     anchors.left: parent.left
                     spacing: 4
 
-                    Text {
+                    PlainText {
                         anchors.verticalCenter: parent.verticalCenter
                         width: Math.min(implicitWidth, parent.parent.width - pencil.width - parent.spacing)
                         text: figures.city
@@ -126,7 +126,7 @@ Pane {
                         onClicked: pane.change()
                     }
                 }
-                Text {
+                PlainText {
                     width: parent.width
                     text: figures.wind
                     font.pixelSize: Theme.fontSize
@@ -157,7 +157,7 @@ Pane {
         }
     }
 
-    Text {
+    PlainText {
         id: footer
 
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
