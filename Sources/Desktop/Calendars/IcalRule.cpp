@@ -1,5 +1,6 @@
 #include "IcalRule.h"
 
+#include "IcalGate.h"
 #include "NotchKit/Platform/Utc.h"
 
 #include <libical/ical.h>
@@ -50,22 +51,13 @@ void settleUntil(icalrecurrencetype &rule, const IcalMoment &start)
     until = icalTime(start.zone->wall(end), false);
 }
 
-/// A filter on so fine a rhythm can be searched for minutes, and the numbers of weeks make the library crash
-/// for some years. Calendar programs write neither.
-bool isFollowed(const icalrecurrencetype &rule, const QByteArray &text)
-{
-    const bool fine = rule.freq == ICAL_SECONDLY_RECURRENCE || rule.freq == ICAL_MINUTELY_RECURRENCE;
-    const bool numbersWeeks = rule.by_week_no[0] != ICAL_RECURRENCE_ARRAY_MAX;
-    return rule.freq != ICAL_NO_RECURRENCE && !numbersWeeks && !(fine && text.contains("BY"));
-}
-
 } // namespace
 
 void IcalRule::visit(const QDateTime &earliest, const std::function<bool(const IcalMoment &)> &visit) const
 {
     icalrecurrencetype rule = icalrecurrencetype_from_string(m_rule.constData());
     std::unique_ptr<icalrecur_iterator, FreedIterator> iterator;
-    if (isFollowed(rule, m_rule)) {
+    if (IcalGate::passes(rule)) {
         settleUntil(rule, m_start);
         iterator.reset(icalrecur_iterator_new(rule, icalTime(m_start.wall(), m_start.isDay())));
     }

@@ -1,5 +1,7 @@
 #include "IcalZones.h"
 
+#include "IcalGate.h"
+
 #include <QTimeZone>
 
 #include <libical/ical.h>
@@ -82,6 +84,8 @@ IcalZonePtr define(const QByteArray &definition)
 {
     icalcomponent *component = icalparser_parse_string(definition.constData());
     icaltimezone *zone = icaltimezone_new();
+    if (component)
+        IcalGate::cleanZone(component);
     if (component && icalcomponent_isa(component) == ICAL_VTIMEZONE_COMPONENT &&
         icaltimezone_set_component(zone, component) != 0)
         return std::make_shared<DefinedZone>(zone);

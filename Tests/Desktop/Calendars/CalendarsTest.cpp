@@ -214,6 +214,33 @@ private Q_SLOTS:
         QCOMPARE(readEvents(stage).size(), 2);
     }
 
+    void rulesThatNobodyCanFollowCostOnlyThemselves_data()
+    {
+        QTest::addColumn<QByteArray>("zone");
+        QTest::addColumn<QByteArray>("event");
+        QTest::newRow("weeks of clocks") << QByteArray("FREQ=YEARLY;BYWEEKNO=20") << QByteArray();
+        QTest::newRow("clocks by the minute") << QByteArray("FREQ=MINUTELY") << QByteArray();
+        QTest::newRow("clocks by the second")
+            << QByteArray("FREQ=YEARLY;BYSECOND=0,1,2,3;BYMINUTE=1,2") << QByteArray();
+        QTest::newRow("a day that never comes") << QByteArray("FREQ=YEARLY;BYMONTH=3;BYDAY=-1SU")
+                                                << QByteArray("FREQ=HOURLY;BYMONTH=2;BYMONTHDAY=30");
+        QTest::newRow("an hour that is stepped over")
+            << QByteArray("FREQ=YEARLY") << QByteArray("FREQ=HOURLY;INTERVAL=24;BYHOUR=3");
+    }
+    void rulesThatNobodyCanFollowCostOnlyThemselves()
+    {
+        QFETCH(const QByteArray, zone);
+        QFETCH(const QByteArray, event);
+        FolderStage stage;
+        const QByteArray clocks =
+            QByteArray(kOwnZone).replace("END:STANDARD", "RRULE:" + zone + "\nEND:STANDARD");
+        const QByteArray rule = event.isEmpty() ? QByteArray() : "\nRRULE:" + event;
+        FolderStage::write(
+            stage.path() + u"/a.ics"_s,
+            CalendarStage::calendar(clocks + vevent("odd", "DTSTART;TZID=Far Away:20260328T100000" + rule)));
+        QCOMPARE(described(readEvents(stage)), QStringList{u"odd 28T13:00 28T13:00"_s});
+    }
+
     void completingKeepsTheRest()
     {
         FolderStage stage;
