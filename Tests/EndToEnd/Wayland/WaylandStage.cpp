@@ -2,7 +2,7 @@
 
 WaylandStage::WaylandStage(Desktop desktop, const QStringList &otherProgram)
     : compositor(desktop.kind, desktop.guest, session.environment())
-    , input(compositor.socket())
+    , input(compositor.plugInDevices(session.bus()))
     , other(session.environment(), otherProgram)
 {
     if (desktop.guest)
