@@ -58,7 +58,13 @@ Compositor::Compositor(Kind kind, bool guests, QProcessEnvironment &environment)
     }
 }
 
-Compositor::~Compositor() { m_process.stop(); }
+Compositor::~Compositor()
+{
+    if (m_kind == Kind::Mutter) // Asked to end it takes long.
+        m_process.killNow();
+    else
+        m_process.stop();
+}
 
 std::unique_ptr<InputDevices> Compositor::plugInDevices(const QDBusConnection &bus) const
 {
