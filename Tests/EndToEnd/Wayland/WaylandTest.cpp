@@ -65,7 +65,7 @@ private Q_SLOTS:
     {
         QVERIFY(stage().run({{"hoverDelay", "0"}}));
         for (const QPoint place : {Place::beside, Place::below})
-            QVERIFY(stage().clickReachesOther(place));
+            QVERIFY2(stage().clickReachesOther(place), qPrintable(QString::number(place.y())));
         input().move(Place::notch);
         QVERIFY(stage().waitOpen());
         input().glide(Place::notch, Place::panel);
