@@ -126,12 +126,13 @@ void X11Pointer::over(const xcb_generic_event_t &event)
 {
     const auto &input = reinterpret_cast<const xcb_input_motion_event_t &>(event);
     m_watching = true;
-    m_away = false;
+    m_away = m_dropped = false;
     m_over = input.event;
     m_untold = !tellsLeaving(input.sourceid);
 }
 
-/// A drag that another program began has the pointer for itself, and says where it is.
+/// A drag that another program began has the pointer for itself, and says where it is. One that began here
+/// ends over another program's window, and the server may not hear of the button.
 void X11Pointer::drag(const xcb_client_message_event_t &message)
 {
     if (message.type == X11::atom("XdndPosition")) {
@@ -139,6 +140,8 @@ void X11Pointer::drag(const xcb_client_message_event_t &message)
         m_drag = X11::toPoints(static_cast<int>(place >> 16), static_cast<int>(place & 0xffff));
     } else if (message.type == X11::atom("XdndLeave") || message.type == X11::atom("XdndDrop")) {
         m_drag.reset();
+    } else if (message.type == X11::atom("XdndFinished")) {
+        m_away = m_dropped = true;
     }
     m_watching = true;
 }
@@ -185,7 +188,7 @@ void X11Pointer::observe()
     if (m_drag)
         now = {*m_drag, true};
     else if (m_away)
-        now.location = kOutside;
+        now = {kOutside, now.primaryDown && !m_dropped};
     m_watching = now != m_last || now.primaryDown;
     if (m_watching && !m_probe.isAsking())
         m_rested = 0;

@@ -61,6 +61,7 @@ private:
     bool m_isGuest;
     bool m_away;                           ///< Of a guest: over none of this program's windows.
     xcb_window_t m_over = XCB_WINDOW_NONE; ///< Of a guest: the window that it was over last.
+    bool m_dropped = false; ///< Of a guest: what was dragged out of one of the windows was dropped elsewhere.
     std::optional<QPointF> m_drag;        ///< Of a guest: where something is dragged over one of the windows.
     QHash<uint16_t, bool> m_tellsLeaving; ///< For each of the server's devices.
     bool m_untold = false;                ///< That the pointer leaves will not be told.

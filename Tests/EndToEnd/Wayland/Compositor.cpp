@@ -230,13 +230,9 @@ QStringList Compositor::outputs() const
 {
     if (m_kind == Kind::KWin)
         return {u"Virtual-0"_s, u"Virtual-1"_s};
-    const QByteArray told = m_kind == Kind::Sway ? run(u"swaymsg"_s, {u"-r"_s, u"-t"_s, u"get_outputs"_s})
-                                                 : run(u"wlr-randr"_s, {u"--json"_s});
     QStringList names;
-    for (const auto &output : QJsonDocument::fromJson(told).array()) {
-        if (output.toObject().value("active"_L1).toBool(true))
-            names.append(output.toObject().value("name"_L1).toString());
-    }
+    for (const auto &output : QJsonDocument::fromJson(run(u"wlr-randr"_s, {u"--json"_s})).array())
+        names.append(output.toObject().value("name"_L1).toString());
     names.sort(); // "HEADLESS-1" before those that came later.
     return names;
 }
@@ -251,14 +247,8 @@ bool Compositor::plugSecond(bool plugged, WaylandInput &input)
         return true;
     }
     if (m_kind == Kind::Sway) {
-        if (plugged) {
-            run(u"swaymsg"_s, {u"create_output"_s});
-        } else {
-            const QString second = outputs().value(1);
-            run(u"swaymsg"_s, {u"output"_s, second, u"unplug"_s});
-            if (outputs().contains(second)) // Older ones know no such word.
-                run(u"swaymsg"_s, {u"output"_s, second, u"disable"_s});
-        }
+        run(u"swaymsg"_s, plugged ? QStringList{u"create_output"_s}
+                                  : QStringList{u"output"_s, outputs().value(1), u"unplug"_s});
     } else {
         input.key(KEY_LEFTMETA, true);
         input.tap(plugged ? KEY_F1 : KEY_F2);
@@ -274,8 +264,6 @@ bool Compositor::setScale(int index, double scale)
     const QString output = outputs().value(index);
     if (m_kind == Kind::KWin)
         run(u"kscreen-doctor"_s, {u"output.%1.scale.%2"_s.arg(output).arg(scale)});
-    else if (m_kind == Kind::Sway)
-        run(u"swaymsg"_s, {u"output"_s, output, u"scale"_s, QString::number(scale)});
     else
         run(u"wlr-randr"_s,
             {u"--output"_s, output, u"--custom-mode"_s, u"1280x800"_s, u"--scale"_s, QString::number(scale)});
