@@ -34,6 +34,21 @@ private Q_SLOTS:
         QCOMPARE(stage().other.count(u"no focus"_s), 0);
     }
 
+    /// As from a tablet or a virtual machine's pointer, of which the server of guests may not be told.
+    void aJumpAwayCloses_data() { desktops(); }
+    void aJumpAwayCloses()
+    {
+        QVERIFY(stage().run({{"hoverDelay", "0"}}));
+        input().move(Place::notch);
+        QVERIFY(stage().waitOpen());
+        // It stays while the pointer rests on it.
+        input().move(Place::panel);
+        QVERIFY(holdsFor([&] { return session().isOpen(); }, 2500));
+        input().move(Place::away);
+        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().clickReachesOther(Place::panel));
+    }
+
     void clicksOpenAndPin_data() { desktops(); }
     void clicksOpenAndPin()
     {
@@ -107,7 +122,7 @@ private Q_SLOTS:
     void aFullScreenWindowCoversIt()
     {
         setStage({u"full"_s});
-        QVERIFY(stage().run({{"hoverDelay", "0"}}));
+        QVERIFY(stage().run({{ "hoverDelay", "0" }}));
         QVERIFY(stage().clickReachesOther(Place::notch));
         input().move(Place::away);
         for (int round = 0; round < 2; ++round) {
@@ -124,7 +139,15 @@ private Q_SLOTS:
     }
 #endif
 
-    void filesAreDraggedInAndOut_data() { desktops(); }
+    void filesAreDraggedInAndOut_data()
+    {
+        compositors();
+#ifdef KESTRUNE_WAYLAND
+        QTest::newRow("guest of KWin") << WaylandStage::Desktop{Compositor::Kind::KWin, true, true};
+#else
+        QTest::newRow("guest of Mutter") << WaylandStage::Desktop{Compositor::Kind::Mutter, true, true};
+#endif
+    }
     void filesAreDraggedInAndOut()
     {
         QTemporaryDir folder;
@@ -151,7 +174,14 @@ private Q_SLOTS:
         QVERIFY(stage().waitClosed());
     }
 
-    void copiesOfOtherProgramsAreKept_data() { desktops(); }
+    void copiesOfOtherProgramsAreKept_data()
+    {
+        compositors();
+        QTest::newRow("guest of sway") << WaylandStage::Desktop{Compositor::Kind::Sway, true};
+#ifdef KESTRUNE_WAYLAND
+        QTest::newRow("guest of KWin") << WaylandStage::Desktop{Compositor::Kind::KWin, true};
+#endif
+    }
     void copiesOfOtherProgramsAreKept()
     {
         QVERIFY(stage().run());
