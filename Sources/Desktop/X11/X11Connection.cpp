@@ -15,13 +15,22 @@ bool canConnect()
     return reached;
 }
 
-bool isGuest()
+namespace {
+
+/// Xwayland from 23.1 on.
+bool saysIsForGuests()
 {
     constexpr std::string_view name = "XWAYLAND";
     const auto cookie = xcb_query_extension(connection(), name.size(), name.data());
     const Reply<xcb_query_extension_reply_t> reply(xcb_query_extension_reply(connection(), cookie, nullptr));
-    return (reply && reply->present) || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    return reply && reply->present;
 }
+
+} // namespace
+
+bool isGuest() { return saysIsForGuests() || qEnvironmentVariableIsSet("WAYLAND_DISPLAY"); }
+
+bool hasInputShapes() { return !isGuest() || saysIsForGuests(); }
 
 xcb_connection_t *connection()
 {

@@ -19,6 +19,10 @@ xcb_connection_t *connection();
 /// the session does.
 bool isGuest();
 
+/// Whether a window takes clicks in its input shape alone; not as a guest of the servers that do not tell the
+/// compositor of it.
+bool hasInputShapes();
+
 /// The root window of the default screen.
 xcb_window_t root();
 

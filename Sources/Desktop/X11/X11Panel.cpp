@@ -85,6 +85,7 @@ void stack(xcb_window_t window, xcb_window_t sibling, xcb_stack_mode_t mode)
 X11Panel::X11Panel(std::unique_ptr<QWindow> window, const X11Desktop &desktop, const QRectF &frame)
     : m_desktop(desktop)
     , m_window(std::move(window))
+    , m_hasInputShapes(X11::hasInputShapes())
     , m_hitWindow(createHitWindow())
 {
     m_window->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
@@ -92,6 +93,7 @@ X11Panel::X11Panel(std::unique_ptr<QWindow> window, const X11Desktop &desktop, c
     setFrame(frame);
     m_window->create();
     announceType();
+    keepMiddle();
     connect(&m_desktop, &X11Desktop::compositorChanged, this, [this] {
         applyOutline();
         placeHitWindow();
@@ -100,6 +102,13 @@ X11Panel::X11Panel(std::unique_ptr<QWindow> window, const X11Desktop &desktop, c
 }
 
 X11Panel::~X11Panel() { xcb_destroy_window(X11::connection(), m_hitWindow); }
+
+/// What is shown stays in the middle of the upper edge when the window's width changes.
+void X11Panel::keepMiddle() const
+{
+    constexpr uint32_t gravity = XCB_GRAVITY_NORTH;
+    xcb_change_window_attributes(X11::connection(), id(), XCB_CW_BIT_GRAVITY, &gravity);
+}
 
 void X11Panel::announceType() const
 {
@@ -113,13 +122,39 @@ void X11Panel::announceType() const
 void X11Panel::setFrame(const QRectF &frame)
 {
     m_frame = frame;
-    const QRectF qtFrame = Points::toQt(frame);
-    m_window->setScreen(Points::screenAt(qtFrame));
-    m_window->setGeometry(QRect(QPoint(qRound(qtFrame.x()), qRound(qtFrame.y())), qtFrame.size().toSize()));
+    place(wantedFrame());
     if (m_window->handle()) {
         applyHitArea();
         applyOutline();
     }
+}
+
+QRectF X11Panel::wantedFrame() const
+{
+    if (m_hasInputShapes || m_hitArea.isEmpty())
+        return m_frame;
+    // Only the open notch has a shadow, and only its hit area is higher than that is wide.
+    const double shadow = m_hitArea.height() > kShadow ? kShadow : 0;
+    return m_hitArea.adjusted(-shadow, -shadow, shadow, 0) & m_frame;
+}
+
+void X11Panel::place(const QRectF &frame)
+{
+    m_placed = frame;
+    const QRectF qtFrame = Points::toQt(frame);
+    m_window->setScreen(Points::screenAt(qtFrame));
+    m_window->setGeometry(QRect(QPoint(qRound(qtFrame.x()), qRound(qtFrame.y())), qtFrame.size().toSize()));
+}
+
+/// To what is wanted, once the notch that is drawn is within that.
+void X11Panel::shrink()
+{
+    const QRectF wanted = wantedFrame();
+    const QRectF drawn = m_outline.boundingRect().translated(m_frame.left(), 0);
+    if (wanted == m_placed || drawn.width() > wanted.width() + 1 || drawn.height() > wanted.height() + 1)
+        return;
+    place(wanted);
+    applyHitArea();
 }
 
 void X11Panel::orderFront()
@@ -148,6 +183,8 @@ QRect X11Panel::pixelsInPanel(const QRectF &points) const
 void X11Panel::setHitArea(const QRectF &area)
 {
     m_hitArea = area;
+    if (const QRectF wanted = wantedFrame(); !m_placed.contains(wanted))
+        place(wanted);
     applyHitArea();
 }
 
@@ -185,6 +222,7 @@ void X11Panel::placeHitWindow()
 void X11Panel::setOutline(const QPainterPath &outline)
 {
     m_outline = outline;
+    shrink();
     if (!m_desktop.hasCompositor())
         applyOutline();
 }
@@ -193,7 +231,9 @@ void X11Panel::announceFrame()
 {
     if (!m_desktop.hasCompositor() || m_outline.isEmpty())
         return;
-    const QRectF now = m_outline.boundingRect().adjusted(-kShadow, -kShadow, kShadow, kShadow);
+    const QRectF now = m_outline.boundingRect()
+                           .translated(m_frame.left() - m_placed.left(), 0)
+                           .adjusted(-kShadow, -kShadow, kShadow, kShadow);
     const QRectF area = (now | std::exchange(m_drawn, now)) & QRectF({}, QSizeF(m_window->size()));
     const double scale = m_window->devicePixelRatio();
     m_desktop.reportDamage(id(), QRectF(area.topLeft() * scale, area.size() * scale).toAlignedRect());

@@ -16,7 +16,8 @@ class X11Desktop;
 
 /// A notch's host panel: an override-redirect window, which no window manager moves, lists, decorates or
 /// focuses. With a compositor its surroundings are transparent; without one its bounding shape follows the
-/// notch's outline.
+/// notch's outline. Where input shapes are unknown the window is no larger than the hit area, and while the
+/// notch is open than its shadow.
 class X11Panel final : public QObject, public NotchPanel
 {
     Q_OBJECT
@@ -41,8 +42,12 @@ public:
 
 private:
     xcb_window_t id() const { return static_cast<xcb_window_t>(m_window->winId()); }
+    QRectF wantedFrame() const;
+    void place(const QRectF &frame);
+    void shrink();
     QRect pixelsInPanel(const QRectF &points) const;
     void announceType() const;
+    void keepMiddle() const;
     void applyHitArea();
     void applyOutline();
     void placeHitWindow();
@@ -50,7 +55,9 @@ private:
 
     const X11Desktop &m_desktop;
     std::unique_ptr<QWindow> m_window;
+    const bool m_hasInputShapes;
     QRectF m_frame;
+    QRectF m_placed; ///< What of the frame the window fills.
     QRectF m_hitArea;
     QPainterPath m_outline;
     QRectF m_drawn; ///< Where the frame before drew, in points of the panel.

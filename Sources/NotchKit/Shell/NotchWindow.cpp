@@ -6,6 +6,8 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 
+#include <cmath>
+
 void qml_register_types_Kestrune_Views();
 
 namespace Kestrune {
@@ -47,6 +49,9 @@ NotchWindow::NotchWindow(QQmlEngine &engine, NotchScreenModel &model, NotchServi
         qFatal("the notch view cannot be made: %s", qPrintable(component.errorString()));
     m_root->setParentItem(contentItem());
     m_root->setSize(NotchGeometry::panelSize);
+    // In the middle, also of a window that is narrower than the panel for a while.
+    connect(this, &QWindow::widthChanged, this,
+            [this](int width) { m_root->setX(std::round((width - NotchGeometry::panelSize.width()) / 2)); });
     if (auto *shape = m_root->findChild<NotchShapeItem *>())
         connect(shape, &NotchShapeItem::outlineChanged, this, &NotchWindow::outlineChanged);
 }

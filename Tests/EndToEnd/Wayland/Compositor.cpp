@@ -4,6 +4,8 @@
 #include "EndToEnd/Wayland/WaylandInput.h"
 #include "Support/TestRegistry.h"
 
+#include <QRegularExpression>
+
 #include <linux/input-event-codes.h>
 #include <unistd.h>
 
@@ -34,9 +36,12 @@ Compositor::Compositor(Kind kind, bool guests, QProcessEnvironment &environment)
         own.insert(u"KWIN_WAYLAND_NO_PERMISSION_CHECKS"_s, u"1"_s); // Else it takes no input from a test.
         return own;
     }())
+    , m_pipeWire(m_process.processEnvironment())
 {
-    m_process.setStandardOutputFile(QProcess::nullDevice());
-    m_process.setStandardErrorFile(QProcess::nullDevice());
+    for (ChildProcess *process : {&m_process, &m_pipeWire}) {
+        process->setStandardOutputFile(QProcess::nullDevice());
+        process->setStandardErrorFile(QProcess::nullDevice());
+    }
     switch (kind) {
     case Kind::Sway:
         startSway();
@@ -47,10 +52,31 @@ Compositor::Compositor(Kind kind, bool guests, QProcessEnvironment &environment)
     case Kind::KWin:
         startKWin();
         break;
+    case Kind::Mutter:
+        startMutter();
+        break;
     }
 }
 
-Compositor::~Compositor() { m_process.stop(); }
+Compositor::~Compositor()
+{
+    if (m_kind == Kind::Mutter) // Asked to end it takes long.
+        m_process.killNow();
+    else
+        m_process.stop();
+}
+
+std::unique_ptr<InputDevices> Compositor::plugInDevices(const QDBusConnection &bus) const
+{
+    switch (m_kind) {
+    case Kind::KWin:
+        return makeFakeInput(m_socket);
+    case Kind::Mutter:
+        return makeRemoteDesktop(bus);
+    default:
+        return makeVirtualDevices(m_socket);
+    }
+}
 
 void Compositor::startSway()
 {
@@ -81,6 +107,55 @@ void Compositor::startKWin()
         run(u"kscreen-doctor"_s, {u"output.Virtual-1.disable"_s});
 }
 
+void Compositor::startMutter()
+{
+    const QString log = m_folder.filePath(u"log"_s);
+    m_process.setStandardErrorFile(log);
+    if (!m_pipeWire.launch(u"pipewire"_s) || !awaitFile(m_pipeWire, u"pipewire-0"_s) ||
+        !m_process.launch(u"mutter"_s,
+                          {u"--headless"_s, u"--virtual-monitor"_s, u"1280x800"_s, u"--virtual-monitor"_s,
+                           u"1280x800"_s, u"--wayland-display"_s, u"wayland-0"_s}))
+        return;
+    static const QRegularExpression told(u"public X11 display (:\\d+)"_s);
+    if (!waitUntil([&] { return told.match(QString::fromUtf8(readFile(log))).hasMatch(); }) ||
+        !awaitSocket(u"wayland-0"_s))
+        return;
+    const QStringList keys =
+        QDir(m_folder.path()).entryList({u".mutter-Xwaylandauth.*"_s}, QDir::Files | QDir::Hidden);
+    setGuestsDisplay(told.match(QString::fromUtf8(readFile(log))).captured(1),
+                     m_folder.filePath(keys.value(0)));
+    for (const auto &service : {u"DisplayConfig"_s, u"RemoteDesktop"_s, u"ScreenCast"_s})
+        run(u"gdbus"_s,
+            {u"wait"_s, u"--session"_s, u"--timeout"_s, u"60"_s, u"org.gnome.Mutter."_s + service});
+    arrangeMutter(false);
+}
+
+/// The first of its displays, and the second right of it where that is wanted.
+bool Compositor::arrangeMutter(bool second, double secondScale)
+{
+    const auto ask = [this](const QString &method, const QStringList &arguments) {
+        const QString service = u"org.gnome.Mutter.DisplayConfig"_s;
+        return run(u"gdbus"_s,
+                   QStringList{u"call"_s, u"--session"_s, u"-d"_s, service, u"-o"_s,
+                               u"/org/gnome/Mutter/DisplayConfig"_s, u"-m"_s, service + u'.' + method} +
+                       arguments);
+    };
+    static const QRegularExpression firstNumber(u"uint32 (\\d+)"_s);
+    const QString state = QString::fromUtf8(ask(u"GetCurrentState"_s, {}));
+    const auto display = [](int x, double scale, const char *primary, const char *name) {
+        return u"(%1, 0, %2, 0, %3, [('%4', '1280x800@60.000', {})])"_s.arg(x)
+            .arg(scale, 0, 'f', 2)
+            .arg(QLatin1String(primary), QLatin1String(name));
+    };
+    QStringList displays{display(0, 1, "true", "Meta-0")};
+    if (second)
+        displays.append(display(1280, secondScale, "false", "Meta-1"));
+    constexpr auto once = "1"; // Neither tried nor remembered.
+    return !ask(u"ApplyMonitorsConfig"_s, {firstNumber.match(state).captured(1), QString::fromLatin1(once),
+                                           u'[' + displays.join(u", "_s) + u']', u"{}"_s})
+                .isEmpty();
+}
+
 /// As nobody where the tests run as root, as which it refuses to run.
 bool Compositor::launchUnprivileged(const QString &program, const QStringList &arguments)
 {
@@ -97,21 +172,34 @@ bool Compositor::launchUnprivileged(const QString &program, const QStringList &a
            m_process.launch(u"setpriv"_s, words + arguments);
 }
 
+/// Which `process` makes in the folder.
+bool Compositor::awaitFile(const ChildProcess &process, const QString &name) const
+{
+    const QString file = m_folder.filePath(name);
+    return waitUntil([&] { return QFile::exists(file) || process.state() == QProcess::NotRunning; }) &&
+           process.state() == QProcess::Running;
+}
+
 bool Compositor::awaitSocket(const QString &name)
 {
-    const QString socket = m_folder.filePath(name);
-    if (!waitUntil([&] { return QFile::exists(socket) || m_process.state() == QProcess::NotRunning; }) ||
-        m_process.state() == QProcess::NotRunning)
+    if (!awaitFile(m_process, name))
         return false;
-    m_environment.insert(u"WAYLAND_DISPLAY"_s, socket);
-    m_socket = socket;
+    m_socket = m_folder.filePath(name);
+    m_environment.insert(u"WAYLAND_DISPLAY"_s, m_socket);
     const QString display = m_folder.filePath(u"display"_s);
-    if (!m_guests || !waitUntil([&] { return readFile(display).endsWith(".\n"); }))
-        return !m_guests;
+    if (!m_guests || m_kind == Kind::Mutter)
+        return true;
+    if (!waitUntil([&] { return readFile(display).endsWith(".\n"); }))
+        return false;
     const QStringList told = QString::fromUtf8(readFile(display)).split(u'\n');
-    m_environment.insert(u"DISPLAY"_s, told.value(0));
-    m_environment.insert(u"XAUTHORITY"_s, told.value(1));
+    setGuestsDisplay(told.value(0), told.value(1));
     return true;
+}
+
+void Compositor::setGuestsDisplay(const QString &display, const QString &authority)
+{
+    m_environment.insert(u"DISPLAY"_s, display);
+    m_environment.insert(u"XAUTHORITY"_s, authority);
 }
 
 /// A program that writes down which X11 display the guests have, and what opens it; to root it is open in any
@@ -152,6 +240,8 @@ QStringList Compositor::outputs() const
 bool Compositor::plugSecond(bool plugged, WaylandInput &input)
 {
     const qsizetype count = plugged ? 2 : 1;
+    if (m_kind == Kind::Mutter)
+        return arrangeMutter(plugged);
     if (m_kind == Kind::KWin) {
         run(u"kscreen-doctor"_s, {plugged ? u"output.Virtual-1.enable"_s : u"output.Virtual-1.disable"_s});
         return true;
@@ -169,6 +259,8 @@ bool Compositor::plugSecond(bool plugged, WaylandInput &input)
 
 bool Compositor::setScale(int index, double scale)
 {
+    if (m_kind == Kind::Mutter)
+        return index == 1 && arrangeMutter(true, scale);
     const QString output = outputs().value(index);
     if (m_kind == Kind::KWin)
         run(u"kscreen-doctor"_s, {u"output.%1.scale.%2"_s.arg(output).arg(scale)});
@@ -180,7 +272,7 @@ bool Compositor::setScale(int index, double scale)
 
 QImage Compositor::picture() const
 {
-    if (m_kind == Kind::KWin)
+    if (m_kind == Kind::KWin || m_kind == Kind::Mutter)
         return {};
     const QString file = m_folder.filePath(u"picture.png"_s);
     run(u"grim"_s, {u"-o"_s, outputs().value(0), file});

@@ -5,13 +5,15 @@
 #include <QImage>
 #include <QTemporaryDir>
 
+class InputDevices;
+class QDBusConnection;
 class WaylandInput;
 
 /// A Wayland compositor without a screen, with one display of 1280 x 800.
 class Compositor
 {
 public:
-    enum class Kind { Sway, Labwc, KWin };
+    enum class Kind { Sway, Labwc, KWin, Mutter };
 
     /// Starts it, with Xwayland where X11's programs are to be its guests, and tells `environment`, which its
     /// clients get, how to reach it.
@@ -21,6 +23,9 @@ public:
 
     /// With its folder; empty when it did not start.
     QString socket() const { return m_socket; }
+
+    /// A pointer and a keyboard; `bus` is the session's.
+    std::unique_ptr<InputDevices> plugInDevices(const QDBusConnection &bus) const;
 
     /// Plugs in or unplugs a display right of the first one.
     bool plugSecond(bool plugged, WaylandInput &input);
@@ -35,8 +40,12 @@ private:
     void startSway();
     void startLabwc();
     void startKWin();
+    void startMutter();
     bool launchUnprivileged(const QString &program, const QStringList &arguments);
     bool awaitSocket(const QString &name);
+    bool awaitFile(const ChildProcess &process, const QString &name) const;
+    void setGuestsDisplay(const QString &display, const QString &authority);
+    bool arrangeMutter(bool second, double secondScale = 1);
     QByteArray run(const QString &program, const QStringList &arguments) const;
     QStringList outputs() const;
     QString tellDisplay() const;
@@ -47,4 +56,5 @@ private:
     QProcessEnvironment &m_environment;
     QString m_socket;
     ChildProcess m_process;
+    ChildProcess m_pipeWire; ///< Mutter records displays by it, which is how a test's pointer knows places.
 };

@@ -1,44 +1,35 @@
 #pragma once
 
-#include <QPoint>
-#include <QSize>
-#include <QString>
+#include "EndToEnd/Wayland/InputDevices.h"
 
-#include <memory>
-
-/// The pointer and the keyboard of a compositor, moved and pressed as a person would; they stay plugged in as
-/// long as the object. Every call has reached the compositor when it returns.
+/// The pointer and the keyboard of a compositor, moved and pressed as a person would.
 class WaylandInput
 {
 public:
-    /// `socket` is the compositor's, with its folder.
-    explicit WaylandInput(const QString &socket);
-    ~WaylandInput();
-    Q_DISABLE_COPY_MOVE(WaylandInput)
+    explicit WaylandInput(std::unique_ptr<InputDevices> devices)
+        : m_devices(std::move(devices))
+    {}
 
     /// Whether the compositor lets a test give input.
-    bool isReady() const;
+    bool isReady() const { return m_devices->areReady(); }
 
     /// The size of all displays together, where they begin at the origin.
     void setExtent(QSize extent) { m_extent = extent; }
 
-    void move(QPoint place);
+    void move(QPoint place) { m_devices->move(place, m_extent); }
     /// As a mouse does, from where it is.
-    void push(QPoint by);
+    void push(QPoint by) { m_devices->push(by); }
     /// In small steps, as a hand does with a mouse.
     void glide(QPoint from, QPoint to);
-    void pressButton();
-    void releaseButton();
+    void pressButton() { m_devices->button(true); }
+    void releaseButton() { m_devices->button(false); }
     void click(QPoint place);
 
     /// Keys are the kernel's, KEY_ESC and the like.
-    void key(int code, bool down);
+    void key(int code, bool down) { m_devices->key(code, down); }
     void tap(int code);
 
 private:
-    void sync();
-
-    struct Devices;
-    std::unique_ptr<Devices> m_devices;
+    std::unique_ptr<InputDevices> m_devices;
     QSize m_extent{1280, 800};
 };

@@ -2,8 +2,8 @@
 
 WaylandStage::WaylandStage(Desktop desktop, const QStringList &otherProgram)
     : compositor(desktop.kind, desktop.guest, session.environment())
-    , input(compositor.socket())
-    , other(session.environment(), otherProgram)
+    , input(compositor.plugInDevices(session.bus()))
+    , other(session.environment(), desktop.guestBeside ? u"xcb"_s : u"wayland"_s, otherProgram)
 {
     if (desktop.guest)
         session.environment().insert(u"KESTRUNE_WINDOW_SYSTEM"_s, u"x11"_s);

@@ -29,10 +29,10 @@ class OtherProgram : public ChildProcess
     Q_OBJECT
 
 public:
-    OtherProgram(QProcessEnvironment environment, const QStringList &arguments)
+    OtherProgram(QProcessEnvironment environment, const QString &platform, const QStringList &arguments)
         : ChildProcess(environment)
     {
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("wayland"));
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), platform);
         setProcessEnvironment(environment);
         setProcessChannelMode(QProcess::SeparateChannels);
         launch(QStringLiteral(KESTRUNE_OTHER_PROGRAM), arguments);
@@ -55,11 +55,12 @@ struct WaylandStage
 {
     using Settings = std::initializer_list<std::pair<const char *, const char *>>;
 
-    /// As a guest, Kestrune runs on X11.
+    /// As a guest, Kestrune runs on X11, and so does the other program where it is one too.
     struct Desktop
     {
         Compositor::Kind kind;
         bool guest = false;
+        bool guestBeside = false;
     };
 
     WaylandStage(Desktop desktop, const QStringList &otherProgram);
