@@ -28,8 +28,14 @@ public:
     /// Sets the scale of the display number `index`.
     bool setScale(int index, double scale);
 
-    /// What the first display shows; null on a compositor that lets nobody look.
-    QImage picture() const;
+    /// What that display shows; null on a compositor that lets nobody look.
+    QImage picture(int index = 0) const;
+
+    /// Runs a client of it to its end, and returns what it says.
+    QByteArray run(const QString &program, const QStringList &arguments) const;
+
+    /// The names of the displays, in the order of their numbers.
+    QStringList outputs() const;
 
 private:
     void startSway();
@@ -37,8 +43,6 @@ private:
     void startKWin();
     bool launchUnprivileged(const QString &program, const QStringList &arguments);
     bool awaitSocket(const QString &name);
-    QByteArray run(const QString &program, const QStringList &arguments) const;
-    QStringList outputs() const;
     QString tellDisplay() const;
 
     QTemporaryDir m_folder; ///< Of its sockets and configuration.
