@@ -91,8 +91,11 @@ void Compositor::startSway()
 
 void Compositor::startLabwc()
 {
+    QStringList arguments{u"-C"_s, m_folder.path()};
+    if (m_guests)
+        arguments += {u"-s"_s, tellDisplay()};
     if (writeFile(m_folder.filePath(u"rc.xml"_s), labwcConfiguration) &&
-        m_process.launch(u"labwc"_s, {u"-C"_s, m_folder.path()}) && awaitSocket(u"wayland-0"_s))
+        m_process.launch(u"labwc"_s, arguments) && awaitSocket(u"wayland-0"_s))
         run(u"wlr-randr"_s, {u"--output"_s, outputs().value(0), u"--custom-mode"_s, u"1280x800"_s});
 }
 
@@ -270,11 +273,11 @@ bool Compositor::setScale(int index, double scale)
     return true;
 }
 
-QImage Compositor::picture() const
+QImage Compositor::picture(int index) const
 {
     if (m_kind == Kind::KWin || m_kind == Kind::Mutter)
         return {};
     const QString file = m_folder.filePath(u"picture.png"_s);
-    run(u"grim"_s, {u"-o"_s, outputs().value(0), file});
+    run(u"grim"_s, {u"-o"_s, outputs().value(index), file});
     return QImage(file);
 }

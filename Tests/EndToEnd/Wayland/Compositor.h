@@ -33,8 +33,14 @@ public:
     /// Sets the scale of the display number `index`.
     bool setScale(int index, double scale);
 
-    /// What the first display shows; null on a compositor that lets nobody look.
-    QImage picture() const;
+    /// What that display shows; null on a compositor that lets nobody look.
+    QImage picture(int index = 0) const;
+
+    /// Runs a client of it to its end, and returns what it says.
+    QByteArray run(const QString &program, const QStringList &arguments) const;
+
+    /// The names of the displays, in the order of their numbers.
+    QStringList outputs() const;
 
 private:
     void startSway();
@@ -46,8 +52,6 @@ private:
     bool awaitFile(const ChildProcess &process, const QString &name) const;
     void setGuestsDisplay(const QString &display, const QString &authority);
     bool arrangeMutter(bool second, double secondScale = 1);
-    QByteArray run(const QString &program, const QStringList &arguments) const;
-    QStringList outputs() const;
     QString tellDisplay() const;
 
     QTemporaryDir m_folder; ///< Of its sockets and configuration.

@@ -1,9 +1,9 @@
 #include "EndToEnd/Wayland/WaylandStage.h"
 
 WaylandStage::WaylandStage(Desktop desktop, const QStringList &otherProgram)
-    : compositor(desktop.kind, desktop.guest, session.environment())
+    : compositor(desktop.kind, desktop.guest || desktop.otherIsGuest, session.environment())
     , input(compositor.plugInDevices(session.bus()))
-    , other(session.environment(), desktop.guestBeside ? u"xcb"_s : u"wayland"_s, otherProgram)
+    , other(session.environment(), desktop.otherIsGuest ? u"xcb"_s : u"wayland"_s, otherProgram)
 {
     if (desktop.guest)
         session.environment().insert(u"KESTRUNE_WINDOW_SYSTEM"_s, u"x11"_s);
@@ -11,7 +11,7 @@ WaylandStage::WaylandStage(Desktop desktop, const QStringList &otherProgram)
         qFatal("the compositor did not start, or takes no input");
 }
 
-bool WaylandStage::run(Settings settings)
+bool WaylandStage::run(Settings settings, int notches)
 {
     session.setFlag(u"kestrune"_s, u"kestrune.welcomed"_s, true);
     for (const auto &[name, value] : settings) {
@@ -20,7 +20,7 @@ bool WaylandStage::run(Settings settings)
     }
     input.move(Place::away);
     return waitUntil([this] { return other.hasFocus(); }) && session.start() &&
-           waitUntil([this] { return session.displays().size() == 1; });
+           waitUntil([&] { return session.displays().size() == notches; });
 }
 
 bool WaylandStage::waitOpen(int display) const
@@ -44,4 +44,18 @@ bool WaylandStage::clickReachesOther(QPoint place)
             return waitUntil([&] { return other.count(u"press"_s) > before; }, 500);
         },
         5000);
+}
+
+void WaylandStageTest::compositors(bool otherIsGuest)
+{
+    using enum Compositor::Kind;
+    QTest::addColumn<WaylandStage::Desktop>("desktop");
+    for (const auto &[name, kind] : {std::pair("sway", Sway), {"labwc", Labwc}, {"KWin", KWin}})
+        QTest::newRow(name) << WaylandStage::Desktop{.kind = kind, .otherIsGuest = otherIsGuest};
+}
+
+WaylandStage::Desktop WaylandStageTest::desktop()
+{
+    QFETCH(WaylandStage::Desktop, desktop);
+    return desktop;
 }

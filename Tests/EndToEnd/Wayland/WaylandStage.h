@@ -29,6 +29,7 @@ class OtherProgram : public ChildProcess
     Q_OBJECT
 
 public:
+    /// `platform` is Qt's.
     OtherProgram(QProcessEnvironment environment, const QString &platform, const QStringList &arguments)
         : ChildProcess(environment)
     {
@@ -55,12 +56,12 @@ struct WaylandStage
 {
     using Settings = std::initializer_list<std::pair<const char *, const char *>>;
 
-    /// As a guest, Kestrune runs on X11, and so does the other program where it is one too.
+    /// A guest runs on X11: Kestrune, or the other program.
     struct Desktop
     {
         Compositor::Kind kind;
         bool guest = false;
-        bool guestBeside = false;
+        bool otherIsGuest = false;
     };
 
     WaylandStage(Desktop desktop, const QStringList &otherProgram);
@@ -68,7 +69,7 @@ struct WaylandStage
     Q_DISABLE_COPY_MOVE(WaylandStage)
 
     /// Starts the program, which has been started before, with these settings; the pointer is elsewhere.
-    bool run(Settings settings = {});
+    bool run(Settings settings = {}, int notches = 1);
 
     bool waitOpen(int display = 0) const;
     bool waitClosed(int display = 0) const;
@@ -80,4 +81,29 @@ struct WaylandStage
     Compositor compositor;
     WaylandInput input;
     OtherProgram other;
+};
+
+/// Base of test classes: a fresh stage for every test function, with the compositor of its row.
+class WaylandStageTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    /// The rows of a test: every compositor that Kestrune is a client of.
+    static void compositors(bool otherIsGuest = false);
+    static WaylandStage::Desktop desktop();
+
+    WaylandStage &setStage(const QStringList &otherProgram)
+    {
+        return m_stage.emplace(desktop(), otherProgram);
+    }
+    WaylandStage &stage() { return m_stage ? *m_stage : setStage({QStringLiteral("maximized")}); }
+    Session &session() { return stage().session; }
+    WaylandInput &input() { return stage().input; }
+
+private Q_SLOTS:
+    void cleanup() { m_stage.reset(); }
+
+private:
+    std::optional<WaylandStage> m_stage;
 };

@@ -1,0 +1,126 @@
+#include "EndToEnd/Wayland/WaylandStage.h"
+
+#include <linux/input-event-codes.h>
+
+/// Displays of every scale and turned, which change while the program runs.
+class WaylandDisplaysTest : public WaylandStageTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void followsItsDisplay_data() { compositors(); }
+    void followsItsDisplay()
+    {
+        const QList<Layout> layouts{{1.25}, {1.5}, {1.75}, {2}, {1, true}};
+        const QMap<double, QImage> sharp = sharpPictures({1.25, 1.5, 1.75, 2});
+        QVERIFY(stage().run({{"hoverDelay", "0"}}));
+        for (const Layout &layout : layouts) {
+            lay(0, layout);
+            const QByteArray which = QByteArray::number(layout.scale) + (layout.turned ? " turned" : "");
+            const QSize size = sizeOf(layout);
+            QTRY_VERIFY2(near(frame().size(), size), which);
+            input().setExtent(size);
+            input().move({size.width() / 2, size.height() - 10});
+            QVERIFY2(layout.turned || looksLike(sharp.value(layout.scale), 0, layout.scale), which);
+            const QPoint notch(size.width() / 2, 10);
+            input().move(notch);
+            QVERIFY2(stage().waitOpen(), which);
+            QVERIFY2(stage().clickReachesOther(notch + QPoint(0, 340)), which);
+            QVERIFY2(stage().waitClosed(), which);
+            QVERIFY2(stage().clickReachesOther(notch + QPoint(0, 50)), which);
+        }
+    }
+
+private:
+    struct Layout
+    {
+        double scale;
+        bool turned = false;
+    };
+
+    bool isKWin() { return desktop().kind == Compositor::Kind::KWin; }
+    /// Every scale divides it, so that no picture has to be rounded.
+    QSize mode() { return isKWin() ? QSize(1280, 800) : QSize(2100, 1260); }
+
+    QSize sizeOf(const Layout &layout)
+    {
+        return (layout.turned ? mode().transposed() : mode()) / layout.scale;
+    }
+
+    void lay(int index, const Layout &layout, QPoint place = {})
+    {
+        const Compositor &compositor = stage().compositor;
+        const QString output = compositor.outputs().value(index), scale = QString::number(layout.scale);
+        if (isKWin()) {
+            compositor.run(u"kscreen-doctor"_s,
+                           {u"output.%1.scale.%2"_s.arg(output, scale),
+                            u"output.%1.rotation.%2"_s.arg(output, layout.turned ? u"left"_s : u"none"_s),
+                            u"output.%1.position.%2,%3"_s.arg(output).arg(place.x()).arg(place.y())});
+            return;
+        }
+        compositor.run(u"wlr-randr"_s,
+                       {u"--output"_s, output, u"--custom-mode"_s, u"2100x1260"_s, u"--scale"_s, scale,
+                        u"--transform"_s, layout.turned ? u"90"_s : u"normal"_s, u"--pos"_s,
+                        u"%1,%2"_s.arg(place.x()).arg(place.y())});
+    }
+
+    QRectF frame(int index = 0)
+    {
+        const QJsonObject told = session().display(index).value("frame"_L1).toObject();
+        return {told.value("x"_L1).toDouble(), told.value("y"_L1).toDouble(),
+                told.value("width"_L1).toDouble(), told.value("height"_L1).toDouble()};
+    }
+
+    static bool near(QSizeF size, QSize wanted)
+    {
+        return std::abs(size.width() - wanted.width()) <= 1 && std::abs(size.height() - wanted.height()) <= 1;
+    }
+
+    /// The open notch with all around it, but for what may be a window's title beside it, once nothing in it
+    /// moves any more.
+    QImage openNotch(int index, double scale)
+    {
+        QImage before, now;
+        const auto rests = [&] {
+            const QImage whole = stage().compositor.picture(index);
+            const QSize size = QSizeF(880 * scale, 390 * scale).toSize();
+            const int top = qRound(40 * scale);
+            now = whole.copy((whole.width() - size.width()) / 2, top, size.width(), size.height() - top);
+            const QPoint edge(now.width() / 2, qRound(324 * scale) - top);
+            return now.pixelColor(edge) == QColor(Qt::black) && std::exchange(before, now) == now;
+        };
+        return waitUntil(rests) ? now : QImage();
+    }
+
+    /// What the view draws itself at each scale, on a display that enlarges nothing. None on a compositor
+    /// that lets nobody look.
+    QMap<double, QImage> sharpPictures(const QList<double> &scales)
+    {
+        QMap<double, QImage> pictures;
+        if (isKWin())
+            return pictures;
+        lay(0, {1});
+        for (const double scale : scales) {
+            session().environment().insert(u"QT_SCALE_FACTOR"_s, QString::number(scale));
+            if (stage().run() && session().command({u"open"_s, u"shelf"_s}).status == 0 && stage().waitOpen())
+                pictures.insert(scale, openNotch(0, scale));
+            session().endProgram();
+        }
+        session().environment().remove(u"QT_SCALE_FACTOR"_s);
+        return pictures;
+    }
+
+    /// Calls the notch, and compares it with the one that was drawn sharply.
+    bool looksLike(const QImage &sharp, int index, double scale)
+    {
+        if (isKWin())
+            return true;
+        const bool opened = session().command({u"open"_s, u"shelf"_s}).status == 0 && stage().waitOpen(index);
+        const bool equal = openNotch(index, scale) == sharp;
+        input().tap(KEY_ESC);
+        return opened && equal && stage().waitClosed(index);
+    }
+};
+
+REGISTER_TEST(WaylandDisplaysTest);
+#include "WaylandDisplaysTest.moc"

@@ -1,0 +1,85 @@
+#include "EndToEnd/Wayland/WaylandStage.h"
+
+#include <linux/input-event-codes.h>
+
+/// What opens and closes the notch of a native client, and what of the pointer others keep.
+class WaylandOpeningTest : public WaylandStageTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void onlyAFreshPressOrARestOpens_data() { compositors(); }
+    void onlyAFreshPressOrARestOpens()
+    {
+        QVERIFY(stage().run({{"hoverDelay", "0.6"}}));
+        // A press while resting starts the delay anew.
+        input().move(Place::notch);
+        QTest::qWait(300);
+        input().pressButton();
+        QVERIFY(holdsFor([&] { return !session().isOpen(); }, 900));
+        input().releaseButton();
+        const qint64 opened = timeUntil([&] { return session().isOpen(); });
+        QVERIFY2(opened >= 600, qPrintable(QString::number(opened)));
+        QVERIFY(leave());
+
+        // A press that is dragged in does not open it.
+        input().pressButton();
+        input().glide(Place::away, Place::notch);
+        QVERIFY(holdsFor([&] { return !session().isOpen(); }, 900));
+        input().move(Place::away);
+        input().releaseButton();
+
+        // The shortest of clicks does.
+        QVERIFY(session().set(u"openMode"_s, u"click"_s));
+        const qsizetype pressed = stage().other.count(u"press"_s);
+        for (int round = 0; round < 3; ++round) {
+            input().click(Place::notch);
+            QVERIFY(stage().waitOpen());
+            QVERIFY(leave());
+        }
+        QCOMPARE(stage().other.count(u"press"_s), pressed);
+    }
+
+    void calledByACommandItStaysUntilVisited_data() { compositors(); }
+    void calledByACommandItStaysUntilVisited()
+    {
+        QVERIFY(stage().run());
+        QCOMPARE(session().command({u"toggle"_s}).status, 0);
+        QVERIFY(stage().waitOpen());
+        QVERIFY(holdsFor([&] { return session().isOpen(); }, 800));
+        QVERIFY(!session().display().value("pointerEntered"_L1).toBool());
+        input().move(Place::panel);
+        QTRY_VERIFY(session().display().value("pointerEntered"_L1).toBool());
+        QVERIFY(leave());
+        QTRY_VERIFY(stage().other.hasFocus());
+    }
+
+    void anX11ProgramKeepsItsClicksAndTheKeyboard_data() { compositors(true); }
+    void anX11ProgramKeepsItsClicksAndTheKeyboard()
+    {
+        QVERIFY(stage().run({{"hoverDelay", "0"}}));
+        QCOMPARE(session().status().value("windowSystem"_L1).toString(), u"wayland"_s);
+        for (const QPoint place : {Place::beside, Place::below})
+            QVERIFY(stage().clickReachesOther(place));
+        input().move(Place::notch);
+        QVERIFY(stage().waitOpen());
+        input().glide(Place::notch, Place::panel);
+        QVERIFY(stage().other.hasFocus());
+        input().tap(KEY_H);
+        QTRY_COMPARE(stage().other.count(u"key h"_s), 1);
+        QVERIFY(stage().clickReachesOther(Place::beside));
+        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().clickReachesOther(Place::panel));
+        QCOMPARE(stage().other.count(u"no focus"_s), 0);
+    }
+
+private:
+    bool leave()
+    {
+        input().move(Place::away);
+        return stage().waitClosed();
+    }
+};
+
+REGISTER_TEST(WaylandOpeningTest);
+#include "WaylandOpeningTest.moc"
