@@ -66,6 +66,9 @@ public:
                                 pathOf(casts.call(u"CreateSession"_s, {together})));
         m_display = pathOf(cast.call(u"RecordMonitor"_s, {u"Meta-0"_s, QVariantMap()}));
         m_session.call(u"Start"_s);
+        // A device is there from its first use on, and what is used at once gets lost.
+        for (const bool down : {true, false})
+            key(KEY_LEFTSHIFT, down);
     }
 
     bool areReady() const override { return !m_display.isEmpty(); }
@@ -79,7 +82,7 @@ public:
         m_session.call(u"NotifyPointerMotionRelative"_s, {double(by.x()), double(by.y())});
     }
     void button(bool down) override { m_session.call(u"NotifyPointerButton"_s, {BTN_LEFT, down}); }
-    void key(int code, bool down) override
+    void key(int code, bool down) final
     {
         m_session.call(u"NotifyKeyboardKeycode"_s, {static_cast<uint>(code), down});
     }

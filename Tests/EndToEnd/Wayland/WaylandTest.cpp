@@ -35,7 +35,11 @@ private Q_SLOTS:
     }
 
     /// As from a tablet or a virtual machine's pointer, of which the server of guests may not be told.
-    void aJumpAwayCloses_data() { desktops(); }
+    void aJumpAwayCloses_data()
+    {
+        compositors();
+        QTest::newRow("guest of sway") << WaylandStage::Desktop{Compositor::Kind::Sway, true};
+    }
     void aJumpAwayCloses()
     {
         QVERIFY(stage().run({{"hoverDelay", "0"}}));
@@ -76,12 +80,7 @@ private Q_SLOTS:
         input().releaseButton();
     }
 
-    void clicksBesideReachTheOtherProgram_data()
-    {
-        desktops();
-        QTest::newRow("guest of Mutter beside a guest")
-            << WaylandStage::Desktop{Compositor::Kind::Mutter, true, true};
-    }
+    void clicksBesideReachTheOtherProgram_data() { desktops(); }
     void clicksBesideReachTheOtherProgram()
     {
         QVERIFY(stage().run({{"hoverDelay", "0"}}));
@@ -98,7 +97,11 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return stage().other.count(u"press"_s) == pressed; }, 500));
     }
 
-    void theKeyboardIsTakenAndGivenBack_data() { desktops(true); }
+    void theKeyboardIsTakenAndGivenBack_data()
+    {
+        compositors();
+        QTest::newRow("guest of Mutter") << WaylandStage::Desktop{Compositor::Kind::Mutter, true, true};
+    }
     void theKeyboardIsTakenAndGivenBack()
     {
         QVERIFY(stage().run());
@@ -249,12 +252,11 @@ private Q_SLOTS:
     }
 
 private:
-    /// Those that the program is a client of, and those that it is a guest of, beside a window that is a
-    /// guest or not.
-    static void desktops(bool guestsBeside = false)
+    /// Those that the program is a client of, and those that it is a guest of.
+    static void desktops()
     {
         compositors();
-        guests(guestsBeside);
+        guests();
     }
     static void compositors()
     {
@@ -266,13 +268,13 @@ private:
         QTest::newRow("KWin") << WaylandStage::Desktop{KWin};
 #endif
     }
-    static void guests(bool beside)
+    static void guests()
     {
         using enum Compositor::Kind;
-        QTest::newRow("guest of sway") << WaylandStage::Desktop{Sway, true, beside};
-        QTest::newRow("guest of Mutter") << WaylandStage::Desktop{Mutter, true, beside};
+        QTest::newRow("guest of sway") << WaylandStage::Desktop{Sway, true};
+        QTest::newRow("guest of Mutter") << WaylandStage::Desktop{Mutter, true};
 #ifdef KESTRUNE_WAYLAND
-        QTest::newRow("guest of KWin") << WaylandStage::Desktop{KWin, true, beside};
+        QTest::newRow("guest of KWin") << WaylandStage::Desktop{KWin, true};
 #endif
     }
 
