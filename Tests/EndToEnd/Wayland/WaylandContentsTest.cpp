@@ -1,5 +1,7 @@
 #include "EndToEnd/Wayland/WaylandStage.h"
 
+#include <csignal>
+
 /// What is copied in other Wayland programs, through the history, back to other programs.
 class WaylandContentsTest : public WaylandStageTest
 {
@@ -37,7 +39,41 @@ private Q_SLOTS:
         }
     }
 
+    void secretsAndHangingOwnersStopNothing_data() { compositors(); }
+    void secretsAndHangingOwnersStopNothing()
+    {
+        QVERIFY(stage().run());
+        ChildProcess manager(session().environment());
+        manager.launch(QStringLiteral(KESTRUNE_ROGUE_SOURCE),
+                       {u"honest"_s, u"UTF8_STRING"_s, u"x-kde-passwordManagerHint"_s});
+        QTRY_VERIFY(offered().contains("x-kde-passwordManagerHint"));
+        QTest::qWait(500);
+        QCOMPARE(manager.readAllStandardOutput(), QByteArray()); // Nobody has asked for it.
+        ChildProcess first(session().environment());
+        copy(first, u"wl"_s, u"text/plain"_s, "harmless");
+        QTRY_COMPARE(session().copiedTexts(), QStringList{u"harmless"_s});
+
+        // One that stops once it was asked.
+        ChildProcess hanging(session().environment());
+        hanging.launch(QStringLiteral(KESTRUNE_ROGUE_SOURCE), {u"silent"_s, u"UTF8_STRING"_s});
+        QTRY_VERIFY(hanging.canReadLine());
+        ::kill(static_cast<pid_t>(hanging.processId()), SIGSTOP);
+        ChildProcess second(session().environment());
+        copy(second, u"wl"_s, u"text/plain"_s, "later");
+        QTRY_COMPARE(session().copiedTexts(), QStringList({u"later"_s, u"harmless"_s}));
+        hanging.killNow();
+    }
+
 private:
+    /// The types of what is copied now.
+    QByteArray offered()
+    {
+        ChildProcess program(session().environment());
+        program.launch(u"wl-paste"_s, {u"--list-types"_s});
+        program.waitForFinished();
+        return program.readAllStandardOutput();
+    }
+
     /// Copies it in that program, another text after it, and takes it from the history again.
     bool comesBack(const QString &owner, const QString &type, const QByteArray &bytes)
     {
