@@ -3,11 +3,8 @@
 #include "X11Connection.h"
 #include "X11Coordinates.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QLoggingCategory>
-#include <QWindow>
-
-#include <algorithm>
 
 #include <xcb/xinput.h>
 
@@ -20,9 +17,6 @@ Q_LOGGING_CATEGORY(pointerLog, "kestrune.pointer", QtWarningMsg)
 constexpr uint32_t kPrimaryButton = 1;
 constexpr QPointF kOutside(-1e6, -1e6); // No display is there.
 constexpr int kMostCached = 8;          // Samples, thirty a second.
-constexpr int kRestBeforeAsking = 8;    // Samples.
-constexpr int kRestBetweenAsking = 30;  // Samples.
-constexpr int kAnswerWithin = 15;       // Samples.
 
 /// Asks the server for raw button presses from every device.
 void selectRawPresses()
@@ -65,16 +59,15 @@ bool X11Pointer::nativeEventFilter(const QByteArray &, void *message, qintptr *)
         m_watching = true;
         m_presses.press(query().location);
     }
-    if (m_probe.isAnswer(event)) {
-        m_rested = kRestBeforeAsking - kRestBetweenAsking;
-        return true;
-    }
     if (isCrossing(event)) {
         m_watching = true;
-        return cross(event);
+        cross(event);
     }
-    if (m_isGuest && isOverWindow(event))
-        over(event);
+    if (m_isGuest && isOverWindow(event)) {
+        m_watching = true;
+        m_away = m_dropped = false;
+        m_drag.reset(); // It is over, told or not.
+    }
     if (m_isGuest && (event.response_type & 0x7f) == XCB_CLIENT_MESSAGE)
         drag(reinterpret_cast<const xcb_client_message_event_t &>(event));
     return false;
@@ -100,8 +93,7 @@ bool X11Pointer::isOverWindow(const xcb_generic_event_t &event) const
     return isInput(event, XCB_INPUT_MOTION) || isInput(event, XCB_INPUT_BUTTON_PRESS);
 }
 
-/// True for a crossing that the probe alone brought about.
-bool X11Pointer::cross(const xcb_generic_event_t &event)
+void X11Pointer::cross(const xcb_generic_event_t &event)
 {
     const bool byInput = (event.response_type & 0x7f) == XCB_GE_GENERIC;
     const auto &core = reinterpret_cast<const xcb_enter_notify_event_t &>(event);
@@ -111,24 +103,10 @@ bool X11Pointer::cross(const xcb_generic_event_t &event)
         byInput ? input.mode == XCB_INPUT_NOTIFY_MODE_NORMAL : core.mode == XCB_NOTIFY_MODE_NORMAL;
     const bool within = byInput ? input.detail == XCB_INPUT_NOTIFY_DETAIL_INFERIOR
                                 : core.detail == XCB_NOTIFY_DETAIL_INFERIOR;
-    if (!m_isGuest || !moved || within)
-        return false;
     const bool left =
         byInput ? input.event_type == XCB_INPUT_LEAVE : (event.response_type & 0x7f) == XCB_LEAVE_NOTIFY;
-    if (!left)
-        return std::exchange(m_unheard, false);
-    m_unheard = m_probe.isAsking();
-    m_away = m_away || !m_unheard;
-    return m_unheard;
-}
-
-void X11Pointer::over(const xcb_generic_event_t &event)
-{
-    const auto &input = reinterpret_cast<const xcb_input_motion_event_t &>(event);
-    m_watching = true;
-    m_away = m_dropped = false;
-    m_over = input.event;
-    m_untold = !tellsLeaving(input.sourceid);
+    if (m_isGuest && moved && !within && left)
+        m_away = true;
 }
 
 /// A drag that another program began has the pointer for itself, and says where it is. One that began here
@@ -144,22 +122,6 @@ void X11Pointer::drag(const xcb_client_message_event_t &message)
         m_away = m_dropped = true;
     }
     m_watching = true;
-}
-
-bool X11Pointer::tellsLeaving(uint16_t device)
-{
-    const auto known = m_tellsLeaving.constFind(device);
-    if (known != m_tellsLeaving.cend())
-        return *known;
-    const X11::Reply<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
-        X11::connection(), xcb_input_xi_query_device(X11::connection(), device), nullptr));
-    QByteArray name;
-    if (reply && reply->num_infos > 0) {
-        const auto *info = xcb_input_xi_query_device_infos_iterator(reply.get()).data;
-        name = QByteArray(xcb_input_xi_device_info_name(info), xcb_input_xi_device_info_name_length(info));
-    }
-    qCDebug(pointerLog, "the pointer moves by %s", name.constData());
-    return *m_tellsLeaving.insert(device, name.contains("relative"));
 }
 
 bool X11Pointer::isRawPress(const xcb_generic_event_t &event) const
@@ -190,43 +152,12 @@ void X11Pointer::observe()
     else if (m_away)
         now = {kOutside, now.primaryDown && !m_dropped};
     m_watching = now != m_last || now.primaryDown;
-    if (m_watching && !m_probe.isAsking())
-        m_rested = 0;
     m_last = now;
     m_cached = 0;
 }
 
-bool X11Pointer::isOverPanel() const
-{
-    const auto windows = QGuiApplication::topLevelWindows();
-    return std::ranges::any_of(windows, [this](const QWindow *window) {
-        return window->handle() && window->winId() == m_over &&
-               window->flags().testFlag(Qt::BypassWindowManagerHint);
-    });
-}
-
-void X11Pointer::askWhetherThere()
-{
-    ++m_rested;
-    if (m_probe.isAsking() && m_rested >= kAnswerWithin) {
-        qCDebug(pointerLog, "the pointer left untold");
-        m_probe.end();
-        m_away = true;
-    } else if (!m_probe.isAsking() && m_untold && !m_away && !m_last.primaryDown &&
-               m_rested >= kRestBeforeAsking && isOverPanel()) {
-        m_rested = 0;
-        const auto cookie = xcb_query_pointer(m_connection.get(), X11::root());
-        const X11::Reply<xcb_query_pointer_reply_t> reply(
-            xcb_query_pointer_reply(m_connection.get(), cookie, nullptr));
-        if (reply)
-            m_probe.begin(reply->root_x, reply->root_y);
-    }
-}
-
 PointerSample X11Pointer::sample()
 {
-    if (m_isGuest)
-        askWhetherThere();
     observe();
     return m_presses.sample(m_last);
 }

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "Desktop/Screens/PressLatch.h"
-#include "X11PointerProbe.h"
 
 #include <QAbstractNativeEventFilter>
-#include <QHash>
 
 #include <memory>
 #include <optional>
@@ -23,10 +21,7 @@ namespace Kestrune {
 ///
 /// As the guest of a Wayland compositor the server knows nothing of a pointer that is over a Wayland window,
 /// and leaves it where it last was. There the pointer counts as outside from when it left this program's
-/// windows until it moves over one, or something is dragged over one. Of an absolute device (a tablet, a
-/// virtual machine's pointer) the server does not even tell that it left: it compares the device that moved
-/// last with the one that tells of a mouse's motions. So while such a one rests on a panel, the compositor is
-/// asked once a second whether it is still there.
+/// windows until it moves over one, or something is dragged over one.
 class X11Pointer : public Pointer, private QAbstractNativeEventFilter
 {
 public:
@@ -48,29 +43,19 @@ private:
     bool isCrossing(const xcb_generic_event_t &event) const;
     bool isRawPress(const xcb_generic_event_t &event) const;
     bool isOverWindow(const xcb_generic_event_t &event) const;
-    bool cross(const xcb_generic_event_t &event);
-    void over(const xcb_generic_event_t &event);
+    void cross(const xcb_generic_event_t &event);
     void drag(const xcb_client_message_event_t &message);
     void observe();
-    bool tellsLeaving(uint16_t device);
-    bool isOverPanel() const;
-    void askWhetherThere();
 
     std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
     uint8_t m_inputOpcode = 0;
     bool m_isGuest;
-    bool m_away;                           ///< Of a guest: over none of this program's windows.
-    xcb_window_t m_over = XCB_WINDOW_NONE; ///< Of a guest: the window that it was over last.
+    bool m_away;            ///< Of a guest: over none of this program's windows.
     bool m_dropped = false; ///< Of a guest: what was dragged out of one of the windows was dropped elsewhere.
-    std::optional<QPointF> m_drag;        ///< Of a guest: where something is dragged over one of the windows.
-    QHash<uint16_t, bool> m_tellsLeaving; ///< For each of the server's devices.
-    bool m_untold = false;                ///< That the pointer leaves will not be told.
-    bool m_unheard = false;               ///< A window was left for the probe, and Qt has not heard of it.
-    int m_rested = 0;                     ///< Samples since the pointer moved, or since the probe began.
-    X11PointerProbe m_probe;
-    PointerSample m_last;   ///< The last answer.
-    int m_cached = 0;       ///< Samples since it was asked for.
-    bool m_watching = true; ///< The next sample asks.
+    std::optional<QPointF> m_drag; ///< Of a guest: where something is dragged over one of the windows.
+    PointerSample m_last;          ///< The last answer.
+    int m_cached = 0;              ///< Samples since it was asked for.
+    bool m_watching = true;        ///< The next sample asks.
     PressLatch m_presses;
 };
 

@@ -2,17 +2,25 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QRasterWindow>
 #include <QTimer>
 #include <QUrl>
 
 #include <cstdio>
 
 /// A Qt program's clipboard: `copy TYPE FILE` offers the file's bytes as TYPE until it is stopped,
-/// `paste TYPE` writes what there is to standard output.
+/// `paste TYPE` writes what there is to standard output. Under Wayland it has a window, and waits for the
+/// keyboard: the clipboard is there for nobody else.
 int main(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
+    QRasterWindow window;
+    if (QGuiApplication::platformName() == QLatin1String("wayland")) {
+        window.show();
+        while (!window.isActive())
+            QGuiApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
     const QString type = arguments.value(2);
     if (arguments.value(1) == QLatin1String("copy")) {
         QFile file(arguments.value(3));

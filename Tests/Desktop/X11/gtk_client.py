@@ -1,5 +1,6 @@
 """A GTK program's clipboard: `copy TYPE FILE` offers the file's text, picture or list of files until it is
-stopped, `paste TYPE` writes what there is to standard output."""
+stopped, `paste TYPE` writes what there is to standard output. Under Wayland it has a window, and waits for
+the keyboard: the clipboard is there for nobody else."""
 import sys
 
 import gi
@@ -7,6 +8,12 @@ import gi
 gi.require_version("Gdk", "3.0")
 gi.require_version("Gtk", "3.0")
 from gi.repository import Gdk, GdkPixbuf, Gtk  # noqa: E402
+
+if "Wayland" in type(Gdk.Display.get_default()).__name__:
+    window = Gtk.Window()
+    window.show_all()
+    while not window.is_active():
+        Gtk.main_iteration()
 
 clipboard = Gtk.Clipboard.get(Gdk.SELECTION_CLIPBOARD)
 action, kind = sys.argv[1:3]

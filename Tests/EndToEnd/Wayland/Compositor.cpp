@@ -85,7 +85,11 @@ void Compositor::startSway()
     if (writeFile(configuration, swayConfiguration + guests.toUtf8()) &&
         launchUnprivileged(u"sway"_s, {u"-c"_s, configuration}))
         awaitSocket(u"wayland-1"_s);
-    const QStringList ipc = QDir(m_folder.path()).entryList({u"sway-ipc.*"_s}, QDir::System);
+    QStringList ipc; // It comes after the other one.
+    waitUntil([&] {
+        ipc = QDir(m_folder.path()).entryList({u"sway-ipc.*"_s}, QDir::System);
+        return !ipc.isEmpty() || m_process.state() == QProcess::NotRunning;
+    });
     m_environment.insert(u"SWAYSOCK"_s, m_folder.filePath(ipc.value(0)));
 }
 

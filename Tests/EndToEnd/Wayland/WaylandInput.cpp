@@ -2,6 +2,22 @@
 
 #include "EndToEnd/Waiting.h"
 
+void WaylandInput::move(QPoint place)
+{
+    if (m_isMouse && m_place)
+        m_devices->push(place - *m_place);
+    else
+        m_devices->move(place, m_extent);
+    m_place = place;
+}
+
+void WaylandInput::push(QPoint by)
+{
+    m_devices->push(by);
+    if (m_place)
+        *m_place += by;
+}
+
 void WaylandInput::glide(QPoint from, QPoint to)
 {
     constexpr int steps = 12;

@@ -2,6 +2,8 @@
 
 #include "EndToEnd/Wayland/InputDevices.h"
 
+#include <optional>
+
 /// The pointer and the keyboard of a compositor, moved and pressed as a person would.
 class WaylandInput
 {
@@ -16,9 +18,13 @@ public:
     /// The size of all displays together, where they begin at the origin.
     void setExtent(QSize extent) { m_extent = extent; }
 
-    void move(QPoint place) { m_devices->move(place, m_extent); }
+    /// From now on it moves as a mouse does: the server of guests may tell nothing of another pointer's
+    /// leaving.
+    void beMouse() { m_isMouse = true; }
+
+    void move(QPoint place);
     /// As a mouse does, from where it is.
-    void push(QPoint by) { m_devices->push(by); }
+    void push(QPoint by);
     /// In small steps, as a hand does with a mouse.
     void glide(QPoint from, QPoint to);
     void pressButton() { m_devices->button(true); }
@@ -32,4 +38,6 @@ public:
 private:
     std::unique_ptr<InputDevices> m_devices;
     QSize m_extent{1280, 800};
+    std::optional<QPoint> m_place; ///< Where it is.
+    bool m_isMouse = false;
 };

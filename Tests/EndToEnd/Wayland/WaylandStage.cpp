@@ -5,8 +5,10 @@ WaylandStage::WaylandStage(Desktop desktop, const QStringList &otherProgram)
     , input(compositor.plugInDevices(session.bus()))
     , other(session.environment(), desktop.otherIsGuest ? u"xcb"_s : u"wayland"_s, otherProgram)
 {
-    if (desktop.guest)
+    if (desktop.guest) {
         session.environment().insert(u"KESTRUNE_WINDOW_SYSTEM"_s, u"x11"_s);
+        input.beMouse();
+    }
     if (!input.isReady())
         qFatal("the compositor did not start, or takes no input");
 }

@@ -34,25 +34,6 @@ private Q_SLOTS:
         QCOMPARE(stage().other.count(u"no focus"_s), 0);
     }
 
-    /// As from a tablet or a virtual machine's pointer, of which the server of guests may not be told.
-    void aJumpAwayCloses_data()
-    {
-        compositors();
-        QTest::newRow("guest of sway") << WaylandStage::Desktop{Compositor::Kind::Sway, true};
-    }
-    void aJumpAwayCloses()
-    {
-        QVERIFY(stage().run({{"hoverDelay", "0"}}));
-        input().move(Place::notch);
-        QVERIFY(stage().waitOpen());
-        // It stays while the pointer rests on it.
-        input().move(Place::panel);
-        QVERIFY(holdsFor([&] { return session().isOpen(); }, 2500));
-        input().move(Place::away);
-        QVERIFY(stage().waitClosed());
-        QVERIFY(stage().clickReachesOther(Place::panel));
-    }
-
     void clicksOpenAndPin_data() { desktops(); }
     void clicksOpenAndPin()
     {
@@ -97,6 +78,7 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return stage().other.count(u"press"_s) == pressed; }, 500));
     }
 
+#ifdef KESTRUNE_WAYLAND
     void theKeyboardIsTakenAndGivenBack_data()
     {
         compositors();
@@ -120,7 +102,6 @@ private Q_SLOTS:
         QCOMPARE(stage().other.count(u"key a"_s), 0);
     }
 
-#ifdef KESTRUNE_WAYLAND
     void aFullScreenWindowCoversIt_data() { compositors(); }
     void aFullScreenWindowCoversIt()
     {
