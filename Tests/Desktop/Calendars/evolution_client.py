@@ -9,13 +9,14 @@ standard input, does what it says, and answers with one.
 """
 import json
 import sys
+import time
 
 import gi
 
 gi.require_version("ECal", "2.0")
 gi.require_version("EDataServer", "1.2")
 gi.require_version("ICalGLib", "3.0")
-from gi.repository import ECal, EDataServer, Gio, ICalGLib
+from gi.repository import ECal, EDataServer, Gio, GLib, ICalGLib
 
 DO_NOT_WAIT = 0xFFFFFFFF
 registry = EDataServer.SourceRegistry.new_sync(None)
@@ -44,12 +45,20 @@ def create(request):
     return {"uid": uid}
 
 
+def known(uid):
+    """The source, which the registry hears of a moment after it was made."""
+    while not (source := registry.ref_source(uid)):
+        GLib.MainContext.default().iteration(False)
+        time.sleep(0.01)
+    return source
+
+
 def texts(request):
     return {"texts": [item.as_ical_string() for item in clients[request["uid"]].get_object_list_sync("#t", None)[1]]}
 
 
 def change(request):
-    source = registry.ref_source(request["uid"])
+    source = known(request["uid"])
     if request["group"] == "Data Source":
         source.set_enabled(request["value"])
     else:
