@@ -89,8 +89,10 @@ class WaylandStageTest : public QObject
     Q_OBJECT
 
 protected:
-    /// The rows of a test: every compositor that Kestrune is a client of.
+    /// The rows of a test: every compositor that Kestrune is a client of, where it was built to be one.
     static void compositors(bool otherIsGuest = false);
+    /// And those that it is a guest of.
+    static void desktops();
     static WaylandStage::Desktop desktop();
 
     WaylandStage &setStage(const QStringList &otherProgram)

@@ -2,19 +2,15 @@
 
 #include <linux/input-event-codes.h>
 
-Q_DECLARE_METATYPE(WaylandStage::Desktop)
-
 // Lower limits on time are what is promised; upper ones leave room for a busy machine.
 constexpr int leaveDelay = 250;
 
 /// The real program as a native client of each compositor.
-class WaylandTest : public QObject
+class WaylandTest : public WaylandStageTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup() { m_stage.reset(); }
-
     void hoverOpensAndLeavingCloses_data() { desktops(); }
     void hoverOpensAndLeavingCloses()
     {
@@ -233,38 +229,6 @@ private Q_SLOTS:
     }
 
 private:
-    /// Those that the program is a client of, and those that it is a guest of.
-    static void desktops()
-    {
-        compositors();
-        guests();
-    }
-    static void compositors()
-    {
-        QTest::addColumn<WaylandStage::Desktop>("desktop");
-#ifdef KESTRUNE_WAYLAND
-        using enum Compositor::Kind;
-        QTest::newRow("sway") << WaylandStage::Desktop{Sway};
-        QTest::newRow("labwc") << WaylandStage::Desktop{Labwc};
-        QTest::newRow("KWin") << WaylandStage::Desktop{KWin};
-#endif
-    }
-    static void guests()
-    {
-        using enum Compositor::Kind;
-        QTest::newRow("guest of sway") << WaylandStage::Desktop{Sway, true};
-        QTest::newRow("guest of Mutter") << WaylandStage::Desktop{Mutter, true};
-#ifdef KESTRUNE_WAYLAND
-        QTest::newRow("guest of KWin") << WaylandStage::Desktop{KWin, true};
-#endif
-    }
-
-    static WaylandStage::Desktop desktop()
-    {
-        QFETCH(WaylandStage::Desktop, desktop);
-        return desktop;
-    }
-
     /// Also where nobody can look.
     bool looksOpen()
     {
@@ -286,16 +250,6 @@ private:
         client.waitForFinished();
         return QString::fromUtf8(client.readAllStandardOutput());
     }
-
-    WaylandStage &setStage(const QStringList &otherProgram)
-    {
-        return m_stage.emplace(desktop(), otherProgram);
-    }
-    WaylandStage &stage() { return m_stage ? *m_stage : setStage({u"maximized"_s}); }
-    Session &session() { return stage().session; }
-    WaylandInput &input() { return stage().input; }
-
-    std::optional<WaylandStage> m_stage;
 };
 
 REGISTER_TEST(WaylandTest);
