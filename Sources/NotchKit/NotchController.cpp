@@ -326,20 +326,13 @@ void NotchController::pollClosed(Notch &notch, bool inside, bool pressed, bool f
     if (inside && pressed && !freshPress && m_services.settings()->tools().contains(NotchTool::shelf) &&
         m_windows.drags().holdsFileUrls()) {
         notch.model->setSelected(NotchTool::shelf);
-        openUnderPointer(notch);
+        set(notch, true);
         return;
     }
     if (m_services.settings()->openMode() == NotchOpenMode::hover)
         pollResting(notch, inside && !pressed);
     else if (inside && freshPress)
-        openUnderPointer(notch);
-}
-
-void NotchController::openUnderPointer(Notch &notch)
-{
-    set(notch, true);
-    // It was there, even where it has left before the next look at it.
-    notch.model->setPointerEntered(true);
+        set(notch, true);
 }
 
 void NotchController::pollResting(Notch &notch, bool resting)
@@ -356,7 +349,7 @@ void NotchController::pollResting(Notch &notch, bool resting)
         m_hoverStart.insert(key, now);
     if (now - since >= std::chrono::duration<double>(m_services.settings()->hoverDelay())) {
         m_hoverStart.remove(key);
-        openUnderPointer(notch);
+        set(notch, true);
     }
 }
 

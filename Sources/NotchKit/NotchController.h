@@ -89,7 +89,6 @@ private:
     void poll();
     void pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress);
     void pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress);
-    void openUnderPointer(Notch &notch);
     void pollResting(Notch &notch, bool resting);
 
     NotchServices &m_services;

@@ -17,9 +17,11 @@ private Q_SLOTS:
         QTest::qWait(300);
         input().pressButton();
         QVERIFY(holdsFor([&] { return !session().isOpen(); }, 900));
+        QElapsedTimer resting;
+        resting.start();
         input().releaseButton();
-        const qint64 opened = timeUntil([&] { return session().isOpen(); });
-        QVERIFY2(opened >= 600, qPrintable(QString::number(opened)));
+        QVERIFY(stage().waitOpen());
+        QVERIFY2(resting.elapsed() >= 600, qPrintable(QString::number(resting.elapsed())));
         QVERIFY(leave());
 
         // A press that is dragged in does not open it.
@@ -34,7 +36,6 @@ private Q_SLOTS:
         const qsizetype pressed = stage().other.count(u"press"_s);
         for (int round = 0; round < 3; ++round) {
             input().click(Place::notch);
-            QVERIFY(stage().waitOpen());
             QVERIFY(leave());
         }
         QCOMPARE(stage().other.count(u"press"_s), pressed);
@@ -49,7 +50,6 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return session().isOpen(); }, 800));
         QVERIFY(!session().display().value("pointerEntered"_L1).toBool());
         input().move(Place::panel);
-        QTRY_VERIFY(session().display().value("pointerEntered"_L1).toBool());
         QVERIFY(leave());
         QTRY_VERIFY(stage().other.hasFocus());
     }
@@ -76,6 +76,8 @@ private Q_SLOTS:
 private:
     bool leave()
     {
+        if (!stage().waitVisited())
+            return false;
         input().move(Place::away);
         return stage().waitClosed();
     }

@@ -30,6 +30,13 @@ bool WaylandStage::waitOpen(int display) const
     return waitUntil([&] { return session.isOpen(display); });
 }
 
+bool WaylandStage::waitVisited(int display) const
+{
+    return waitUntil([&] {
+        return session.isOpen(display) && session.display(display).value("pointerEntered"_L1).toBool();
+    });
+}
+
 bool WaylandStage::waitClosed(int display) const
 {
     return waitUntil([&] { return !session.isOpen(display); });

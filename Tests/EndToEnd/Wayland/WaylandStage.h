@@ -72,6 +72,8 @@ struct WaylandStage
     bool run(Settings settings = {}, int notches = 1);
 
     bool waitOpen(int display = 0) const;
+    /// Until it is open and has seen the pointer inside: one that did not does not close when that leaves.
+    bool waitVisited(int display = 0) const;
     bool waitClosed(int display = 0) const;
 
     /// Clicks there and says whether the other program got it.
