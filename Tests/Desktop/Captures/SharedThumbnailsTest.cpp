@@ -100,25 +100,29 @@ private Q_SLOTS:
     void lastAskedIsMadeFirst()
     {
         const CaptureHome home;
+        for (int i = 0; i < 6; ++i)
+            home.write(u"%1.png"_s.arg(i), CaptureHome::picture({4000, 3000}));
         QStringList made;
-        {
+        // All must be asked for while the first is being made, else the machine was too slow to see an order.
+        for (bool inTime = false; !inTime;) {
+            made.clear();
+            QVERIFY(QDir(home.path(u".cache/thumbnails"_s)).removeRecursively());
             SharedThumbnails thumbnails;
             QList<QFuture<QImage>> answers;
-            for (int i = 0; i < 6; ++i)
-                home.write(u"%1.png"_s.arg(i), CaptureHome::picture({4000, 3000}));
             for (int i = 0; i < 6; ++i) {
-                const QString path = home.path(u"%1.png"_s.arg(i));
-                answers.append(thumbnails.thumbnail(path));
+                answers.append(thumbnails.thumbnail(home.path(u"%1.png"_s.arg(i))));
                 answers.last().then(this, [&made, i](const QImage &image) {
                     made.append(QString::number(i) + QString::number(image.width()));
                 });
             }
             answers[3].cancel();
+            inTime = !answers[0].isFinished();
             QTRY_COMPARE(made.size(), 5);
-            QVERIFY(!made.contains(u"3256"_s));
-            QVERIFY(made.indexOf(u"5256"_s) < made.indexOf(u"2256"_s));
-            answers.append(thumbnails.thumbnail(home.path(u"0.png"_s)));
+            if (inTime)
+                answers.append(thumbnails.thumbnail(home.path(u"0.png"_s)));
         }
+        QVERIFY(!made.contains(u"3256"_s));
+        QVERIFY(made.indexOf(u"5256"_s) < made.indexOf(u"2256"_s));
         QVERIFY(ThumbnailFile::read(home.path(u"3.png"_s)).width() == 256);
     }
 };

@@ -24,7 +24,7 @@ private Q_SLOTS:
             QVERIFY2(layout.turned || looksLike(sharp.value(layout.scale), 0, layout.scale), which);
             const QPoint notch(size.width() / 2, 10);
             input().move(notch);
-            QVERIFY2(stage().waitOpen(), which);
+            QVERIFY2(stage().waitVisited(), which);
             QVERIFY2(stage().clickReachesOther(notch + QPoint(0, 340)), which);
             QVERIFY2(stage().waitClosed(), which);
             QVERIFY2(stage().clickReachesOther(notch + QPoint(0, 50)), which);
@@ -49,7 +49,7 @@ private Q_SLOTS:
         for (const auto &[index, x] :
              {std::pair(1, left.width() + right.width() / 2), {0, left.width() / 2}}) {
             input().move({x, 10});
-            QVERIFY(stage().waitOpen(index) && stage().waitClosed(1 - index));
+            QVERIFY(stage().waitVisited(index) && stage().waitClosed(1 - index));
             input().move({x, left.height() - 10});
             QVERIFY(stage().waitClosed(index));
         }
@@ -100,20 +100,27 @@ private:
         return std::abs(size.width() - wanted.width()) <= 1 && std::abs(size.height() - wanted.height()) <= 1;
     }
 
-    /// The open notch with all around it, but for what may be a window's title beside it, once nothing in it
-    /// moves any more.
+    /// The place of the open notch with all around it, but for what may be a window's title beside it.
     QImage openNotch(int index, double scale)
     {
-        QImage before, now;
+        const QImage whole = stage().compositor.picture(index);
+        const QSize size = QSizeF(880 * scale, 390 * scale).toSize();
+        const int top = titleEnd(scale);
+        return whole.copy((whole.width() - size.width()) / 2, top, size.width(), size.height() - top);
+    }
+    static int titleEnd(double scale) { return qRound(40 * scale); }
+
+    /// Once nothing in it has moved for a second.
+    QImage restingNotch(int index, double scale)
+    {
+        QImage shown;
         const auto rests = [&] {
-            const QImage whole = stage().compositor.picture(index);
-            const QSize size = QSizeF(880 * scale, 390 * scale).toSize();
-            const int top = qRound(40 * scale);
-            now = whole.copy((whole.width() - size.width()) / 2, top, size.width(), size.height() - top);
-            const QPoint edge(now.width() / 2, qRound(324 * scale) - top);
-            return now.pixelColor(edge) == QColor(Qt::black) && std::exchange(before, now) == now;
+            shown = openNotch(index, scale);
+            const QPoint edge(shown.width() / 2, qRound(324 * scale) - titleEnd(scale));
+            return shown.pixelColor(edge) == QColor(Qt::black) &&
+                   holdsFor([&] { return openNotch(index, scale) == shown; }, 1000);
         };
-        return waitUntil(rests) ? now : QImage();
+        return waitUntil(rests) ? shown : QImage();
     }
 
     /// What the view draws itself at each scale, on a display that enlarges nothing. None on a compositor
@@ -127,7 +134,7 @@ private:
         for (const double scale : scales) {
             session().environment().insert(u"QT_SCALE_FACTOR"_s, QString::number(scale));
             if (stage().run() && session().command({u"open"_s, u"shelf"_s}).status == 0 && stage().waitOpen())
-                pictures.insert(scale, openNotch(0, scale));
+                pictures.insert(scale, restingNotch(0, scale));
             session().endProgram();
         }
         session().environment().remove(u"QT_SCALE_FACTOR"_s);
@@ -140,7 +147,8 @@ private:
         if (isKWin())
             return true;
         const bool opened = session().command({u"open"_s, u"shelf"_s}).status == 0 && stage().waitOpen(index);
-        const bool equal = openNotch(index, scale) == sharp;
+        const bool equal =
+            !sharp.isNull() && waitUntil([&] { return openNotch(index, scale) == sharp; }, 20'000);
         input().tap(KEY_ESC);
         return opened && equal && stage().waitClosed(index);
     }
