@@ -17,6 +17,22 @@ if(KESTRUNE_SANITIZE)
     add_link_options(-fsanitize=${KESTRUNE_SANITIZE})
 endif()
 
+# What makes a fault hard to use: guarded stacks, checked bounds of containers and buffers, nothing left over in automatic
+# variables, jumps to their targets only, and tables of functions that nothing can write.
+include(CheckCXXCompilerFlag)
+if(NOT KESTRUNE_SANITIZE AND NOT KESTRUNE_FUZZ AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+    foreach(option stack-protector-strong stack-clash-protection cf-protection trivial-auto-var-init=zero)
+        string(MAKE_C_IDENTIFIER KESTRUNE_HAS_${option} known)
+        check_cxx_compiler_flag(-f${option} ${known})
+        if(${known})
+            add_compile_options(-f${option})
+        endif()
+    endforeach()
+    add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3)
+    add_compile_definitions(_GLIBCXX_ASSERTIONS)
+    add_link_options(-Wl,-z,relro,-z,now,-z,noexecstack)
+endif()
+
 # Relocations are read at each start; packed, they take a hundredth of the memory.
 include(CheckLinkerFlag)
 check_linker_flag(CXX -Wl,-z,pack-relative-relocs KESTRUNE_PACKS_RELOCATIONS)
