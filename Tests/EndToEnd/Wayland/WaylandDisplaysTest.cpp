@@ -42,10 +42,11 @@ private Q_SLOTS:
         const QSize left = sizeOf({1.5}), right = sizeOf({1.25});
         lay(0, {1.5});
         lay(1, {1.25}, {left.width(), 0});
+        // Else the pointer may be moved onto the second one, and the keyboard with it.
+        input().setExtent({left.width() + right.width(), std::max(left.height(), right.height())});
         QVERIFY(stage().run({{"hoverDelay", "0"}, {"allDisplays", "true"}}, 2));
         QTRY_VERIFY(near(frame(0).size(), left) && near(frame(1).size(), right));
         QCOMPARE(frame(1).x(), left.width());
-        input().setExtent({left.width() + right.width(), std::max(left.height(), right.height())});
         for (const auto &[index, x] :
              {std::pair(1, left.width() + right.width() / 2), {0, left.width() / 2}}) {
             input().move({x, 10});
