@@ -31,7 +31,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const auto contents = reader.readCalendar(text);
     if (!contents)
         return 0;
-    for (const CalendarEvent &event : icalOccurrences(contents->events, range, QStringLiteral("x"), {}))
+    IcalSuspects suspects;
+    for (const CalendarEvent &event :
+         icalOccurrences(contents->events, range, QStringLiteral("x"), {}, suspects))
         require(event.start.isValid() && event.end >= event.start && event.start < range.to &&
                 event.end >= now);
     for (const CalendarTask &task : icalOpenTasks(contents->tasks, QStringLiteral("x"), {})) {

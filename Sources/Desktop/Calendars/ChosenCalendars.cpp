@@ -6,8 +6,6 @@
 
 namespace Kestrune {
 
-Q_LOGGING_CATEGORY(calendarLog, "kestrune.calendar", QtWarningMsg)
-
 ChosenCalendars::ChosenCalendars(const QDBusConnection &bus)
     : m_bus(bus)
 {}

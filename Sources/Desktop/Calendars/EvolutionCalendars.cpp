@@ -105,7 +105,7 @@ std::optional<CalendarStore::Events> EvolutionCalendars::events(const IcalRange 
         const auto texts = m_bus.texts(calendar, calls[i]);
         QList<IcalEntry> events = contents(calendar, texts.value_or(QList<QByteArray>())).events;
         completeSeries(calendar, events);
-        found += icalOccurrences(events, range, calendar.source.uid, calendar.source.color);
+        found += icalOccurrences(events, range, calendar.source.uid, calendar.source.color, m_suspects);
     }
     return found;
 }

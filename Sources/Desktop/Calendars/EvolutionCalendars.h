@@ -29,6 +29,7 @@ private:
 
     EvolutionBus m_bus;
     IcalReader m_reader;
+    IcalSuspects m_suspects;
     bool m_failed = false;              ///< The last attempt to reach it.
     QHash<QString, QByteArray> m_zones; ///< Definitions by calendar and name.
 };

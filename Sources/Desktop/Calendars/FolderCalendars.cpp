@@ -182,7 +182,8 @@ std::optional<CalendarStore::Events> FolderCalendars::events(const IcalRange &ra
     look(range.from);
     CalendarStore::Events events;
     for (auto file = m_files.cbegin(); file != m_files.cend(); ++file)
-        events += icalOccurrences(file->contents.events, range, QFile::decodeName(file.key()), file->color);
+        events += icalOccurrences(file->contents.events, range, QFile::decodeName(file.key()), file->color,
+                                  m_suspects);
     return events;
 }
 

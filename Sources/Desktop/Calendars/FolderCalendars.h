@@ -48,6 +48,7 @@ private:
 
     QString m_root;
     IcalReader m_reader;
+    IcalSuspects m_suspects;
     QMap<QByteArray, File> m_files; ///< By path; in an order that stays.
     quint64 m_looks = 0;
 };

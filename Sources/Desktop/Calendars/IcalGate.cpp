@@ -20,12 +20,12 @@ bool filtersTimes(const icalrecurrencetype &rule)
     return isGiven(rule.by_hour) || isGiven(rule.by_minute) || isGiven(rule.by_second);
 }
 
-bool isFiltered(const icalrecurrencetype &rule)
+} // namespace
+
+bool IcalGate::isFiltered(const icalrecurrencetype &rule)
 {
     return filtersDays(rule) || filtersTimes(rule) || isGiven(rule.by_day) || isGiven(rule.by_set_pos);
 }
-
-} // namespace
 
 bool IcalGate::passes(const icalrecurrencetype &rule)
 {

@@ -12,6 +12,9 @@ struct IcalGate
     /// For the times of an event or a task.
     static bool passes(const icalrecurrencetype &rule);
 
+    /// Whether some of the times that its rhythm has are left out.
+    static bool isFiltered(const icalrecurrencetype &rule);
+
     /// Takes the rules out of a zone's definition that no clocks follow: those that do not name days of a
     /// year. The library computes them for all years to come.
     static void cleanZone(icalcomponent_impl *zone);

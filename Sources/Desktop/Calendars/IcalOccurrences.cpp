@@ -1,6 +1,7 @@
 #include "IcalOccurrences.h"
 
 #include "IcalRule.h"
+#include "Log.h"
 
 #include <QSet>
 
@@ -8,10 +9,14 @@
 
 namespace Kestrune {
 
+Q_LOGGING_CATEGORY(calendarLog, "kestrune.calendar", QtWarningMsg)
+
 namespace {
 
 /// Between the parts of an id; no path, name or text has it.
 constexpr QChar kBetween = u'\n';
+/// Of one series, in the range that is asked for.
+constexpr qsizetype kMostOfOne = 1000;
 
 /// Occurrences that do not take place, by their instant, or by their day where a whole day is named.
 class Exclusions
@@ -51,10 +56,11 @@ bool overlaps(const QDateTime &start, const QDateTime &end, const IcalRange &ran
 class Maker
 {
 public:
-    Maker(const IcalRange &range, const QString &origin, const QColor &color)
+    Maker(const IcalRange &range, const QString &origin, const QColor &color, IcalSuspects &suspects)
         : m_range(range)
         , m_origin(origin)
         , m_color(color)
+        , m_budget(suspects)
     {}
 
     void add(const IcalEntry &entry, const IcalMoment &start, const IcalMoment &occurrence)
@@ -74,28 +80,37 @@ public:
     {
         const Exclusions excluded(entry, instances);
         QSet<QDateTime> seen;
+        const qsizetype before = m_events.size();
         const auto visit = [&](const IcalMoment &start) {
             const QDateTime begins = start.instant();
             if (!seen.contains(begins) && !excluded.contains(start, begins))
                 add(entry, start, start);
             seen.insert(begins);
-            return begins < m_range.to;
+            return begins < m_range.to && m_events.size() - before < kMostOfOne;
         };
         visit(entry.start);
         for (const IcalMoment &start : entry.added)
             visit(start);
         const QDateTime earliest = m_range.from.addDays(-entry.span.days - 1).addSecs(-entry.span.seconds);
         for (const QByteArray &rule : entry.rules)
-            IcalRule(rule, entry.start).visit(earliest, visit);
+            m_leftOut += IcalRule(rule, entry.start).visit(earliest, m_budget, visit) ? 0 : 1;
     }
 
-    CalendarStore::Events take() { return std::move(m_events); }
+    CalendarStore::Events take()
+    {
+        if (m_leftOut > 0)
+            qCInfo(calendarLog, "%s: %d rules repeat what cannot be worked out in time",
+                   qUtf8Printable(m_origin), m_leftOut);
+        return std::move(m_events);
+    }
 
 private:
     const IcalRange &m_range;
     const QString &m_origin;
     const QColor &m_color;
     CalendarStore::Events m_events;
+    IcalBudget m_budget;
+    int m_leftOut = 0;
 };
 
 QList<IcalMoment> instancesOf(const QString &uid, const QList<IcalEntry> &entries)
@@ -111,9 +126,9 @@ QList<IcalMoment> instancesOf(const QString &uid, const QList<IcalEntry> &entrie
 } // namespace
 
 CalendarStore::Events icalOccurrences(const QList<IcalEntry> &entries, const IcalRange &range,
-                                      const QString &origin, const QColor &color)
+                                      const QString &origin, const QColor &color, IcalSuspects &suspects)
 {
-    Maker maker(range, origin, color);
+    Maker maker(range, origin, color, suspects);
     for (const IcalEntry &entry : entries) {
         if (entry.instance.isValid())
             maker.add(entry, entry.start, entry.instance);
@@ -141,8 +156,10 @@ IcalMoment nextOccurrence(const IcalEntry &series, const IcalMoment &current,
     };
     for (const IcalMoment &start : series.added)
         visit(start);
+    IcalSuspects suspects;
+    IcalBudget budget(suspects);
     for (const QByteArray &rule : series.rules)
-        IcalRule(rule, current).visit(now, visit);
+        IcalRule(rule, current).visit(now, budget, visit);
     return next;
 }
 

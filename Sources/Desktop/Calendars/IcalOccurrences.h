@@ -1,6 +1,7 @@
 #pragma once
 
 #include "IcalEntry.h"
+#include "IcalRule.h"
 #include "NotchKit/Platform/CalendarStore.h"
 
 #include <functional>
@@ -16,9 +17,10 @@ struct IcalRange
 };
 
 /// The occurrences in the range of what one calendar file or one series has: repeated, without those that
-/// are excluded or cancelled, those that were moved where they are now. Ids begin with `origin`.
+/// are excluded or cancelled, those that were moved where they are now. Ids begin with `origin`. Not of
+/// `suspects`, to which those are added that take too long, and no more than a thousand of one series.
 CalendarStore::Events icalOccurrences(const QList<IcalEntry> &entries, const IcalRange &range,
-                                      const QString &origin, const QColor &color);
+                                      const QString &origin, const QColor &color, IcalSuspects &suspects);
 
 /// When a series that is at `current` comes next; an invalid moment when it is over. `instances` are those
 /// that were moved out of it.

@@ -410,11 +410,19 @@ private:
                 vevent("other week", "DTSTART:20260307T170000Z\nRRULE:FREQ=WEEKLY;INTERVAL=2") +
                 vevent("each fifth hour", "DTSTART:20240101T000000Z\nRRULE:FREQ=HOURLY;INTERVAL=5;"
                                           "UNTIL=20260328T140000Z") +
+                vevent("day by hours", "DTSTART:20060328T130000Z\nRRULE:FREQ=HOURLY;INTERVAL=24;COUNT=7306") +
+                vevent("over", "DTSTART:20060328T130000Z\nRRULE:FREQ=HOURLY;INTERVAL=24;COUNT=7305") +
+                vevent("day by minutes",
+                       "DTSTART:20060328T140000Z\nRRULE:FREQ=MINUTELY;INTERVAL=1440;UNTIL=20260329T000000Z") +
+                vevent("nine hours by seconds",
+                       "DTSTART:20060328T150000Z\nRRULE:FREQ=SECONDLY;INTERVAL=32400;"
+                       "UNTIL=20260328T150000Z") +
                 vevent("third week", "DTSTART:20260307T180000Z\nRRULE:FREQ=WEEKLY;INTERVAL=3") +
                 vevent("long ago", "DTSTART:20100102T190000Z\nRRULE:FREQ=DAILY;INTERVAL=7"),
-            {u"born 28T23:00 29T22:00 day"_s, u"each fifth hour 28T12:00 28T12:00"_s,
+            {u"born 28T23:00 29T22:00 day"_s, u"day by hours 28T13:00 28T13:00"_s,
+             u"day by minutes 28T14:00 28T14:00"_s, u"each fifth hour 28T12:00 28T12:00"_s,
              u"last Saturday 28T16:00 28T16:00"_s, u"long ago 28T19:00 28T19:00"_s,
-             u"third week 28T18:00 28T18:00"_s});
+             u"nine hours by seconds 28T15:00 28T15:00"_s, u"third week 28T18:00 28T18:00"_s});
     }
 
     bool m_evolution = false;
