@@ -1,6 +1,7 @@
 #include "Application.h"
 #include "Async/Threads.h"
 #include "CommandLine.h"
+#include "Desktop/Session/CoreDumps.h"
 #include "LocalServices.h"
 #include "Log.h"
 #include "NotchKit/NotchStrings.h"
@@ -101,6 +102,9 @@ void setUpDirection() { QGuiApplication::setLayoutDirection(QLocale(notchLanguag
 
 int runProgram(int argc, char *argv[], const LaunchRequest &request)
 {
+#ifdef NDEBUG
+    CoreDumps::forbid();
+#endif
     setUpMemory();
     if (!LocalServices::isEnvironmentValid()) {
         std::fprintf(stderr, "Kestrune: %s is no address like http://127.0.0.1:8080\n",

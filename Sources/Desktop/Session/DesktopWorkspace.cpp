@@ -1,9 +1,9 @@
 #include "DesktopWorkspace.h"
 
+#include "CoreDumps.h"
 #include "Desktop/Bus/BusCall.h"
 #include "Log.h"
 
-#include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -31,13 +31,22 @@ constexpr std::array kSettingsPrograms{
     SettingsProgram{"xfce4-settings-manager", ""},
 };
 
+bool startProgram(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    CoreDumps::allow(process);
+    return process.startDetached();
+}
+
 void openSettings()
 {
     for (const auto &[program, page] : kSettingsPrograms) {
         const QString path = QStandardPaths::findExecutable(QString::fromLatin1(program));
         if (path.isEmpty())
             continue;
-        QProcess::startDetached(path, *page ? QStringList{QString::fromLatin1(page)} : QStringList());
+        startProgram(path, *page ? QStringList{QString::fromLatin1(page)} : QStringList());
         return;
     }
     qCInfo(sessionLog, "no settings program is installed");
@@ -48,7 +57,7 @@ constexpr int kMostFolders = 3;      // Windows that one request may open.
 
 void openWithDesktop(const QUrl &url)
 {
-    if (!QProcess::startDetached(QStringLiteral("xdg-open"), {url.toString(QUrl::FullyEncoded)}))
+    if (!startProgram(QStringLiteral("xdg-open"), {url.toString(QUrl::FullyEncoded)}))
         qCInfo(sessionLog, "xdg-open cannot be started");
 }
 

@@ -1,5 +1,6 @@
 #include "Desktop/Session/DesktopWorkspace.h"
 #include "Desktop/BusStandIn.h"
+#include "Desktop/Session/CoreDumps.h"
 
 /// Showing files in the file manager, over a stand-in of it and of the program that opens folders.
 class DesktopWorkspaceTest : public QObject
@@ -66,6 +67,23 @@ private Q_SLOTS:
         QStringList folders = opened();
         folders.sort(); // They are opened by programs of their own, which run at the same time.
         QCOMPARE(folders, QStringList({u"file:///"_s, u"file:///tmp/a%20b/"_s, u"file:///tmp/c/"_s}));
+    }
+
+    void onlyWhatItOpensMayDumpCore()
+    {
+        const auto allowed = [] {
+            QProcess shell;
+            shell.start(u"sh"_s, {u"-c"_s, u"ulimit -c"_s});
+            return shell.waitForFinished() ? shell.readAllStandardOutput().trimmed() : QByteArray();
+        };
+        const QByteArray before = allowed();
+        QVERIFY(writeFile(m_folder.filePath(u"xdg-open"_s),
+                          "#!/bin/sh\nulimit -c >> " + m_folder.filePath(u"opened"_s).toUtf8() + '\n'));
+        CoreDumps::forbid();
+        QCOMPARE(allowed(), "0");
+        BusStandIn manager(u"org.freedesktop.FileManager1"_s);
+        DesktopWorkspace(manager.bus()).open(QUrl(u"https://example.org/"_s));
+        QTRY_COMPARE(opened(), QStringList{QString::fromLatin1(before)});
     }
 
 private:
