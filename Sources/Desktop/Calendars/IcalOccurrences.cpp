@@ -91,7 +91,7 @@ public:
         visit(entry.start);
         for (const IcalMoment &start : entry.added)
             visit(start);
-        const QDateTime earliest = m_range.from.addDays(-entry.span.days - 1).addSecs(-entry.span.seconds);
+        const QDateTime earliest = m_range.from.addDays(-entry.span.days).addSecs(-entry.span.seconds);
         for (const QByteArray &rule : entry.rules)
             m_leftOut += IcalRule(rule, entry.start).visit(earliest, m_budget, visit) ? 0 : 1;
     }
