@@ -308,8 +308,10 @@ private Q_SLOTS:
         stage.clipboard.remove(u"unknown"_s);
         QCOMPARE(stage.texts(), QStringList({u"C"_s, u"B"_s}));
         QVERIFY(stage.stored() != stored);
+        QVERIFY(stage.defaults.hasDamagedCopies);
         stage.clipboard.clear();
         QCOMPARE(stage.stored(), QByteArray("[]"));
+        QVERIFY(!stage.defaults.hasDamagedCopies);
     }
 
     void storedFormat();
