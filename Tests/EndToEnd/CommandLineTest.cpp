@@ -92,6 +92,11 @@ private Q_SLOTS:
         QVERIFY(session.set(u"note"_s, u"Zwölf\nEier"_s));
         QCOMPARE(session.setting(u"note"_s), u"Zwölf\nEier"_s);
 
+        const Session::Result refused =
+            session.command({u"settings"_s, u"set"_s, u"calendarSource"_s, u"folder"_s});
+        QCOMPARE(refused.status, 2);
+        QCOMPARE(refused.errors, u"Kestrune: calendarSource takes evolution or folders, not \"folder\"\n"_s);
+
         QString list = session.command({u"settings"_s, u"list"_s}).output;
         for (const auto &name : {u"openMode"_s, u"hoverDelay"_s, u"tools"_s, u"allDisplays"_s, u"note"_s,
                                  u"tickers"_s, u"weatherLatitude"_s, u"homeColumns"_s})
