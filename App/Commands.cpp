@@ -99,13 +99,14 @@ int printStatus(bool json)
 class Settings
 {
 public:
-    /// `reply` is the running program's to a question for its status.
-    explicit Settings(const QDBusMessage &reply)
+    /// `reply` is the running program's to a question for its status. A store that is only read is left as it
+    /// is, or is not made.
+    Settings(const QDBusMessage &reply, SqliteUserDefaults::Access access)
         : m_running(!nothingRuns(reply))
     {
         if (m_running)
             return;
-        m_defaults = std::make_unique<SqliteUserDefaults>(SqliteUserDefaults::path(standardDomain()));
+        m_defaults = std::make_unique<SqliteUserDefaults>(SqliteUserDefaults::path(standardDomain()), access);
         m_settings = std::make_unique<NotchSettings>(*m_defaults);
         m_loginItem = std::make_unique<AutostartLoginItem>(QCoreApplication::applicationFilePath());
         m_keys = std::make_unique<SettingsKeys>(*m_settings, standardExtras(*m_defaults, *m_loginItem));
@@ -163,7 +164,9 @@ int runSettings(const QStringList &arguments)
     const QDBusMessage reply = call(QStringLiteral("Status"));
     if (hangs(reply))
         return outcome(reply);
-    Settings settings(reply);
+    using Access = SqliteUserDefaults::Access;
+    const bool changes = verb == QLatin1String("set") || verb == QLatin1String("reset");
+    Settings settings(reply, changes ? Access::ReadWrite : Access::ReadOnly);
     const QString key = arguments.value(1);
     if (verb == QLatin1String("get"))
         return settings.print(key);

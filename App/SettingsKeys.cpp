@@ -1,6 +1,5 @@
 #include "SettingsKeys.h"
 
-#include "NotchKit/NotchSettings.h"
 #include "SettingsText.h"
 
 namespace Kestrune {
@@ -8,6 +7,13 @@ namespace Kestrune {
 namespace {
 
 QString unknown(const QString &key) { return QStringLiteral("no setting is named %1").arg(key); }
+
+/// What is named in one line of a message, which a note that was pasted for a number would burst.
+QString shortened(const QString &text)
+{
+    constexpr qsizetype most = 60;
+    return text.size() > most ? text.left(most) + QChar(0x2026) : text;
+}
 
 } // namespace
 
@@ -31,11 +37,12 @@ std::optional<QString> SettingsKeys::set(const QString &key, const QString &text
     if (!access && extra == m_extras.cend())
         return unknown(key);
     const DefaultsValue &example = access ? access->example : extra->example;
+    const SettingRule &rule = access ? access->rule : extra->rule;
     const auto value = SettingsText::parse(text, example);
-    if (!value || (access && !access->assign(m_settings, value))) {
-        const QString wanted =
-            value ? QStringLiteral("one of its cases") : SettingsText::expectation(example);
-        return QStringLiteral("%1 takes %2, not \"%3\"").arg(key, wanted, text);
+    const auto culprit = value ? rule.culprit(*value) : text;
+    if (culprit || (access && !access->assign(m_settings, value))) {
+        const QString wanted = rule.wanted.isEmpty() ? SettingsText::expectation(example) : rule.wanted;
+        return QStringLiteral("%1 takes %2, not \"%3\"").arg(key, wanted, shortened(culprit.value_or(text)));
     }
     if (!access)
         extra->write(value);

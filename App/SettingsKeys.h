@@ -1,6 +1,6 @@
 #pragma once
 
-#include "NotchKit/Platform/UserDefaults.h"
+#include "NotchKit/NotchSettings.h"
 
 #include <QMap>
 #include <QStringList>
@@ -9,8 +9,6 @@
 #include <optional>
 
 namespace Kestrune {
-
-class NotchSettings;
 
 /// The settings as the command line sees them: by key, as text. It serves the running program and a
 /// command that finds none alike.
@@ -23,6 +21,7 @@ public:
         std::function<std::optional<DefaultsValue>()> read;
         std::function<void(const std::optional<DefaultsValue> &)> write; ///< Nothing resets it.
         DefaultsValue example;
+        SettingRule rule = {};
     };
 
     /// `settings` outlives the object.
@@ -31,7 +30,7 @@ public:
     /// The value of `key` as text; nothing for an unknown key.
     std::optional<QString> get(const QString &key) const;
 
-    /// Sets `key` from a text. The result says what is wrong, or is nothing.
+    /// Sets `key` from a text. The result says what is wrong and what the setting takes, or is nothing.
     std::optional<QString> set(const QString &key, const QString &text);
 
     /// Resets `key` to its default. The result says what is wrong, or is nothing.

@@ -11,7 +11,7 @@ QString housings() { return QStringLiteral("cameraHousings"); }
 QString login() { return QStringLiteral("launchAtLogin"); }
 
 /// A text in the defaults, empty where there is none; read anew by whom it concerns.
-SettingsKeys::Extra textExtra(UserDefaults &defaults, const QString &key)
+SettingsKeys::Extra textExtra(UserDefaults &defaults, const QString &key, const SettingRule &rule = {})
 {
     return {[&defaults, key]() -> std::optional<DefaultsValue> {
                 return defaults.value<QString>(key).value_or(QString());
@@ -22,7 +22,24 @@ SettingsKeys::Extra textExtra(UserDefaults &defaults, const QString &key)
                 else
                     defaults.removeObject(key);
             },
-            QString()};
+            QString(), rule};
+}
+
+SettingRule calendarSources()
+{
+    return SettingRule::oneOf({QStringLiteral("evolution"), QStringLiteral("folders")});
+}
+
+SettingRule housingSizes()
+{
+    return {QStringLiteral("a JSON map from outputs to sizes in points, such as {\"eDP-1\": \"185x32\"}"),
+            [](const DefaultsValue &value) -> std::optional<QString> {
+                for (const QString &size : convertDefaultsValue<StringMap>(value).value_or(StringMap())) {
+                    if (!CameraHousings::parse(size))
+                        return size;
+                }
+                return std::nullopt;
+            }};
 }
 
 } // namespace
@@ -51,7 +68,7 @@ QMap<QString, SettingsKeys::Extra> standardExtras(UserDefaults &defaults, LoginI
             if (housingsChanged)
                 housingsChanged();
         },
-        StringMap()};
+        StringMap(), housingSizes()};
     const SettingsKeys::Extra launch{
         [&loginItem]() -> std::optional<DefaultsValue> { return loginItem.isEnabled(); },
         [&loginItem, setLaunchAtLogin](const std::optional<DefaultsValue> &value) {
@@ -62,10 +79,12 @@ QMap<QString, SettingsKeys::Extra> standardExtras(UserDefaults &defaults, LoginI
                 loginItem.setEnabled(on);
         },
         false};
-    QMap<QString, SettingsKeys::Extra> extras{{housings(), housing}, {login(), launch}};
-    for (const QString &text : {DesktopCalendars::sourceKey(), DesktopCalendars::folderKey()})
-        extras.insert(text, textExtra(defaults, text));
-    return extras;
+    const QString source = DesktopCalendars::sourceKey();
+    const QString folder = DesktopCalendars::folderKey();
+    return {{housings(), housing},
+            {login(), launch},
+            {source, textExtra(defaults, source, calendarSources())},
+            {folder, textExtra(defaults, folder)}};
 }
 
 } // namespace Kestrune

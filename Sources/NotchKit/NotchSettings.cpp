@@ -4,6 +4,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Kestrune {
 
@@ -92,7 +93,98 @@ HomeWidgets normalized(const HomeWidgets &order)
     return order + casesWhere<HomeWidget>([&](HomeWidget widget) { return !order.contains(widget); });
 }
 
+QString alternatives(const QStringList &cases)
+{
+    return cases.size() < 2 ? cases.join(QString())
+                            : cases.first(cases.size() - 1).join(QStringLiteral(", ")) +
+                                  QStringLiteral(" or ") + cases.last();
+}
+
+template <CatalogueCase Case>
+QStringList allRawValues()
+{
+    return rawValues(allCases<Case>());
+}
+
+std::optional<QString> firstOutside(const QStringList &cases, const QStringList &texts)
+{
+    const auto other =
+        std::ranges::find_if(texts, [&](const QString &text) { return !cases.contains(text); });
+    return other == texts.end() ? std::nullopt : std::optional(*other);
+}
+
+SettingRule inRange(const SettingRange &range, const QString &kind = QStringLiteral("a number"))
+{
+    const QString words = std::isfinite(range.most)
+                              ? QStringLiteral("%1 from %2 to %3").arg(kind).arg(range.least).arg(range.most)
+                              : QStringLiteral("%1 not below %2").arg(kind).arg(range.least);
+    return {words, [range](const DefaultsValue &value) -> std::optional<QString> {
+                const double number = convertDefaultsValue<double>(value).value_or(range.least);
+                if (number >= range.least && number <= range.most)
+                    return std::nullopt;
+                return QString::number(number, 'g', QLocale::FloatingPointShortest);
+            }};
+}
+
+SettingRule listOf(const QStringList &cases)
+{
+    return {QStringLiteral("a JSON list of %1").arg(alternatives(cases)),
+            [cases](const DefaultsValue &value) {
+                return firstOutside(cases, convertDefaultsValue<QStringList>(value).value_or(QStringList()));
+            }};
+}
+
+SettingRule mapFrom(const QStringList &keys, const QStringList &cases)
+{
+    return {QStringLiteral("a JSON map from %1 to %2").arg(alternatives(keys), alternatives(cases)),
+            [keys, cases](const DefaultsValue &value) {
+                const StringMap map = convertDefaultsValue<StringMap>(value).value_or(StringMap());
+                const auto key = firstOutside(keys, map.keys());
+                return key ? key : firstOutside(cases, map.values());
+            }};
+}
+
+template <typename Type>
+SettingRule ruleOfType(const Type *)
+{
+    return {};
+}
+
+template <CatalogueCase Case>
+SettingRule ruleOfType(const Case *)
+{
+    return SettingRule::oneOf(allRawValues<Case>());
+}
+
+template <CatalogueCase Case>
+SettingRule ruleOfType(const QList<Case> *)
+{
+    return listOf(allRawValues<Case>());
+}
+
+/// Those that the type alone does not give.
+const QMap<QString, SettingRule> &rulesByName()
+{
+    static const QMap<QString, SettingRule> rules{
+        {QStringLiteral("hoverDelay"), inRange({})},
+        {QStringLiteral("claudeBlockBudget"), inRange({}, QStringLiteral("a whole number"))},
+        {QStringLiteral("weatherLatitude"), inRange({-90, 90})},
+        {QStringLiteral("weatherLongitude"), inRange({-180, 180})},
+        {QStringLiteral("prompterSpeed"), inRange(NotchSettings::kPrompterSpeeds)},
+        {QStringLiteral("prompterFontSize"), inRange(NotchSettings::kPrompterFontSizes)},
+        {QStringLiteral("homeColumns"), mapFrom(allRawValues<HomeWidget>(), allRawValues<HomeColumn>())},
+    };
+    return rules;
+}
+
 } // namespace
+
+SettingRule SettingRule::oneOf(const QStringList &cases)
+{
+    return {alternatives(cases), [cases](const DefaultsValue &value) {
+                return firstOutside(cases, {convertDefaultsValue<QString>(value).value_or(QString())});
+            }};
+}
 
 NotchSettings::NotchSettings(UserDefaults &defaults, QObject *parent)
     : QObject(parent)
@@ -158,17 +250,19 @@ QMap<QString, NotchSettings::Access> NotchSettings::makeAccess()
 {
     QMap<QString, Access> all;
 #define KESTRUNE_ACCESS(Type, name, Name, fallback)                                                          \
-    all.insert(QStringLiteral(#name),                                                                        \
-               {[](const NotchSettings &settings) { return Stored<Type>::encode(settings.name()); },         \
-                [](NotchSettings &settings, const std::optional<DefaultsValue> &value) {                     \
-                    const auto decoded = value ? decode<Type>(*value) : Type(fallback);                      \
-                    if (decoded)                                                                             \
-                        settings.set##Name(normalized(*decoded));                                            \
-                    if (!value)                                                                              \
-                        settings.save(#name, std::nullopt);                                                  \
-                    return decoded.has_value();                                                              \
-                },                                                                                           \
-                DefaultsValue(Stored<Type>::Value{})});
+    all.insert(                                                                                              \
+        QStringLiteral(#name),                                                                               \
+        {[](const NotchSettings &settings) { return Stored<Type>::encode(settings.name()); },                \
+         [](NotchSettings &settings, const std::optional<DefaultsValue> &value) {                            \
+             const auto decoded = value ? decode<Type>(*value) : Type(fallback);                             \
+             if (decoded)                                                                                    \
+                 settings.set##Name(normalized(*decoded));                                                   \
+             if (!value)                                                                                     \
+                 settings.save(#name, std::nullopt);                                                         \
+             return decoded.has_value();                                                                     \
+         },                                                                                                  \
+         DefaultsValue(Stored<Type>::Value{}),                                                               \
+         rulesByName().value(QStringLiteral(#name), ruleOfType(static_cast<const Type *>(nullptr)))});
     KESTRUNE_SETTINGS(KESTRUNE_ACCESS)
 #undef KESTRUNE_ACCESS
     return all;

@@ -7,6 +7,7 @@
 #include <QProperty>
 
 #include <functional>
+#include <limits>
 #include <optional>
 
 namespace Kestrune {
@@ -14,6 +15,26 @@ namespace Kestrune {
 using NotchTools = QList<NotchTool>;
 using HomeWidgets = QList<HomeWidget>;
 using OptionalDouble = std::optional<double>;
+
+/// The numbers that a setting may be set to, both ends included.
+struct SettingRange
+{
+    double least = 0;
+    double most = std::numeric_limits<double>::infinity();
+};
+
+/// What a setting may be set to by hand, beyond its type. What is stored already is read as it is.
+struct SettingRule
+{
+    QString wanted; ///< In words, such as "a number from 8 to 140"; empty where every value is allowed.
+    /// The part of a value that is not allowed, as text; nothing where all of it is.
+    std::function<std::optional<QString>(const DefaultsValue &)> culprit = [](const DefaultsValue &) {
+        return std::nullopt;
+    };
+
+    /// One of `cases`, letter for letter.
+    static SettingRule oneOf(const QStringList &cases);
+};
 
 /// Every setting: type, property name, the name in its setter, the default. Stored under "notch." + name.
 #define KESTRUNE_SETTINGS(SETTING)                                                                           \
@@ -67,7 +88,20 @@ private:                                                                        
     KESTRUNE_SETTINGS(KESTRUNE_DECLARE_SETTING)
 #undef KESTRUNE_DECLARE_SETTING
 
+    Q_PROPERTY(double leastPrompterSpeed READ leastPrompterSpeed CONSTANT)
+    Q_PROPERTY(double mostPrompterSpeed READ mostPrompterSpeed CONSTANT)
+    Q_PROPERTY(double leastPrompterFontSize READ leastPrompterFontSize CONSTANT)
+    Q_PROPERTY(double mostPrompterFontSize READ mostPrompterFontSize CONSTANT)
+
 public:
+    static constexpr SettingRange kPrompterSpeeds{8, 140};    ///< Points a second.
+    static constexpr SettingRange kPrompterFontSizes{14, 60}; ///< Points.
+
+    static double leastPrompterSpeed() { return kPrompterSpeeds.least; }
+    static double mostPrompterSpeed() { return kPrompterSpeeds.most; }
+    static double leastPrompterFontSize() { return kPrompterFontSizes.least; }
+    static double mostPrompterFontSize() { return kPrompterFontSizes.most; }
+
     /// One setting by name, for the command line: its stored form and how to write it.
     struct Access
     {
@@ -76,6 +110,7 @@ public:
         /// key. False, and no change, when the value is of another type or names no case.
         std::function<bool(NotchSettings &, const std::optional<DefaultsValue> &)> assign;
         DefaultsValue example; ///< Any value of the stored type.
+        SettingRule rule;      ///< For who writes by hand; `assign` does not ask it.
     };
 
     /// Reads every setting from `defaults`, which must outlive this object, and records which tools this

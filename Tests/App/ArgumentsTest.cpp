@@ -1,7 +1,9 @@
 #include "App/CommandLine.h"
 #include "App/SettingsText.h"
+#include "App/StandardSettings.h"
 #include "App/UsageReport.h"
 #include "NotchKit/Platform/Utc.h"
+#include "Support/Fakes.h"
 #include "Support/TestRegistry.h"
 
 using Verb = CommandLine::Verb;
@@ -82,6 +84,57 @@ private Q_SLOTS:
     }
 
     void usageAsJson();
+
+    void settingsKnowWhatTheyTake_data()
+    {
+        columns<QString, QString, QString>();
+        const auto row = [](const Text &key, const Text &text, const Text &fault = "") {
+            QTest::newRow(qPrintable(key + u' ' + text.left(20)))
+                << QString(key) << QString(text) << QString(fault);
+        };
+        row("openMode", "click");
+        row("openMode", "Click", R"(takes hover or click, not "Click")");
+        row("hoverDelay", "60");
+        row("hoverDelay", "-0.1", R"(takes a number not below 0, not "-0.1")");
+        row("claudeBlockBudget", "1099511627776");
+        row("claudeBlockBudget", "-1", R"(takes a whole number not below 0, not "-1")");
+        row("claudeBlockBudget", "0.5", R"(takes a whole number not below 0, not "0.5")");
+        row("weatherLatitude", "-90");
+        row("weatherLatitude", "90.5", R"(takes a number from -90 to 90, not "90.5")");
+        row("weatherLongitude", "180");
+        row("weatherLongitude", "181", R"(takes a number from -180 to 180, not "181")");
+        row("prompterSpeed", "8");
+        row("prompterSpeed", "7", R"(takes a number from 8 to 140, not "7")");
+        row("prompterFontSize", "60");
+        row("prompterFontSize", "inf", R"(takes a number from 14 to 60, not "inf")");
+        row("tools", R"(["home","note"])");
+        row("tools", R"(["home","sundial"])", R"(note or system, not "sundial")");
+        row("homeOrder", R"(["home"])", R"(captures or note, not "home")");
+        row("homeColumns", R"({"note":"left"})");
+        row("homeColumns", R"({"note":"centre"})", R"(note to hidden, left, center or right, not "centre")");
+        row("homeColumns", R"({"sundial":"left"})", R"(not "sundial")");
+        row("calendarSource", "folders");
+        row("calendarSource", "folder", R"(takes evolution or folders, not "folder")");
+        row("cameraHousings", R"({"eDP-1":"185x32"})");
+        row("cameraHousings", R"({"eDP-1":"185"})", R"(not "185")");
+        row("launchAtLogin", "yes", R"(takes true or false, not "yes")");
+        row("note", "-1");
+        row("hoverDelay", QString(5000, u'x'), u'"' + QString(60, u'x') + u"…\""_s);
+    }
+
+    void settingsKnowWhatTheyTake()
+    {
+        const auto [key, text, fault] = fetched<QString, QString, QString>();
+        Fakes::MemoryDefaults defaults;
+        Fakes::FakeLoginItem loginItem;
+        NotchSettings settings(defaults);
+        SettingsKeys keys(settings, standardExtras(defaults, loginItem));
+        const auto before = keys.get(key);
+        const QString said = keys.set(key, text).value_or(u""_s);
+        QVERIFY2(said.endsWith(fault), qPrintable(said));
+        QCOMPARE(said.isEmpty(), fault.isEmpty());
+        QCOMPARE(keys.get(key), fault.isEmpty() ? text : before);
+    }
 };
 
 void ArgumentsTest::usageAsJson()

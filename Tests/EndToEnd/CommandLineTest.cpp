@@ -1,5 +1,7 @@
 #include "EndToEnd/Stage.h"
 
+#include <QDirIterator>
+
 /// The program as a command: what it prints, and how it ends.
 class CommandLineTest : public StageTest
 {
@@ -90,12 +92,58 @@ private Q_SLOTS:
         QVERIFY(session.set(u"note"_s, u"Zwölf\nEier"_s));
         QCOMPARE(session.setting(u"note"_s), u"Zwölf\nEier"_s);
 
+        const Session::Result refused =
+            session.command({u"settings"_s, u"set"_s, u"calendarSource"_s, u"folder"_s});
+        QCOMPARE(refused.status, 2);
+        QCOMPARE(refused.errors, u"Kestrune: calendarSource takes evolution or folders, not \"folder\"\n"_s);
+
         QString list = session.command({u"settings"_s, u"list"_s}).output;
         for (const auto &name : {u"openMode"_s, u"hoverDelay"_s, u"tools"_s, u"allDisplays"_s, u"note"_s,
                                  u"tickers"_s, u"weatherLatitude"_s, u"homeColumns"_s})
             QVERIFY2(list.contains(name), qPrintable(name));
         QCOMPARE(session.command({u"settings"_s, u"reset"_s, u"hoverDelay"_s}).status, 0);
         QCOMPARE(session.setting(u"hoverDelay"_s), u"0.12"_s);
+    }
+
+    void readingChangesNothing_data()
+    {
+        const auto row = columns<QString>();
+        for (const char *store : {"none", "closed", "left by a kill", "damaged"})
+            row(store, store);
+    }
+
+    void readingChangesNothing()
+    {
+        const auto [store] = fetched<QString>();
+        Session session;
+        const QDir config(session.environment().value(u"XDG_CONFIG_HOME"_s));
+        const QTemporaryDir older;
+        auto writer = std::make_unique<SqliteUserDefaults>(older.filePath(u"defaults.sqlite"_s));
+        writer->setObject(u"notch.tools"_s, QStringList{u"home"_s});
+        writer->setObject(u"notch.knownTools"_s, QStringList{u"home"_s, u"captures"_s});
+        if (store == "closed"_L1)
+            writer.reset();
+        if (store != "none"_L1)
+            QVERIFY(config.mkpath(u"kestrune"_s));
+        if (store == "damaged"_L1)
+            QVERIFY(writeFile(config.filePath(u"kestrune/defaults.sqlite"_s), QByteArray(9000, 'z')));
+        else if (store != "none"_L1)
+            // The log first, which a checkpoint may just be bringing into the file.
+            for (const QFileInfo &file :
+                 QDir(older.path()).entryInfoList(QDir::Files, QDir::Name | QDir::Reversed))
+                QVERIFY(QFile::copy(file.filePath(), config.filePath(u"kestrune/"_s + file.fileName())));
+
+        const auto before = contentsBelow(config.path());
+        const bool isOlder = store == "closed"_L1 || store.contains("kill"_L1);
+        for (int reading = 0; reading < 2; ++reading) {
+            const QString tools = session.setting(u"tools"_s);
+            QVERIFY(tools.contains(u"timer"_s));
+            QCOMPARE(tools.contains(u"captures"_s), !isOlder);
+            const Session::Result list = session.command({u"settings"_s, u"list"_s});
+            QCOMPARE(list.status, 0);
+            QCOMPARE(list.errors, QString());
+            QCOMPARE(contentsBelow(config.path()), before);
+        }
     }
 
     void settingsActAtOnce()
@@ -119,6 +167,19 @@ private:
         QTest::addColumn<QStringList>("arguments");
         for (const char *line : commandLines)
             QTest::newRow(line) << QString::fromLatin1(line).split(u' ');
+    }
+
+    /// Every file and folder with its bytes.
+    static QMap<QString, QByteArray> contentsBelow(const QString &folder)
+    {
+        QMap<QString, QByteArray> contents;
+        QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                             QDirIterator::Subdirectories);
+        while (entries.hasNext()) {
+            const QString path = entries.next();
+            contents.insert(path, entries.fileInfo().isFile() ? readFile(path) : QByteArray());
+        }
+        return contents;
     }
 
     static bool isOneLine(const QString &text) { return text.count(u'\n') == 1 && text.endsWith(u'\n'); }

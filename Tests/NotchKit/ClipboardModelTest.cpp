@@ -71,6 +71,11 @@ private Q_SLOTS:
         row("one character of many marks", marks, marks, Kind::text);
         const QString longLink = u"https://example.org/"_s + QString(9000, u'y');
         row("long link", longLink, longLink, Kind::link);
+        const QString endless = longLink + QString(71'000, u'y');
+        row("link beyond all bounds", endless, endless.left(4000), Kind::text);
+        const QString selector = u"\U000e0100"_s; // A pair of surrogates that joins the character before it.
+        row("one endless character", u"e"_s + selector.repeated(50'000), u"e"_s + selector.repeated(39'999),
+            Kind::text);
     }
 
     void textsAndLinks()
@@ -308,8 +313,10 @@ private Q_SLOTS:
         stage.clipboard.remove(u"unknown"_s);
         QCOMPARE(stage.texts(), QStringList({u"C"_s, u"B"_s}));
         QVERIFY(stage.stored() != stored);
+        QVERIFY(stage.defaults.hasDamagedCopies);
         stage.clipboard.clear();
         QCOMPARE(stage.stored(), QByteArray("[]"));
+        QVERIFY(!stage.defaults.hasDamagedCopies);
     }
 
     void storedFormat();

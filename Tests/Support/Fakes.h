@@ -120,8 +120,10 @@ struct MemoryDefaults : UserDefaults
     }
     void setObject(const QString &key, const DefaultsValue &value) override { values.insert(key, value); }
     void removeObject(const QString &key) override { values.remove(key); }
+    void removeDamagedCopies() override { hasDamagedCopies = false; }
 
     Values values;
+    bool hasDamagedCopies = true;
 };
 
 struct FakeSounds : SoundPlayer

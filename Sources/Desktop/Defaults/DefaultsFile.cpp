@@ -1,6 +1,9 @@
 #include "Desktop/Defaults/DefaultsFile.h"
 
+#include "NotchKit/Platform/Utc.h"
+
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -22,6 +25,7 @@ namespace Kestrune {
 namespace {
 
 constexpr std::array companions{"-wal", "-shm", "-journal"};
+const QString asideSuffix = QStringLiteral(".damaged-");
 
 [[noreturn]] void fail(int error) { throw std::system_error(error, std::generic_category()); }
 
@@ -52,12 +56,26 @@ bool isTaken(const QString &path)
 
 QString unusedName(const QString &path)
 {
-    const QString stamped = path + QStringLiteral(".damaged-") +
-                            QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    const QString stamped =
+        path + asideSuffix + QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd-HHmmss"));
     QString name = stamped;
     for (int number = 2; isTaken(name); ++number)
         name = stamped + QLatin1Char('-') + QString::number(number);
     return name;
+}
+
+/// What a stamp reads, parted into day and time because some times of UTC are none where the user is.
+QDateTime timeOf(const QString &stamp)
+{
+    return {QDate::fromString(stamp.left(8), QStringLiteral("yyyyMMdd")),
+            QTime::fromString(stamp.mid(9, 6), QStringLiteral("HHmmss")), kUtc};
+}
+
+/// Of the file at `path` itself, should it be a link.
+QString realPath(const QString &path)
+{
+    const QString canonical = QFileInfo(path).canonicalFilePath();
+    return canonical.isEmpty() ? path : canonical;
 }
 
 } // namespace
@@ -123,8 +141,7 @@ bool isOnNetwork(const QString &path)
 
 QString setAside(const QString &path)
 {
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    const QString file = canonical.isEmpty() ? path : canonical;
+    const QString file = realPath(path);
     const QString name = unusedName(file);
     // The file goes last: a new one must never meet the log of the old.
     for (const char *suffix : companions) {
@@ -133,6 +150,20 @@ QString setAside(const QString &path)
     }
     rename(file, name);
     return name;
+}
+
+void removeSetAside(const QString &path, std::chrono::seconds age)
+{
+    const QFileInfo file(realPath(path));
+    const QString prefix = file.fileName() + asideSuffix;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    for (const QFileInfo &copy : file.dir().entryInfoList(QDir::Files | QDir::Hidden | QDir::System)) {
+        if (!copy.fileName().startsWith(prefix))
+            continue;
+        const QDateTime time = timeOf(copy.fileName().mid(prefix.size()));
+        if (time.isValid() && std::chrono::seconds(time.secsTo(now)) >= age)
+            QFile::remove(copy.filePath());
+    }
 }
 
 FolderLock::FolderLock(const QString &folder, std::chrono::milliseconds patience)

@@ -48,6 +48,10 @@ bool isOnNetwork(const QString &path);
 /// their place; no file is overwritten. Returns the new path.
 QString setAside(const QString &path);
 
+/// Removes what setAside() has put aside of `path`, its companions too, if that was at least `age` ago. What
+/// cannot be removed stays, without an error.
+void removeSetAside(const QString &path, std::chrono::seconds age = std::chrono::seconds::min());
+
 /// Lets one process at a time in, of all that open or exchange files in `folder`; ends with its life.
 class FolderLock
 {

@@ -6,10 +6,17 @@
 #include <QFileInfo>
 
 #include <cstdio>
+#include <utility>
 
 #include <sqlite3.h>
 
 namespace Kestrune {
+
+namespace {
+
+constexpr std::chrono::days keptFor{30}; // a damaged file
+
+} // namespace
 
 DefaultsStore::DefaultsStore(const QString &path)
     : m_path(path)
@@ -48,6 +55,7 @@ void DefaultsStore::apply(const Changes &changes)
         if (m_database->hasLog())
             m_checkpointer.schedule(m_database->identity(), m_database->isLogLong());
     });
+    removeOldCopies();
 }
 
 void DefaultsStore::setPatience(std::chrono::milliseconds patience)
@@ -155,6 +163,14 @@ void DefaultsStore::setDamagedAside()
     const QString name = setAside(m_path);
     std::fprintf(stderr, "Kestrune: damaged settings were set aside as %s; starting afresh\n",
                  QFile::encodeName(name).constData());
+}
+
+/// Looks once a day that something is written, and with the first write.
+void DefaultsStore::removeOldCopies()
+{
+    const auto today = std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
+    if (std::exchange(m_lastRemoval, today) != today)
+        removeSetAside(m_path, keptFor);
 }
 
 } // namespace Kestrune

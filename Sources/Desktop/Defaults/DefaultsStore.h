@@ -39,13 +39,15 @@ private:
     void adoptFile();
     std::unique_ptr<DefaultsDatabase> openHealthy();
     void setDamagedAside();
+    void removeOldCopies();
 
     const QString m_path;
     const QString m_folder;
     std::chrono::milliseconds m_patience{250};
     std::unique_ptr<DefaultsDatabase> m_database;
     std::optional<FileState> m_seen;
-    bool m_isSuspect = false; // the connection failed; the next write tries a new one
+    std::chrono::sys_days m_lastRemoval; // of copies that were set aside long ago
+    bool m_isSuspect = false;            // the connection failed; the next write tries a new one
     Checkpointer m_checkpointer;
 };
 

@@ -71,6 +71,8 @@ SqliteDatabase::SqliteDatabase(const QString &path, Mode mode)
     m_handle.reset(handle);
     if (code != SQLITE_OK)
         fail(code, handle);
+    if (mode == Mode::ReadWrite)
+        execute("PRAGMA secure_delete=ON");
 }
 
 void SqliteDatabase::setPatience(std::chrono::milliseconds patience)

@@ -46,7 +46,8 @@ class SqliteDatabase
 {
 public:
     enum class Mode {
-        ReadWrite, ///< Read only where the file cannot be written: see isReadOnly().
+        /// Read only where the file cannot be written: see isReadOnly(). What is removed is overwritten.
+        ReadWrite,
         ReadOnly, ///< Creates no file at all; CANTOPEN when the companions a live database needs are missing.
         Immutable, ///< As ReadOnly, for a file that has no companions because nobody has it open.
     };

@@ -72,6 +72,12 @@ void SqliteUserDefaults::setObject(const QString &key, const DefaultsValue &valu
 
 void SqliteUserDefaults::removeObject(const QString &key) { change(key, std::nullopt); }
 
+void SqliteUserDefaults::removeDamagedCopies()
+{
+    if (m_store)
+        removeSetAside(m_path);
+}
+
 std::optional<StoredValue> SqliteUserDefaults::find(const QString &key) const
 {
     if (const auto unsaved = m_unsaved.find(key); unsaved != m_unsaved.end())

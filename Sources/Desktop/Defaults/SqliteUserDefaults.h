@@ -16,15 +16,16 @@ class DefaultsStore;
 ///
 /// A write is in the file when the call returns, so that it survives the end of this process, however it
 /// comes; within about a second it survives a power cut too. A damaged file is renamed and a new one
-/// begun. What cannot be written is kept in memory and written as soon as that works again: with the next
-/// write, after some seconds where an event loop runs, or at the end. Standard error says so once; where
-/// another process is just writing, not before that has lasted for some seconds.
+/// begun; 30 days later what was renamed is removed. What cannot be written is kept in memory and written as
+/// soon as that works again: with the next write, after some seconds where an event loop runs, or at the end.
+/// Standard error says so once; where another process is just writing, not before that has lasted for some
+/// seconds.
 class SqliteUserDefaults : public UserDefaults
 {
 public:
     enum class Access {
         ReadWrite, ///< Creates file and folder when missing, for the user alone.
-        ReadOnly,  ///< For another program's domain: creates nothing, writes nothing, reports nothing.
+        ReadOnly,  ///< Creates nothing, writes nothing, reports nothing, as for another program's domain.
     };
 
     /// Where the file of `domain` is, such as "org.example.Program".
@@ -37,6 +38,7 @@ public:
     std::optional<DefaultsValue> object(const QString &key) const override;
     void setObject(const QString &key, const DefaultsValue &value) override;
     void removeObject(const QString &key) override;
+    void removeDamagedCopies() override;
 
 private:
     std::optional<StoredValue> find(const QString &key) const;

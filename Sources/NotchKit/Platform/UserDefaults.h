@@ -66,6 +66,10 @@ public:
     /// Removes `key`; nothing happens when it is absent.
     virtual void removeObject(const QString &key) = 0;
 
+    /// Removes the copies that were kept of a damaged store, which hold what was stored in it. A store that
+    /// keeps none does nothing.
+    virtual void removeDamagedCopies() = 0;
+
     /// The value under `key` as a T; nothing when it is absent or of another type.
     template <typename T>
     std::optional<T> value(const QString &key) const

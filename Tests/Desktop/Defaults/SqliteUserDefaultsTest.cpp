@@ -203,6 +203,33 @@ private Q_SLOTS:
         }
     }
 
+    void damagedCopiesEnd()
+    {
+        const QDateTime now = QDateTime::currentDateTimeUtc();
+        const auto name = [&](int days) {
+            return u"defaults.sqlite.damaged-"_s + now.addDays(-days).toString(u"yyyyMMdd-HHmmss"_s);
+        };
+        const QStringList old{name(31), name(31) + u"-wal"_s, name(400) + u"-2"_s};
+        const QStringList young{name(29), name(29) + u"-2-wal"_s};
+        const QStringList others{u"other."_s + name(31), u"defaults.sqlite.damaged-by-me"_s};
+        SqliteUserDefaults defaults(m_path);
+        const QDir folder(QFileInfo(m_path).path());
+        QVERIFY(folder.mkpath(u"."_s));
+        for (const QString &file : old + young + others)
+            QVERIFY(writeFile(folder.filePath(file), "damaged"));
+        const auto left = [&] {
+            QStringList files = folder.entryList({u"*damaged*"_s}, QDir::Files);
+            return QSet<QString>(files.cbegin(), files.cend());
+        };
+        defaults.setObject(key(), true);
+        QCOMPARE(left(),
+                 QSet<QString>(young.cbegin(), young.cend()) + QSet<QString>(others.cbegin(), others.cend()));
+        SqliteUserDefaults(m_path, Access::ReadOnly).removeDamagedCopies();
+        QCOMPARE(left().size(), 4);
+        defaults.removeDamagedCopies();
+        QCOMPARE(left(), QSet<QString>(others.cbegin(), others.cend()));
+    }
+
     void manyFindDamageAndWrite()
     {
         QVERIFY(writeFile(m_path, QByteArray(9000, 'z')));

@@ -218,6 +218,7 @@ void ClipboardModel::clear()
 {
     m_items = Items();
     persist();
+    m_defaults.removeDamagedCopies(); // In which the history would live on.
 }
 
 } // namespace Kestrune

@@ -19,7 +19,8 @@ struct ClipboardWorkers
 /// three. The item's date is left to the caller. Main thread, in a flow that the arguments outlive.
 QCoro::Task<std::optional<ClipboardItem>> readPasteboard(Pasteboard &pasteboard, ClipboardWorkers &workers);
 
-/// The item of a copied text, or nothing for blanks. Any thread.
+/// The item of a copied text, or nothing for blanks. It holds the text's first 4,000 characters, a link
+/// whole, and of neither more than 80,000 code units: a longer link is a text. Any thread.
 std::optional<ClipboardItem> clipboardItemOfText(const QString &text);
 
 } // namespace Kestrune

@@ -121,8 +121,8 @@ Pane {
                 width: Math.min(180, controls.width - playback.width - sizes.width - 92)
                 //: How fast the script scrolls.
                 help: qsTranslate("notch", "Speed")
-                from: 8
-                to: 140
+                from: pane.settings.leastPrompterSpeed
+                to: pane.settings.mostPrompterSpeed
                 stepSize: 2
                 value: pane.settings.prompterSpeed
                 onMoved: pane.settings.prompterSpeed = value
@@ -145,8 +145,8 @@ Pane {
                 text: qsTranslate("notch", "Text %1").arg(Format.digits(Math.round(value)))
                 lowerHelp: qsTranslate("notch", "Smaller text")
                 raiseHelp: qsTranslate("notch", "Larger text")
-                from: 14
-                to: 60
+                from: pane.settings.leastPrompterFontSize
+                to: pane.settings.mostPrompterFontSize
                 stepSize: 2
                 value: pane.settings.prompterFontSize
                 onModified: value => pane.settings.prompterFontSize = value
