@@ -12,7 +12,7 @@ namespace Kestrune {
 namespace {
 
 constexpr qsizetype kLongestName = 100; // Characters of a tool or a key.
-constexpr qsizetype kLongestText = 1024 * 1024;
+constexpr qsizetype kLongestText = 1'048'576;
 constexpr qsizetype kLongestFault = 1000; // It may quote what it is about.
 constexpr std::size_t kMostHeld = 64;
 
