@@ -8,8 +8,10 @@
 
 namespace Kestrune {
 
-Application::Application(const QDBusConnection &bus, const WindowSystemChoice &windows)
+Application::Application(const QDBusConnection &bus, const WindowSystemChoice &windows,
+                         ControlService &control)
     : m_windows(windows)
+    , m_control(control)
     , m_bus(bus)
     , m_desktop(bus, windows)
     , m_platform(m_desktop.platform())
@@ -20,6 +22,8 @@ Application::Application(const QDBusConnection &bus, const WindowSystemChoice &w
 {
     registerViews();
 }
+
+Application::~Application() { m_control.endService(); }
 
 void Application::start(const LaunchRequest &request)
 {
@@ -38,9 +42,7 @@ void Application::run(const LaunchRequest &request)
     m_statusItem = std::make_unique<BusStatusItem>(m_bus, NotchBranding::fennivar().name, trayIcon);
     m_menu = std::make_unique<AppMenu>(*m_state, *m_updater, *m_statusItem);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());
-    m_control = std::make_unique<ControlService>(*m_state, *m_keys, m_windows);
-    m_bus.registerObject(ControlService::objectPath(), m_control.get(),
-                         QDBusConnection::ExportScriptableSlots);
+    m_control.serve({*m_state, *m_keys, m_windows});
 }
 
 SettingsKeys Application::makeKeys()

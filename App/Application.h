@@ -21,8 +21,10 @@ namespace Kestrune {
 class Application
 {
 public:
-    /// Nothing is on screen yet. `windows` outlives the program.
-    Application(const QDBusConnection &bus, const WindowSystemChoice &windows);
+    /// Nothing is on screen yet. `windows` and `control`, which serves while the program runs, outlive it.
+    Application(const QDBusConnection &bus, const WindowSystemChoice &windows, ControlService &control);
+    ~Application();
+    Q_DISABLE_COPY_MOVE(Application)
 
     /// Starts the program proper once it is known which other applications run.
     void start(const LaunchRequest &request);
@@ -32,6 +34,7 @@ private:
     SettingsKeys makeKeys();
 
     const WindowSystemChoice &m_windows;
+    ControlService &m_control;
     QDBusConnection m_bus;
     DesktopPlatform m_desktop;
     const Platform &m_platform;
@@ -46,7 +49,6 @@ private:
     std::unique_ptr<BusStatusItem> m_statusItem;
     std::unique_ptr<AppMenu> m_menu;
     std::unique_ptr<SettingsKeys> m_keys;
-    std::unique_ptr<ControlService> m_control;
 };
 
 } // namespace Kestrune

@@ -2,8 +2,14 @@
 
 #include "SettingsKeys.h"
 
+#include <QDBusConnection>
 #include <QDBusContext>
+#include <QDBusMessage>
 #include <QObject>
+
+#include <functional>
+#include <optional>
+#include <vector>
 
 namespace Kestrune {
 
@@ -22,9 +28,22 @@ public:
     static QString objectPath() { return QStringLiteral("/example/kestrune/Kestrune"); }
     static QString interfaceName() { return QStringLiteral("example.kestrune.Control"); }
 
-    /// All outlive the service.
-    ControlService(AppState &app, SettingsKeys &settings, const WindowSystemChoice &windows,
-                   QObject *parent = nullptr);
+    /// What the calls are about.
+    struct Program
+    {
+        AppState &app;
+        SettingsKeys &settings;
+        const WindowSystemChoice &windows;
+    };
+
+    explicit ControlService(QObject *parent = nullptr);
+
+    /// Answers the calls from now on, those first that came before: nobody who knows the program's name is
+    /// told that there is nothing to talk to, however early.
+    void serve(const Program &program);
+
+    /// Answers no more calls; what they were about may go.
+    void endService() { m_program.reset(); }
 
 public Q_SLOTS:
     /// Opens or closes the notch of the display under the pointer.
@@ -38,18 +57,34 @@ public Q_SLOTS:
     Q_SCRIPTABLE void Quit();
     /// The program was started again, with "--open" and a tool or without.
     Q_SCRIPTABLE void Reopen(const QString &tool);
-    /// The state as JSON.
+    /// The state as JSON, with nothing of what the user keeps in the tools.
     Q_SCRIPTABLE QString Status();
+    /// Any key of "kestrune settings list", as text; the note and the shelf are among them.
     Q_SCRIPTABLE QString GetSetting(const QString &key);
     Q_SCRIPTABLE void SetSetting(const QString &key, const QString &text);
     Q_SCRIPTABLE void ResetSetting(const QString &key);
 
 private:
-    void report(const std::optional<QString> &fault);
+    struct Answer
+    {
+        std::optional<QString> text;
+        std::optional<QString> fault;
+    };
+    using Work = std::function<Answer(const Program &)>;
 
-    AppState &m_app;
-    SettingsKeys &m_settings;
-    const WindowSystemChoice &m_windows;
+    struct Held
+    {
+        QDBusConnection bus;
+        QDBusMessage call;
+        Work work;
+    };
+
+    QString answer(const Work &work);
+    bool fits(const QString &argument, qsizetype most) const;
+    void refuse(const QString &fault) const;
+
+    std::optional<Program> m_program;
+    std::vector<Held> m_held; ///< Calls until the program serves.
 };
 
 } // namespace Kestrune

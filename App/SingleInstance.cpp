@@ -18,9 +18,10 @@ constexpr int kHandOverTimeout = 5000; // ms
 
 } // namespace
 
-SingleInstance::SingleInstance(const QDBusConnection &bus, QObject *parent)
+SingleInstance::SingleInstance(const QDBusConnection &bus, ControlService &service, QObject *parent)
     : QObject(parent)
     , m_bus(bus)
+    , m_service(service)
 {}
 
 void SingleInstance::claim(std::function<void(Outcome)> done)
@@ -29,6 +30,7 @@ void SingleInstance::claim(std::function<void(Outcome)> done)
         done(Outcome::noBus);
         return;
     }
+    m_bus.registerObject(ControlService::objectPath(), &m_service, QDBusConnection::ExportScriptableSlots);
     BusDaemon::call(m_bus, QStringLiteral("RequestName"), {ControlService::busName(), kDoNotQueue}, this,
                     [done = std::move(done)](const QVariant &reply) {
                         const uint answer = reply.toUInt();

@@ -7,6 +7,8 @@
 
 namespace Kestrune {
 
+class ControlService;
+
 /// Holds the program's name on the session bus, so that a second start finds the first.
 class SingleInstance : public QObject
 {
@@ -19,9 +21,11 @@ public:
         noBus,  ///< There is no bus, or it does not answer.
     };
 
-    explicit SingleInstance(const QDBusConnection &bus, QObject *parent = nullptr);
+    /// `service` outlives the object.
+    SingleInstance(const QDBusConnection &bus, ControlService &service, QObject *parent = nullptr);
 
-    /// Asks for the name without waiting; `done` is called once.
+    /// Puts the service on the bus, so that whoever meets the name meets it, too, and asks for the name
+    /// without waiting; `done` is called once.
     void claim(std::function<void(Outcome)> done);
 
     /// Gives the name up: the next start is a first one. Waits for nothing.
@@ -33,6 +37,7 @@ public:
 
 private:
     QDBusConnection m_bus;
+    ControlService &m_service;
 };
 
 } // namespace Kestrune

@@ -1,6 +1,7 @@
 #include "Application.h"
 #include "Async/Threads.h"
 #include "CommandLine.h"
+#include "ControlService.h"
 #include "Desktop/Session/CoreDumps.h"
 #include "LocalServices.h"
 #include "Log.h"
@@ -128,7 +129,8 @@ int runProgram(int argc, char *argv[], const LaunchRequest &request)
     setUpDirection();
 
     const QDBusConnection bus = QDBusConnection::sessionBus();
-    SingleInstance instance(bus);
+    ControlService control;
+    SingleInstance instance(bus, control);
     std::unique_ptr<Application> program;
     instance.claim([&](SingleInstance::Outcome outcome) {
         if (outcome == SingleInstance::Outcome::second) {
@@ -144,7 +146,7 @@ int runProgram(int argc, char *argv[], const LaunchRequest &request)
         if (outcome == SingleInstance::Outcome::noBus)
             std::fputs("Kestrune: there is no session bus; commands and a second start cannot reach it\n",
                        stderr);
-        program = std::make_unique<Application>(bus, *windows);
+        program = std::make_unique<Application>(bus, *windows, control);
         program->start(request);
     });
     const int status = QGuiApplication::exec();

@@ -157,6 +157,9 @@ private Q_SLOTS:
         QCOMPARE(face.value(u"Title"_s).toString(), u"Kestrune"_s);
         QVERIFY(face.value(u"ItemIsMenu"_s).toBool());
         QCOMPARE(face.value(u"Menu"_s).value<QDBusObjectPath>().path(), u"/MenuBar"_s);
+        const QVariant many = QVariant::fromValue(QList<int>(1000));
+        const auto refused = stage.askMenu(u"GetGroupProperties"_s, {many, QStringList()});
+        QCOMPARE(refused.errorName(), u"org.freedesktop.DBus.Error.LimitsExceeded"_s);
         const auto icons = qdbus_cast<WirePixmaps>(face.value(u"IconPixmap"_s));
         for (const WirePixmap &icon : icons) {
             QCOMPARE(icon.pixels.size(), icon.width * icon.height * 4);

@@ -43,6 +43,29 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
     }
 
+    void keysThatAProgramForgesDoNothing()
+    {
+        QVERIFY(stage().run());
+        const X11 &x = stage().x;
+        const auto panels = x.topWindows({880, 390});
+        QCOMPARE(panels.size(), 1);
+        auto *symbols = xcb_key_symbols_alloc(x.connection());
+        auto *codes = xcb_key_symbols_get_keycode(symbols, XK_n);
+        xcb_key_press_event_t event{};
+        event.response_type = XCB_KEY_PRESS;
+        event.detail = codes[0];
+        event.root = event.event = x.root();
+        event.state = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
+        event.time = 1;
+        xcb_send_event(x.connection(), 0, panels[0], XCB_EVENT_MASK_NO_EVENT,
+                       reinterpret_cast<const char *>(&event));
+        x.sync();
+        std::free(codes);
+        xcb_key_symbols_free(symbols);
+        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
+        QVERIFY(stage().openByHotKey());
+    }
+
     void aTakenCombinationLeavesTheRestWorking()
     {
         takeCombination();

@@ -1,6 +1,9 @@
 #include "EndToEnd/Stage.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusPendingCall>
+#include <QDBusServiceWatcher>
+#include <QThread>
 
 /// Starting, starting again, pausing for the companion suite, and what survives a crash.
 class LifecycleTest : public StageTest
@@ -66,6 +69,48 @@ private Q_SLOTS:
         QCOMPARE(session().selected(), tool);
         QVERIFY(session().isRunning());
         QCOMPARE(stage().x.topWindows({880, 390}).size(), qsizetype(1));
+    }
+
+    void whoMeetsTheNameIsAnswered()
+    {
+        const QDBusConnection bus = session().bus();
+        QDBusServiceWatcher watcher(Session::busName(), bus, QDBusServiceWatcher::WatchForRegistration);
+        const auto ask = [&](const QString &method, const QVariantList &arguments) {
+            QDBusMessage call = QDBusMessage::createMethodCall(
+                Session::busName(), u"/example/kestrune/Kestrune"_s, u"example.kestrune.Control"_s, method);
+            call.setArguments(arguments);
+            return bus.asyncCall(call);
+        };
+        QList<QDBusPendingCall> early; // They may be carried out in another order while the program starts.
+        QThread thread;                // This one waits for the start.
+        connect(&watcher, &QDBusServiceWatcher::serviceRegistered, &watcher, [&] {
+            early = {ask(u"SetSetting"_s, {u"note"_s, u"early"_s}),
+                     ask(u"GetSetting"_s, {u"hoverDelay"_s}),
+                     ask(u"GetSetting"_s, {u"frobnicate"_s}),
+                     ask(u"Status"_s, {}),
+                     ask(u"SetSetting"_s, {u"note"_s, QString(2'000'000, u'x')}),
+                     ask(u"GetSetting"_s, {QString(2'000'000, u'x')})};
+            thread.quit();
+        });
+        watcher.moveToThread(&thread);
+        connect(
+            &thread, &QThread::finished, &watcher, [&] { watcher.moveToThread(thread.thread()); },
+            Qt::DirectConnection);
+        thread.start();
+        const bool started = session().start();
+        if (!started)
+            thread.quit();
+        QVERIFY(thread.wait() && started);
+        QStringList errors;
+        for (const QDBusPendingCall &call : std::as_const(early)) {
+            QVERIFY(waitUntil([&] { return call.isFinished(); }));
+            errors.append(call.error().name().section(u'.', -1));
+        }
+        QCOMPARE(errors,
+                 (QStringList{u""_s, u""_s, u"InvalidArgs"_s, u""_s, u"InvalidArgs"_s, u"InvalidArgs"_s}));
+        QCOMPARE(early[1].reply().arguments(), QVariantList{u"0.12"_s});
+        QVERIFY(early[3].reply().arguments().value(0).toString().contains(u"displays"_s));
+        QCOMPARE(session().setting(u"note"_s), u"early"_s);
     }
 
     void tellsWhatItDoesWhenAsked()

@@ -55,7 +55,7 @@ ScriptOutcome CoverSource::read(const QString &address)
     // An address with the picture in it is too long to be taken apart for nothing.
     if (address.startsWith(QLatin1String("data:"), Qt::CaseInsensitive))
         return decodeData(address);
-    const QUrl url(address);
+    const QUrl url(address.size() <= kLongestAddress ? address : QString());
     if (url.isLocalFile())
         return readFile(url.toLocalFile());
     return url.scheme() == QLatin1String("https") ? ScriptOutcome(address) : ScriptFailed();

@@ -17,6 +17,7 @@ Q_LOGGING_CATEGORY(playersLog, "kestrune.players", QtWarningMsg)
 namespace {
 
 constexpr int kBusTimeout = 25000; // ms, after which the bus gives a call up.
+constexpr qsizetype kMostPlayers = 64;
 
 QDBusMessage makeCall(const QString &busName, const char *interface, const QString &method)
 {
@@ -83,7 +84,7 @@ QStringList MprisBus::names()
     QStringList names = call.isFinished() ? call.reply().arguments().value(0).toStringList() : QStringList();
     names.removeIf([](const QString &name) { return !MprisNames::playerOf(name); });
     names.sort();
-    return names;
+    return names.mid(0, kMostPlayers);
 }
 
 QHash<QString, QDBusMessage> MprisBus::properties(const QStringList &busNames)

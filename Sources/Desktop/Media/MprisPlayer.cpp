@@ -1,5 +1,7 @@
 #include "MprisPlayer.h"
 
+#include "CoverSource.h"
+
 #include <QDBusArgument>
 #include <QStringList>
 #include <QUrl>
@@ -11,6 +13,7 @@ namespace Kestrune {
 namespace {
 
 constexpr qsizetype kLongestTag = 1000; // Characters that are of use to anyone.
+constexpr qsizetype kMostArtists = 20;
 
 /// The properties in a value that holds such a map, packed as the bus packs it or not.
 QVariantMap mapOf(const QVariant &value)
@@ -25,11 +28,15 @@ QVariantMap mapOf(const QVariant &value)
 /// A text of one line.
 QString lineOf(const QString &text) { return text.left(kLongestTag).simplified(); }
 
-QString artistOf(const QVariant &value) { return lineOf(value.toStringList().join(QLatin1String(", "))); }
+QString artistOf(const QVariant &value)
+{
+    return lineOf(value.toStringList().mid(0, kMostArtists).join(QLatin1String(", ")));
+}
 
 QString titleOf(const QVariantMap &song, const QString &busName)
 {
-    const QUrl file(song.value(QStringLiteral("xesam:url")).toString());
+    const QString address = song.value(QStringLiteral("xesam:url")).toString();
+    const QUrl file(address.size() <= CoverSource::kLongestAddress ? address : QString());
     for (const QString &name : {song.value(QStringLiteral("xesam:title")).toString(), file.fileName()}) {
         if (QString line = lineOf(name); !line.isEmpty())
             return line;

@@ -129,7 +129,9 @@ ScriptOutcome MprisScripts::artwork(MediaPlayer player)
         MprisState::of(chosen->second, m_bus.properties({chosen->second}).value(chosen->second));
     if (!state)
         return ScriptFailed();
-    return player == MediaPlayer::spotify ? ScriptOutcome(state->cover) : CoverSource::read(state->cover);
+    if (player == MediaPlayer::spotify)
+        return state->cover.size() <= CoverSource::kLongestAddress ? state->cover : QString();
+    return CoverSource::read(state->cover);
 }
 
 void MprisScripts::command(MediaPlayer player, const QString &method)

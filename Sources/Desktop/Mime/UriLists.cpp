@@ -13,25 +13,33 @@ bool isThisMachine(const QString &host)
            host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0;
 }
 
+/// The URL of the local file that a line names; an empty one for any other line.
+QUrl localFile(QByteArrayView line)
+{
+    // A carriage return belongs to the line's end; old programs end the whole with a NUL.
+    while (line.endsWith('\r') || line.endsWith('\0'))
+        line.chop(1);
+    if (line.isEmpty() || line.startsWith('#'))
+        return {};
+    QUrl url = QUrl::fromEncoded(line.toByteArray());
+    if (url.scheme() != QLatin1String("file") || url.path().isEmpty() || !isThisMachine(url.host()))
+        return {};
+    url.setHost(QString());
+    return url;
+}
+
 } // namespace
 
 QList<QUrl> localFiles(const QByteArray &list, const QByteArray &type)
 {
-    QList<QByteArray> lines = list.split('\n');
-    if (type == kCopiedFiles)
-        lines.removeFirst();
     QList<QUrl> urls;
-    for (QByteArray &line : lines) {
-        // A carriage return belongs to the line's end; old programs end the whole with a NUL.
-        while (line.endsWith('\r') || line.endsWith('\0'))
-            line.chop(1);
-        if (line.isEmpty() || line.startsWith('#'))
-            continue;
-        QUrl url = QUrl::fromEncoded(line);
-        if (url.scheme() != QLatin1String("file") || url.path().isEmpty() || !isThisMachine(url.host()))
-            continue;
-        url.setHost(QString());
-        urls.append(url);
+    QByteArrayView left(list);
+    for (qsizetype line = 0; !left.isEmpty() && line < kMostLines; ++line) {
+        const qsizetype end = left.indexOf('\n');
+        const QUrl url = localFile(end < 0 ? left : left.first(end));
+        left = end < 0 ? QByteArrayView() : left.sliced(end + 1);
+        if (!url.isEmpty() && (line > 0 || type != kCopiedFiles))
+            urls.append(url);
     }
     return urls;
 }

@@ -10,7 +10,10 @@ namespace Kestrune::UriLists {
 /// The file managers' own form: "copy" or "cut", then a URL a line.
 constexpr auto kCopiedFiles = "x-special/gnome-copied-files";
 
-/// The URLs of local files in a list of `type`, in their order, without a host.
+constexpr qsizetype kMostLines = 100'000;
+
+/// The URLs of local files in a list of `type`, in their order, without a host: of its first `kMostLines`,
+/// as each costs the reader time.
 QList<QUrl> localFiles(const QByteArray &list, const QByteArray &type);
 
 QByteArray uriList(const QList<QUrl> &urls);

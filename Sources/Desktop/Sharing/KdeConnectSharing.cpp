@@ -15,6 +15,8 @@ namespace {
 
 Q_LOGGING_CATEGORY(sharingLog, "kestrune.sharing", QtWarningMsg)
 
+constexpr qsizetype kMostDevices = 64; // Each is asked a question of its own.
+constexpr qsizetype kLongestDeviceName = 200;
 constexpr int kAskTimeout = 1500;   // ms
 constexpr int kSendTimeout = 20000; // ms; the service looks at the files before it answers.
 
@@ -65,8 +67,9 @@ QFuture<QList<SharingDevice>> KdeConnectSharing::devices()
     call << true << true; // Reachable, paired.
     callBus(m_bus, call, kAskTimeout, &m_answers, [this, search](const QDBusMessage &reply) {
         const auto names = deviceNames(reply);
-        for (auto device = names.cbegin(); device != names.cend(); ++device)
-            keepIfItTakesFiles({device.key(), device.value()}, search);
+        qsizetype asked = 0;
+        for (auto device = names.cbegin(); device != names.cend() && asked < kMostDevices; ++device, ++asked)
+            keepIfItTakesFiles({device.key(), device.value().left(kLongestDeviceName)}, search);
     });
     return search->pledge.future();
 }

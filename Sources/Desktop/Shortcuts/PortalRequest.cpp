@@ -9,6 +9,12 @@
 
 namespace Kestrune {
 
+namespace {
+
+constexpr qsizetype kLongestPath = 1000; // The bus takes no longer rule that names one.
+
+} // namespace
+
 PortalRequest::PortalRequest(const QDBusConnection &bus, const QString &portal, QObject *parent)
     : QObject(parent)
     , m_bus(bus)
@@ -79,7 +85,7 @@ QString PortalRequest::session(const PortalAnswer &answer)
     // It is documented as a text, and told as a path by some.
     const QString path =
         handle.canConvert<QDBusObjectPath>() ? handle.value<QDBusObjectPath>().path() : handle.toString();
-    return QDBusObjectPath(path).path();
+    return path.size() <= kLongestPath ? QDBusObjectPath(path).path() : QString();
 }
 
 } // namespace Kestrune

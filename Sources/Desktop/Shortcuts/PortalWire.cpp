@@ -8,6 +8,12 @@
 
 namespace Kestrune {
 
+namespace {
+
+constexpr qsizetype kMostKeys = 64; // One is bound.
+
+} // namespace
+
 QDBusArgument &operator<<(QDBusArgument &argument, const PortalKey &key)
 {
     argument.beginStructure();
@@ -35,7 +41,14 @@ std::optional<QList<PortalKey>> PortalWire::keys(const QVariant &value)
     const auto argument = value.value<QDBusArgument>();
     if (argument.currentSignature() != QLatin1String("a(sa{sv})"))
         return std::nullopt;
-    return qdbus_cast<QList<PortalKey>>(argument);
+    QList<PortalKey> keys;
+    argument.beginArray();
+    while (!argument.atEnd() && keys.size() < kMostKeys) {
+        PortalKey key;
+        argument >> key;
+        keys.append(key);
+    }
+    return keys;
 }
 
 void PortalWire::registerTypes()

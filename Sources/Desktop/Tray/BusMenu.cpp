@@ -3,11 +3,14 @@
 #include <QGuiApplication>
 #include <QMetaObject>
 
+#include <algorithm>
+
 namespace Kestrune {
 
 namespace {
 
-constexpr int kMenu = 0; // The number of the menu itself.
+constexpr int kMenu = 0;              // The number of the menu itself.
+constexpr qsizetype kMostAsked = 256; // Entries or names of one call.
 
 QVariantMap propertiesOf(const StatusMenuEntry &entry)
 {
@@ -62,8 +65,18 @@ QVariantMap BusMenu::properties(int id, const QStringList &names) const
     return properties;
 }
 
+bool BusMenu::isTooMuch(qsizetype asked)
+{
+    if (asked <= kMostAsked)
+        return false;
+    sendErrorReply(QDBusError::LimitsExceeded, QStringLiteral("the call is about too many entries"));
+    return true;
+}
+
 uint BusMenu::GetLayout(int parent, int depth, const QStringList &names, WireLayout &layout)
 {
+    if (isTooMuch(names.size()))
+        return 0;
     if (!exists(parent)) {
         sendErrorReply(QDBusError::InvalidArgs, QStringLiteral("no entry has this number"));
         return 0;
@@ -78,6 +91,8 @@ uint BusMenu::GetLayout(int parent, int depth, const QStringList &names, WireLay
 
 QList<WireProperties> BusMenu::GetGroupProperties(const QList<int> &ids, const QStringList &names)
 {
+    if (isTooMuch(std::max(ids.size(), names.size())))
+        return {};
     QList<int> wanted = ids;
     for (int i = 0; ids.isEmpty() && i < m_entries.size(); ++i) // None given: all are meant.
         wanted.append(m_first + i);
@@ -115,6 +130,8 @@ void BusMenu::Event(int id, const QString &kind, const QDBusVariant & /*data*/, 
 
 QList<int> BusMenu::EventGroup(const QList<WireEvent> &events)
 {
+    if (isTooMuch(events.size()))
+        return {};
     QList<int> unknown;
     for (const WireEvent &event : events) {
         if (!handle(event.id, event.kind))
@@ -127,6 +144,8 @@ bool BusMenu::AboutToShow(int /*id*/) { return false; }
 
 QList<int> BusMenu::AboutToShowGroup(const QList<int> &ids, QList<int> &errors)
 {
+    if (isTooMuch(ids.size()))
+        return {};
     for (const int id : ids) {
         if (!exists(id))
             errors.append(id);

@@ -46,6 +46,8 @@ Q_SIGNALS:
     Q_SCRIPTABLE void LayoutUpdated(uint revision, int parent);
 
 private:
+    /// Refuses a call that asks for more than a panel would.
+    bool isTooMuch(qsizetype asked);
     bool exists(int id) const;
     const StatusMenuEntry *find(int id) const;
     QVariantMap properties(int id, const QStringList &names) const;

@@ -25,7 +25,7 @@ void AbandonedTransfers::add(xcb_connection_t *x, xcb_window_t window, xcb_atom_
 
 bool AbandonedTransfers::handle(xcb_connection_t *x, const xcb_generic_event_t &event)
 {
-    if ((event.response_type & 0x7f) != XCB_PROPERTY_NOTIFY)
+    if (event.response_type != XCB_PROPERTY_NOTIFY)
         return false;
     const auto &change = reinterpret_cast<const xcb_property_notify_event_t &>(event);
     const auto found = std::ranges::find(m_transfers, change.window, &Transfer::window);

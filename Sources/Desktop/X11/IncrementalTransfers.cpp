@@ -9,28 +9,35 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto kPatience = 10s;
+constexpr size_t kMostTransfers = 256;
 
+/// A window of the connection's own keeps the events that it was made with.
 void selectEvents(SelectionConnection &x, xcb_window_t window, uint32_t events)
 {
+    if (x.isOwn(window))
+        return;
     xcb_change_window_attributes(x.get(), window, XCB_CW_EVENT_MASK, &events);
 }
 
 } // namespace
 
-void IncrementalTransfers::start(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type,
+bool IncrementalTransfers::start(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type,
                                  const QByteArray &data)
 {
     std::erase_if(m_transfers,
                   [&](const Transfer &old) { return old.reader == reader && old.property == property; });
+    if (m_transfers.size() >= kMostTransfers)
+        return false;
     selectEvents(m_x, reader, XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     const auto size = static_cast<uint32_t>(data.size());
     xcb_change_property(m_x.get(), XCB_PROP_MODE_REPLACE, reader, property, m_x.atom("INCR"), 32, 1, &size);
     m_transfers.push_back({reader, property, type, data, 0, Clock::now() + kPatience});
+    return true;
 }
 
 void IncrementalTransfers::handle(const xcb_generic_event_t &event)
 {
-    switch (event.response_type & 0x7f) {
+    switch (event.response_type) {
     case XCB_PROPERTY_NOTIFY: {
         const auto &change = reinterpret_cast<const xcb_property_notify_event_t &>(event);
         const auto found = std::ranges::find_if(m_transfers, [&](const Transfer &transfer) {

@@ -22,8 +22,9 @@ public:
         : m_x(x)
     {}
 
-    /// Announces the answer in the reader's property; it is still to be told.
-    void start(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type, const QByteArray &data);
+    /// Announces the answer in the reader's property; it is still to be told. False when too many readers
+    /// wait for theirs.
+    bool start(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type, const QByteArray &data);
 
     void handle(const xcb_generic_event_t &event);
 

@@ -4,6 +4,15 @@
 
 namespace Kestrune {
 
+namespace {
+
+bool isForged(const xcb_generic_event_t &event)
+{
+    return (event.response_type & X11::kSent) != 0 && (event.response_type & 0x7f) != XCB_SELECTION_NOTIFY;
+}
+
+} // namespace
+
 SelectionConnection::SelectionConnection(const QByteArray &display)
     : m_connection(xcb_connect(display.isEmpty() ? nullptr : display.constData(), nullptr))
 {
@@ -39,7 +48,7 @@ SelectionConnection::Event SelectionConnection::nextEvent()
             event = std::move(m_held.front());
             m_held.pop_front();
         }
-    } while (event && m_abandoned.handle(m_connection, *event));
+    } while (event && (isForged(*event) || m_abandoned.handle(m_connection, *event)));
     return event;
 }
 
@@ -53,7 +62,7 @@ void SelectionConnection::watchOwner(xcb_atom_t selection)
 
 bool SelectionConnection::isOwnerEvent(const xcb_generic_event_t &event) const
 {
-    return (event.response_type & 0x7f) == m_ownerEvent;
+    return event.response_type == m_ownerEvent;
 }
 
 xcb_window_t SelectionConnection::ownerOf(xcb_atom_t selection) const
@@ -96,19 +105,31 @@ QList<QByteArray> SelectionConnection::names(const QList<xcb_atom_t> &atoms) con
 
 xcb_timestamp_t SelectionConnection::serverTime()
 {
-    // Nothing is appended, but the server tells when.
+    // The server tells when it wrote the property, whatever another client has put there. It refuses only for
+    // a window that is gone; once it has confirmed the request, the event has arrived, too.
     const xcb_atom_t property = atom("KESTRUNE_TIME");
-    xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_window, property, XCB_ATOM_INTEGER, 32, 0,
-                        nullptr);
-    xcb_flush(m_connection);
-    while (Event event{xcb_wait_for_event(m_connection)}) {
+    const auto cookie = xcb_change_property_checked(m_connection, XCB_PROP_MODE_REPLACE, m_window, property,
+                                                    XCB_ATOM_INTEGER, 32, 0, nullptr);
+    const X11::Reply<xcb_generic_error_t> error(xcb_request_check(m_connection, cookie));
+    xcb_timestamp_t time = XCB_CURRENT_TIME;
+    while (!error && time == XCB_CURRENT_TIME) {
+        Event event(xcb_poll_for_queued_event(m_connection));
+        if (!event)
+            break;
         const auto &change = reinterpret_cast<const xcb_property_notify_event_t &>(*event);
-        if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && change.window == m_window &&
-            change.atom == property)
-            return change.time;
-        m_held.push_back(std::move(event));
+        if (event->response_type == XCB_PROPERTY_NOTIFY && sequenceOf(*event) == cookie.sequence &&
+            change.window == m_window && change.atom == property)
+            time = change.time;
+        else
+            m_held.push_back(std::move(event));
     }
-    return XCB_CURRENT_TIME;
+    return time;
+}
+
+bool SelectionConnection::isOwn(xcb_window_t window) const
+{
+    const auto *setup = xcb_get_setup(m_connection);
+    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
 }
 
 xcb_window_t SelectionConnection::createWindow()

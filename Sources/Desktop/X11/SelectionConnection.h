@@ -27,7 +27,8 @@ public:
     xcb_connection_t *get() const { return m_connection; }
     xcb_window_t window() const { return m_window; }
 
-    /// The next event that has arrived, or null.
+    /// The next event that has arrived, or null. Of those that other clients send only the answers to
+    /// questions are among them: all else is the server's to tell.
     Event nextEvent();
 
     /// The number of the last request that the server had carried out when it sent the event.
@@ -46,8 +47,11 @@ public:
     /// The names of `atoms`, in their order; empty for one that does not exist.
     QList<QByteArray> names(const QList<xcb_atom_t> &atoms) const;
 
-    /// The time on the server's clock.
+    /// The time on the server's clock; `XCB_CURRENT_TIME` when the window is gone.
     xcb_timestamp_t serverTime();
+
+    /// Whether this connection made the window.
+    bool isOwn(xcb_window_t window) const;
 
     /// A window for another client to put properties on, whose changes this connection is told of.
     xcb_window_t createWindow();
@@ -60,7 +64,7 @@ private:
     xcb_connection_t *m_connection;
     uint8_t m_ownerEvent = 0; ///< 0 without XFixes.
     xcb_window_t m_window = XCB_WINDOW_NONE;
-    std::deque<Event> m_held; ///< Arrived while a call waited for something else.
+    std::deque<Event> m_held; ///< Arrived while the time was asked for.
     AbandonedTransfers m_abandoned;
     QHash<QByteArray, xcb_atom_t> m_atoms; ///< Of the names that the program asked for.
 };

@@ -23,7 +23,7 @@ void SelectionOwner::offer(const QList<PasteboardTypes::Form> &forms)
 
 void SelectionOwner::handle(const xcb_generic_event_t &event)
 {
-    switch (event.response_type & 0x7f) {
+    switch (event.response_type) {
     case XCB_SELECTION_REQUEST:
         answer(reinterpret_cast<const xcb_selection_request_event_t &>(event));
         break;
@@ -63,7 +63,9 @@ void SelectionOwner::answer(const xcb_selection_request_event_t &request)
 
 bool SelectionOwner::isOurs(const xcb_selection_request_event_t &request) const
 {
-    return request.selection == m_selection && request.owner == m_x.window() && !m_forms.empty() &&
+    // The window of the owner never asks itself; whoever names it as the reader writes over its properties.
+    return request.selection == m_selection && request.owner == m_x.window() &&
+           request.requestor != m_x.window() && !m_forms.empty() &&
            (request.time == XCB_CURRENT_TIME || !SelectionConnection::precedes(request.time, m_since));
 }
 
@@ -81,12 +83,10 @@ bool SelectionOwner::give(xcb_window_t reader, xcb_atom_t target, xcb_atom_t pro
     const auto form = std::ranges::find(m_forms, target, &Form::target);
     if (form == m_forms.end())
         return false;
-    if (form->data.size() > IncrementalTransfers::kPiece) {
-        m_transfers.start(reader, property, form->type, form->data);
-    } else {
-        xcb_change_property(m_x.get(), XCB_PROP_MODE_REPLACE, reader, property, form->type, 8,
-                            static_cast<uint32_t>(form->data.size()), form->data.constData());
-    }
+    if (form->data.size() > IncrementalTransfers::kPiece)
+        return m_transfers.start(reader, property, form->type, form->data);
+    xcb_change_property(m_x.get(), XCB_PROP_MODE_REPLACE, reader, property, form->type, 8,
+                        static_cast<uint32_t>(form->data.size()), form->data.constData());
     return true;
 }
 

@@ -33,7 +33,7 @@ void SelectionReader::handle(const xcb_generic_event_t &event)
     const int type = event.response_type & 0x7f;
     if (type == XCB_SELECTION_NOTIFY && m_state == State::Asked) {
         const auto &notify = reinterpret_cast<const xcb_selection_notify_event_t &>(event);
-        if (notify.requestor != m_window)
+        if (notify.requestor != m_window || notify.target != m_question.target)
             return;
         m_patience.progress();
         m_ownerIsDone = true;

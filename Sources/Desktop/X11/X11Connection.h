@@ -34,6 +34,11 @@ struct FreeReply
     void operator()(void *reply) const { std::free(reply); } // NOLINT(bugprone-*): xcb allocates with malloc.
 };
 
+/// The mark in `response_type` of an event that another client sent, which the server lets it do with almost
+/// any event and to any window: what only the server can know is compared with the mark, so that it does not
+/// match. The rest is the kind.
+constexpr uint8_t kSent = 0x80;
+
 /// A reply or an error, freed with the object.
 template <typename Type>
 using Reply = std::unique_ptr<Type, FreeReply>;

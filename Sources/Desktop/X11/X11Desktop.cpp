@@ -92,7 +92,7 @@ void X11Desktop::checkCompositor()
 bool X11Desktop::nativeEventFilter(const QByteArray &, void *message, qintptr *)
 {
     const auto *event = static_cast<const xcb_generic_event_t *>(message);
-    const auto type = event->response_type & 0x7f;
+    const auto type = event->response_type;
     if (type == XCB_PROPERTY_NOTIFY) {
         const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(event);
         if (change->window == X11::root() && isStackingProperty(change->atom))

@@ -16,7 +16,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kDragPatience = 2s;
 constexpr uint32_t kMostDraggedTypes = 1024;
 constexpr uint32_t kMostWords = 4 * 1024 * 1024; // 16 MB of addresses.
 constexpr uint32_t kMoreTypes = 1;               // Bit in the entering message: see the source's list.
@@ -43,9 +42,8 @@ X11DragPasteboard::X11DragPasteboard()
                                           XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
                                               XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
     }
-    m_patience.setSingleShot(true);
-    m_patience.setInterval(kDragPatience);
-    m_patience.callOnTimeout([this] { finish({}); });
+    m_deadline.setSingleShot(true);
+    m_deadline.callOnTimeout([this] { finish({}); });
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
@@ -64,9 +62,9 @@ bool X11DragPasteboard::nativeEventFilter(const QByteArray &, void *message, qin
         handleMessage(*reinterpret_cast<const xcb_client_message_event_t *>(event));
     else if (type == XCB_SELECTION_NOTIFY)
         return handleAnswer(*reinterpret_cast<const xcb_selection_notify_event_t *>(event));
-    else if (type == XCB_PROPERTY_NOTIFY && m_incremental)
+    else if (event->response_type == XCB_PROPERTY_NOTIFY && m_incremental)
         handleProperty(*reinterpret_cast<const xcb_property_notify_event_t *>(event));
-    else if (m_selectionEvent && type == m_selectionEvent &&
+    else if (m_selectionEvent && event->response_type == m_selectionEvent &&
              reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event)->selection ==
                  X11::atom(kSelection))
         sourceDied();
@@ -130,7 +128,14 @@ void X11DragPasteboard::ask(xcb_timestamp_t time)
     xcb_convert_selection(X11::connection(), m_target, X11::atom(kSelection), X11::atom(kUriList),
                           X11::atom(kDragProperty), time);
     xcb_flush(X11::connection());
-    m_patience.start();
+    m_patience = {};
+    waitOn();
+}
+
+void X11DragPasteboard::waitOn()
+{
+    const auto left = m_patience.deadline() - ReadingPatience::Clock::now();
+    m_deadline.start(std::max(0ms, std::chrono::ceil<std::chrono::milliseconds>(left)));
 }
 
 bool X11DragPasteboard::handleAnswer(const xcb_selection_notify_event_t &answer)
@@ -162,12 +167,14 @@ void X11DragPasteboard::takeProperty()
                            xcb_get_property_value_length(part.get()));
     m_list += bytes;
     const bool whole = !m_incremental || bytes.isEmpty();
-    if (whole)
-        finish(UriLists::localFiles(m_list, kUriList));
-    else if (m_list.size() > qsizetype{4} * kMostWords)
+    if (part->bytes_after != 0 || m_list.size() > qsizetype{4} * kMostWords) {
         finish({});
-    else
-        m_patience.start();
+    } else if (whole) {
+        finish(UriLists::localFiles(m_list, kUriList));
+    } else {
+        m_patience.progress();
+        waitOn();
+    }
 }
 
 void X11DragPasteboard::handleProperty(const xcb_property_notify_event_t &change)
@@ -204,7 +211,7 @@ void X11DragPasteboard::finish(const QList<QUrl> &files)
 {
     if (std::exchange(m_answered, true))
         return;
-    m_patience.stop();
+    m_deadline.stop();
     m_incremental = false;
     m_list.clear();
     m_files = files;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Async/Pledge.h"
+#include "Desktop/Pasteboard/ReadingPatience.h"
 #include "NotchKit/Platform/DragPasteboard.h"
 
 #include <QAbstractNativeEventFilter>
@@ -35,6 +36,7 @@ private:
     void ask(xcb_timestamp_t time);
     void leave();
     void takeProperty();
+    void waitOn();
     void finish(const QList<QUrl> &files);
 
     uint8_t m_selectionEvent = 0; ///< 0 without XFixes.
@@ -47,7 +49,8 @@ private:
     QList<QUrl> m_files;
     std::optional<Pledge<QList<QUrl>>> m_answer; ///< Of the drag that is over, or was dropped last.
     bool m_answered = true;
-    QTimer m_patience;
+    ReadingPatience m_patience;
+    QTimer m_deadline;
 };
 
 } // namespace Kestrune

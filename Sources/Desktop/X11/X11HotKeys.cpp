@@ -182,11 +182,11 @@ void X11HotKeys::regrabAll()
 bool X11HotKeys::nativeEventFilter(const QByteArray &, void *message, qintptr *)
 {
     const auto *event = static_cast<const xcb_generic_event_t *>(message);
-    switch (event->response_type & 0x7f) {
+    switch (event->response_type) {
     case XCB_KEY_PRESS:
     case XCB_KEY_RELEASE:
         return handleKey(*reinterpret_cast<const xcb_key_press_event_t *>(event),
-                         (event->response_type & 0x7f) == XCB_KEY_PRESS);
+                         event->response_type == XCB_KEY_PRESS);
     case XCB_MAPPING_NOTIFY:
         regrabAll();
         break;

@@ -76,13 +76,13 @@ bool X11Pointer::nativeEventFilter(const QByteArray &, void *message, qintptr *)
 bool X11Pointer::isInput(const xcb_generic_event_t &event, uint16_t type) const
 {
     const auto &input = reinterpret_cast<const xcb_ge_generic_event_t &>(event);
-    return (event.response_type & 0x7f) == XCB_GE_GENERIC && input.extension == m_inputOpcode &&
+    return event.response_type == XCB_GE_GENERIC && input.extension == m_inputOpcode &&
            input.event_type == type;
 }
 
 bool X11Pointer::isCrossing(const xcb_generic_event_t &event) const
 {
-    const int type = event.response_type & 0x7f;
+    const int type = event.response_type;
     return type == XCB_ENTER_NOTIFY || type == XCB_LEAVE_NOTIFY || isInput(event, XCB_INPUT_ENTER) ||
            isInput(event, XCB_INPUT_LEAVE);
 }
@@ -95,7 +95,7 @@ bool X11Pointer::isOverWindow(const xcb_generic_event_t &event) const
 
 void X11Pointer::cross(const xcb_generic_event_t &event)
 {
-    const bool byInput = (event.response_type & 0x7f) == XCB_GE_GENERIC;
+    const bool byInput = event.response_type == XCB_GE_GENERIC;
     const auto &core = reinterpret_cast<const xcb_enter_notify_event_t &>(event);
     const auto &input = reinterpret_cast<const xcb_input_enter_event_t &>(event);
     // A grab that begins or ends moves nothing, and a child is still within.
@@ -103,8 +103,7 @@ void X11Pointer::cross(const xcb_generic_event_t &event)
         byInput ? input.mode == XCB_INPUT_NOTIFY_MODE_NORMAL : core.mode == XCB_NOTIFY_MODE_NORMAL;
     const bool within = byInput ? input.detail == XCB_INPUT_NOTIFY_DETAIL_INFERIOR
                                 : core.detail == XCB_NOTIFY_DETAIL_INFERIOR;
-    const bool left =
-        byInput ? input.event_type == XCB_INPUT_LEAVE : (event.response_type & 0x7f) == XCB_LEAVE_NOTIFY;
+    const bool left = byInput ? input.event_type == XCB_INPUT_LEAVE : event.response_type == XCB_LEAVE_NOTIFY;
     if (m_isGuest && moved && !within && left)
         m_away = true;
 }

@@ -111,6 +111,10 @@ private Q_SLOTS:
         row("file", QVariantMap{{u"xesam:url"_s, u"file:///music/My%20song.mp3"_s}}, on, at,
             u"playing|My song.mp3||0.000|2.500"_s);
         row("nothing known", QVariantMap(), on, at, u"playing|vlc||0.000|2.500"_s);
+        row("many", with(u"xesam:artist"_s, QStringList(1000, u"Al"_s)), on, at,
+            u"playing|Sång|%1|215.500|2.500"_s.arg(QStringList(20, u"Al"_s).join(u", "_s)));
+        row("endless address", QVariantMap{{u"xesam:url"_s, u"file:///"_s + QString(50'000, u'x')}}, on, at,
+            u"playing|vlc||0.000|2.500"_s);
         row("long", QVariantMap{{u"xesam:title"_s, QString(50'000, u'x')}}, on, at,
             u"playing|%1||0.000|2.500"_s.arg(QString(1000, u'x')));
     }
@@ -249,6 +253,7 @@ private Q_SLOTS:
         QTest::newRow("no data") << u"data:image/png;base64"_s << failed;
         QTest::newRow("too much data") << u"data:;base64,"_s + QString(12 * 1024 * 1024, u'A') << failed;
         QTest::newRow("network") << u"https://host/a?b=c#d"_s << ScriptOutcome(u"https://host/a?b=c#d"_s);
+        QTest::newRow("endless address") << u"https://host/"_s + QString(50'000, u'x') << failed;
         QTest::newRow("unsafe") << u"http://host/a"_s << failed;
         QTest::newRow("none") << u""_s << failed;
     }

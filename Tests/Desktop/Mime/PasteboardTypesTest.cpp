@@ -37,6 +37,7 @@ private Q_SLOTS:
         QCOMPARE(UriLists::localFiles(lines, "text/uri-list"), files);
         QCOMPARE(UriLists::localFiles("cut\n" + lines, UriLists::kCopiedFiles), files);
         QCOMPARE(UriLists::copiedFiles(files), "copy\nfile:///a%20b\nfile:///d\nfile:///%C3%BC"_ba);
+        QCOMPARE(UriLists::localFiles("file:///a\n"_ba.repeated(150'000), "text/uri-list").size(), 100'000);
     }
 };
 

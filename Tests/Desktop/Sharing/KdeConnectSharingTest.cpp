@@ -68,6 +68,24 @@ private Q_SLOTS:
         QVERIFY(devices.result().isEmpty());
     }
 
+    void onlySoManyDevicesAreAsked()
+    {
+        BusStandIn service(u"org.kde.kdeconnect"_s);
+        QMap<QString, QString> many;
+        for (int i = 0; i < 1000; ++i)
+            many.insert(u"_%1_"_s.arg(i), QString(1000, u'x'));
+        QVERIFY(service.appear([&](const QDBusMessage &call) {
+            return call.createReply(call.member() == "deviceNames"_L1 ? QVariant::fromValue(many)
+                                                                      : QVariant(true));
+        }));
+        KdeConnectSharing sharing(service.bus());
+        const auto devices = sharing.devices();
+        QTRY_VERIFY(devices.isFinished());
+        QCOMPARE(devices.result().size(), 64);
+        QCOMPARE(devices.result().constFirst().name.size(), 200);
+        QCOMPARE(service.calls.size(), 65);
+    }
+
     void anEndedAdapterStillAnswers()
     {
         BusStandIn service(u"org.kde.kdeconnect"_s);

@@ -220,6 +220,31 @@ private Q_SLOTS:
         QVERIFY(picture() == bytes); // Its own content takes the same way.
     }
 
+    void strangersOnOurWindow_data()
+    {
+        QTest::addColumn<bool>("gone");
+        for (const char *what :
+             {"property of another type", "asks for the types", "asks for a picture in pieces", "forged loss",
+              "forged owner", "destroys it"})
+            QTest::newRow(what) << (what == "destroys it"_ba);
+    }
+
+    void strangersOnOurWindow()
+    {
+        QFETCH(bool, gone);
+        const X11 x(m_stage->display->name());
+        const QByteArray bytes = random(kMegabyte);
+        m_stage->write(EncodedPicture{bytes, u"image/png"_s});
+        const xcb_window_t window = clipboardOwner(x);
+        QVERIFY(window != XCB_WINDOW_NONE);
+        intrude(QTest::currentDataTag(), x, window);
+        QVERIFY(gone || m_stage->paste(u"qt"_s, u"image/png"_s) == bytes);
+        QCOMPARE(m_stage->pasteboard->changeCount(), 1);
+        m_stage->pasteboard->write(kText);
+        QCOMPARE(types(), gone ? QStringList() : QStringList{u"text/plain"_s});
+        QCOMPARE(string(), gone ? QString() : kText);
+    }
+
     void idle()
     {
         QVERIFY(m_stage->startRogue({u"hangHalfWay"_s, u"image/png"_s}));
@@ -264,12 +289,63 @@ private Q_SLOTS:
     void fileManager(); // The last, since a window manager then keeps the server busy.
 
 private:
+    static xcb_window_t clipboardOwner(const X11 &x);
+    static void intrude(const QByteArray &how, const X11 &x, xcb_window_t window);
+
     QStringList types() { return wait(m_stage->pasteboard->types()); }
     QString string() { return wait(m_stage->pasteboard->string()).value_or(QString()); }
     QByteArray picture() { return wait(m_stage->pasteboard->picture()).value_or(EncodedPicture()).data; }
 
     std::unique_ptr<ClipboardStage> m_stage;
 };
+
+xcb_window_t X11PasteboardTest::clipboardOwner(const X11 &x)
+{
+    auto *reply = xcb_get_selection_owner_reply(
+        x.connection(), xcb_get_selection_owner(x.connection(), x.atom("CLIPBOARD")), nullptr);
+    const xcb_window_t owner = reply ? reply->owner : xcb_window_t{XCB_WINDOW_NONE};
+    std::free(reply);
+    return owner;
+}
+
+/// What another program may do to the adapter's own window.
+void X11PasteboardTest::intrude(const QByteArray &how, const X11 &x, xcb_window_t window)
+{
+    const auto ask = [&](const char *target) {
+        xcb_convert_selection(x.connection(), window, x.atom("CLIPBOARD"), x.atom(target),
+                              x.atom("KESTRUNE_TIME"), XCB_CURRENT_TIME);
+    };
+    const auto send = [&](const auto &event) {
+        QByteArray wire(32, '\0');
+        std::memcpy(wire.data(), &event, sizeof event);
+        xcb_send_event(x.connection(), false, window, XCB_EVENT_MASK_NO_EVENT, wire.constData());
+    };
+    if (how == "property of another type") {
+        x.setText(window, "KESTRUNE_TIME", "text");
+    } else if (how == "asks for the types") {
+        ask("TARGETS");
+    } else if (how == "asks for a picture in pieces") {
+        ask("image/png");
+        for (int piece = 0; piece < 10; ++piece) {
+            QTest::qWait(50);
+            xcb_delete_property(x.connection(), window, x.atom("KESTRUNE_TIME"));
+            x.sync();
+        }
+    } else if (how == "forged loss") {
+        send(xcb_selection_clear_event_t{XCB_SELECTION_CLEAR, 0, 0, 0, window, x.atom("CLIPBOARD")});
+    } else if (how == "forged owner") {
+        auto *fixes = xcb_query_extension_reply(x.connection(),
+                                                xcb_query_extension(x.connection(), 6, "XFIXES"), nullptr);
+        xcb_selection_request_event_t owner{}; // Of the same layout as far as it goes.
+        owner.response_type = fixes->first_event;
+        owner.owner = window;
+        send(owner);
+        std::free(fixes);
+    } else {
+        xcb_destroy_window(x.connection(), window);
+    }
+    x.sync();
+}
 
 void X11PasteboardTest::fileManager()
 {
