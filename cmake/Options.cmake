@@ -21,7 +21,7 @@ endif()
 # variables, jumps to their targets only, and tables of functions that nothing can write.
 include(CheckCXXCompilerFlag)
 if(CMAKE_BUILD_TYPE MATCHES "Rel" AND NOT KESTRUNE_FUZZ)
-    foreach(option fstack-protector-strong fstack-clash-protection fcf-protection ftrivial-auto-var-init=zero mbranch-protection=standard)
+    foreach(option fstack-protector-strong fstack-clash-protection fcf-protection ftrivial-auto-var-init=zero)
         string(MAKE_C_IDENTIFIER KESTRUNE_HAS_${option} known)
         check_cxx_compiler_flag(-${option} ${known})
         if(${known})

@@ -22,7 +22,7 @@ constexpr auto kLongest = 2s;
 constexpr auto kLongestOfOne = 200ms;
 constexpr qsizetype kMostSuspects = 10'000;
 /// By how much, of the day that is looked at more, clocks are never turned. Seconds.
-constexpr qint64 kMostShift = 21 * 3600;
+constexpr qint64 kMostShift = qint64{21} * 3600;
 /// Skipping ahead is worth it from here on.
 constexpr int kFarDays = 60;
 
