@@ -36,6 +36,7 @@ protected:
     void mousePressEvent(QMouseEvent *) override { say(QStringLiteral("press")); }
     void mouseMoveEvent(QMouseEvent *event) override
     {
+        say(QStringLiteral("at %1").arg(qRound(event->position().x())));
         if (m_dragged.isEmpty() || !event->buttons() || std::exchange(m_dragging, true))
             return;
         auto *files = new QMimeData;

@@ -2,13 +2,18 @@
 
 #include "EndToEnd/Waiting.h"
 
+void WaylandInput::put(QPoint place)
+{
+    m_devices->move(place, m_extent);
+    m_place = place;
+}
+
 void WaylandInput::move(QPoint place)
 {
     if (m_isMouse && m_place)
-        m_devices->push(place - *m_place);
+        push(place - *m_place);
     else
-        m_devices->move(place, m_extent);
-    m_place = place;
+        put(place);
 }
 
 void WaylandInput::push(QPoint by)

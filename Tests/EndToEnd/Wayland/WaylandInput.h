@@ -21,7 +21,10 @@ public:
     /// From now on it moves as a mouse does: the server of guests may tell nothing of another pointer's
     /// leaving.
     void beMouse() { m_isMouse = true; }
+    bool isMouse() const { return m_isMouse; }
 
+    /// Puts it there, wherever it is.
+    void put(QPoint place);
     void move(QPoint place);
     /// As a mouse does, from where it is.
     void push(QPoint by);

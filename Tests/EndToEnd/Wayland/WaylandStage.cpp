@@ -21,8 +21,26 @@ bool WaylandStage::run(Settings settings, int notches)
             return false;
     }
     input.move(Place::away);
-    return waitUntil([this] { return other.hasFocus(); }) && session.start() &&
-           waitUntil([&] { return session.displays().size() == notches; });
+    return waitUntil([this] { return other.hasFocus(); }) && (!input.isMouse() || placePointer()) &&
+           session.start() && waitUntil([&] { return session.displays().size() == notches; });
+}
+
+bool WaylandStage::placePointer()
+{
+    const auto isThere = [this] {
+        // The window may have an edge.
+        for (int x = Place::away.x() - 8; x <= Place::away.x(); ++x) {
+            if (other.count(u"at %1"_s.arg(x)) > 0)
+                return true;
+        }
+        return false;
+    };
+    // What a device is told right after it was made, or while displays are arranged, gets lost.
+    return waitUntil([&] {
+        for (const int step : {20, 0})
+            input.put(Place::away - QPoint(step, 0));
+        return waitUntil(isThere, 200);
+    });
 }
 
 bool WaylandStage::waitOpen(int display) const

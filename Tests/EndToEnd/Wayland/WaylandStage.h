@@ -71,6 +71,9 @@ struct WaylandStage
     /// Starts the program, which has been started before, with these settings; the pointer is elsewhere.
     bool run(Settings settings = {}, int notches = 1);
 
+    /// Puts the pointer over the other window, for it to be moved like a mouse from there.
+    bool placePointer();
+
     bool waitOpen(int display = 0) const;
     /// Until it is open and has seen the pointer inside: one that did not does not close when that leaves.
     bool waitVisited(int display = 0) const;
