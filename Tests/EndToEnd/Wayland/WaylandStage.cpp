@@ -21,11 +21,14 @@ bool WaylandStage::run(Settings settings, int notches)
             return false;
     }
     input.move(Place::away);
-    return waitUntil([this] { return other.hasFocus(); }) && (!input.isMouse() || placePointer()) &&
-           session.start() && waitUntil([&] { return session.displays().size() == notches; });
+    if (!waitUntil([this] { return other.hasFocus(); }))
+        return false;
+    if (input.isMouse())
+        placePointer();
+    return session.start() && waitUntil([&] { return session.displays().size() == notches; });
 }
 
-bool WaylandStage::placePointer()
+void WaylandStage::placePointer()
 {
     const auto isThere = [this] {
         // The window may have an edge.
@@ -35,12 +38,16 @@ bool WaylandStage::placePointer()
         }
         return false;
     };
-    // What a device is told right after it was made, or while displays are arranged, gets lost.
-    return waitUntil([&] {
-        for (const int step : {20, 0})
-            input.put(Place::away - QPoint(step, 0));
-        return waitUntil(isThere, 200);
-    });
+    // What a device is told right after it was made, or while displays are arranged, gets lost. Not every
+    // compositor shows the pointer to X11's windows before it is used; by then it is there, too.
+    constexpr qint64 longEnough = 3000;
+    waitUntil(
+        [&] {
+            input.put(Place::away - QPoint(20, 0));
+            input.push({20, 0});
+            return waitUntil(isThere, 200);
+        },
+        longEnough);
 }
 
 bool WaylandStage::waitOpen(int display) const

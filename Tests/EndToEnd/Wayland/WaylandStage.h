@@ -72,7 +72,7 @@ struct WaylandStage
     bool run(Settings settings = {}, int notches = 1);
 
     /// Puts the pointer over the other window, for it to be moved like a mouse from there.
-    bool placePointer();
+    void placePointer();
 
     bool waitOpen(int display = 0) const;
     /// Until it is open and has seen the pointer inside: one that did not does not close when that leaves.
