@@ -48,6 +48,7 @@ std::optional<QList<PortalKey>> PortalWire::keys(const QVariant &value)
         argument >> key;
         keys.append(key);
     }
+    argument.endArray(); // Else what reads it is lost.
     return keys;
 }
 
