@@ -20,6 +20,8 @@ DesktopPlatform::DesktopPlatform(const QDBusConnection &bus, const WindowSystemC
     , m_applications(bus, {NotchBranding::suiteIdentifier()})
     , m_windows(windows.make(m_defaults))
     , m_captures(m_capturePreferences)
+    , m_pictures(std::make_shared<HelperPictures>())
+    , m_thumbnails(m_pictures)
     , m_localServices(LocalServices::fromEnvironment(m_http))
     , m_players(bus)
     , m_camera(bus)
@@ -41,6 +43,7 @@ Platform DesktopPlatform::makePlatform()
             .sharing = m_sharing,
             .captures = m_captures,
             .thumbnails = m_thumbnails,
+            .pictures = m_pictures,
             .http = m_localServices ? *m_localServices : m_http,
             .location = m_location,
             .scripts = m_scripts,

@@ -9,6 +9,7 @@
 #include "Desktop/Media/MprisApplications.h"
 #include "Desktop/Media/MprisExecutor.h"
 #include "Desktop/Network/QtHttpClient.h"
+#include "Desktop/Reader/HelperPictures.h"
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "Desktop/Session/BusApplications.h"
 #include "Desktop/Session/DesktopWorkspace.h"
@@ -49,6 +50,7 @@ private:
     BusApplications m_applications;
     std::unique_ptr<WindowSystem> m_windows;
     FolderCaptureQuery m_captures;
+    std::shared_ptr<PictureReader> m_pictures;
     SharedThumbnails m_thumbnails;
     QtHttpClient m_http;
     std::unique_ptr<HttpClient> m_localServices; ///< In place of the web services, in tests.

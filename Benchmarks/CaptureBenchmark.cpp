@@ -3,6 +3,7 @@
 
 #include "Desktop/Captures/FolderCaptureQuery.h"
 #include "Desktop/Captures/SharedThumbnails.h"
+#include "Desktop/Reader/HelperPictures.h"
 #include "Desktop/Time/SystemClock.h"
 #include "NotchKit/Tools/Captures/CapturesModel.h"
 #include "Surroundings.h"
@@ -171,7 +172,7 @@ int main(int argc, char *argv[])
     SystemClock clock;
     HubParts parts(clock);
     FolderCaptureQuery query(parts.defaults);
-    SharedThumbnails thumbnails;
+    SharedThumbnails thumbnails(std::make_shared<HelperPictures>(QStringLiteral(KESTRUNE_READER)));
     CapturesModel model(parts.settings, clock, query, thumbnails, parts.pasteboard, parts.workspace);
     Table table;
     measureStart(table, model);

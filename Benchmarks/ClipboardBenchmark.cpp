@@ -88,7 +88,7 @@ void measureWrites(const char *name, qsizetype length)
     NotchSettings settings(defaults);
     SystemClock clock;
     Fakes::FakePasteboard pasteboard;
-    ClipboardModel model(settings, defaults, clock, pasteboard);
+    ClipboardModel model(settings, defaults, clock, pasteboard, Fakes::pictures());
     std::vector<double> samples;
     for (int i = 0; i < kWrites; ++i) {
         QElapsedTimer time;
@@ -127,7 +127,7 @@ void measurePictures(const char *name, const char *format, const char *type)
 {
     SystemClock clock;
     HubParts parts(clock);
-    ClipboardModel model(parts.settings, parts.defaults, clock, parts.pasteboard);
+    ClipboardModel model(parts.settings, parts.defaults, clock, parts.pasteboard, Fakes::pictures());
     const double before = residentMegabytes();
     double received = 0;
     for (int i = 0; i < kPictures; ++i) {

@@ -45,7 +45,8 @@ constexpr std::array kTools{
                    .makeModel =
                        [](Context c) {
                            return made<NowPlayingModel>(c.settings, c.platform.clock, c.platform.players,
-                                                        c.platform.scripts, c.platform.http);
+                                                        c.platform.scripts, c.platform.http,
+                                                        c.platform.pictures);
                        },
                    .wings = "NowPlayingActivity",
                    .wingsRank = 3},
@@ -56,7 +57,7 @@ constexpr std::array kTools{
                    .makeModel =
                        [](Context c) {
                            return made<ClipboardModel>(c.settings, c.platform.defaults, c.platform.clock,
-                                                       c.platform.windows.pasteboard());
+                                                       c.platform.windows.pasteboard(), c.platform.pictures);
                        }},
     CatalogueEntry{.rawValue = "captures",
                    .title = QT_TRANSLATE_NOOP("notch", "Screenshots"),

@@ -209,7 +209,7 @@ private Q_SLOTS:
         QVERIFY(stage.clipboard.items().first().thumbnail().isNull());
 
         NotchSettings settings(stage.defaults);
-        ClipboardModel restarted(settings, stage.defaults, stage.clock, stage.pasteboard);
+        ClipboardModel restarted(settings, stage.defaults, stage.clock, stage.pasteboard, Fakes::pictures());
         const ClipboardItem reread = restarted.items().at(1);
         QVERIFY(reread.thumbnail().isNull());
         restarted.copy(reread);
@@ -345,7 +345,7 @@ private Q_SLOTS:
         const auto [value] = fetched<DefaultsValue>();
         Fakes::Core core;
         core.defaults.values.insert(kKey, value);
-        ClipboardModel model(core.settings, core.defaults, core.clock, core.pasteboard);
+        ClipboardModel model(core.settings, core.defaults, core.clock, core.pasteboard, Fakes::pictures());
         QVERIFY(model.items().isEmpty());
         QCOMPARE(core.defaults.values.value(kKey), value);
     }

@@ -260,7 +260,8 @@ private Q_SLOTS:
         core.scripts.answer(PlayerScripts::status(kMusic), u"playing\nA\nB\n1\n1"_s);
         for (int i = 0; i < 20; ++i) {
             core.scripts.held = i % 2 == 0;
-            NowPlayingModel model(core.settings, core.clock, core.players, core.scripts, core.http);
+            NowPlayingModel model(core.settings, core.clock, core.players, core.scripts, core.http,
+                                  Fakes::pictures());
             model.refresh();
             QTest::qWait(i % 4);
             model.next();

@@ -1,7 +1,6 @@
 #include "NotchKit/Tools/NowPlaying/ScriptBridge.h"
 #include "Async/Scope.h"
-#include "NotchKit/Tools/NowPlaying/CoverImage.h"
-#include "Support/Fakes.h"
+#include "Support/FakePlatform.h"
 #include "Support/TestRegistry.h"
 
 #include <QPainter>
@@ -102,7 +101,7 @@ private Q_SLOTS:
         const auto [outcome, spotify, read] = fetched<ScriptOutcome, bool, QString>();
         Fakes::FakeScripts scripts;
         Fakes::FakeHttp http;
-        ScriptBridge bridge(scripts, http);
+        ScriptBridge bridge(scripts, http, Fakes::pictures());
         const MediaPlayer player = spotify ? MediaPlayer::spotify : MediaPlayer::music;
         scripts.answer(PlayerScripts::status(player), outcome);
         const Outcome<ScriptBridge::Result> outcomes([&] { return bridge.state(player); });
@@ -125,8 +124,8 @@ private Q_SLOTS:
         const QByteArray none;
         const auto text = [](const char *address) { return ScriptOutcome(QString::fromLatin1(address)); };
         const auto data = [](const QByteArray &bytes) { return ScriptOutcome(bytes); };
-        row("data", data(picture(600, 600)), none, false, CoverImage::kSide);
-        row("wide", data(picture(900, 400)), none, false, CoverImage::kSide);
+        row("data", data(picture(600, 600)), none, false, ScriptBridge::kCoverSide);
+        row("wide", data(picture(900, 400)), none, false, ScriptBridge::kCoverSide);
         row("high", data(picture(40, 90)), none, false, 40);
         row("no data", data(none), none, false, 0);
         row("no picture", data("hello"), none, false, 0);
@@ -149,7 +148,7 @@ private Q_SLOTS:
         Fakes::FakeScripts scripts;
         Fakes::FakeHttp http;
         http.replies = {{u"https://host/cover"_s, {200, sent}}, {u"https://host/gone"_s, {404, sent}}};
-        ScriptBridge bridge(scripts, http);
+        ScriptBridge bridge(scripts, http, Fakes::pictures());
         scripts.answer(PlayerScripts::artwork(MediaPlayer::spotify), outcome);
         const Outcome<QImage> made([&] { return bridge.artwork(MediaPlayer::spotify); });
         QTRY_VERIFY(made.value);

@@ -1,6 +1,33 @@
 #include "FakePlatform.h"
 
+#include "ReaderHelper/Decoder.h"
+
+#include <QBuffer>
+#include <QFile>
+
 namespace Kestrune::Fakes {
+
+namespace {
+
+struct PicturesHere : PictureReader
+{
+    ReadPicture read(const QByteArray &encoded, const PictureWish &wish) override
+    {
+        QBuffer buffer;
+        buffer.setData(encoded);
+        return buffer.open(QIODevice::ReadOnly) ? Decoder::decode(buffer, wish) : ReadPicture();
+    }
+    ReadPicture readFile(int descriptor, const PictureWish &wish) override
+    {
+        QFile file;
+        return file.open(descriptor, QIODevice::ReadOnly) && file.seek(0) ? Decoder::decode(file, wish)
+                                                                          : ReadPicture();
+    }
+};
+
+} // namespace
+
+std::shared_ptr<PictureReader> pictures() { return std::make_shared<PicturesHere>(); }
 
 Platform::Platform(MemoryDefaults::Values stored, const QString &folder)
     : defaults(std::move(stored))
@@ -26,6 +53,7 @@ Kestrune::Platform Platform::ports(const RealPorts &real)
             .sharing = sharing,
             .captures = captures,
             .thumbnails = thumbnails,
+            .pictures = Fakes::pictures(),
             .http = choose(real.http, http),
             .location = location,
             .scripts = choose(real.scripts, scripts),

@@ -18,6 +18,9 @@ struct RealPorts
     CalendarStore *calendars = nullptr;
 };
 
+/// Reads pictures as the reader does, but in this process.
+std::shared_ptr<PictureReader> pictures();
+
 /// A stand-in for every port. What makes them all is compiled once, as it takes long.
 struct Platform
 {

@@ -14,7 +14,8 @@ constexpr auto kLongest = 10s;
 
 QFuture<QImage> SharedThumbnails::thumbnail(const QString &path)
 {
-    return m_worker.run(kLongest, [path] { return ThumbnailFile::read(path); });
+    return m_worker.run(kLongest,
+                        [path, pictures = m_pictures] { return ThumbnailFile::read(path, *pictures); });
 }
 
 } // namespace Kestrune

@@ -1,11 +1,11 @@
 #include "ThumbnailFile.h"
 
+#include "NotchKit/Platform/PictureReader.h"
 #include "NotchKit/Platform/Thumbnails.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
-#include <QImageReader>
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
@@ -25,8 +25,10 @@ QString cacheFolder()
            QLatin1String("/thumbnails");
 }
 
-QString addressKey() { return QStringLiteral("Thumb::URI"); }
-QString timeKey() { return QStringLiteral("Thumb::MTime"); }
+QByteArray digestOf(const QString &path)
+{
+    return QCryptographicHash::hash(ThumbnailFile::addressOf(path), QCryptographicHash::Md5);
+}
 
 /// Opens a regular file; a device or a pipe that bears a picture's name would never end.
 bool openPicture(QFile &file, const QString &path, struct stat &status)
@@ -42,38 +44,20 @@ bool openPicture(QFile &file, const QString &path, struct stat &status)
     return false;
 }
 
-QSize fitted(const QSize &size)
-{
-    const QSize side(Thumbnails::kSide, Thumbnails::kSide);
-    return size.width() <= side.width() && size.height() <= side.height()
-               ? size
-               : size.scaled(side, Qt::KeepAspectRatio).expandedTo({1, 1});
-}
-
-QImage decoded(QFile &file)
-{
-    QImageReader reader(&file);
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (size.isEmpty() || qint64{size.width()} * size.height() > ThumbnailFile::kMostPixels)
-        return {};
-    reader.setAutoTransform(true);
-    reader.setScaledSize(fitted(size));
-    return reader.read();
-}
+constexpr PictureWish kThumbnail{.side = Thumbnails::kSide, .mostPixels = ThumbnailFile::kMostPixels};
 
 /// The shared thumbnail, or a null image unless it is of this state of the file.
-QImage shared(const QString &path, const struct stat &status)
+QImage shared(const QString &path, const struct stat &status, PictureReader &pictures)
 {
-    QImageReader reader(ThumbnailFile::pathFor(path), "png");
-    const QSize size = reader.size();
-    if (size.isEmpty() || size != fitted(size))
+    QFile file;
+    struct stat own
+    {};
+    if (!openPicture(file, ThumbnailFile::pathFor(path), own))
         return {};
-    const QImage image = reader.read();
-    // Of the image: the reader itself takes a name with a colon apart.
-    const bool isCurrent = image.text(addressKey()) == QString::fromLatin1(ThumbnailFile::addressOf(path)) &&
-                           image.text(timeKey()) == QString::number(status.st_mtime);
-    return isCurrent ? image : QImage();
+    const ReadPicture picture = pictures.readFile(file.handle(), kThumbnail);
+    const bool isCurrent = picture.image.size() == picture.size && picture.thumbnailOf == digestOf(path) &&
+                           picture.thumbnailTime == status.st_mtime;
+    return isCurrent ? picture.image : QImage();
 }
 
 bool makeFolder(const QString &folder)
@@ -91,8 +75,8 @@ void share(QImage image, const QString &path, const struct stat &status)
     QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation));
     if (!makeFolder(cacheFolder()) || !makeFolder(QFileInfo(file).path()))
         return;
-    image.setText(addressKey(), QString::fromLatin1(ThumbnailFile::addressOf(path)));
-    image.setText(timeKey(), QString::number(status.st_mtime));
+    image.setText(QStringLiteral("Thumb::URI"), QString::fromLatin1(ThumbnailFile::addressOf(path)));
+    image.setText(QStringLiteral("Thumb::MTime"), QString::number(status.st_mtime));
     image.setText(QStringLiteral("Software"), QStringLiteral("Kestrune"));
     // Complete under its name, or not there; for the user alone, as a temporary file is.
     QTemporaryFile written(file + QStringLiteral(".XXXXXX"));
@@ -114,24 +98,24 @@ QByteArray ThumbnailFile::addressOf(const QString &path)
 
 QString ThumbnailFile::pathFor(const QString &path)
 {
-    const QByteArray hash = QCryptographicHash::hash(addressOf(path), QCryptographicHash::Md5).toHex();
-    return cacheFolder() + QStringLiteral("/large/") + QString::fromLatin1(hash) + QStringLiteral(".png");
+    return cacheFolder() + QStringLiteral("/large/") + QString::fromLatin1(digestOf(path).toHex()) +
+           QStringLiteral(".png");
 }
 
-QImage ThumbnailFile::read(const QString &path)
+QImage ThumbnailFile::read(const QString &path, PictureReader &pictures)
 {
     QFile file;
     struct stat status
     {};
     if (!openPicture(file, path, status))
         return {};
-    QImage image = shared(path, status);
+    QImage image = shared(path, status, pictures);
     if (image.isNull()) {
-        image = decoded(file);
+        image = pictures.readFile(file.handle(), kThumbnail).image;
         if (!image.isNull())
             share(image, path, status);
     }
-    return image.isNull() ? image : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    return image;
 }
 
 } // namespace Kestrune

@@ -6,6 +6,8 @@
 
 namespace Kestrune {
 
+class PictureReader;
+
 /// The small pictures that all programs of the desktop share, each in a file of its own below the user's
 /// cache folder. Any thread; reads and writes the disk.
 namespace ThumbnailFile {
@@ -22,7 +24,7 @@ QString pathFor(const QString &path);
 
 /// A picture file's thumbnail: the shared one while it is up to date, else one made from the file and then
 /// shared. A null image for what is no regular file, no picture, damaged or too large.
-QImage read(const QString &path);
+QImage read(const QString &path, PictureReader &pictures);
 
 } // namespace ThumbnailFile
 

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QString>
 
+#include <memory>
+
 namespace Kestrune {
 
 class CalendarStore;
@@ -13,6 +15,7 @@ class HostStatistics;
 class HttpClient;
 class LocationService;
 class LoginItem;
+class PictureReader;
 class RunningApplications;
 class ScreenCaptureQuery;
 class ScriptExecutor;
@@ -38,6 +41,7 @@ struct Platform
     FileSharing &sharing;
     ScreenCaptureQuery &captures;
     Thumbnails &thumbnails;
+    std::shared_ptr<PictureReader> pictures; ///< Shared with the threads that wait for it.
     HttpClient &http;
     LocationService &location;
     ScriptExecutor &scripts;

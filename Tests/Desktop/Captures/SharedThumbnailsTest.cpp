@@ -1,6 +1,7 @@
 #include "Desktop/Captures/SharedThumbnails.h"
 #include "CaptureHome.h"
 #include "Desktop/Captures/ThumbnailFile.h"
+#include "Desktop/Reader/HelperPictures.h"
 #include "Support/TestRegistry.h"
 
 #include <sys/stat.h>
@@ -24,7 +25,7 @@ private Q_SLOTS:
         const auto [picture, thumbnail] = fetched<QSize, QSize>();
         const CaptureHome home;
         const QString path = home.write(u"a.png"_s, CaptureHome::picture(picture));
-        QCOMPARE(ThumbnailFile::read(path).size(), thumbnail);
+        QCOMPARE(read(path).size(), thumbnail);
     }
 
     void refusals_data()
@@ -47,8 +48,8 @@ private Q_SLOTS:
             QCOMPARE(::mkfifo(qPrintable(path), 0600), 0);
         else
             home.write(u"a.png"_s, bytes);
-        QVERIFY(ThumbnailFile::read(path).isNull());
-        QVERIFY(ThumbnailFile::read(home.path(u"missing.png"_s)).isNull());
+        QVERIFY(read(path).isNull());
+        QVERIFY(read(home.path(u"missing.png"_s)).isNull());
         QVERIFY2(!QFile::exists(home.path(u".cache"_s)), "nothing is recorded");
     }
 
@@ -58,7 +59,7 @@ private Q_SLOTS:
         const QString path = home.write(u"Bild; ü#1 (a).png"_s, CaptureHome::picture({800, 600}));
         const QByteArray address = ThumbnailFile::addressOf(path);
         QVERIFY(address.startsWith("file:///") && address.endsWith("/Bild%3B%20%C3%BC%231%20(a).png"));
-        ThumbnailFile::read(path);
+        read(path);
         const QString file = ThumbnailFile::pathFor(path);
         QVERIFY(file.startsWith(home.path(u".cache/thumbnails/large/"_s)));
         struct stat status
@@ -81,10 +82,10 @@ private Q_SLOTS:
             return other.save(file);
         };
         QVERIFY(replace("Software", u"other"_s));
-        QCOMPARE(ThumbnailFile::read(path).pixelColor(0, 0), QColor(Qt::red));
+        QCOMPARE(read(path).pixelColor(0, 0), QColor(Qt::red));
         for (const char *key : {"Thumb::MTime", "Thumb::URI"}) {
             QVERIFY(replace(key, u"1"_s));
-            QCOMPARE(ThumbnailFile::read(path).size(), QSize(256, 192));
+            QCOMPARE(read(path).size(), QSize(256, 192));
             QCOMPARE(QImage(file).size(), QSize(256, 192));
         }
     }
@@ -93,7 +94,7 @@ private Q_SLOTS:
     {
         const CaptureHome home;
         const QString path = home.write(u".cache/thumbnails/large/a.png"_s, CaptureHome::picture({800, 600}));
-        QCOMPARE(ThumbnailFile::read(path).size(), QSize(256, 192));
+        QCOMPARE(read(path).size(), QSize(256, 192));
         QVERIFY(!QFile::exists(ThumbnailFile::pathFor(path)));
     }
 
@@ -107,7 +108,7 @@ private Q_SLOTS:
         for (bool inTime = false; !inTime;) {
             made.clear();
             QVERIFY(QDir(home.path(u".cache/thumbnails"_s)).removeRecursively());
-            SharedThumbnails thumbnails;
+            SharedThumbnails thumbnails(m_pictures);
             QList<QFuture<QImage>> answers;
             for (int i = 0; i < 6; ++i) {
                 answers.append(thumbnails.thumbnail(home.path(u"%1.png"_s.arg(i))));
@@ -127,8 +128,14 @@ private Q_SLOTS:
         newestFirst.sort();
         std::ranges::reverse(newestFirst);
         QCOMPARE(later, newestFirst);
-        QVERIFY(ThumbnailFile::read(home.path(u"3.png"_s)).width() == 256);
+        QVERIFY(read(home.path(u"3.png"_s)).width() == 256);
     }
+
+private:
+    QImage read(const QString &path) const { return ThumbnailFile::read(path, *m_pictures); }
+
+    const std::shared_ptr<PictureReader> m_pictures =
+        std::make_shared<HelperPictures>(QStringLiteral(KESTRUNE_READER));
 };
 
 REGISTER_TEST(SharedThumbnailsTest);

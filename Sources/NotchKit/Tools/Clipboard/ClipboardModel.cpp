@@ -79,13 +79,15 @@ void fitPictures(ClipboardItems &items)
 } // namespace
 
 ClipboardModel::ClipboardModel(NotchSettings &settings, UserDefaults &defaults, Clock &clock,
-                               Pasteboard &pasteboard, QObject *parent)
+                               Pasteboard &pasteboard, std::shared_ptr<PictureReader> pictures,
+                               QObject *parent)
     : ToolModel(NotchTool::clipboard, parent)
     , m_settings(settings)
     , m_defaults(defaults)
     , m_clock(clock)
     , m_pasteboard(pasteboard)
     , m_lastChange(pasteboard.changeCount())
+    , m_workers{.pictures = std::move(pictures)}
 {
     load();
     m_visible.setBinding([this] { return computeVisible(); });

@@ -35,7 +35,7 @@ public:
     static constexpr qint64 kPictureBudget = qint64{256} * 1024 * 1024;
 
     ClipboardModel(NotchSettings &settings, UserDefaults &defaults, Clock &clock, Pasteboard &pasteboard,
-                   QObject *parent = nullptr);
+                   std::shared_ptr<PictureReader> pictures, QObject *parent = nullptr);
 
     const Items &items() const { return m_items.value(); }
     const Items &visible() const { return m_visible.value(); }

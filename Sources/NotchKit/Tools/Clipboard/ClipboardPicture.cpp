@@ -1,37 +1,19 @@
 #include "ClipboardPicture.h"
 
-#include <QBuffer>
+#include "NotchKit/Platform/PictureReader.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QMimeDatabase>
-
-#include <algorithm>
 
 namespace Kestrune {
 
 namespace {
 
-/// The size at which the picture's shorter side fits the thumbnail; never larger than the picture.
-QSize thumbnailSize(const QSize &size)
-{
-    const QSize side(ClipboardPicture::kThumbnailSide, ClipboardPicture::kThumbnailSide);
-    const QSize scaled = size.scaled(side, Qt::KeepAspectRatioByExpanding);
-    return scaled.width() < size.width() ? scaled : size;
-}
-
-QImage cropped(const QImage &image)
-{
-    const int width = std::min(image.width(), ClipboardPicture::kThumbnailSide);
-    const int height = std::min(image.height(), ClipboardPicture::kThumbnailSide);
-    return image.copy((image.width() - width) / 2, (image.height() - height) / 2, width, height)
-        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
-bool isAllowed(const QSize &size)
-{
-    return !size.isEmpty() && qint64{size.width()} * size.height() <= ClipboardPicture::kMostPixels;
-}
+constexpr PictureWish kThumbnail{.fit = PictureWish::Fit::middle,
+                                 .formats = PictureWish::Formats::clipboard,
+                                 .side = ClipboardPicture::kThumbnailSide,
+                                 .mostPixels = ClipboardPicture::kMostPixels};
 
 /// Whether the encoding stores every pixel as it is, so that packing the bytes pays.
 bool isUnpacked(const QString &type) { return type == QLatin1String(Pasteboard::kTiff); }
@@ -42,37 +24,27 @@ ClipboardPicture::ClipboardPicture(Data data)
     : m_data(std::make_shared<const Data>(std::move(data)))
 {}
 
-std::optional<ClipboardPicture> ClipboardPicture::fromEncoded(const EncodedPicture &encoded)
+std::optional<ClipboardPicture> ClipboardPicture::fromEncoded(const EncodedPicture &encoded,
+                                                              PictureReader &pictures)
 {
     if (encoded.data.size() > kMostBytes)
         return std::nullopt;
-    QBuffer buffer;
-    buffer.setData(encoded.data);
-    QImageReader reader(&buffer);
-    const QSize size = reader.size();
-    if (!isAllowed(size))
+    const ReadPicture picture = pictures.read(encoded.data, kThumbnail);
+    if (picture.image.isNull())
         return std::nullopt;
-    reader.setAutoTransform(true);
-    reader.setScaledSize(thumbnailSize(size));
-    const QImage image = reader.read();
-    if (image.isNull())
-        return std::nullopt;
-
-    const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     const bool compress = isUnpacked(encoded.type);
     QByteArray bytes = compress ? qCompress(encoded.data, 1) : encoded.data;
     bytes.squeeze();
-    return ClipboardPicture(
-        {bytes, compress, encoded.type, turned ? size.transposed() : size, cropped(image)});
+    return ClipboardPicture({bytes, compress, encoded.type, picture.size, picture.image});
 }
 
-std::optional<ClipboardPicture> ClipboardPicture::fromFile(const QString &path)
+std::optional<ClipboardPicture> ClipboardPicture::fromFile(const QString &path, PictureReader &pictures)
 {
     QFile file(path);
     if (!QFileInfo(path).isFile() || file.size() > kMostBytes || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     const QString type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension).name();
-    return fromEncoded({file.read(kMostBytes), type});
+    return fromEncoded({file.read(kMostBytes), type}, pictures);
 }
 
 EncodedPicture ClipboardPicture::encoded() const

@@ -9,6 +9,8 @@
 
 namespace Kestrune {
 
+class PictureReader;
+
 /// A copied picture: the bytes as they were received, its size, and a small image of it for the list. It is
 /// decoded only to make that image. Copies share their data; equal means the same data.
 class ClipboardPicture
@@ -20,10 +22,11 @@ public:
     static constexpr int kThumbnailSide = 64; ///< Pixels; twice the side of a row's square.
 
     /// Nothing for data that is no picture, is damaged or exceeds the limits. Any thread; decodes.
-    static std::optional<ClipboardPicture> fromEncoded(const EncodedPicture &encoded);
+    static std::optional<ClipboardPicture> fromEncoded(const EncodedPicture &encoded,
+                                                       PictureReader &pictures);
 
     /// The picture in a file; nothing also for what is no regular file. Any thread; reads and decodes.
-    static std::optional<ClipboardPicture> fromFile(const QString &path);
+    static std::optional<ClipboardPicture> fromFile(const QString &path, PictureReader &pictures);
 
     /// As it was received.
     EncodedPicture encoded() const;

@@ -72,9 +72,9 @@ std::optional<ClipboardItem> itemOfFiles(const QList<QUrl> &urls)
     return item;
 }
 
-std::optional<ClipboardItem> itemOfPicture(const EncodedPicture &encoded)
+std::optional<ClipboardItem> itemOfPicture(const EncodedPicture &encoded, PictureReader &pictures)
 {
-    const auto picture = ClipboardPicture::fromEncoded(encoded);
+    const auto picture = ClipboardPicture::fromEncoded(encoded, pictures);
     if (!picture)
         return std::nullopt;
     ClipboardItem item;
@@ -129,7 +129,9 @@ QCoro::Task<std::optional<ClipboardItem>> readFiles(QList<QUrl> urls, ClipboardW
     const QFuture<std::optional<ClipboardItem>> naming = workers.contents.run(kLongestReading, name);
     std::optional<ClipboardItem> item = co_await until(naming);
     if (item && item->kind == ClipboardItem::Kind::image) {
-        const auto look = [path = item->paths.first()] { return ClipboardPicture::fromFile(path); };
+        const auto look = [path = item->paths.first(), pictures = workers.pictures] {
+            return ClipboardPicture::fromFile(path, *pictures);
+        };
         const QFuture<std::optional<ClipboardPicture>> looking = workers.files.run(kLongestFileReading, look);
         const std::optional<ClipboardPicture> picture = co_await until(looking);
         item->image.wrappedValue = picture;
@@ -172,7 +174,9 @@ QCoro::Task<std::optional<ClipboardItem>> readPasteboard(Pasteboard &pasteboard,
         const QFuture<std::optional<EncodedPicture>> asked = pasteboard.picture();
         const std::optional<EncodedPicture> encoded = co_await until(asked);
         if (encoded) {
-            const auto decode = [picture = *encoded] { return itemOfPicture(picture); };
+            const auto decode = [picture = *encoded, pictures = workers.pictures] {
+                return itemOfPicture(picture, *pictures);
+            };
             const QFuture<std::optional<ClipboardItem>> decoding =
                 workers.contents.run(kLongestReading, decode);
             item = co_await until(decoding);

@@ -4,11 +4,16 @@
 #include "Async/Worker.h"
 #include "ClipboardItem.h"
 
+#include <memory>
+
 namespace Kestrune {
 
-/// Where the slow steps are made.
+class PictureReader;
+
+/// Where the slow steps are made, and what reads pictures there.
 struct ClipboardWorkers
 {
+    std::shared_ptr<PictureReader> pictures;
     Worker contents{"clipboard"}; ///< Of what is in memory.
     Worker files{"copied-files"}; ///< What looks into files, which may hang.
 };

@@ -16,12 +16,13 @@ constexpr auto kCommandTime = 250ms; // What a player takes to follow a command.
 } // namespace
 
 NowPlayingModel::NowPlayingModel(NotchSettings &settings, Clock &clock, RunningApplications &applications,
-                                 ScriptExecutor &executor, HttpClient &http, QObject *parent)
+                                 ScriptExecutor &executor, HttpClient &http,
+                                 std::shared_ptr<PictureReader> pictures, QObject *parent)
     : ToolModel(NotchTool::nowPlaying, parent)
     , m_settings(settings)
     , m_clock(clock)
     , m_applications(applications)
-    , m_bridge(executor, http)
+    , m_bridge(executor, http, std::move(pictures))
 {
     connect(&settings, &NotchSettings::toolsChanged, this, &NowPlayingModel::followSetting);
 }

@@ -33,7 +33,8 @@ public:
     using Track = PlayingTrack;
 
     NowPlayingModel(NotchSettings &settings, Clock &clock, RunningApplications &applications,
-                    ScriptExecutor &executor, HttpClient &http, QObject *parent = nullptr);
+                    ScriptExecutor &executor, HttpClient &http, std::shared_ptr<PictureReader> pictures,
+                    QObject *parent = nullptr);
 
     std::optional<Player> player() const { return m_player; }
     std::optional<Track> track() const { return m_track; }

@@ -1,7 +1,7 @@
 #include "ScriptBridge.h"
 
-#include "CoverImage.h"
 #include "NotchKit/Platform/HttpClient.h"
+#include "NotchKit/Platform/PictureReader.h"
 
 namespace Kestrune {
 
@@ -12,6 +12,7 @@ namespace {
 constexpr auto kDownloadTime = 10s;
 constexpr auto kLongestDecoding = 10s;
 constexpr int kOk = 200;
+constexpr PictureWish kCover{.fit = PictureWish::Fit::square, .side = ScriptBridge::kCoverSide};
 
 ScriptBridge::Result resultOf(MediaPlayer player, const ScriptOutcome &outcome)
 {
@@ -35,9 +36,11 @@ HttpRequest requestOf(const QString &address)
 
 } // namespace
 
-ScriptBridge::ScriptBridge(ScriptExecutor &executor, HttpClient &http)
+ScriptBridge::ScriptBridge(ScriptExecutor &executor, HttpClient &http,
+                           std::shared_ptr<PictureReader> pictures)
     : m_executor(executor)
     , m_http(http)
+    , m_pictures(std::move(pictures))
 {}
 
 QCoro::Task<ScriptBridge::Result> ScriptBridge::state(Player player)
@@ -65,9 +68,9 @@ QCoro::Task<QImage> ScriptBridge::artwork(Player player)
             data = reply.body;
     }
     QImage image;
-    if (data.isEmpty())
+    if (data.isEmpty() || data.size() > kMostCoverBytes)
         co_return image;
-    const auto decode = [data] { return CoverImage::decode(data); };
+    const auto decode = [data, pictures = m_pictures] { return pictures->read(data, kCover).image; };
     const QFuture<QImage> decoding = m_covers.run(kLongestDecoding, decode);
     image = co_await until(decoding);
     co_return image;

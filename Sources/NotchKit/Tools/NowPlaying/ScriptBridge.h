@@ -7,9 +7,12 @@
 
 #include <QImage>
 
+#include <memory>
+
 namespace Kestrune {
 
 class HttpClient;
+class PictureReader;
 
 /// Asks and commands the media players by scripts, which run one at a time and in their order, so that a slow
 /// player holds up nothing but the scripts behind its own. Main thread only; what gives a task is for flows.
@@ -20,6 +23,9 @@ public:
     using Track = PlayingTrack;
 
     using Command = PlayerCommand;
+
+    /// Pixels of a cover's side, at most: what the largest view shows on a dense display.
+    static constexpr int kCoverSide = 320;
 
     struct None
     {
@@ -33,8 +39,9 @@ public:
     /// What a player says: its song, that it must not be asked, or nothing that is of use.
     using Result = std::variant<None, Denied, Track>;
 
-    /// Covers with an address on the network are fetched with `http`. Both must outlive every answer.
-    ScriptBridge(ScriptExecutor &executor, HttpClient &http);
+    /// Covers with an address on the network are fetched with `http`, and read with `pictures`. The first two
+    /// must outlive every answer.
+    ScriptBridge(ScriptExecutor &executor, HttpClient &http, std::shared_ptr<PictureReader> pictures);
 
     /// The player's state.
     QCoro::Task<Result> state(Player player);
@@ -48,6 +55,7 @@ public:
 private:
     ScriptExecutor &m_executor;
     HttpClient &m_http;
+    std::shared_ptr<PictureReader> m_pictures;
     Worker m_covers{"covers"};
 };
 

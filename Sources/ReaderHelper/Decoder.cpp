@@ -1,0 +1,99 @@
+#include "Decoder.h"
+
+#include <QBuffer>
+#include <QCryptographicHash>
+#include <QImageReader>
+
+#include <algorithm>
+#include <array>
+
+namespace Kestrune {
+
+namespace {
+
+struct Encoding
+{
+    const char *format; ///< Qt's name.
+    QByteArrayView begins;
+    qsizetype at; ///< Where those bytes are.
+    bool onWeb;
+};
+
+constexpr std::array kEncodings{
+    Encoding{"png", QByteArrayView("\x89PNG\r\n\x1a\n", 8), 0, true},
+    Encoding{"jpeg", QByteArrayView("\xff\xd8\xff", 3), 0, true},
+    Encoding{"webp", QByteArrayView("WEBP", 4), 8, true},
+    Encoding{"tiff", QByteArrayView("II*\0", 4), 0, false},
+    Encoding{"tiff", QByteArrayView("MM\0*", 4), 0, false},
+    Encoding{"bmp", QByteArrayView("BM", 2), 0, false},
+    Encoding{"gif", QByteArrayView("GIF8", 4), 0, false},
+};
+constexpr qint64 kBeginning = 12;
+
+const char *formatOf(QIODevice &device, PictureWish::Formats formats)
+{
+    const QByteArray bytes = device.peek(kBeginning);
+    const auto found = std::ranges::find_if(kEncodings, [&](const Encoding &encoding) {
+        return (encoding.onWeb || formats == PictureWish::Formats::clipboard) &&
+               bytes.mid(encoding.at).startsWith(encoding.begins);
+    });
+    return found == kEncodings.end() ? nullptr : found->format;
+}
+
+/// Never larger than the picture.
+QSize fitted(const QSize &size, const PictureWish &wish)
+{
+    const QSize side(wish.side, wish.side);
+    if (wish.fit == PictureWish::Fit::inside)
+        return size.boundedTo(side) == size ? size
+                                            : size.scaled(side, Qt::KeepAspectRatio).expandedTo({1, 1});
+    return std::min(size.width(), size.height()) <= wish.side
+               ? size
+               : size.scaled(side, Qt::KeepAspectRatioByExpanding);
+}
+
+QImage cut(const QImage &image, const PictureWish &wish)
+{
+    const int most = wish.fit == PictureWish::Fit::square
+                         ? std::min({image.width(), image.height(), wish.side})
+                         : wish.side;
+    const int width = std::min(image.width(), most);
+    const int height = std::min(image.height(), most);
+    return image.copy((image.width() - width) / 2, (image.height() - height) / 2, width, height);
+}
+
+} // namespace
+
+void Decoder::prepare()
+{
+    for (const Encoding &encoding : kEncodings) {
+        QBuffer nothing;
+        nothing.open(QIODevice::ReadOnly);
+        QImageReader(&nothing, encoding.format).canRead();
+    }
+}
+
+ReadPicture Decoder::decode(QIODevice &device, const PictureWish &wish)
+{
+    const char *const format = formatOf(device, wish.formats);
+    if (!format)
+        return {};
+    QImageReader reader(&device, format);
+    reader.setAutoDetectImageFormat(false);
+    const QSize size = reader.size();
+    if (size.isEmpty() || qint64{size.width()} * size.height() > wish.mostPixels)
+        return {};
+    reader.setAutoTransform(true);
+    reader.setScaledSize(fitted(size, wish));
+    const QImage image = reader.read();
+    if (image.isNull())
+        return {};
+    const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    return {
+        cut(image, wish).convertToFormat(QImage::Format_ARGB32_Premultiplied),
+        turned ? size.transposed() : size,
+        QCryptographicHash::hash(image.text(QStringLiteral("Thumb::URI")).toUtf8(), QCryptographicHash::Md5),
+        image.text(QStringLiteral("Thumb::MTime")).toLongLong()};
+}
+
+} // namespace Kestrune

@@ -1,0 +1,99 @@
+#include "Desktop/Reader/HelperPictures.h"
+#include "Support/Files.h"
+#include "Support/TestRegistry.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <csignal>
+
+/// Pictures read by the real reader, which is ended, stopped and asked for what it must not do.
+class HelperPicturesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsWhatItIsAskedFor_data()
+    {
+        const auto row = columns<QByteArray, QSize, PictureWish, QSize>();
+        using enum PictureWish::Fit;
+        using enum PictureWish::Formats;
+        row("inside", "png", {800, 600}, {inside, web, 256, 1'000'000}, {256, 192});
+        row("smaller", "png", {80, 60}, {inside, web, 256, 1'000'000}, {80, 60});
+        row("middle", "jpeg", {800, 600}, {middle, web, 96, 1'000'000}, {96, 96});
+        row("long", "png", {800, 20}, {middle, web, 96, 1'000'000}, {96, 20});
+        row("WebP", "webp", {80, 60}, {inside, web, 40, 1'000'000}, {40, 30});
+        row("BMP", "bmp", {80, 60}, {inside, clipboard, 40, 1'000'000}, {40, 30});
+        row("TIFF", "tiff", {80, 60}, {inside, clipboard, 40, 1'000'000}, {40, 30});
+        row("not on the web", "bmp", {80, 60}, {inside, web, 40, 1'000'000}, {0, 0});
+        row("of no named kind", "ppm", {80, 60}, {inside, clipboard, 40, 1'000'000}, {0, 0});
+        row("too large", "png", {800, 600}, {inside, web, 40, 479'999}, {0, 0});
+    }
+    void readsWhatItIsAskedFor()
+    {
+        const auto [format, size, wish, expected] = fetched<QByteArray, QSize, PictureWish, QSize>();
+        const QImage whole = plainImage(size, QColor(200, 100, 50));
+        const QByteArray bytes = encoded(whole, format.constData());
+        QVERIFY(!bytes.isEmpty());
+        const ReadPicture picture = m_pictures.read(bytes, wish);
+        QCOMPARE(picture.image.size(), expected);
+        QCOMPARE(picture.size, expected.isEmpty() ? QSize() : size);
+        if (!expected.isEmpty())
+            QVERIFY(std::abs(picture.image.pixelColor(5, 5).red() - 200) < 4);
+
+        QTemporaryDir folder;
+        QFile file(folder.filePath(u"a picture"_s));
+        QVERIFY(writeFile(file.fileName(), bytes) && file.open(QIODevice::ReadOnly) && file.seek(7));
+        QCOMPARE(m_pictures.readFile(file.handle(), wish).image, picture.image);
+    }
+
+    void itsEndCostsOnePicture()
+    {
+        QTemporaryDir folder;
+        const QString reader = folder.filePath(u"reader"_s);
+        QVERIFY(QFile::copy(QStringLiteral(KESTRUNE_READER), reader));
+        HelperPictures pictures(reader);
+        const QByteArray good = encoded(plainImage({80, 60}));
+        const auto reads = [&] { return !pictures.read(good, {}).image.isNull(); };
+        QVERIFY(reads());
+        const QList<pid_t> first = running(reader);
+        QCOMPARE(first.size(), 1);
+        ::kill(first.first(), SIGKILL);
+        QVERIFY(reads());
+        const QList<pid_t> second = running(reader);
+        QVERIFY(second.size() == 1 && second != first);
+        QVERIFY(pictures.read(good.left(good.size() / 2), {}).image.isNull());
+        QVERIFY(HelperPictures(u"/nowhere"_s).read(good, {}).image.isNull());
+        QVERIFY(reads());
+    }
+
+    void itsWallsHold_data()
+    {
+        const auto row = columns<QString, bool>();
+        for (const char *refused :
+             {"read", "write", "connect", "bus", "fork", "execute", "allocate", "make code"})
+            row(refused, QString::fromLatin1(refused), true);
+        row("compute", u"compute"_s, false);
+    }
+    void itsWallsHold()
+    {
+        const auto [attempt, refused] = fetched<QString, bool>();
+        QCOMPARE(QProcess::execute(QStringLiteral(KESTRUNE_WALLS_PROBE), {attempt}), refused ? 0 : 1);
+    }
+
+private:
+    static QList<pid_t> running(const QString &program)
+    {
+        QList<pid_t> processes;
+        for (const QString &name : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
+            if (QFileInfo(u"/proc/%1/exe"_s.arg(name)).symLinkTarget() == program)
+                processes.append(name.toInt());
+        }
+        return processes;
+    }
+
+    HelperPictures m_pictures{QStringLiteral(KESTRUNE_READER)};
+};
+
+REGISTER_TEST(HelperPicturesTest);
+#include "HelperPicturesTest.moc"
