@@ -9,7 +9,7 @@
 #include "Desktop/Media/MprisApplications.h"
 #include "Desktop/Media/MprisExecutor.h"
 #include "Desktop/Network/QtHttpClient.h"
-#include "Desktop/Reader/HelperPictures.h"
+#include "Desktop/Pictures/HelperPictures.h"
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "Desktop/Session/BusApplications.h"
 #include "Desktop/Session/DesktopWorkspace.h"

@@ -111,7 +111,7 @@ int main(int argc, char *argv[])
     HubParts parts(clock);
     parts.defaults.setObject(DesktopCalendars::sourceKey(), QStringLiteral("folders"));
     parts.defaults.setObject(DesktopCalendars::folderKey(), root.path());
-    DesktopCalendars desktop(QDBusConnection(QString()), parts.defaults);
+    DesktopCalendars desktop(QDBusConnection(QString()), parts.defaults, QStringLiteral(KESTRUNE_READER));
     WatchedStore store(desktop);
     NotchServices services(parts.settings, NotchBranding::fennivar(), parts.platform({.calendars = &store}));
     WatchedPointer pointer;

@@ -3,7 +3,7 @@
 
 #include "Desktop/Captures/FolderCaptureQuery.h"
 #include "Desktop/Captures/SharedThumbnails.h"
-#include "Desktop/Reader/HelperPictures.h"
+#include "Desktop/Pictures/HelperPictures.h"
 #include "Desktop/Time/SystemClock.h"
 #include "NotchKit/Tools/Captures/CapturesModel.h"
 #include "Surroundings.h"

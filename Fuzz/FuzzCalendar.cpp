@@ -1,10 +1,10 @@
 // A calendar file that any program may have written: reading it, its occurrences, and completing its tasks.
 
-#include "Desktop/Calendars/IcalLines.h"
-#include "Desktop/Calendars/IcalOccurrences.h"
-#include "Desktop/Calendars/IcalReader.h"
-#include "Desktop/Calendars/TaskCompletion.h"
 #include "NotchKit/Platform/Utc.h"
+#include "ReaderHelper/Calendars/IcalLines.h"
+#include "ReaderHelper/Calendars/IcalOccurrences.h"
+#include "ReaderHelper/Calendars/IcalReader.h"
+#include "ReaderHelper/Calendars/TaskCompletion.h"
 
 #include <cstdlib>
 
@@ -33,10 +33,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     IcalSuspects suspects;
     for (const CalendarEvent &event :
-         icalOccurrences(contents->events, range, QStringLiteral("x"), {}, suspects))
+         icalOccurrences(contents->events, range, QStringLiteral("x"), suspects).events)
         require(event.start.isValid() && event.end >= event.start && event.start < range.to &&
                 event.end >= now);
-    for (const CalendarTask &task : icalOpenTasks(contents->tasks, QStringLiteral("x"), {})) {
+    for (const CalendarTask &task : icalOpenTasks(contents->tasks, QStringLiteral("x"))) {
         const auto id = IcalTaskId::parse(task.id);
         const auto done = id ? completeTask(text, id->uid, id->instance, now, reader) : std::nullopt;
         require(!done || (done->text.contains(done->task) && reader.readCalendar(done->text)));

@@ -1,91 +1,51 @@
-#include "Decoder.h"
+#include "Calendars/CalendarAnswers.h"
+#include "Calendars/IcalZones.h"
 #include "Desktop/Reader/ReaderWire.h"
-#include "Walls.h"
+#include "Pictures/PictureDecoder.h"
+#include "Tasks.h"
+#include "Walls/Walls.h"
 
 #include <QCoreApplication>
 #include <QFile>
 
 #include <algorithm>
-#include <array>
 #include <cstring>
-#include <optional>
 
-#include <poll.h>
-#include <sys/mman.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 namespace {
 
 using namespace Kestrune;
-using ReaderWire::Answer;
-using ReaderWire::Question;
 
-struct Task
-{
-    Question question{};
-    int file = -1;
-    int memory = -1;
-};
+constexpr std::size_t kPictureMemory = std::size_t{1024} << 20;
+constexpr std::size_t kCalendarMemory = std::size_t{512} << 20;
 
-/// Nothing when there will be no more.
-std::optional<Task> nextTask()
-{
-    pollfd socket{ReaderWire::kSocket, POLLIN, 0};
-    if (::poll(&socket, 1, ReaderWire::kLongestIdle * 1000) <= 0)
-        return {};
-    Task task;
-    std::array<int, 2> files{-1, -1};
-    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof files)> control{};
-    iovec part{&task.question, sizeof task.question};
-    msghdr message{};
-    message.msg_iov = &part;
-    message.msg_iovlen = 1;
-    message.msg_control = control.data();
-    message.msg_controllen = control.size();
-    if (::recvmsg(ReaderWire::kSocket, &message, MSG_CMSG_CLOEXEC) != sizeof task.question)
-        return {};
-    const cmsghdr *const header = CMSG_FIRSTHDR(&message);
-    if (!header || header->cmsg_type != SCM_RIGHTS || header->cmsg_len != CMSG_LEN(sizeof files))
-        return {};
-    std::memcpy(files.data(), CMSG_DATA(header), sizeof files);
-    task.file = files[0];
-    task.memory = files[1];
-    const int side = task.question.side;
-    return side > 0 && side <= ReaderWire::kMostSide ? std::optional(task) : std::nullopt;
-}
-
-ReadPicture read(const Task &task)
+ReadPicture read(const ReaderWire::PictureQuestion &question, Tasks::Files &files)
 {
     QFile file;
-    if (!file.open(task.file, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) || !file.seek(0))
+    if (!file.open(files.file.take(), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle) || !file.seek(0))
         return {};
     PictureWish wish;
-    wish.fit = static_cast<PictureWish::Fit>(task.question.fit);
-    wish.formats = static_cast<PictureWish::Formats>(task.question.formats);
-    wish.side = task.question.side;
-    wish.mostPixels = task.question.mostPixels;
-    return Decoder::decode(file, wish);
+    wish.fit = static_cast<PictureWish::Fit>(question.fit);
+    wish.formats = static_cast<PictureWish::Formats>(question.formats);
+    wish.side = question.side;
+    wish.mostPixels = question.mostPixels;
+    return PictureDecoder::decode(file, wish);
 }
 
-bool put(const QImage &image, const Task &task)
+bool put(const QImage &image, int side, int memory)
 {
-    const auto side = static_cast<std::size_t>(task.question.side);
-    const std::size_t size = side * side * ReaderWire::kPixelBytes;
-    void *const memory = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, task.memory, 0);
-    if (memory == MAP_FAILED)
-        return false;
+    const auto pixels = static_cast<std::size_t>(side) * static_cast<std::size_t>(side);
+    const Shared shared(memory, pixels * ReaderWire::kPixelBytes);
     const auto row = static_cast<std::size_t>(image.width()) * ReaderWire::kPixelBytes;
-    for (int y = 0; y < image.height(); ++y)
-        std::memcpy(static_cast<char *>(memory) + static_cast<std::size_t>(y) * row, image.constScanLine(y),
-                    row);
-    ::munmap(memory, size);
-    return true;
+    for (int y = 0; shared.data() && y < image.height(); ++y)
+        std::memcpy(shared.data() + static_cast<std::size_t>(y) * row, image.constScanLine(y), row);
+    return shared.data();
 }
 
-Answer answerFor(const ReadPicture &picture)
+ReaderWire::PictureAnswer answerFor(const ReadPicture &picture)
 {
-    Answer answer{};
+    ReaderWire::PictureAnswer answer{};
     answer.width = picture.image.width();
     answer.height = picture.image.height();
     answer.wholeWidth = picture.size.width();
@@ -95,14 +55,55 @@ Answer answerFor(const ReadPicture &picture)
     return answer;
 }
 
-void answer(const Task &task)
+int readPictures()
 {
-    const ReadPicture picture = read(task);
-    Answer answer{};
-    if (!picture.image.isNull() && put(picture.image, task))
-        answer = answerFor(picture);
-    ::close(task.memory);
-    ::send(ReaderWire::kSocket, &answer, sizeof answer, MSG_NOSIGNAL);
+    PictureDecoder::prepare();
+    if (!Walls::raise(kPictureMemory))
+        return 1;
+    ReaderWire::PictureQuestion question{};
+    while (const auto files = Tasks::next(&question, sizeof question)) {
+        if (question.side <= 0 || question.side > ReaderWire::kMostSide)
+            return 1;
+        Tasks::beginTime();
+        const ReadPicture picture = read(question, *files);
+        ReaderWire::PictureAnswer answer{};
+        if (!picture.image.isNull() && put(picture.image, question.side, files->memory.get()))
+            answer = answerFor(picture);
+        Tasks::endTime();
+        Tasks::answer(&answer, sizeof answer);
+    }
+    return 0;
+}
+
+/// So many bytes of it; a file in memory is never read in part.
+QByteArray contents(int file, std::uint32_t size)
+{
+    QByteArray bytes(static_cast<qsizetype>(size), Qt::Uninitialized);
+    return ::pread(file, bytes.data(), size, 0) == static_cast<ssize_t>(size) ? bytes : QByteArray();
+}
+
+int readCalendars()
+{
+    IcalZones::prepare();
+    if (!Walls::raise(kCalendarMemory))
+        return 1;
+    CalendarAnswers answers;
+    ReaderWire::CalendarsQuestion asked{};
+    while (const auto files = Tasks::next(&asked, sizeof asked)) {
+        const auto question = CalendarQuestion::parse(contents(files->file.get(), asked.size));
+        if (!question)
+            return 1;
+        const QByteArray bytes = answers.answer(*question, &Tasks::beginTime).bytes();
+        Tasks::endTime();
+        ReaderWire::CalendarsAnswer answer{};
+        const Shared shared(files->memory.get(), ReaderWire::kMostFound);
+        if (shared.data() && bytes.size() <= qsizetype{ReaderWire::kMostFound}) {
+            std::memcpy(shared.data(), bytes.constData(), static_cast<std::size_t>(bytes.size()));
+            answer.size = static_cast<std::uint32_t>(bytes.size());
+        }
+        Tasks::answer(&answer, sizeof answer);
+    }
+    return 0;
 }
 
 } // namespace
@@ -114,13 +115,8 @@ int main(int argc, char *argv[])
         return 0;
     qputenv("QT_NO_GLIB", "1"); // Its threads would open pipes.
     const QCoreApplication application(argc, argv);
-    Decoder::prepare();
-    if (!Walls::raise())
-        return 1;
-    while (const auto task = nextTask()) {
-        ::alarm(ReaderWire::kLongest);
-        answer(*task);
-        ::alarm(0);
-    }
-    return 0;
+    const QByteArray kind = argc == 2 ? argv[1] : "";
+    if (kind == ReaderWire::kPictures)
+        return readPictures();
+    return kind == ReaderWire::kCalendars ? readCalendars() : 1;
 }

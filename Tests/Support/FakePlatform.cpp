@@ -1,6 +1,6 @@
 #include "FakePlatform.h"
 
-#include "ReaderHelper/Decoder.h"
+#include "ReaderHelper/Pictures/PictureDecoder.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -15,12 +15,12 @@ struct PicturesHere : PictureReader
     {
         QBuffer buffer;
         buffer.setData(encoded);
-        return buffer.open(QIODevice::ReadOnly) ? Decoder::decode(buffer, wish) : ReadPicture();
+        return buffer.open(QIODevice::ReadOnly) ? PictureDecoder::decode(buffer, wish) : ReadPicture();
     }
     ReadPicture readFile(int descriptor, const PictureWish &wish) override
     {
         QFile file;
-        return file.open(descriptor, QIODevice::ReadOnly) && file.seek(0) ? Decoder::decode(file, wish)
+        return file.open(descriptor, QIODevice::ReadOnly) && file.seek(0) ? PictureDecoder::decode(file, wish)
                                                                           : ReadPicture();
     }
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "IcalOccurrences.h"
+#include "Desktop/Reader/CalendarWire.h"
 
 namespace Kestrune {
 

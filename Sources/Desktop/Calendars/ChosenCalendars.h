@@ -19,7 +19,8 @@ public:
         QString folder; ///< Of the folders; empty for the usual one.
     };
 
-    explicit ChosenCalendars(const QDBusConnection &bus);
+    /// `helper` is the program that reads what calendars hold.
+    ChosenCalendars(const QDBusConnection &bus, const QString &helper);
     ~ChosenCalendars();
     Q_DISABLE_COPY_MOVE(ChosenCalendars)
 
@@ -28,6 +29,7 @@ public:
 
 private:
     QDBusConnection m_bus;
+    QString m_helper;
     std::unique_ptr<CalendarSource> m_evolution;
     std::unique_ptr<CalendarSource> m_folders;
     QString m_root; ///< Of the folders.

@@ -13,9 +13,10 @@ constexpr auto kLongestCall = 60s; // A service may have to be started first.
 
 } // namespace
 
-DesktopCalendars::DesktopCalendars(const QDBusConnection &bus, const UserDefaults &defaults)
+DesktopCalendars::DesktopCalendars(const QDBusConnection &bus, const UserDefaults &defaults,
+                                   const QString &helper)
     : m_defaults(defaults)
-    , m_sources([bus] { return std::make_unique<ChosenCalendars>(bus); })
+    , m_sources([bus, helper] { return std::make_unique<ChosenCalendars>(bus, helper); })
 {}
 
 DesktopCalendars::~DesktopCalendars() = default;

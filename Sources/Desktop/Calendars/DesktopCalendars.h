@@ -3,6 +3,7 @@
 #include "Async/Bench.h"
 #include "Async/Worker.h"
 #include "CalendarSource.h"
+#include "Desktop/Reader/ReaderPool.h"
 
 #include <QDBusConnection>
 
@@ -20,8 +21,9 @@ public:
     static QString sourceKey() { return QStringLiteral("calendarSource"); }
     static QString folderKey() { return QStringLiteral("calendarFolder"); }
 
-    /// `defaults` outlives the object.
-    DesktopCalendars(const QDBusConnection &bus, const UserDefaults &defaults);
+    /// `defaults` outlives the object; `helper` is the program that reads what calendars hold.
+    DesktopCalendars(const QDBusConnection &bus, const UserDefaults &defaults,
+                     const QString &helper = ReaderPool::installed());
     ~DesktopCalendars() override;
 
     QFuture<CalendarAccess> access(CalendarEntity entity) override;

@@ -1,8 +1,6 @@
 #include "EvolutionCalendars.h"
 
-#include "TaskCompletion.h"
-
-#include <QSet>
+#include "Log.h"
 
 #include <algorithm>
 
@@ -48,47 +46,56 @@ std::optional<QList<EvolutionCalendar>> EvolutionCalendars::open(bool taskLists)
 
 bool EvolutionCalendars::requestAccess() { return open(false).has_value(); }
 
-IcalZones::Definition EvolutionCalendars::definitionsOf(const EvolutionCalendar &calendar)
+/// Asks the server for the definitions of zones that are only named. Whether there is one more than before.
+bool EvolutionCalendars::addZones(const EvolutionCalendar &calendar, const QList<QByteArray> &names,
+                                  IcalTexts &texts)
 {
-    return [this, &calendar](const QByteArray &name) {
+    bool added = false;
+    for (const QByteArray &name : names) {
         const QString key = calendar.source.uid + QLatin1Char('\n') + QString::fromUtf8(name);
-        const auto known = m_zones.constFind(key);
-        if (known != m_zones.cend())
-            return *known;
-        const auto found = m_bus.texts(
-            calendar, m_bus.call(calendar, QStringLiteral("GetTimezone"), {QString::fromUtf8(name)}));
-        return *m_zones.insert(key, found.value_or(QList<QByteArray>()).value(0));
-    };
-}
-
-IcalContents EvolutionCalendars::contents(const EvolutionCalendar &calendar, const QList<QByteArray> &texts)
-{
-    IcalContents contents;
-    const auto definitions = definitionsOf(calendar);
-    for (const QByteArray &text : texts)
-        m_reader.readComponents(text, definitions, contents);
-    return contents;
+        auto known = m_zones.constFind(key);
+        if (known == m_zones.cend()) {
+            const auto found = m_bus.texts(
+                calendar, m_bus.call(calendar, QStringLiteral("GetTimezone"), {QString::fromUtf8(name)}));
+            known = m_zones.insert(key, found.value_or(QList<QByteArray>()).value(0));
+        }
+        added = added || !known->isEmpty();
+        texts.zones.insert(name, *known);
+    }
+    return added;
 }
 
 /// An occurrence that was moved out of the range is not among what the server finds in the range, and would
 /// still show where it was: each series is asked for as a whole.
-void EvolutionCalendars::completeSeries(const EvolutionCalendar &calendar, QList<IcalEntry> &events)
+void EvolutionCalendars::addSeries(const EvolutionCalendar &calendar, const QStringList &uids,
+                                   IcalTexts &texts)
 {
-    QSet<QString> series;
-    for (const IcalEntry &event : std::as_const(events)) {
-        if (event.repeats())
-            series.insert(event.uid);
-    }
     std::vector<std::pair<QString, QDBusPendingCall>> calls;
-    for (const QString &uid : std::as_const(series))
+    for (const QString &uid : uids)
         calls.emplace_back(uid, m_bus.call(calendar, QStringLiteral("GetObject"), {uid, QString()}));
     for (const auto &[uid, call] : calls) {
-        const auto texts = m_bus.texts(calendar, call);
-        if (!texts)
-            continue;
-        events.removeIf([&uid = uid](const IcalEntry &event) { return event.uid == uid; });
-        events += contents(calendar, *texts).events;
+        if (const auto found = m_bus.texts(calendar, call))
+            texts.series.insert(uid, *found);
     }
+}
+
+IcalFound EvolutionCalendars::read(const EvolutionCalendar &calendar, const QList<QByteArray> &texts,
+                                   const IcalRange &range)
+{
+    IcalTexts known{calendar.source.uid, false, texts, {}, {}};
+    const auto look = [&] { return m_reader.read({known}, range).first(); };
+    IcalFound found = look();
+    if (!found.series.isEmpty()) {
+        addSeries(calendar, found.series, known);
+        found = look();
+    }
+    if (addZones(calendar, found.zones, known))
+        found = look();
+    if (found.state == IcalFound::State::read)
+        m_reported.remove(calendar.source.uid);
+    else if (!std::exchange(m_reported[calendar.source.uid], true))
+        qCWarning(calendarLog, "a calendar of the server takes too much to be read and is left out");
+    return found;
 }
 
 std::optional<CalendarStore::Events> EvolutionCalendars::events(const IcalRange &range)
@@ -103,9 +110,10 @@ std::optional<CalendarStore::Events> EvolutionCalendars::events(const IcalRange 
     for (std::size_t i = 0; i < calls.size(); ++i) {
         const EvolutionCalendar &calendar = calendars->at(static_cast<qsizetype>(i));
         const auto texts = m_bus.texts(calendar, calls[i]);
-        QList<IcalEntry> events = contents(calendar, texts.value_or(QList<QByteArray>())).events;
-        completeSeries(calendar, events);
-        found += icalOccurrences(events, range, calendar.source.uid, calendar.source.color, m_suspects);
+        for (CalendarEvent event : read(calendar, texts.value_or(QList<QByteArray>()), range).events) {
+            event.color = calendar.source.color;
+            found.append(event);
+        }
     }
     return found;
 }
@@ -119,12 +127,15 @@ std::optional<CalendarStore::Tasks> EvolutionCalendars::openTasks()
     for (const EvolutionCalendar &list : *lists)
         calls.push_back(
             m_bus.call(list, QStringLiteral("GetObjectList"), {QStringLiteral("(not (is-completed?))")}));
+    const QDateTime now = QDateTime::currentDateTimeUtc();
     CalendarStore::Tasks found;
     for (std::size_t i = 0; i < calls.size(); ++i) {
         const EvolutionCalendar &list = lists->at(static_cast<qsizetype>(i));
         const auto texts = m_bus.texts(list, calls[i]);
-        found += icalOpenTasks(contents(list, texts.value_or(QList<QByteArray>())).tasks, list.source.uid,
-                               list.source.color);
+        for (CalendarTask task : read(list, texts.value_or(QList<QByteArray>()), {now, now}).tasks) {
+            task.color = list.source.color;
+            found.append(task);
+        }
     }
     return found;
 }
@@ -138,8 +149,11 @@ bool EvolutionCalendars::complete(const IcalTaskId &task)
         return false;
     const auto texts =
         m_bus.texts(*list, m_bus.call(*list, QStringLiteral("GetObject"), {task.uid, task.instance}));
-    const auto done = completeTask(texts.value_or(QList<QByteArray>()).value(0), task.uid, task.instance,
-                                   QDateTime::currentDateTimeUtc(), m_reader, definitionsOf(*list));
+    IcalTexts known{task.origin, false, texts.value_or(QList<QByteArray>()), {}, {}};
+    QList<QByteArray> zones;
+    auto done = m_reader.complete(known, task, zones);
+    if (addZones(*list, zones, known))
+        done = m_reader.complete(known, task, zones);
     if (!done)
         return false;
     const QVariantList change{QStringList{QString::fromUtf8(done->task)},

@@ -2,7 +2,7 @@
 
 #include "CalendarSource.h"
 #include "EvolutionBus.h"
-#include "IcalReader.h"
+#include "HelperCalendars.h"
 
 namespace Kestrune {
 
@@ -11,8 +11,10 @@ namespace Kestrune {
 class EvolutionCalendars : public CalendarSource
 {
 public:
-    explicit EvolutionCalendars(const QDBusConnection &bus)
+    /// `helper` is the program that reads what the server sends.
+    EvolutionCalendars(const QDBusConnection &bus, const QString &helper)
         : m_bus(bus)
+        , m_reader(helper)
     {}
 
     CalendarAccess access() override;
@@ -23,13 +25,13 @@ public:
 
 private:
     std::optional<QList<EvolutionCalendar>> open(bool taskLists);
-    IcalContents contents(const EvolutionCalendar &calendar, const QList<QByteArray> &texts);
-    void completeSeries(const EvolutionCalendar &calendar, QList<IcalEntry> &events);
-    IcalZones::Definition definitionsOf(const EvolutionCalendar &calendar);
+    IcalFound read(const EvolutionCalendar &calendar, const QList<QByteArray> &texts, const IcalRange &range);
+    void addSeries(const EvolutionCalendar &calendar, const QStringList &uids, IcalTexts &texts);
+    bool addZones(const EvolutionCalendar &calendar, const QList<QByteArray> &names, IcalTexts &texts);
 
     EvolutionBus m_bus;
-    IcalReader m_reader;
-    IcalSuspects m_suspects;
+    HelperCalendars m_reader;
+    QHash<QString, bool> m_reported;    ///< Calendars of which the log says that they take too much.
     bool m_failed = false;              ///< The last attempt to reach it.
     QHash<QString, QByteArray> m_zones; ///< Definitions by calendar and name.
 };

@@ -1,16 +1,15 @@
 #include "FolderCalendars.h"
 
 #include "Log.h"
-#include "TaskCompletion.h"
 
 #include <QDir>
 #include <QFile>
 #include <QSaveFile>
 #include <QStandardPaths>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -21,7 +20,9 @@ namespace Kestrune {
 
 namespace {
 
-constexpr int kDeepestFolder = 2; // An account's folder, a calendar's folder.
+constexpr int kDeepestFolder = 2;                         // An account's folder, a calendar's folder.
+constexpr qint64 kMostBytes = qint64{16} * 1024 * 1024;   // Of one file.
+constexpr qsizetype kMostAtOnce = qsizetype{1024} * 1024; // Bytes of files that are in memory.
 
 QString usualRoot()
 {
@@ -85,15 +86,16 @@ std::optional<QByteArray> readFile(const QByteArray &path)
     QFile file;
     if (descriptor < 0 || !file.open(descriptor, QFile::ReadOnly | QFile::Unbuffered, QFile::AutoCloseHandle))
         return std::nullopt;
-    if (file.isSequential() || file.size() > IcalReader::kMostBytes)
+    if (file.isSequential() || file.size() > kMostBytes)
         return std::nullopt;
     return file.readAll();
 }
 
-/// What has ended before, unless it comes again.
-bool isOver(const IcalEntry &entry, const QDateTime &from)
+/// The near future: for tasks, which have none.
+IcalRange usualRange()
 {
-    return !entry.repeats() && !entry.instance.isValid() && entry.span.endOf(entry.start) < from;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    return {now, now.addDays(2)};
 }
 
 } // namespace
@@ -125,25 +127,31 @@ bool FolderCalendars::requestAccess()
     return access() == CalendarAccess::full;
 }
 
-void FolderCalendars::look(const QDateTime &from)
+void FolderCalendars::look(const std::optional<IcalRange> &range)
 {
+    const QByteArray zone = HelperCalendars::userZone();
+    if (m_zone != zone)
+        m_files.clear();
+    m_zone = zone;
     ++m_looks;
-    lookAt(m_root, 0, from);
+    lookAt(m_root, 0, range);
     m_files.removeIf([this](QMap<QByteArray, File>::iterator file) { return file->look != m_looks; });
+    readChanged(range.value_or(usualRange()));
 }
 
-void FolderCalendars::lookAt(const QString &folder, int depth, const QDateTime &from)
+void FolderCalendars::lookAt(const QString &folder, int depth, const std::optional<IcalRange> &range)
 {
     const QByteArray path = QFile::encodeName(folder);
     const Names names = namesIn(path);
     const QColor color = names.files.isEmpty() ? QColor() : colorOf(folder);
     for (const QByteArray &name : names.files)
-        update(path + '/' + name, color, from);
+        update(path + '/' + name, color, range);
     for (const QByteArray &name : depth < kDeepestFolder ? names.folders : QList<QByteArray>())
-        lookAt(folder + QLatin1Char('/') + QFile::decodeName(name), depth + 1, from);
+        lookAt(folder + QLatin1Char('/') + QFile::decodeName(name), depth + 1, range);
 }
 
-void FolderCalendars::update(const QByteArray &path, const QColor &color, const QDateTime &from)
+void FolderCalendars::update(const QByteArray &path, const QColor &color,
+                             const std::optional<IcalRange> &range)
 {
     struct stat info = {};
     if (::stat(path.constData(), &info) != 0 || !S_ISREG(info.st_mode))
@@ -151,39 +159,73 @@ void FolderCalendars::update(const QByteArray &path, const QColor &color, const 
     File &file = m_files[path];
     const qint64 modified = info.st_mtim.tv_sec * 1'000'000'000 + info.st_mtim.tv_nsec;
     const bool same = file.modified == modified && file.size == info.st_size && file.number == info.st_ino;
-    const bool enough = !from.isValid() || !file.forgotten.isValid() || from >= file.forgotten;
     file.look = m_looks;
     file.color = color;
-    if (same && enough)
+    if (same && (!range || covers(file, *range)))
         return;
     file.modified = modified;
     file.size = info.st_size;
     file.number = info.st_ino;
-    read(path, file, from);
+    m_changed.append(path);
 }
 
-void FolderCalendars::read(const QByteArray &path, File &file, const QDateTime &from)
+/// What was found once serves until the day is over; where there was too much, until half of it has passed,
+/// if it ever passes.
+bool FolderCalendars::covers(const File &file, const IcalRange &range)
 {
-    const auto data = readFile(path);
-    const auto contents = data ? m_reader.readCalendar(*data) : std::nullopt;
-    if (!contents)
+    if (file.found.state != IcalFound::State::read)
+        return true;
+    const QDateTime &from = file.range.from;
+    const QDateTime &until = file.found.until;
+    const bool isEnough =
+        until >= file.range.to || until <= from || range.from < from.addMSecs(from.msecsTo(until) / 2);
+    return from <= range.from && range.to <= file.range.to && isEnough;
+}
+
+void FolderCalendars::readChanged(const IcalRange &range)
+{
+    const QList<QByteArray> paths = std::exchange(m_changed, {});
+    QList<IcalTexts> texts;
+    qsizetype first = 0;
+    qsizetype size = 0;
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        const QByteArray text = readFile(paths.at(i)).value_or(QByteArray());
+        texts.append({QFile::decodeName(paths.at(i)), true, {text}, {}, {}});
+        size += text.size();
+        if (size < kMostAtOnce && i + 1 < paths.size())
+            continue;
+        for (IcalFound &found : m_reader.read(std::exchange(texts, {}), range))
+            take(paths.at(first++), std::move(found), range);
+        size = 0;
+    }
+}
+
+void FolderCalendars::take(const QByteArray &path, IcalFound found, const IcalRange &range)
+{
+    if (found.state == IcalFound::State::damaged)
         qCWarning(calendarLog, "%s is no whole calendar and is left out", path.constData());
-    file.contents = contents.value_or(IcalContents());
-    const QDateTime kept = (from.isValid() ? from : QDateTime::currentDateTimeUtc()).addDays(-1);
-    file.forgotten =
-        file.contents.events.removeIf([&](const IcalEntry &entry) { return isOver(entry, kept); }) > 0
-            ? kept
-            : QDateTime();
-    file.contents.tasks.removeIf([](const IcalEntry &entry) { return entry.done || entry.cancelled; });
+    if (found.state == IcalFound::State::abandoned)
+        qCWarning(calendarLog, "%s takes too much to be read and is left out", path.constData());
+    if (found.leftOut > 0)
+        qCInfo(calendarLog, "%s: %d rules repeat what cannot be worked out in time", path.constData(),
+               found.leftOut);
+    File &file = m_files[path];
+    file.found = std::move(found);
+    file.range = range;
 }
 
 std::optional<CalendarStore::Events> FolderCalendars::events(const IcalRange &range)
 {
-    look(range.from);
+    look(range);
     CalendarStore::Events events;
-    for (auto file = m_files.cbegin(); file != m_files.cend(); ++file)
-        events += icalOccurrences(file->contents.events, range, QFile::decodeName(file.key()), file->color,
-                                  m_suspects);
+    for (const File &file : std::as_const(m_files)) {
+        for (CalendarEvent event : file.found.events) {
+            if (!range.overlaps(event.start, event.end))
+                continue;
+            event.color = file.color;
+            events.append(event);
+        }
+    }
     return events;
 }
 
@@ -191,8 +233,12 @@ std::optional<CalendarStore::Tasks> FolderCalendars::openTasks()
 {
     look({});
     CalendarStore::Tasks tasks;
-    for (auto file = m_files.cbegin(); file != m_files.cend(); ++file)
-        tasks += icalOpenTasks(file->contents.tasks, QFile::decodeName(file.key()), file->color);
+    for (const File &file : std::as_const(m_files)) {
+        for (CalendarTask task : file.found.tasks) {
+            task.color = file.color;
+            tasks.append(task);
+        }
+    }
     return tasks;
 }
 
@@ -200,9 +246,9 @@ bool FolderCalendars::complete(const IcalTaskId &task)
 {
     const QByteArray path = QFile::encodeName(task.origin);
     const auto data = m_files.contains(path) ? readFile(path) : std::nullopt;
+    QList<QByteArray> zones;
     const auto done =
-        data ? completeTask(*data, task.uid, task.instance, QDateTime::currentDateTimeUtc(), m_reader)
-             : std::nullopt;
+        data ? m_reader.complete({task.origin, true, {*data}, {}, {}}, task, zones) : std::nullopt;
     QSaveFile file(task.origin);
     // What only the flush says of a full disk is forgotten by the commit.
     if (!done || !file.open(QFile::WriteOnly) || file.write(done->text) != done->text.size() ||

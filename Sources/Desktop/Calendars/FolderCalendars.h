@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CalendarSource.h"
-#include "IcalReader.h"
+#include "HelperCalendars.h"
 
 #include <QFileInfo>
 #include <QMap>
@@ -13,9 +13,10 @@ namespace Kestrune {
 class FolderCalendars : public CalendarSource
 {
 public:
-    /// `root` holds the calendars, up to two folders deep.
-    explicit FolderCalendars(const QString &root)
+    /// `root` holds the calendars, up to two folders deep; `helper` is the program that reads them.
+    FolderCalendars(const QString &root, const QString &helper)
         : m_root(root)
+        , m_reader(helper)
     {}
 
     /// The folder that `chosen` names ("~" is the user's home); where it is empty, the first of the usual
@@ -37,18 +38,22 @@ private:
         quint64 number = 0; ///< Of the inode: another one when the file was replaced.
         quint64 look = 0;   ///< The last look at which it was there.
         QColor color;
-        IcalContents contents;
-        QDateTime forgotten; ///< What ended before is not kept.
+        IcalFound found;
+        IcalRange range; ///< That of what was found.
     };
 
-    void look(const QDateTime &from);
-    void lookAt(const QString &folder, int depth, const QDateTime &from);
-    void update(const QByteArray &path, const QColor &color, const QDateTime &from);
-    void read(const QByteArray &path, File &file, const QDateTime &from);
+    /// Without a range for the files alone: what was found of those that have not changed stays as it is.
+    void look(const std::optional<IcalRange> &range);
+    void lookAt(const QString &folder, int depth, const std::optional<IcalRange> &range);
+    void update(const QByteArray &path, const QColor &color, const std::optional<IcalRange> &range);
+    void readChanged(const IcalRange &range);
+    void take(const QByteArray &path, IcalFound found, const IcalRange &range);
+    static bool covers(const File &file, const IcalRange &range);
 
     QString m_root;
-    IcalReader m_reader;
-    IcalSuspects m_suspects;
+    HelperCalendars m_reader;
+    QByteArray m_zone; ///< The user's, when all was read.
+    QList<QByteArray> m_changed;
     QMap<QByteArray, File> m_files; ///< By path; in an order that stays.
     quint64 m_looks = 0;
 };

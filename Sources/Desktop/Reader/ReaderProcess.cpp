@@ -1,5 +1,7 @@
 #include "ReaderProcess.h"
 
+#include "ReaderWire.h"
+
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -17,12 +19,13 @@ namespace {
 constexpr int kLongestAnswer = (ReaderWire::kLongest + 5) * 1000; // ms; it is to end by itself before.
 
 /// Starts it with the socket and the standard streams alone. Whether the process that did so ended well.
-bool spawn(const QByteArray &program, int socket)
+bool spawn(const QByteArray &program, const char *kind, int socket)
 {
     posix_spawn_file_actions_t actions;
     if (::posix_spawn_file_actions_init(&actions) != 0)
         return false;
-    std::array<char *, 2> arguments{const_cast<char *>(program.constData()), nullptr};
+    std::array<char *, 3> arguments{const_cast<char *>(program.constData()), const_cast<char *>(kind),
+                                    nullptr};
     pid_t process = 0;
     const bool started =
         ::posix_spawn_file_actions_adddup2(&actions, socket, ReaderWire::kSocket) == 0 &&
@@ -37,47 +40,47 @@ bool spawn(const QByteArray &program, int socket)
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-/// A signal begins the wait anew: only a stopped reader is waited for so long, a running one ends by itself.
-bool answersInTime(int socket)
+/// Whether there is something to read, or nothing will ever be. A signal begins the wait anew: only a stopped
+/// reader is waited for so long, a running one ends by itself.
+bool wait(int socket, int milliseconds)
 {
     pollfd answer{socket, POLLIN, 0};
     int ready = 0;
     do {
-        ready = ::poll(&answer, 1, kLongestAnswer);
+        ready = ::poll(&answer, 1, milliseconds);
     } while (ready < 0 && errno == EINTR);
     return ready > 0;
 }
 
 } // namespace
 
-std::unique_ptr<ReaderProcess> ReaderProcess::start(const QByteArray &program)
+std::unique_ptr<ReaderProcess> ReaderProcess::start(const QByteArray &program, const char *kind)
 {
     std::array<int, 2> ends{};
     if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0)
         return {};
     std::unique_ptr<ReaderProcess> reader(new ReaderProcess(ends[0]));
-    const bool started = spawn(program, ends[1]);
+    const bool started = spawn(program, kind, ends[1]);
     ::close(ends[1]);
     return started ? std::move(reader) : nullptr;
 }
 
 ReaderProcess::~ReaderProcess() { ::close(m_socket); }
 
-std::optional<ReaderWire::Answer> ReaderProcess::ask(const ReaderWire::Question &question, int file,
-                                                     int memory)
+bool ReaderProcess::isWaiting() const { return !wait(m_socket, 0); }
+
+bool ReaderProcess::ask(std::span<const std::byte> question, int file, int memory,
+                        std::span<std::byte> answer)
 {
-    ReaderWire::Answer answer{};
-    if (!send(question, file, memory) || !answersInTime(m_socket) ||
-        ::recv(m_socket, &answer, sizeof answer, 0) != sizeof answer)
-        return std::nullopt;
-    return answer;
+    return send(question, file, memory) && wait(m_socket, kLongestAnswer) &&
+           ::recv(m_socket, answer.data(), answer.size(), MSG_TRUNC) == static_cast<ssize_t>(answer.size());
 }
 
-bool ReaderProcess::send(const ReaderWire::Question &question, int file, int memory) const
+bool ReaderProcess::send(std::span<const std::byte> question, int file, int memory) const
 {
     const std::array<int, 2> files{file, memory};
     alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof files)> control{};
-    iovec part{const_cast<ReaderWire::Question *>(&question), sizeof question};
+    iovec part{const_cast<std::byte *>(question.data()), question.size()};
     msghdr message{};
     message.msg_iov = &part;
     message.msg_iovlen = 1;
@@ -88,7 +91,7 @@ bool ReaderProcess::send(const ReaderWire::Question &question, int file, int mem
     header->cmsg_type = SCM_RIGHTS;
     header->cmsg_len = CMSG_LEN(sizeof files);
     std::memcpy(CMSG_DATA(header), files.data(), sizeof files);
-    return ::sendmsg(m_socket, &message, MSG_NOSIGNAL) == sizeof question;
+    return ::sendmsg(m_socket, &message, MSG_NOSIGNAL) == static_cast<ssize_t>(question.size());
 }
 
 } // namespace Kestrune

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "ReaderWire.h"
-
 #include <QByteArray>
 
 #include <memory>
-#include <optional>
+#include <span>
 
 namespace Kestrune {
 
@@ -14,21 +12,24 @@ namespace Kestrune {
 class ReaderProcess
 {
 public:
-    /// Null when it cannot be started.
-    static std::unique_ptr<ReaderProcess> start(const QByteArray &program);
+    /// One for questions of that kind; null when it cannot be started.
+    static std::unique_ptr<ReaderProcess> start(const QByteArray &program, const char *kind);
     ~ReaderProcess();
     ReaderProcess(const ReaderProcess &) = delete;
     ReaderProcess &operator=(const ReaderProcess &) = delete;
 
-    /// Both descriptors stay the caller's. Nothing when it ended instead: it is of no more use then.
-    std::optional<ReaderWire::Answer> ask(const ReaderWire::Question &question, int file, int memory);
+    /// Whether it still waits for a question.
+    bool isWaiting() const;
+
+    /// Both descriptors stay the caller's. False when it ended instead: it is of no more use then.
+    bool ask(std::span<const std::byte> question, int file, int memory, std::span<std::byte> answer);
 
 private:
     explicit ReaderProcess(int socket)
         : m_socket(socket)
     {}
 
-    bool send(const ReaderWire::Question &question, int file, int memory) const;
+    bool send(std::span<const std::byte> question, int file, int memory) const;
 
     int m_socket;
 };

@@ -5,27 +5,37 @@
 #include <type_traits>
 
 /// What the program and its reader say to each other over a socket that keeps messages apart: a question with
-/// two descriptors, a file to be read from its beginning and memory for the pixels, and then its answer. Both
-/// are built together, so the layout is the compiler's.
+/// two descriptors, a file to be read from its beginning and memory for what is found, and then its answer. A
+/// reader is started for one kind of question, which is its only argument. Both are built together, so the
+/// layout is the compiler's.
 namespace Kestrune::ReaderWire {
 
-constexpr int kSocket = 3;     ///< The reader's end.
-constexpr int kPixelBytes = 4; ///< Premultiplied ARGB.
-constexpr int kDigestBytes = 16;
-constexpr int kMostSide = 1024;  ///< Pixels.
-constexpr int kLongest = 10;     ///< Seconds for one answer; the reader ends itself then.
+constexpr auto kPictures = "pictures";
+constexpr auto kCalendars = "calendars";
+
+constexpr int kSocket = 3;       ///< The reader's end.
+constexpr int kLongestWork = 5;  ///< Seconds of the processor's for one picture or calendar,
+constexpr int kLongest = 30;     ///< and of the clock's; the reader ends itself then.
 constexpr int kLongestIdle = 15; ///< Seconds without a question, after which the reader ends, too.
 
-struct Question
+constexpr int kPixelBytes = 4; ///< Premultiplied ARGB.
+constexpr int kDigestBytes = 16;
+constexpr int kMostSide = 1024; ///< Pixels.
+
+/// Bytes of what was found in calendars.
+constexpr std::uint32_t kMostFound = std::uint32_t{32} << 20;
+
+struct PictureQuestion
 {
     std::int32_t fit;
     std::int32_t formats;
     std::int32_t side; ///< The memory has as many pixels each way.
+    std::int32_t unused;
     std::int64_t mostPixels;
 };
 
 /// The rows of pixels follow each other in the memory. Zero: no picture.
-struct Answer
+struct PictureAnswer
 {
     std::int32_t width;
     std::int32_t height;
@@ -35,6 +45,18 @@ struct Answer
     std::int64_t thumbnailTime;
 };
 
-static_assert(std::is_trivially_copyable_v<Question> && std::is_trivially_copyable_v<Answer>);
+/// The file holds a CalendarQuestion.
+struct CalendarsQuestion
+{
+    std::uint32_t size; ///< Bytes of the file.
+};
+
+/// The memory holds a CalendarAnswer.
+struct CalendarsAnswer
+{
+    std::uint32_t size; ///< Bytes of it; zero when there is no room for it.
+};
+
+static_assert(std::is_trivially_copyable_v<PictureQuestion> && std::is_trivially_copyable_v<PictureAnswer>);
 
 } // namespace Kestrune::ReaderWire

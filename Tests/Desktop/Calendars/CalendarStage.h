@@ -70,7 +70,7 @@ private:
     QTemporaryDir m_root;
     int m_count = 0;
     Fakes::MemoryDefaults m_defaults;
-    DesktopCalendars m_store{QDBusConnection(QString()), m_defaults};
+    DesktopCalendars m_store{QDBusConnection(QString()), m_defaults, QStringLiteral(KESTRUNE_READER)};
 };
 
 /// Evolution Data Server on a bus and in a home of its own, filled by its own library.
@@ -148,5 +148,5 @@ private:
     ChildProcess m_client{m_environment};
     int m_count = 0;
     Fakes::MemoryDefaults m_defaults;
-    DesktopCalendars m_store{m_bus.connection(), m_defaults};
+    DesktopCalendars m_store{m_bus.connection(), m_defaults, QStringLiteral(KESTRUNE_READER)};
 };

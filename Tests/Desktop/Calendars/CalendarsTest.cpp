@@ -214,6 +214,26 @@ private Q_SLOTS:
         QCOMPARE(readEvents(stage).size(), 2);
     }
 
+    /// A file that takes more memory than its reader has.
+    void whatEndsTheReaderCostsOnlyItself()
+    {
+        FolderStage stage;
+        const auto event = [](const char *title) {
+            return CalendarStage::calendar(vevent(title, "DTSTART:20260328T120000Z"));
+        };
+        const QString poison = stage.path() + u"/poison.ics"_s;
+        FolderStage::write(stage.path() + u"/a.ics"_s, event("before"));
+        FolderStage::write(stage.path() + u"/z.ics"_s, event("after"));
+        FolderStage::write(poison, CalendarStage::calendar(QByteArray("X\n").repeated(7 * 1024 * 1024)));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u".*/poison.ics takes too much.*"_s));
+        const QStringList rest{u"after 28T12:00 28T12:00"_s, u"before 28T12:00 28T12:00"_s};
+        QCOMPARE(described(readEvents(stage)), rest);
+        QTest::failOnWarning(QRegularExpression(u".*"_s)); // it is not tried again
+        QCOMPARE(described(readEvents(stage)), rest);
+        FolderStage::write(poison, event("mended"));
+        QCOMPARE(readEvents(stage).size(), 3);
+    }
+
     void rulesThatNobodyCanFollowCostOnlyThemselves_data()
     {
         QTest::addColumn<QByteArray>("zone");
@@ -272,7 +292,7 @@ private Q_SLOTS:
     {
         QTemporaryDir home;
         Fakes::MemoryDefaults defaults;
-        DesktopCalendars store(QDBusConnection(QString()), defaults);
+        DesktopCalendars store(QDBusConnection(QString()), defaults, QStringLiteral(KESTRUNE_READER));
         const QString folder = home.filePath(u"new/calendars"_s);
         const auto access = [&] { return CalendarStage::wait(store.access(CalendarEntity::events)); };
         defaults.setObject(DesktopCalendars::folderKey(), folder);
@@ -295,7 +315,7 @@ private Q_SLOTS:
                            CalendarStage::calendar(vevent("file", "DTSTART:20260328T120000Z")));
         Fakes::MemoryDefaults defaults;
         defaults.setObject(DesktopCalendars::folderKey(), folder.path());
-        DesktopCalendars store(stage.bus(), defaults);
+        DesktopCalendars store(stage.bus(), defaults, QStringLiteral(KESTRUNE_READER));
         const auto names = [&] {
             return described(*CalendarStage::wait(
                 store.events(utc(u"2026-03-28T10:00:00"_s), utc(u"2026-03-29T22:00:00"_s))));

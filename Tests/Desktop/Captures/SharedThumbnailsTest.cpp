@@ -1,7 +1,7 @@
 #include "Desktop/Captures/SharedThumbnails.h"
 #include "CaptureHome.h"
 #include "Desktop/Captures/ThumbnailFile.h"
-#include "Desktop/Reader/HelperPictures.h"
+#include "Desktop/Pictures/HelperPictures.h"
 #include "Support/TestRegistry.h"
 
 #include <sys/stat.h>

@@ -1,4 +1,4 @@
-#include "Desktop/Reader/HelperPictures.h"
+#include "Desktop/Pictures/HelperPictures.h"
 #include "Support/Files.h"
 #include "Support/TestRegistry.h"
 
@@ -59,7 +59,7 @@ private Q_SLOTS:
         const QList<pid_t> first = running(reader);
         QCOMPARE(first.size(), 1);
         ::kill(first.first(), SIGKILL);
-        QVERIFY(reads());
+        QTRY_VERIFY(reads());
         const QList<pid_t> second = running(reader);
         QVERIFY(second.size() == 1 && second != first);
         QVERIFY(pictures.read(good.left(good.size() / 2), {}).image.isNull());

@@ -1,6 +1,6 @@
 // Raises the walls of the reader, tries one thing, and ends with 0 where it was refused, with 1 where it
 // worked.
-#include "ReaderHelper/Walls.h"
+#include "ReaderHelper/Walls/Walls.h"
 
 #include <array>
 #include <cerrno>
@@ -64,5 +64,5 @@ int main(int, char *arguments[])
         {"compute", [] { return maps(4096, PROT_READ | PROT_WRITE); }},
     };
     const auto wanted = tries.at(arguments[1]);
-    return Kestrune::Walls::raise() && !wanted() ? EXIT_SUCCESS : EXIT_FAILURE;
+    return Kestrune::Walls::raise(std::size_t{1} << 30) && !wanted() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,15 +1,12 @@
 #include "IcalOccurrences.h"
 
 #include "IcalRule.h"
-#include "Log.h"
 
 #include <QSet>
 
 #include <algorithm>
 
 namespace Kestrune {
-
-Q_LOGGING_CATEGORY(calendarLog, "kestrune.calendar", QtWarningMsg)
 
 namespace {
 
@@ -47,32 +44,28 @@ private:
     QSet<QDateTime> m_instants;
 };
 
-bool overlaps(const QDateTime &start, const QDateTime &end, const IcalRange &range)
-{
-    return start < range.to && (end > range.from || (start == end && start >= range.from));
-}
-
 /// Makes the events of one calendar file.
 class Maker
 {
 public:
-    Maker(const IcalRange &range, const QString &origin, const QColor &color, IcalSuspects &suspects)
+    Maker(const IcalRange &range, const QString &origin, IcalSuspects &suspects)
         : m_range(range)
         , m_origin(origin)
-        , m_color(color)
         , m_budget(suspects)
-    {}
+    {
+        m_found.until = range.to;
+    }
 
     void add(const IcalEntry &entry, const IcalMoment &start, const IcalMoment &occurrence)
     {
         const QDateTime begins = start.instant();
         const QDateTime ends = entry.span.endOf(start);
-        if (entry.cancelled || !overlaps(begins, ends, m_range))
+        if (entry.cancelled || !m_range.overlaps(begins, ends))
             return;
         const QString id = entry.uid.isEmpty() ? QString()
                                                : m_origin + kBetween + entry.uid + kBetween +
                                                      occurrence.instant().toString(Qt::ISODate);
-        m_events.append({id, entry.title, begins, ends, start.isDay(), m_color});
+        m_found.events.append({id, entry.title, begins, ends, start.isDay(), {}});
     }
 
     /// The series without those of its occurrences that `instances` replace.
@@ -80,37 +73,32 @@ public:
     {
         const Exclusions excluded(entry, instances);
         QSet<QDateTime> seen;
-        const qsizetype before = m_events.size();
+        const qsizetype before = m_found.events.size();
         const auto visit = [&](const IcalMoment &start) {
             const QDateTime begins = start.instant();
             if (!seen.contains(begins) && !excluded.contains(start, begins))
                 add(entry, start, start);
             seen.insert(begins);
-            return begins < m_range.to && m_events.size() - before < kMostOfOne;
+            const bool isFull = m_found.events.size() - before >= kMostOfOne;
+            if (isFull)
+                m_found.until = std::min(m_found.until, begins);
+            return begins < m_range.to && !isFull;
         };
         visit(entry.start);
         for (const IcalMoment &start : entry.added)
             visit(start);
         const QDateTime earliest = m_range.from.addDays(-entry.span.days).addSecs(-entry.span.seconds);
         for (const QByteArray &rule : entry.rules)
-            m_leftOut += IcalRule(rule, entry.start).visit(earliest, m_budget, visit) ? 0 : 1;
+            m_found.leftOut += IcalRule(rule, entry.start).visit(earliest, m_budget, visit) ? 0 : 1;
     }
 
-    CalendarStore::Events take()
-    {
-        if (m_leftOut > 0)
-            qCInfo(calendarLog, "%s: %d rules repeat what cannot be worked out in time",
-                   qUtf8Printable(m_origin), m_leftOut);
-        return std::move(m_events);
-    }
+    IcalFound take() { return std::move(m_found); }
 
 private:
     const IcalRange &m_range;
     const QString &m_origin;
-    const QColor &m_color;
-    CalendarStore::Events m_events;
+    IcalFound m_found;
     IcalBudget m_budget;
-    int m_leftOut = 0;
 };
 
 QList<IcalMoment> instancesOf(const QString &uid, const QList<IcalEntry> &entries)
@@ -125,10 +113,10 @@ QList<IcalMoment> instancesOf(const QString &uid, const QList<IcalEntry> &entrie
 
 } // namespace
 
-CalendarStore::Events icalOccurrences(const QList<IcalEntry> &entries, const IcalRange &range,
-                                      const QString &origin, const QColor &color, IcalSuspects &suspects)
+IcalFound icalOccurrences(const QList<IcalEntry> &entries, const IcalRange &range, const QString &origin,
+                          IcalSuspects &suspects)
 {
-    Maker maker(range, origin, color, suspects);
+    Maker maker(range, origin, suspects);
     for (const IcalEntry &entry : entries) {
         if (entry.instance.isValid())
             maker.add(entry, entry.start, entry.instance);
@@ -163,28 +151,16 @@ IcalMoment nextOccurrence(const IcalEntry &series, const IcalMoment &current,
     return next;
 }
 
-CalendarStore::Tasks icalOpenTasks(const QList<IcalEntry> &entries, const QString &origin,
-                                   const QColor &color)
+CalendarStore::Tasks icalOpenTasks(const QList<IcalEntry> &entries, const QString &origin)
 {
     CalendarStore::Tasks tasks;
     for (const IcalEntry &entry : entries) {
         if (entry.done || entry.cancelled || entry.uid.isEmpty())
             continue;
         const IcalTaskId id{origin, entry.uid, QString::fromLatin1(entry.instanceText)};
-        tasks.append(
-            {id.text(), entry.title, entry.due.isValid() ? entry.due.instant() : QDateTime(), color});
+        tasks.append({id.text(), entry.title, entry.due.isValid() ? entry.due.instant() : QDateTime(), {}});
     }
     return tasks;
-}
-
-QString IcalTaskId::text() const { return origin + kBetween + uid + kBetween + instance; }
-
-std::optional<IcalTaskId> IcalTaskId::parse(const QString &text)
-{
-    const QStringList parts = text.split(kBetween);
-    if (parts.size() != 3)
-        return std::nullopt;
-    return IcalTaskId{parts.at(0), parts.at(1), parts.at(2)};
 }
 
 } // namespace Kestrune

@@ -50,6 +50,11 @@ public:
     static IcalZonePtr utc();
     static IcalZonePtr local(); ///< The user's, and that of times without a zone.
 
+    /// Says which is the user's, by its name in the system's list.
+    static void setLocal(const QByteArray &name);
+    /// Reads the system's zones, as long as files can be opened.
+    static void prepare();
+
     /// The zone `name`: the system's, or the one that `definition` has, or the user's where neither knows it.
     IcalZonePtr find(const QByteArray &name, const Definition &definition);
 

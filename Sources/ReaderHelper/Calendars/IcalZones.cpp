@@ -14,17 +14,6 @@ constexpr int kMostDefined = 200; // Definitions kept; a calendar has a few.
 
 QDateTime disguised(const QDateTime &there) { return {there.date(), there.time(), kUtc}; }
 
-class LocalZone : public IcalZone
-{
-public:
-    QDateTime instant(const QDate &date, const QTime &time) const override
-    {
-        const QDateTime there(date, time);
-        return there.isValid() ? there.toUTC() : QDateTime(date, time.addSecs(3600)).toUTC();
-    }
-    QDateTime wall(const QDateTime &instant) const override { return disguised(instant.toLocalTime()); }
-};
-
 class SystemZone : public IcalZone
 {
 public:
@@ -41,6 +30,30 @@ public:
 private:
     QTimeZone m_zone;
 };
+
+/// All that the system knows, by their names: read once, when files can still be opened.
+const QHash<QByteArray, QTimeZone> &systemZones()
+{
+    static const QHash<QByteArray, QTimeZone> zones = [] {
+        QHash<QByteArray, QTimeZone> all;
+        for (const QByteArray &name : QTimeZone::availableTimeZoneIds())
+            all.insert(name, QTimeZone(name));
+        return all;
+    }();
+    return zones;
+}
+
+struct LocalZone
+{
+    IcalZonePtr zone;
+    QByteArray name;
+};
+
+LocalZone &localZone()
+{
+    static LocalZone local{std::make_shared<SystemZone>(QTimeZone::systemTimeZone()), {}};
+    return local;
+}
 
 icaltimetype icalTime(const QDateTime &wall)
 {
@@ -100,14 +113,15 @@ IcalZonePtr define(const QByteArray &definition)
 IcalZonePtr findNamed(const QByteArray &name)
 {
     const QByteArray windows = QTimeZone::windowsIdToDefaultIanaId(name);
-    if (!windows.isEmpty())
-        return std::make_shared<SystemZone>(QTimeZone(windows));
+    if (const auto zone = systemZones().constFind(windows); zone != systemZones().cend())
+        return std::make_shared<SystemZone>(*zone);
     const QList<QByteArray> parts = name.split('/');
     for (qsizetype from = 0; from < parts.size(); ++from) {
         const QByteArray tail = parts.mid(from).join('/');
         const bool place = from == 0 || parts.size() - from > 1 || tail == "UTC";
-        if (!tail.isEmpty() && place && QTimeZone::isTimeZoneIdAvailable(tail))
-            return std::make_shared<SystemZone>(QTimeZone(tail));
+        const auto zone = systemZones().constFind(tail);
+        if (place && zone != systemZones().cend())
+            return std::make_shared<SystemZone>(*zone);
     }
     return nullptr;
 }
@@ -120,11 +134,17 @@ IcalZonePtr IcalZones::utc()
     return zone;
 }
 
-IcalZonePtr IcalZones::local()
+IcalZonePtr IcalZones::local() { return localZone().zone; }
+
+void IcalZones::setLocal(const QByteArray &name)
 {
-    static const IcalZonePtr zone = std::make_shared<LocalZone>();
-    return zone;
+    LocalZone &local = localZone();
+    if (name == local.name)
+        return;
+    local = {std::make_shared<SystemZone>(systemZones().value(name, QTimeZone::utc())), name};
 }
+
+void IcalZones::prepare() { systemZones(); }
 
 IcalZonePtr IcalZones::find(const QByteArray &name, const Definition &definition)
 {

@@ -4,7 +4,7 @@
 
 class QIODevice;
 
-namespace Kestrune::Decoder {
+namespace Kestrune::PictureDecoder {
 
 /// Loads what the encodings need, as long as files can be opened.
 void prepare();
@@ -12,4 +12,4 @@ void prepare();
 /// From the beginning of `device`. The encoding is told by its first bytes, whatever a name says.
 ReadPicture decode(QIODevice &device, const PictureWish &wish);
 
-} // namespace Kestrune::Decoder
+} // namespace Kestrune::PictureDecoder

@@ -17,7 +17,6 @@ namespace Kestrune {
 
 namespace {
 
-constexpr rlim_t kMostMemory = rlim_t{1} << 30; // Bytes of addresses, the libraries' among them.
 constexpr rlim_t kMostFiles = 16;
 
 /// All that version 1 knows; later ones only add to it.
@@ -118,9 +117,9 @@ bool filterCalls()
 
 } // namespace
 
-bool Walls::raise()
+bool Walls::raise(std::size_t mostMemory)
 {
-    return limit(RLIMIT_AS, kMostMemory) && limit(RLIMIT_NOFILE, kMostFiles) && limit(RLIMIT_FSIZE, 0) &&
+    return limit(RLIMIT_AS, mostMemory) && limit(RLIMIT_NOFILE, kMostFiles) && limit(RLIMIT_FSIZE, 0) &&
            limit(RLIMIT_CORE, 1) && ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && leaveFiles() &&
            filterCalls();
 }

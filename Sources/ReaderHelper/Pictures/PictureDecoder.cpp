@@ -1,4 +1,4 @@
-#include "Decoder.h"
+#include "PictureDecoder.h"
 
 #include <QBuffer>
 #include <QCryptographicHash>
@@ -64,7 +64,7 @@ QImage cut(const QImage &image, const PictureWish &wish)
 
 } // namespace
 
-void Decoder::prepare()
+void PictureDecoder::prepare()
 {
     for (const Encoding &encoding : kEncodings) {
         QBuffer nothing;
@@ -73,7 +73,7 @@ void Decoder::prepare()
     }
 }
 
-ReadPicture Decoder::decode(QIODevice &device, const PictureWish &wish)
+ReadPicture PictureDecoder::decode(QIODevice &device, const PictureWish &wish)
 {
     const char *const format = formatOf(device, wish.formats);
     if (!format)
