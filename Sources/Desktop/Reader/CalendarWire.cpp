@@ -11,9 +11,6 @@ namespace Kestrune {
 
 namespace {
 
-/// Between the parts of an id; no path, name or text has it.
-constexpr QChar kBetween = u'\n';
-
 /// Writes or reads values one after the other: what both do is written once.
 class Packer
 {
@@ -185,11 +182,11 @@ bool IcalRange::overlaps(const QDateTime &start, const QDateTime &end) const
     return start < to && (end > from || (start == end && start >= from));
 }
 
-QString IcalTaskId::text() const { return origin + kBetween + uid + kBetween + instance; }
+QString IcalTaskId::text() const { return origin + kBetweenIdParts + uid + kBetweenIdParts + instance; }
 
 std::optional<IcalTaskId> IcalTaskId::parse(const QString &text)
 {
-    const QStringList parts = text.split(kBetween);
+    const QStringList parts = text.split(kBetweenIdParts);
     if (parts.size() != 3)
         return std::nullopt;
     return IcalTaskId{parts.at(0), parts.at(1), parts.at(2)};

@@ -11,6 +11,9 @@
 /// What is asked of the reader of calendars, what it finds, and both as bytes.
 namespace Kestrune {
 
+/// No path, name or text has it.
+constexpr QChar kBetweenIdParts = u'\n';
+
 /// A piece of time, UTC.
 struct IcalRange
 {

@@ -10,8 +10,6 @@ namespace Kestrune {
 
 namespace {
 
-/// Between the parts of an id; no path, name or text has it.
-constexpr QChar kBetween = u'\n';
 /// Of one series, in the range that is asked for.
 constexpr qsizetype kMostOfOne = 1000;
 
@@ -63,7 +61,7 @@ public:
         if (entry.cancelled || !m_range.overlaps(begins, ends))
             return;
         const QString id = entry.uid.isEmpty() ? QString()
-                                               : m_origin + kBetween + entry.uid + kBetween +
+                                               : m_origin + kBetweenIdParts + entry.uid + kBetweenIdParts +
                                                      occurrence.instant().toString(Qt::ISODate);
         m_found.events.append({id, entry.title, begins, ends, start.isDay(), {}});
     }
