@@ -174,7 +174,7 @@ void FolderCalendars::update(const QByteArray &path, const QColor &color,
 bool FolderCalendars::covers(const File &file, const IcalRange &range)
 {
     if (file.found.state != IcalFound::State::read)
-        return true;
+        return file.found.state != IcalFound::State::unread;
     const QDateTime &from = file.range.from;
     const QDateTime &until = file.found.until;
     const bool isEnough =

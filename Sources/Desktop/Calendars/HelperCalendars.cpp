@@ -48,20 +48,25 @@ QByteArray HelperCalendars::userZone()
     return zone.isValid() && zone.offsetFromUtc(now) == offset ? name : QTimeZone(offset).id();
 }
 
-std::optional<CalendarAnswer> HelperCalendars::ask(const CalendarQuestion &question)
+std::variant<CalendarAnswer, ReaderFault> HelperCalendars::ask(const CalendarQuestion &question)
 {
     const MemoryFile asked("question");
     const MemoryFile found("found");
     const QByteArray bytes = question.bytes();
     if (!asked.write(bytes) || !found.reserve(ReaderWire::kMostFound))
-        return std::nullopt;
-    const auto answer = m_readers.ask<ReaderWire::CalendarsAnswer>(
+        return ReaderFault::missing;
+    const auto outcome = m_readers.ask<ReaderWire::CalendarsAnswer>(
         ReaderWire::CalendarsQuestion{static_cast<std::uint32_t>(bytes.size())}, asked.descriptor(),
         found.descriptor());
-    if (!answer || answer->size == 0 || answer->size > ReaderWire::kMostFound)
-        return std::nullopt;
+    const auto *const answer = std::get_if<ReaderWire::CalendarsAnswer>(&outcome);
+    if (!answer)
+        return std::get<ReaderFault>(outcome);
+    if (answer->size == 0 || answer->size > ReaderWire::kMostFound)
+        return ReaderFault::ended;
     auto parsed = CalendarAnswer::parse(found.first(answer->size));
-    return parsed && parsed->found.size() == question.calendars.size() ? std::move(parsed) : std::nullopt;
+    if (!parsed || parsed->found.size() != question.calendars.size())
+        return ReaderFault::ended;
+    return *std::move(parsed);
 }
 
 QList<IcalFound> HelperCalendars::read(const QList<IcalTexts> &calendars, const IcalRange &range)
@@ -85,8 +90,9 @@ QList<IcalFound> HelperCalendars::readTogether(const QList<IcalTexts> &calendars
 {
     QList<IcalFound> found;
     if (calendars.size() > 1) {
-        if (auto answer = ask({userZone(), range, calendars, {}}))
-            return answer->found;
+        auto outcome = ask({userZone(), range, calendars, {}});
+        if (auto *const answer = std::get_if<CalendarAnswer>(&outcome))
+            return std::move(answer->found);
     }
     // One by one it is seen which of them it is.
     for (const IcalTexts &texts : calendars)
@@ -97,23 +103,29 @@ QList<IcalFound> HelperCalendars::readTogether(const QList<IcalTexts> &calendars
 IcalFound HelperCalendars::readAlone(const IcalTexts &texts, const IcalRange &range)
 {
     const QByteArray digest = digestOf(texts);
+    IcalFound found;
+    found.state = IcalFound::State::abandoned;
     if (m_abandoned.contains(digest))
+        return found;
+    auto outcome = ask({userZone(), range, {texts}, {}});
+    if (auto *const answer = std::get_if<CalendarAnswer>(&outcome))
+        return std::move(answer->found.first());
+    if (std::get<ReaderFault>(outcome) == ReaderFault::missing)
         return {};
-    if (const auto answer = ask({userZone(), range, {texts}, {}}))
-        return answer->found.first();
     if (m_abandoned.size() >= kMostAbandoned)
         m_abandoned.clear();
     m_abandoned.insert(digest);
-    return {};
+    return found;
 }
 
 std::optional<CompletedTask> HelperCalendars::complete(const IcalTexts &texts, const IcalTaskId &task,
                                                        QList<QByteArray> &zones)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    const auto answer = ask({userZone(), {now, now}, {texts}, IcalChange{task, now}});
+    auto outcome = ask({userZone(), {now, now}, {texts}, IcalChange{task, now}});
+    auto *const answer = std::get_if<CalendarAnswer>(&outcome);
     zones = answer ? answer->found.first().zones : QList<QByteArray>();
-    return answer ? answer->completed : std::nullopt;
+    return answer ? std::move(answer->completed) : std::nullopt;
 }
 
 } // namespace Kestrune

@@ -26,7 +26,7 @@ public:
     static QByteArray userZone();
 
 private:
-    std::optional<CalendarAnswer> ask(const CalendarQuestion &question);
+    std::variant<CalendarAnswer, ReaderFault> ask(const CalendarQuestion &question);
     QList<IcalFound> readTogether(const QList<IcalTexts> &calendars, const IcalRange &range);
     IcalFound readAlone(const IcalTexts &texts, const IcalRange &range);
 

@@ -45,9 +45,10 @@ ReadPicture HelperPictures::readFile(int descriptor, const PictureWish &wish)
     const ReaderWire::PictureQuestion question{static_cast<std::int32_t>(wish.fit),
                                                static_cast<std::int32_t>(wish.formats), wish.side, 0,
                                                wish.mostPixels};
-    const auto answer = m_readers.ask<ReaderWire::PictureAnswer>(question, descriptor, memory.descriptor());
+    const auto outcome = m_readers.ask<ReaderWire::PictureAnswer>(question, descriptor, memory.descriptor());
+    const auto *const answer = std::get_if<ReaderWire::PictureAnswer>(&outcome);
     if (!answer)
-        qCWarning(readerLog, "a picture was given up: what reads it ended");
+        qCWarning(readerLog, "a picture was given up: nothing reads it to its end");
     if (!answer || !isPossible(*answer, wish))
         return {};
     const auto pixels = static_cast<std::size_t>(answer->width) * static_cast<std::size_t>(answer->height);

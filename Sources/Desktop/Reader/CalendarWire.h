@@ -52,9 +52,10 @@ struct IcalFound
         read,
         damaged,   ///< No whole calendar.
         abandoned, ///< It took too long, or too much.
+        unread,    ///< It could not be tried.
     };
 
-    State state = State::abandoned;
+    State state = State::unread;
     CalendarStore::Events events; ///< Without colours; those of the range.
     CalendarStore::Tasks tasks;   ///< Those that are not done.
     QDateTime until;              ///< All events that begin before are there; those after may not be.

@@ -32,20 +32,22 @@ QString ReaderPool::installed()
         {folder, folder + QStringLiteral("/../" KESTRUNE_LIBEXEC "/kestrune")});
 }
 
-bool ReaderPool::askOne(std::span<const std::byte> question, int file, int memory,
-                        std::span<std::byte> answer)
+std::optional<ReaderFault> ReaderPool::askOne(std::span<const std::byte> question, int file, int memory,
+                                              std::span<std::byte> answer)
 {
     std::unique_ptr<ReaderProcess> process = takeIdle();
     if (!process)
         process = ReaderProcess::start(m_program, m_kind);
-    if (!process)
+    if (!process) {
         qCWarning(readerLog, "what reads %s cannot be started", m_kind);
-    if (!process || !process->ask(question, file, memory, answer))
-        return false;
+        return ReaderFault::missing;
+    }
+    if (!process->ask(question, file, memory, answer))
+        return ReaderFault::ended;
     const std::lock_guard lock(m_mutex);
     m_idle = std::move(process);
     m_idleEnd.setRemainingTime(kLongestIdle);
-    return true;
+    return std::nullopt;
 }
 
 std::unique_ptr<ReaderProcess> ReaderPool::takeIdle()

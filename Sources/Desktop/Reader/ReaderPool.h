@@ -7,8 +7,15 @@
 
 #include <mutex>
 #include <optional>
+#include <variant>
 
 namespace Kestrune {
+
+/// Why there is no answer.
+enum class ReaderFault {
+    missing, ///< The reader could not be started.
+    ended,   ///< It ended over the question, or was too slow.
+};
 
 /// Readers for one kind of question. One is kept for the next question, others serve those who ask meanwhile.
 /// Any thread; blocks.
@@ -23,18 +30,20 @@ public:
     /// The one that came with this program, beside it or among its files; empty when there is none.
     static QString installed();
 
-    /// Nothing when the reader ended instead of an answer, or could not be started.
     template <typename Answer, typename Question>
-    std::optional<Answer> ask(const Question &question, int file, int memory)
+    std::variant<Answer, ReaderFault> ask(const Question &question, int file, int memory)
     {
         Answer answer{};
-        const bool answered = askOne(std::as_bytes(std::span(&question, 1)), file, memory,
-                                     std::as_writable_bytes(std::span(&answer, 1)));
-        return answered ? std::optional(answer) : std::nullopt;
+        const auto fault = askOne(std::as_bytes(std::span(&question, 1)), file, memory,
+                                  std::as_writable_bytes(std::span(&answer, 1)));
+        if (fault)
+            return *fault;
+        return answer;
     }
 
 private:
-    bool askOne(std::span<const std::byte> question, int file, int memory, std::span<std::byte> answer);
+    std::optional<ReaderFault> askOne(std::span<const std::byte> question, int file, int memory,
+                                      std::span<std::byte> answer);
     std::unique_ptr<ReaderProcess> takeIdle();
 
     const QByteArray m_program;
