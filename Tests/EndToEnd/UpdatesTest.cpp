@@ -23,6 +23,7 @@ private Q_SLOTS:
     void init()
     {
         m_server.forget();
+        session().setExecutable(QStringLiteral(KESTRUNE_WITH_TEST_FEED));
         QProcessEnvironment &environment = session().environment();
         environment.insert(u"KESTRUNE_FEED"_s, m_server.url(u"/feed"_s).toString());
         environment.insert(u"KESTRUNE_FEED_KEY"_s, QString::fromLatin1(m_publicHalf));
@@ -58,6 +59,19 @@ private Q_SLOTS:
 
         input().tap(XK_Escape);
         QTRY_VERIFY(!findWindow());
+    }
+
+    /// Whoever starts the program that people get cannot choose its feed.
+    void noOtherFeedIsTaken()
+    {
+        session().setExecutable(Session::executable());
+        session().setFlag(u"kestrune"_s, u"kestrune.automaticallyDownloadsUpdates"_s, true);
+        m_feed = release(m_newer, u"key"_s);
+        QVERIFY(stage().run());
+        QVERIFY(waitUntil([this] { return checkEntry().has_value(); }));
+        QCOMPARE(checkEntry()->properties.value(u"enabled"_s), QVariant(false));
+        QVERIFY(chooseCheck());
+        QVERIFY(holdsFor([this] { return m_server.log().isEmpty() && !findWindow(); }, 2000));
     }
 
     void fetchedAndInstalledWhenAsked()
@@ -128,21 +142,23 @@ private:
         call.setArguments(arguments);
         return session().bus().call(call);
     }
-    bool chooseCheck()
+    std::optional<Kestrune::WireLayout> checkEntry()
     {
-        QList<Kestrune::WireLayout> entries;
-        waitUntil([&] {
-            const auto reply = askMenu(u"GetLayout"_s, {0, -1, QStringList()});
-            entries = qdbus_cast<Kestrune::WireLayout>(reply.arguments().value(1)).children;
-            return !entries.isEmpty();
-        });
+        const auto reply = askMenu(u"GetLayout"_s, {0, -1, QStringList()});
+        const auto entries = qdbus_cast<Kestrune::WireLayout>(reply.arguments().value(1)).children;
         for (const Kestrune::WireLayout &entry : entries) {
             if (entry.properties.value(u"label"_s) == u"Check for Updates…"_s)
-                return askMenu(u"Event"_s,
-                               {entry.id, u"clicked"_s, QVariant::fromValue(QDBusVariant(QVariant(0))), 0U})
-                           .type() == QDBusMessage::ReplyMessage;
+                return entry;
         }
-        return false;
+        return {};
+    }
+    bool chooseCheck()
+    {
+        if (!waitUntil([this] { return checkEntry().has_value(); }))
+            return false;
+        const QVariantList clicked{checkEntry()->id, u"clicked"_s,
+                                   QVariant::fromValue(QDBusVariant(QVariant(0))), 0U};
+        return askMenu(u"Event"_s, clicked).type() == QDBusMessage::ReplyMessage;
     }
 
     bool findWindow()

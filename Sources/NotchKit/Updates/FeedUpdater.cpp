@@ -19,6 +19,12 @@ constexpr std::chrono::milliseconds kPackagePatience = 30min;
 constexpr std::chrono::milliseconds kFirstLook = 1min; // after the start, when the machine has settled
 constexpr std::chrono::milliseconds kPause = 24h;
 
+/// Plain http is for a feed that is on this computer itself.
+bool mayComeFrom(const QUrl &package, const QUrl &feed)
+{
+    return package.scheme() == QLatin1String("https") || package.scheme() == feed.scheme();
+}
+
 QString automaticKey() { return QStringLiteral("kestrune.automaticallyDownloadsUpdates"); }
 QString newestKey() { return QStringLiteral("kestrune.newestRelease"); }
 
@@ -102,9 +108,10 @@ std::optional<Release> FeedUpdater::takeFeed(const HttpReply &reply)
     qCDebug(updatesLog, "the feed: status %d, %lld bytes", reply.status,
             static_cast<long long>(reply.body.size()));
     const auto feed = reply.isGood() ? m_releases->read(reply.body) : FeedFault::unreadable;
-    if (const auto *release = std::get_if<Release>(&feed))
+    const auto *release = std::get_if<Release>(&feed);
+    if (release && mayComeFrom(release->package, m_source.feed))
         return *release;
-    if (std::get<FeedFault>(feed) == FeedFault::notSigned)
+    if (!release && std::get<FeedFault>(feed) == FeedFault::notSigned)
         fail(QT_TRANSLATE_NOOP(
             "notch", "The list of releases is not signed by Kestrune’s makers, so it was ignored."));
     else

@@ -175,6 +175,24 @@ private Q_SLOTS:
         QVERIFY(!stage.server.targets().contains("/kestrune.deb")); // nothing is fetched unasked
     }
 
+    /// Plain http is for tests, whose feed comes that way itself.
+    void aPackageOverPlainHttp_data() { noAndYes("https", "http"); }
+    void aPackageOverPlainHttp()
+    {
+        const auto [plain] = fetched<bool>();
+        Stage stage;
+        const QUrl feed(u"https://host/feed"_s);
+        const QUrl package((plain ? u"http"_s : u"https"_s) + u"://127.0.0.1:1/kestrune.deb"_s);
+        const QByteArray text = stage.signer.feed(stage.signer.entry(u"1.3.0"_s, package, kPackage));
+        stage.http.replies[feed.toString()] = {200, text};
+        FeedUpdater updater(
+            {feed, *SemanticVersion::parse(u"1.2.0"_s)},
+            std::make_unique<SignedReleases>(*ReleaseKey::fromBase64(stage.signer.publicHalf()), stage.path),
+            stage.ports());
+        updater.checkForUpdates();
+        QTRY_COMPARE(updater.status().phase, plain ? Phase::failed : Phase::available);
+    }
+
     void anOldFeedIsNotPlayedBack()
     {
         Stage stage;

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArray>
+#include <QUrl>
+
+namespace Kestrune {
+
+/// Where a program's updates come from, and who signs them; empty where somebody else replaces the program.
+struct FeedSource
+{
+    QUrl address;
+    QByteArray key; ///< The public half, base64.
+
+    /// That of this program, which is a part of it: each program is linked with one definition of its own.
+    static FeedSource ofProgram();
+};
+
+} // namespace Kestrune
