@@ -38,6 +38,7 @@ private Q_SLOTS:
     {
         // version: none, and the server is of no use
         columns<QString, QString, bool, bool>();
+        QTest::newRow("expired") << m_newer << u"key"_s << false << true;
         QTest::newRow("newer") << m_newer << u"key"_s << true << true;
         QTest::newRow("same") << QStringLiteral(KESTRUNE_VERSION) << u"key"_s << false << false;
         QTest::newRow("older") << u"0.0.1"_s << u"key"_s << false << false;
@@ -48,7 +49,8 @@ private Q_SLOTS:
     void whatTheWindowTells()
     {
         const auto [version, key, isNews, offers] = fetched<QString, QString, bool, bool>();
-        m_feed = version.isEmpty() ? WebStandIn::page(404, "gone") : release(version, key);
+        m_feed = version.isEmpty() ? WebStandIn::page(404, "gone")
+                                   : release(version, key, QTest::currentDataTag() == "expired"_ba ? 0 : 90);
         QVERIFY(stage().run());
         QVERIFY(chooseCheck() && waitUntil([this] { return findWindow(); }));
         QTRY_VERIFY(coloured(kSymbol) > 200); // Not the dots of something under way.
@@ -122,11 +124,12 @@ private:
         script.start(QStringLiteral(KESTRUNE_SIGN_RELEASE), arguments);
         return script.waitForFinished() ? script.readAllStandardOutput() : QByteArray();
     }
-    WebStandIn::Answer release(const QString &version, const QString &key) const
+    WebStandIn::Answer release(const QString &version, const QString &key, int days = 90) const
     {
         return WebStandIn::page(
-            200, sign({u"--key"_s, m_files.filePath(key), version, m_files.filePath(u"kestrune.deb"_s),
-                       m_server.url(u"/kestrune.deb"_s).toString(), m_files.filePath(u"notes.json"_s)}));
+            200, sign({u"--key"_s, m_files.filePath(key), u"--days"_s, QString::number(days), version,
+                       m_files.filePath(u"kestrune.deb"_s), m_server.url(u"/kestrune.deb"_s).toString(),
+                       m_files.filePath(u"notes.json"_s)}));
     }
 
     QString kept()

@@ -31,6 +31,9 @@ struct ReleaseSigner
     {
         const QJsonObject notes{{QStringLiteral("en"), QStringLiteral("New in ") + version}};
         return {{QStringLiteral("version"), version},
+                // The first day of the fake clock.
+                {QStringLiteral("issued"), QStringLiteral("2027-01-15T08:00:00Z")},
+                {QStringLiteral("expires"), QStringLiteral("2027-04-15T08:00:00Z")},
                 {QStringLiteral("notes"), notes},
                 {QStringLiteral("package"), address.toString()},
                 {QStringLiteral("size"), package.size()},

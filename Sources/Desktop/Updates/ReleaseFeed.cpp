@@ -25,18 +25,29 @@ std::optional<QByteArray> bytesOf(const QJsonValue &value)
     return value.isString() ? fromBase64(value.toString().toLatin1()) : std::nullopt;
 }
 
+/// Invalid for anything but UTC to the second.
+QDateTime timeOf(const QJsonValue &value)
+{
+    const QString text = value.toString();
+    const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
+    return text.endsWith(u'Z') && time.toString(Qt::ISODate) == text ? time : QDateTime();
+}
+
 std::optional<Release> readEntry(const QByteArray &bytes)
 {
     const QJsonObject entry = QJsonDocument::fromJson(bytes).object();
     Release release;
     release.text = entry[QLatin1String("version")].toString();
     const auto version = SemanticVersion::parse(release.text);
+    release.issued = timeOf(entry[QLatin1String("issued")]);
+    release.expires = timeOf(entry[QLatin1String("expires")]);
     release.package = QUrl(entry[QLatin1String("package")].toString(), QUrl::StrictMode);
     const double size = entry[QLatin1String("size")].toDouble();
     const auto signature = bytesOf(entry[QLatin1String("signature")]);
     const QString name = release.fileName();
     const bool hasPlace = !name.isEmpty() && !name.startsWith(u'.') && isFetchable(release.package);
-    if (!version || !signature || !hasPlace || !(size >= 1 && size <= kLargestPackage))
+    const bool hasTime = release.issued.isValid() && release.expires.isValid();
+    if (!version || !signature || !hasTime || !hasPlace || !(size >= 1 && size <= kLargestPackage))
         return std::nullopt;
     release.version = *version;
     release.size = static_cast<qint64>(size);

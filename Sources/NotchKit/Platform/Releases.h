@@ -3,6 +3,7 @@
 #include "SemanticVersion.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QFuture>
 #include <QMap>
 #include <QString>
@@ -17,6 +18,8 @@ struct Release
 {
     QString text; ///< The version as the feed writes it.
     SemanticVersion version;
+    QDateTime issued;             ///< UTC, as the next.
+    QDateTime expires;            ///< From then on nothing of this is to be believed.
     QMap<QString, QString> notes; ///< What is new, by language code; English under "en".
     QUrl package;                 ///< https, or on this computer.
     qint64 size = 0;              ///< Bytes of the package.

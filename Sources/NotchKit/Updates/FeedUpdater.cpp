@@ -119,9 +119,28 @@ std::optional<Release> FeedUpdater::takeFeed(const HttpReply &reply)
     return std::nullopt;
 }
 
+/// Whether what was said of it still holds, by this computer's clock, which may be off by a day. The user is
+/// told where it does not.
+bool FeedUpdater::isOfNow(const Release &release)
+{
+    const QDateTime now = m_platform.clock.now();
+    if (release.expires <= now)
+        fail(QT_TRANSLATE_NOOP(
+            "notch", "The list of releases has expired, so it was ignored. Is the clock set right?"));
+    else if (release.issued > now.addDays(1))
+        fail(QT_TRANSLATE_NOOP(
+            "notch",
+            "The list of releases is dated in the future, so it was ignored. Is the clock set right?"));
+    else
+        return true;
+    return false;
+}
+
 /// Whether it is one to offer.
 bool FeedUpdater::takeRelease(const Release &release)
 {
+    if (!isOfNow(release))
+        return false;
     const auto newest =
         SemanticVersion::parse(m_platform.defaults.value<QString>(newestKey()).value_or(QString()));
     if (newest && release.version < *newest) {
@@ -191,6 +210,8 @@ void FeedUpdater::installUpdate()
 QCoro::Task<> FeedUpdater::install()
 {
     // It may have lain there for days.
+    if (!isOfNow(m_release))
+        co_return;
     const QFuture<bool> search = m_releases->holds(m_release);
     const bool isHere = co_await until(search);
     if (isHere)

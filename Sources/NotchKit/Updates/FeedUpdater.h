@@ -48,6 +48,7 @@ private:
     QCoro::Task<> look();
     std::optional<Release> takeFeed(const HttpReply &reply);
     bool takeRelease(const Release &release);
+    bool isOfNow(const Release &release);
     QCoro::Task<> fetch();
     QCoro::Task<> install();
     void takeOutcome(Releases::Kept outcome);

@@ -124,7 +124,7 @@ private Q_SLOTS:
         const auto raw = [](const Reply &reply) { return [reply](const Stage &) { return reply; }; };
         const auto with = [](const QString &key, const QJsonValue &value) {
             return [key, value](const Stage &stage) {
-                QJsonObject entry = stage.entry(u"9.0.0"_s);
+                QJsonObject entry = stage.entry(u"1.3.0"_s);
                 entry[key] = value;
                 return stage.page(entry);
             };
@@ -162,6 +162,15 @@ private Q_SLOTS:
         row("no version", Phase::failed, with(u"version"_s, 9));
         row("no size", Phase::failed, with(u"size"_s, -1));
         row("no signature", Phase::failed, with(u"signature"_s, u"?"_s));
+        row("expires in a second", Phase::available, with(u"expires"_s, u"2027-01-15T08:00:01Z"_s));
+        row("expired", Phase::failed, with(u"expires"_s, u"2027-01-15T08:00:00Z"_s));
+        row("of tomorrow", Phase::available, with(u"issued"_s, u"2027-01-16T08:00:00Z"_s));
+        row("of the future", Phase::failed, with(u"issued"_s, u"2027-01-16T08:00:01Z"_s));
+        row("never issued", Phase::failed, with(u"issued"_s, QJsonValue()));
+        row("expires never", Phase::failed, with(u"expires"_s, QJsonValue()));
+        row("expires somewhere", Phase::failed, with(u"expires"_s, u"2027-04-15T08:00:00"_s));
+        row("expires elsewhere", Phase::failed, with(u"expires"_s, u"2027-04-15T08:00:00+01:00"_s));
+        row("expires on no day", Phase::failed, with(u"expires"_s, u"2027-02-30T08:00:00Z"_s));
     }
     void feeds()
     {
@@ -199,6 +208,23 @@ private Q_SLOTS:
         QCOMPARE(stage.check(u"1.4.0"_s), Phase::available);
         QCOMPARE(stage.check(u"1.3.0"_s), Phase::failed);
         QCOMPARE(stage.check(u"1.4.0"_s), Phase::available);
+        QJsonObject expired = stage.entry(u"9.0.0"_s);
+        expired[u"expires"_s] = expired[u"issued"_s];
+        QCOMPARE(stage.check(stage.page(expired)), Phase::failed);
+        QCOMPARE(stage.check(u"1.4.0"_s), Phase::available); // What is not believed is not remembered.
+    }
+
+    void aPackageThatWaitsTooLong()
+    {
+        Stage stage;
+        QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
+        stage.updater.fetchUpdate();
+        QCOMPARE(stage.settled(), Phase::ready);
+        stage.clock.advance(24h * 90);
+        stage.updater.installUpdate();
+        QTRY_COMPARE(stage.updater.status().phase, Phase::failed);
+        QVERIFY(stage.updater.status().message.contains(u"expired"_s));
+        QVERIFY(stage.workspace.opened.isEmpty());
     }
 
     void packages_data()
