@@ -25,6 +25,14 @@ std::optional<QByteArray> bytesOf(const QJsonValue &value)
     return value.isString() ? fromBase64(value.toString().toLatin1()) : std::nullopt;
 }
 
+/// Empty for anything but 64 digits.
+QByteArray hashOf(const QJsonValue &value)
+{
+    const QByteArray text = value.toString().toLatin1();
+    const QByteArray hash = QByteArray::fromHex(text);
+    return hash.size() == crypto_hash_sha256_BYTES && hash.toHex() == text ? hash : QByteArray();
+}
+
 /// Invalid for anything but UTC to the second.
 QDateTime timeOf(const QJsonValue &value)
 {
@@ -43,15 +51,15 @@ std::optional<Release> readEntry(const QByteArray &bytes)
     release.expires = timeOf(entry[QLatin1String("expires")]);
     release.package = QUrl(entry[QLatin1String("package")].toString(), QUrl::StrictMode);
     const double size = entry[QLatin1String("size")].toDouble();
-    const auto signature = bytesOf(entry[QLatin1String("signature")]);
+    release.packageHash = hashOf(entry[QLatin1String("sha256")]);
     const QString name = release.fileName();
     const bool hasPlace = !name.isEmpty() && !name.startsWith(u'.') && isFetchable(release.package);
     const bool hasTime = release.issued.isValid() && release.expires.isValid();
-    if (!version || !signature || !hasTime || !hasPlace || !(size >= 1 && size <= kLargestPackage))
+    if (!version || release.packageHash.isEmpty() || !hasTime || !hasPlace ||
+        !(size >= 1 && size <= kLargestPackage))
         return std::nullopt;
     release.version = *version;
     release.size = static_cast<qint64>(size);
-    release.packageSignature = *signature;
     const QJsonObject notes = entry[QLatin1String("notes")].toObject();
     for (auto note = notes.begin(); note != notes.end(); ++note)
         release.notes.insert(note.key(), note.value().toString());

@@ -24,7 +24,7 @@ private:
 ///   {"entry": base64 of the entry, "signature": base64 of the entry's signature}
 /// and the entry, which nothing is read from before its signature was checked, is JSON again:
 ///   {"version", "issued", "expires": times, "notes": {language: text}, "package": address, "size": bytes,
-///   "signature": base64, of the package}
+///   "sha256": of the package, in lower-case hexadecimal digits}
 /// where a time is UTC to the second, as RFC 3339 writes it: 2027-01-15T08:00:00Z.
 std::variant<Release, FeedFault> readReleaseFeed(const QByteArray &feed, const ReleaseKey &key);
 

@@ -173,14 +173,11 @@ void FeedUpdater::fetchUpdate()
 QCoro::Task<> FeedUpdater::fetch()
 {
     enter(Phase::fetching);
-    const HttpRequest request{m_release.package, {}, kPackagePatience, m_release.size};
+    const HttpRequest request{
+        m_release.package, {}, kPackagePatience, m_release.size, m_releases->receive(m_release)};
     const QFuture<HttpReply> asked = m_platform.http.get(request);
     const HttpReply reply = co_await until(asked);
-    if (!reply.isGood() || reply.body.size() != m_release.size) {
-        fail(QT_TRANSLATE_NOOP("notch", "The update could not be downloaded. Are you online?"));
-        co_return;
-    }
-    const QFuture<Releases::Kept> saving = m_releases->keep(m_release, reply.body);
+    const QFuture<Releases::Kept> saving = m_releases->keep(reply.isGood());
     const Releases::Kept outcome = co_await until(saving);
     takeOutcome(outcome);
 }
@@ -190,6 +187,9 @@ void FeedUpdater::takeOutcome(Releases::Kept outcome)
     switch (outcome) {
     case Releases::Kept::kept:
         enterReady();
+        return;
+    case Releases::Kept::notFetched:
+        fail(QT_TRANSLATE_NOOP("notch", "The update could not be downloaded. Are you online?"));
         return;
     case Releases::Kept::notSigned:
         fail(QT_TRANSLATE_NOOP("notch",

@@ -8,6 +8,8 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -67,6 +69,12 @@ struct Stage : Fakes::Platform
     FeedUpdater updater;
     QSignalSpy attention{&updater, &Updater::attentionWanted};
 };
+
+mode_t modeOf(const QString &path)
+{
+    struct stat is = {};
+    return ::stat(path.toLocal8Bit().constData(), &is) == 0 ? is.st_mode & 07777 : 0;
+}
 
 /// As long as it lives, no file can grow beyond a few bytes.
 struct FullDisk
@@ -161,7 +169,7 @@ private Q_SLOTS:
         row("package without a name", Phase::failed, with(u"package"_s, u"https://host/a%2F..%2F.."_s));
         row("no version", Phase::failed, with(u"version"_s, 9));
         row("no size", Phase::failed, with(u"size"_s, -1));
-        row("no signature", Phase::failed, with(u"signature"_s, u"?"_s));
+        row("no hash", Phase::failed, with(u"sha256"_s, u"?"_s));
         row("expires in a second", Phase::available, with(u"expires"_s, u"2027-01-15T08:00:01Z"_s));
         row("expired", Phase::failed, with(u"expires"_s, u"2027-01-15T08:00:00Z"_s));
         row("of tomorrow", Phase::available, with(u"issued"_s, u"2027-01-16T08:00:00Z"_s));
@@ -256,25 +264,69 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(stage.path), phase == Phase::ready);
     }
 
-    void aDiskThatTakesNothing_data() { noAndYes("unwritable", "full"); }
+    void aDiskThatTakesNothing_data()
+    {
+        const auto row = columns<QString>();
+        for (const char *name : {"unwritable", "full", "linked"})
+            row(name, QString::fromLatin1(name));
+    }
     void aDiskThatTakesNothing()
     {
-        const auto [full] = fetched<bool>();
+        const auto [kind] = fetched<QString>();
         Stage stage;
         QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
-        QVERIFY(full || writeFile(stage.folder.filePath(u"updates"_s)));
+        const QString place = stage.folder.filePath(u"updates"_s);
+        const QTemporaryDir elsewhere; // What a link leads to is left alone.
+        QVERIFY(writeFile(elsewhere.filePath(u"kestrune.deb"_s), "precious"));
+        QVERIFY(kind != u"unwritable" || writeFile(place));
+        QVERIFY(kind != u"linked" || QFile::link(elsewhere.path(), place));
         {
-            const std::optional<FullDisk> disk = full ? std::make_optional<FullDisk>() : std::nullopt;
+            const std::optional<FullDisk> disk =
+                kind == u"full" ? std::make_optional<FullDisk>() : std::nullopt;
             stage.updater.fetchUpdate();
             QCOMPARE(stage.settled(), Phase::failed);
         }
         QVERIFY(stage.updater.status().message.contains(u"disk"_s));
-        QVERIFY(!QFile::exists(stage.path));
+        QVERIFY(kind == u"linked" || !QFile::exists(stage.path));
+        QCOMPARE(QDir(elsewhere.path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{u"kestrune.deb"_s});
+        QCOMPARE(readFile(elsewhere.filePath(u"kestrune.deb"_s)), "precious");
     }
 
+    void aKeptPackage_data()
+    {
+        const auto row = columns<std::function<void(const QString &)>>();
+        row("changed", [](const QString &path) {
+            QFile file(path);
+            QCOMPARE(modeOf(path), 0400U);
+            QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+            QVERIFY(file.open(QFile::ReadWrite) && file.write("b") == 1);
+        });
+        row("a link to the like", [](const QString &path) {
+            QVERIFY(QFile::rename(path, path + u'2') && QFile::link(path + u'2', path));
+        });
+        row("with a second name", [](const QString &path) {
+            QCOMPARE(::link(path.toLocal8Bit().constData(), (path + u'2').toLocal8Bit().constData()), 0);
+        });
+        row("in a linked folder", [](const QString &path) {
+            const QString folder = QFileInfo(path).path();
+            QVERIFY(QFile::rename(folder, folder + u'2') && QFile::link(folder + u'2', folder));
+        });
+        row("in a folder for all", [](const QString &path) {
+            const QString folder = QFileInfo(path).path();
+            const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+            QCOMPARE(modeOf(folder), 0700U);
+            QVERIFY(QFile::setPermissions(folder, owner | QFile::WriteOther | QFile::ExeOther));
+        });
+        row("a pipe", [](const QString &path) {
+            QVERIFY(QFile::remove(path));
+            QCOMPARE(::mkfifo(path.toLocal8Bit().constData(), S_IRUSR | S_IWUSR), 0);
+        });
+    }
     /// It is fetched once, and opened only as it was signed.
     void aKeptPackage()
     {
+        const auto [spoil] = fetched<std::function<void(const QString &)>>();
         Stage stage;
         QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
         stage.updater.installUpdate();
@@ -286,9 +338,7 @@ private Q_SLOTS:
         stage.updater.installUpdate();
         QTRY_COMPARE(stage.workspace.opened, QList{QUrl::fromLocalFile(stage.path)});
 
-        QFile file(stage.path);
-        QVERIFY(file.open(QFile::ReadWrite) && file.write("b") == 1);
-        file.close();
+        spoil(stage.path);
         stage.updater.installUpdate();
         QTRY_COMPARE(stage.updater.status().phase, Phase::failed);
         QCOMPARE(stage.workspace.opened.size(), 1);
