@@ -6,7 +6,9 @@ namespace Kestrune {
 FeedSource FeedSource::ofProgram()
 {
     const QUrl address(QStringLiteral(KESTRUNE_FEED_URL), QUrl::StrictMode);
-    return address.scheme() == QLatin1String("https") ? FeedSource{address, KESTRUNE_FEED_KEY} : FeedSource{};
+    if (address.scheme() != QLatin1String("https"))
+        return {};
+    return {address, KESTRUNE_FEED_KEY, KESTRUNE_FEED_OFFLINE_KEY};
 }
 
 } // namespace Kestrune

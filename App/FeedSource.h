@@ -9,7 +9,8 @@ namespace Kestrune {
 struct FeedSource
 {
     QUrl address;
-    QByteArray key; ///< The public half, base64.
+    QByteArray key;        ///< Its public half, base64, as the next.
+    QByteArray offlineKey; ///< Signs what replaces the other one.
 
     /// That of this program, which is a part of it: each program is linked with one definition of its own.
     static FeedSource ofProgram();

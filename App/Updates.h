@@ -8,8 +8,8 @@
 
 namespace Kestrune {
 
-/// The updater that fits this copy. One that was built with the address of a release feed and the key that
-/// signs it follows that feed; every other belongs to a package manager, or to whoever built it.
+/// The updater that fits this copy. One that was built with the address of a release feed and the keys
+/// of its makers follows that feed; every other belongs to a package manager, or to whoever built it.
 std::unique_ptr<Updater> makeUpdater(const FeedSource &feed, const Platform &platform);
 
 } // namespace Kestrune

@@ -17,7 +17,10 @@ private Q_SLOTS:
         write(u"kestrune.deb"_s, m_package);
         m_publicHalf = sign({u"--new-key"_s, m_files.filePath(u"key"_s)}).trimmed();
         QCOMPARE(QByteArray::fromBase64(m_publicHalf).size(), 32);
-        QVERIFY(!sign({u"--new-key"_s, m_files.filePath(u"other key"_s)}).isEmpty());
+        const QByteArray other = sign({u"--new-key"_s, m_files.filePath(u"other key"_s)}).trimmed();
+        const QString offline = m_files.filePath(u"offline key"_s);
+        m_offlineHalf = sign({u"--new-key"_s, offline}).trimmed();
+        write(u"replacement.json"_s, sign({u"--replace-key"_s, offline, u"1"_s, QString::fromLatin1(other)}));
     }
 
     void init()
@@ -27,6 +30,7 @@ private Q_SLOTS:
         QProcessEnvironment &environment = session().environment();
         environment.insert(u"KESTRUNE_FEED"_s, m_server.url(u"/feed"_s).toString());
         environment.insert(u"KESTRUNE_FEED_KEY"_s, QString::fromLatin1(m_publicHalf));
+        environment.insert(u"KESTRUNE_FEED_OFFLINE_KEY"_s, QString::fromLatin1(m_offlineHalf));
         environment.insert(u"PATH"_s, m_files.path() + u':' + environment.value(u"PATH"_s));
         write(u"xdg-open"_s, "#!/bin/sh\necho \"$1\" >> \"$HOME/opened\"\n");
         QFile::setPermissions(m_files.filePath(u"xdg-open"_s), QFile::ReadOwner | QFile::ExeOwner);
@@ -38,6 +42,7 @@ private Q_SLOTS:
     {
         // version: none, and the server is of no use
         columns<QString, QString, bool, bool>();
+        QTest::newRow("key replaced") << m_newer << u"other key"_s << true << true;
         QTest::newRow("expired") << m_newer << u"key"_s << false << true;
         QTest::newRow("newer") << m_newer << u"key"_s << true << true;
         QTest::newRow("same") << QStringLiteral(KESTRUNE_VERSION) << u"key"_s << false << false;
@@ -50,7 +55,7 @@ private Q_SLOTS:
     {
         const auto [version, key, isNews, offers] = fetched<QString, QString, bool, bool>();
         m_feed = version.isEmpty() ? WebStandIn::page(404, "gone")
-                                   : release(version, key, QTest::currentDataTag() == "expired"_ba ? 0 : 90);
+                                   : release(version, key, options(QTest::currentDataTag()));
         QVERIFY(stage().run());
         QVERIFY(chooseCheck() && waitUntil([this] { return findWindow(); }));
         QTRY_VERIFY(coloured(kSymbol) > 200); // Not the dots of something under way.
@@ -124,12 +129,21 @@ private:
         script.start(QStringLiteral(KESTRUNE_SIGN_RELEASE), arguments);
         return script.waitForFinished() ? script.readAllStandardOutput() : QByteArray();
     }
-    WebStandIn::Answer release(const QString &version, const QString &key, int days = 90) const
+    QStringList options(const QByteArray &row) const
     {
-        return WebStandIn::page(
-            200, sign({u"--key"_s, m_files.filePath(key), u"--days"_s, QString::number(days), version,
-                       m_files.filePath(u"kestrune.deb"_s), m_server.url(u"/kestrune.deb"_s).toString(),
-                       m_files.filePath(u"notes.json"_s)}));
+        if (row == "expired")
+            return {u"--days"_s, u"0"_s};
+        return row == "key replaced"
+                   ? QStringList{u"--replacement"_s, m_files.filePath(u"replacement.json"_s)}
+                   : QStringList();
+    }
+    WebStandIn::Answer release(const QString &version, const QString &key,
+                               const QStringList &options = {}) const
+    {
+        return WebStandIn::page(200, sign(options + QStringList{u"--key"_s, m_files.filePath(key), version,
+                                                                m_files.filePath(u"kestrune.deb"_s),
+                                                                m_server.url(u"/kestrune.deb"_s).toString(),
+                                                                m_files.filePath(u"notes.json"_s)}));
     }
 
     QString kept()
@@ -205,6 +219,7 @@ private:
     const QByteArray m_package = QByteArray(300'000, 'k');
     QTemporaryDir m_files;
     QByteArray m_publicHalf;
+    QByteArray m_offlineHalf;
     WebStandIn::Answer m_feed;
     WebStandIn m_server{[this](const WebStandIn::Request &request) {
         return request.target == "/feed" ? m_feed : WebStandIn::page(200, m_package);

@@ -42,11 +42,23 @@ struct ReleaseSigner
                 {QStringLiteral("sha256"), QString::fromLatin1(hash.toHex())}};
     }
 
-    QByteArray feed(const QJsonObject &entry) const
+    /// With what replaced the key that a copy knows, if it was replaced.
+    QByteArray feed(const QJsonObject &entry, const QJsonObject &replacement = {}) const
     {
         const QByteArray text = json(entry);
-        return json({{QStringLiteral("entry"), QString::fromLatin1(text.toBase64())},
-                     {QStringLiteral("signature"), sign(text)}});
+        QJsonObject feed = replacement;
+        feed[QStringLiteral("entry")] = QString::fromLatin1(text.toBase64());
+        feed[QStringLiteral("signature")] = sign(text);
+        return json(feed);
+    }
+
+    /// By the owner of the offline key.
+    QJsonObject replacement(const QJsonValue &number, const QByteArray &key) const
+    {
+        const QByteArray text =
+            json({{QStringLiteral("number"), number}, {QStringLiteral("key"), QString::fromLatin1(key)}});
+        return {{QStringLiteral("replacement"), QString::fromLatin1(text.toBase64())},
+                {QStringLiteral("replacementSignature"), sign(text)}};
     }
 
     static QByteArray json(const QJsonObject &object)

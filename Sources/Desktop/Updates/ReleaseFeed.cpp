@@ -5,6 +5,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <cmath>
+
 #include <sodium.h>
 
 namespace Kestrune {
@@ -12,6 +14,7 @@ namespace Kestrune {
 namespace {
 
 constexpr double kLargestPackage = 256.0 * 1024 * 1024;
+constexpr double kMostReplacements = 1'000'000;
 
 /// Nothing for anything but whole, plain base64.
 std::optional<QByteArray> fromBase64(const QByteArray &text)
@@ -23,6 +26,40 @@ std::optional<QByteArray> fromBase64(const QByteArray &text)
 std::optional<QByteArray> bytesOf(const QJsonValue &value)
 {
     return value.isString() ? fromBase64(value.toString().toLatin1()) : std::nullopt;
+}
+
+/// What signs the entry of a feed.
+struct SigningKey
+{
+    ReleaseKey key;
+    int number; ///< 0 for the one that the copy was built with.
+};
+
+std::optional<SigningKey> readReplacement(const QByteArray &bytes)
+{
+    const QJsonObject replacement = QJsonDocument::fromJson(bytes).object();
+    const double number = replacement[QLatin1String("number")].toDouble();
+    const auto key = ReleaseKey::fromBase64(replacement[QLatin1String("key")].toString().toLatin1());
+    if (!key || !(number >= 1 && number <= kMostReplacements) || number != std::floor(number))
+        return std::nullopt;
+    return SigningKey{*key, static_cast<int>(number)};
+}
+
+std::variant<SigningKey, FeedFault> signingKeyOf(const QJsonObject &feed, const MakerKeys &keys)
+{
+    const QJsonValue member = feed[QLatin1String("replacement")];
+    if (member.isUndefined())
+        return SigningKey{keys.everyday, 0};
+    const auto replacement = bytesOf(member);
+    const auto signature = bytesOf(feed[QLatin1String("replacementSignature")]);
+    if (!replacement || !signature)
+        return FeedFault::unreadable;
+    if (!keys.offline.hasSigned(*replacement, *signature))
+        return FeedFault::notSigned;
+    const auto key = readReplacement(*replacement);
+    if (!key)
+        return FeedFault::unreadable;
+    return *key;
 }
 
 /// Empty for anything but 64 digits.
@@ -88,18 +125,23 @@ bool ReleaseKey::hasSigned(const QByteArray &message, const QByteArray &signatur
                                        static_cast<unsigned long long>(message.size()), bytes(m_bytes)) == 0;
 }
 
-std::variant<Release, FeedFault> readReleaseFeed(const QByteArray &feed, const ReleaseKey &key)
+std::variant<Release, FeedFault> readReleaseFeed(const QByteArray &feed, const MakerKeys &keys)
 {
     const QJsonObject object = QJsonDocument::fromJson(feed).object();
     const auto entry = bytesOf(object[QLatin1String("entry")]);
     const auto signature = bytesOf(object[QLatin1String("signature")]);
     if (!entry || !signature)
         return FeedFault::unreadable;
-    if (!key.hasSigned(*entry, *signature))
+    const auto signedWith = signingKeyOf(object, keys);
+    const auto *key = std::get_if<SigningKey>(&signedWith);
+    if (!key)
+        return std::get<FeedFault>(signedWith);
+    if (!key->key.hasSigned(*entry, *signature))
         return FeedFault::notSigned;
-    const auto release = readEntry(*entry);
+    auto release = readEntry(*entry);
     if (!release)
         return FeedFault::unreadable;
+    release->keyNumber = key->number;
     return *release;
 }
 

@@ -23,7 +23,7 @@ bool isKept(const QString &path, const Release &release)
 
 std::variant<Release, FeedFault> SignedReleases::read(const QByteArray &feed) const
 {
-    return readReleaseFeed(feed, m_key);
+    return readReleaseFeed(feed, m_keys);
 }
 
 QFuture<bool> SignedReleases::holds(const Release &release)

@@ -6,13 +6,13 @@
 
 namespace Kestrune {
 
-/// The releases that the owner of one key signs.
+/// The releases that the owner of these keys signs.
 class SignedReleases : public Releases
 {
 public:
     /// Packages are kept in the folder `cache`, which is this object's alone.
-    SignedReleases(const ReleaseKey &key, QString cache)
-        : m_key(key)
+    SignedReleases(MakerKeys keys, QString cache)
+        : m_keys(std::move(keys))
         , m_cache(std::move(cache))
     {}
 
@@ -23,7 +23,7 @@ public:
     QUrl file(const Release &release) const override;
 
 private:
-    ReleaseKey m_key;
+    MakerKeys m_keys;
     QString m_cache;
     std::shared_ptr<ArrivingPackage> m_arriving;
     Worker m_worker{"updates"};

@@ -20,6 +20,7 @@ struct Release
 {
     QString text; ///< The version as the feed writes it.
     SemanticVersion version;
+    int keyNumber = 0;            ///< Of the key that signed it: how often the makers had replaced theirs.
     QDateTime issued;             ///< UTC, as the next.
     QDateTime expires;            ///< From then on nothing of this is to be believed.
     QMap<QString, QString> notes; ///< What is new, by language code; English under "en".

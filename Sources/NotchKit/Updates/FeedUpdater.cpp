@@ -27,6 +27,7 @@ bool mayComeFrom(const QUrl &package, const QUrl &feed)
 
 QString automaticKey() { return QStringLiteral("kestrune.automaticallyDownloadsUpdates"); }
 QString newestKey() { return QStringLiteral("kestrune.newestRelease"); }
+QString keyNumberKey() { return QStringLiteral("kestrune.releaseKeyNumber"); }
 
 } // namespace
 
@@ -136,21 +137,40 @@ bool FeedUpdater::isOfNow(const Release &release)
     return false;
 }
 
+/// Whether somebody plays back a feed of long ago, which was signed then, or signs with a key that was
+/// replaced.
+bool FeedUpdater::isPlayedBack(const Release &release) const
+{
+    const qint64 keyNumber = m_platform.defaults.value<qint64>(keyNumberKey()).value_or(0);
+    // Whoever had the key before may have told of any version.
+    if (release.keyNumber != keyNumber)
+        return release.keyNumber < keyNumber;
+    const auto newest =
+        SemanticVersion::parse(m_platform.defaults.value<QString>(newestKey()).value_or(QString()));
+    return newest && release.version < *newest;
+}
+
+void FeedUpdater::remember(const Release &release)
+{
+    UserDefaults &defaults = m_platform.defaults;
+    if (defaults.value<QString>(newestKey()) != release.text)
+        defaults.setObject(newestKey(), release.text);
+    // Last: with the new number and the old version, what the makers tell would be refused.
+    if (defaults.value<qint64>(keyNumberKey()).value_or(0) != release.keyNumber)
+        defaults.setObject(keyNumberKey(), qint64{release.keyNumber});
+}
+
 /// Whether it is one to offer.
 bool FeedUpdater::takeRelease(const Release &release)
 {
     if (!isOfNow(release))
         return false;
-    const auto newest =
-        SemanticVersion::parse(m_platform.defaults.value<QString>(newestKey()).value_or(QString()));
-    if (newest && release.version < *newest) {
-        // Somebody plays back a feed of long ago, which was signed then.
+    if (isPlayedBack(release)) {
         fail(QT_TRANSLATE_NOOP("notch",
                                "The list of releases is older than one seen before, so it was ignored."));
         return false;
     }
-    if (newest != release.version)
-        m_platform.defaults.setObject(newestKey(), release.text);
+    remember(release);
     if (release.version <= m_source.version) {
         enter(Phase::current);
         return false;

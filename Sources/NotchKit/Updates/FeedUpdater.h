@@ -49,6 +49,8 @@ private:
     std::optional<Release> takeFeed(const HttpReply &reply);
     bool takeRelease(const Release &release);
     bool isOfNow(const Release &release);
+    bool isPlayedBack(const Release &release) const;
+    void remember(const Release &release);
     QCoro::Task<> fetch();
     QCoro::Task<> install();
     void takeOutcome(Releases::Kept outcome);

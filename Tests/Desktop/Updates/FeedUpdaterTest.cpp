@@ -24,8 +24,7 @@ struct Stage : Fakes::Platform
     /// Without another word the updater is more patient than the slowest machine needs.
     explicit Stage(std::chrono::milliseconds patience = 60s)
         : updater({server.url(u"/feed"_s), *SemanticVersion::parse(u"1.2.0"_s), patience},
-                  std::make_unique<SignedReleases>(*ReleaseKey::fromBase64(signer.publicHalf()),
-                                                   folder.filePath(u"updates"_s)),
+                  std::make_unique<SignedReleases>(keys(), folder.filePath(u"updates"_s)),
                   ports({.http = &client}))
     {
         QObject::connect(&updater, &Updater::changed, &updater, [this] {
@@ -35,6 +34,10 @@ struct Stage : Fakes::Platform
         });
     }
 
+    MakerKeys keys() const
+    {
+        return {*ReleaseKey::fromBase64(signer.publicHalf()), *ReleaseKey::fromBase64(offline.publicHalf())};
+    }
     QJsonObject entry(const QString &version) const
     {
         return signer.entry(version, server.url(u"/kestrune.deb"_s), kPackage);
@@ -59,6 +62,7 @@ struct Stage : Fakes::Platform
     }
 
     ReleaseSigner signer;
+    ReleaseSigner offline;
     Reply feed; ///< Changed between requests only.
     Reply package = WebStandIn::page(200, kPackage);
     WebStandIn server{[this](const auto &request) { return request.target == "/feed" ? feed : package; }};
@@ -202,10 +206,8 @@ private Q_SLOTS:
         const QUrl package((plain ? u"http"_s : u"https"_s) + u"://127.0.0.1:1/kestrune.deb"_s);
         const QByteArray text = stage.signer.feed(stage.signer.entry(u"1.3.0"_s, package, kPackage));
         stage.http.replies[feed.toString()] = {200, text};
-        FeedUpdater updater(
-            {feed, *SemanticVersion::parse(u"1.2.0"_s)},
-            std::make_unique<SignedReleases>(*ReleaseKey::fromBase64(stage.signer.publicHalf()), stage.path),
-            stage.ports());
+        FeedUpdater updater({feed, *SemanticVersion::parse(u"1.2.0"_s)},
+                            std::make_unique<SignedReleases>(stage.keys(), stage.path), stage.ports());
         updater.checkForUpdates();
         QTRY_COMPARE(updater.status().phase, plain ? Phase::failed : Phase::available);
     }
@@ -220,6 +222,67 @@ private Q_SLOTS:
         expired[u"expires"_s] = expired[u"issued"_s];
         QCOMPARE(stage.check(stage.page(expired)), Phase::failed);
         QCOMPARE(stage.check(u"1.4.0"_s), Phase::available); // What is not believed is not remembered.
+    }
+
+    void aReplacedKey()
+    {
+        Stage stage;
+        const ReleaseSigner second;
+        const ReleaseSigner third;
+        const auto check = [&](const ReleaseSigner &signer, int number, const QString &version) {
+            const QJsonObject replacement = stage.offline.replacement(number, signer.publicHalf());
+            return stage.check(WebStandIn::page(200, signer.feed(stage.entry(version), replacement)));
+        };
+        QCOMPARE(stage.check(u"9.0.0"_s), Phase::available); // By a thief.
+        QCOMPARE(check(second, 1, u"1.3.0"_s), Phase::available);
+        QCOMPARE(check(second, 1, u"1.2.9"_s), Phase::failed);
+        QCOMPARE(stage.check(u"9.1.0"_s), Phase::failed);
+        QCOMPARE(check(third, 3, u"1.4.0"_s), Phase::available);
+        QCOMPARE(check(second, 1, u"9.2.0"_s), Phase::failed);
+        QCOMPARE(check(third, 3, u"1.4.0"_s), Phase::available);
+    }
+
+    void wrongReplacements_data()
+    {
+        const auto row = columns<std::function<QJsonObject(const Stage &, const QByteArray &)>>();
+        const auto numbered = [](const QJsonValue &number) {
+            return [number](const Stage &stage, const QByteArray &key) {
+                return stage.offline.replacement(number, key);
+            };
+        };
+        const auto without = [](const QString &member) {
+            return [member](const Stage &stage, const QByteArray &key) {
+                QJsonObject replacement = stage.offline.replacement(1, key);
+                replacement[member] = QJsonValue::Null;
+                return replacement;
+            };
+        };
+        row("none", [](const Stage &, const QByteArray &) { return QJsonObject(); });
+        row("by the everyday key",
+            [](const Stage &stage, const QByteArray &key) { return stage.signer.replacement(1, key); });
+        row("with another key", [](const Stage &stage, const QByteArray &) {
+            return stage.offline.replacement(1, ReleaseSigner().publicHalf());
+        });
+        row("with no key", [](const Stage &stage, const QByteArray &key) {
+            return stage.offline.replacement(1, key.chopped(4));
+        });
+        row("number 0", numbered(0));
+        row("number 1.5", numbered(1.5));
+        row("a text as number", numbered(u"1"_s));
+        row("an endless number", numbered(1e300));
+        row("no signature", without(u"replacementSignature"_s));
+        row("no text", without(u"replacement"_s));
+    }
+    /// None makes a copy believe another key, nor the old one less.
+    void wrongReplacements()
+    {
+        const auto [make] = fetched<std::function<QJsonObject(const Stage &, const QByteArray &)>>();
+        Stage stage;
+        const ReleaseSigner other;
+        const QJsonObject replacement = make(stage, other.publicHalf());
+        QCOMPARE(stage.check(WebStandIn::page(200, other.feed(stage.entry(u"1.3.0"_s), replacement))),
+                 Phase::failed);
+        QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
     }
 
     void aPackageThatWaitsTooLong()
