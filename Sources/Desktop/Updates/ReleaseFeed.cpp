@@ -63,7 +63,7 @@ std::variant<SigningKey, FeedFault> signingKeyOf(const QJsonObject &feed, const 
 }
 
 /// Empty for anything but 64 digits.
-QByteArray hashOf(const QJsonValue &value)
+QByteArray readHash(const QJsonValue &value)
 {
     const QByteArray text = value.toString().toLatin1();
     const QByteArray hash = QByteArray::fromHex(text);
@@ -71,7 +71,7 @@ QByteArray hashOf(const QJsonValue &value)
 }
 
 /// Invalid for anything but UTC to the second.
-QDateTime timeOf(const QJsonValue &value)
+QDateTime readTime(const QJsonValue &value)
 {
     const QString text = value.toString();
     const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
@@ -84,11 +84,11 @@ std::optional<Release> readEntry(const QByteArray &bytes)
     Release release;
     release.text = entry[QLatin1String("version")].toString();
     const auto version = SemanticVersion::parse(release.text);
-    release.issued = timeOf(entry[QLatin1String("issued")]);
-    release.expires = timeOf(entry[QLatin1String("expires")]);
+    release.issued = readTime(entry[QLatin1String("issued")]);
+    release.expires = readTime(entry[QLatin1String("expires")]);
     release.package = QUrl(entry[QLatin1String("package")].toString(), QUrl::StrictMode);
     const double size = entry[QLatin1String("size")].toDouble();
-    release.packageHash = hashOf(entry[QLatin1String("sha256")]);
+    release.packageHash = readHash(entry[QLatin1String("sha256")]);
     const QString name = release.fileName();
     const bool hasPlace = !name.isEmpty() && !name.startsWith(u'.') && isFetchable(release.package);
     const bool hasTime = release.issued.isValid() && release.expires.isValid();

@@ -256,6 +256,8 @@ private Q_SLOTS:
             [](const WebStandIn::Request &request) {
                 if (request.target == "/loop")
                     return WebStandIn::page(302, {}, "Location: /loop\r\n");
+                if (request.target == "/large")
+                    return WebStandIn::page(200, QByteArray(5'000'000, 'x'));
                 return request.target == "/moved" ? WebStandIn::page(301, {}, "Location: /here\r\n")
                                                   : WebStandIn::page(200, "secret");
             },
@@ -271,6 +273,11 @@ private Q_SLOTS:
         QSslConfiguration::setDefaultConfiguration(trusting);
         QtHttpClient client;
         QCOMPARE(fetch(client, server.url(u"/moved"_s)).body, "secret");
+        const auto sink = std::make_shared<CountingSink>();
+        const auto large = client.get({server.url(u"/large"_s), {}, 60s, 5'000'000, sink});
+        QTRY_VERIFY_WITH_TIMEOUT(large.isFinished(), 120'000);
+        QCOMPARE(large.result().status, 200);
+        QCOMPARE(sink->taken, 5'000'000);
         QUrl otherName = server.url(u"/here"_s);
         otherName.setHost(u"localhost"_s);
         QCOMPARE(fetch(client, otherName).status, 0);
