@@ -9,13 +9,13 @@
 namespace Kestrune {
 
 Application::Application(const QDBusConnection &bus, const WindowSystemChoice &windows,
-                         ControlService &control)
+                         const FeedSource &feed, ControlService &control)
     : m_windows(windows)
     , m_control(control)
     , m_bus(bus)
     , m_desktop(bus, windows)
     , m_platform(m_desktop.platform())
-    , m_updater(makeUpdater(m_platform))
+    , m_updater(makeUpdater(feed, m_platform))
     , m_appearance(bus)
     , m_panels(m_engine, m_platform.windows)
     , m_alert(m_engine, m_appearance)

@@ -6,6 +6,7 @@
 #include "Desktop/Session/PortalAppearance.h"
 #include "Desktop/Tray/BusStatusItem.h"
 #include "DesktopPlatform.h"
+#include "FeedSource.h"
 #include "NotchKit/Shell/AlertWindow.h"
 #include "NotchKit/Shell/ViewEngine.h"
 #include "NotchKit/Updates/Updater.h"
@@ -22,7 +23,8 @@ class Application
 {
 public:
     /// Nothing is on screen yet. `windows` and `control`, which serves while the program runs, outlive it.
-    Application(const QDBusConnection &bus, const WindowSystemChoice &windows, ControlService &control);
+    Application(const QDBusConnection &bus, const WindowSystemChoice &windows, const FeedSource &feed,
+                ControlService &control);
     ~Application();
     Q_DISABLE_COPY_MOVE(Application)
 

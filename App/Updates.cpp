@@ -1,7 +1,6 @@
 #include "Updates.h"
 
 #include "Desktop/Updates/SignedReleases.h"
-#include "NotchKit/Platform/Addresses.h"
 #include "NotchKit/Updates/FeedUpdater.h"
 #include "NotchKit/Updates/PackagedUpdater.h"
 
@@ -9,40 +8,18 @@
 
 namespace Kestrune {
 
-namespace {
-
-struct Feed
+std::unique_ptr<Updater> makeUpdater(const FeedSource &feed, const Platform &platform)
 {
-    QUrl address;
-    std::optional<ReleaseKey> key;
-};
-
-Feed feedOf(const QString &address, const QByteArray &key)
-{
-    return {QUrl(address, QUrl::StrictMode), ReleaseKey::fromBase64(key)};
-}
-
-/// The one for tests, else the one of the build.
-Feed findFeed()
-{
-    const Feed local = feedOf(qEnvironmentVariable("KESTRUNE_FEED"), qgetenv("KESTRUNE_FEED_KEY"));
-    if (isLoopback(local.address))
-        return local;
-    return feedOf(QStringLiteral(KESTRUNE_FEED_URL), KESTRUNE_FEED_KEY);
-}
-
-} // namespace
-
-std::unique_ptr<Updater> makeUpdater(const Platform &platform)
-{
-    const Feed feed = findFeed();
+    const auto everyday = ReleaseKey::fromBase64(feed.key);
+    const auto offline = ReleaseKey::fromBase64(feed.offlineKey);
     const auto version = SemanticVersion::parse(QStringLiteral(KESTRUNE_VERSION));
-    if (feed.address.isEmpty() || !feed.key || !version)
+    if (feed.address.isEmpty() || !everyday || !offline || !version)
         return std::make_unique<PackagedUpdater>();
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
                           QStringLiteral("/kestrune/updates");
-    return std::make_unique<FeedUpdater>(FeedUpdater::Source{feed.address, *version},
-                                         std::make_unique<SignedReleases>(*feed.key, cache), platform);
+    return std::make_unique<FeedUpdater>(
+        FeedUpdater::Source{feed.address, *version},
+        std::make_unique<SignedReleases>(MakerKeys{*everyday, *offline}, cache), platform);
 }
 
 } // namespace Kestrune

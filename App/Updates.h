@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FeedSource.h"
 #include "NotchKit/Platform/Platform.h"
 #include "NotchKit/Updates/Updater.h"
 
@@ -7,11 +8,8 @@
 
 namespace Kestrune {
 
-/// The updater that fits this copy. One that was built with the address of a release feed and the key that
-/// signs it follows that feed; every other belongs to a package manager, or to whoever built it.
-///
-/// For tests, the variables KESTRUNE_FEED and KESTRUNE_FEED_KEY name another feed and key; only an address of
-/// this machine is taken.
-std::unique_ptr<Updater> makeUpdater(const Platform &platform);
+/// The updater that fits this copy. One that was built with the address of a release feed and the keys
+/// of its makers follows that feed; every other belongs to a package manager, or to whoever built it.
+std::unique_ptr<Updater> makeUpdater(const FeedSource &feed, const Platform &platform);
 
 } // namespace Kestrune

@@ -146,7 +146,7 @@ int runProgram(int argc, char *argv[], const LaunchRequest &request)
         if (outcome == SingleInstance::Outcome::noBus)
             std::fputs("Kestrune: there is no session bus; commands and a second start cannot reach it\n",
                        stderr);
-        program = std::make_unique<Application>(bus, *windows, control);
+        program = std::make_unique<Application>(bus, *windows, FeedSource::ofProgram(), control);
         program->start(request);
     });
     const int status = QGuiApplication::exec();

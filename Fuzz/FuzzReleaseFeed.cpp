@@ -34,6 +34,14 @@ struct Signer
         const QByteArray entry(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
         return R"({"entry":")" + entry.toBase64() + R"(","signature":")" + signature.toBase64() + R"("})";
     }
+    /// What was signed as a replacement of the key, beside an entry that nobody signed.
+    QByteArray replaced(const uint8_t *data, size_t size) const
+    {
+        QByteArray replacement = feed(data, size);
+        replacement.replace("\"entry\"", "\"replacement\"");
+        replacement.replace("\"signature\"", "\"replacementSignature\"");
+        return replacement.chopped(1) + R"(,"entry":"e30=","signature":")" + QByteArray(86, 'A') + R"(=="})";
+    }
 
     std::array<unsigned char, crypto_sign_PUBLICKEYBYTES> publicHalf{};
     std::array<unsigned char, crypto_sign_SECRETKEYBYTES> secretHalf{};
@@ -44,11 +52,13 @@ struct Signer
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const Signer signer;
-    static const ReleaseKey key = signer.key();
+    static const MakerKeys keys{signer.key(), signer.key()};
     const QByteArray raw(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    if (std::holds_alternative<Release>(readReleaseFeed(raw, key)))
+    if (std::holds_alternative<Release>(readReleaseFeed(raw, keys)))
         std::abort(); // nobody signed it
-    const auto feed = readReleaseFeed(signer.feed(data, size), key);
+    if (std::holds_alternative<Release>(readReleaseFeed(signer.replaced(data, size), keys)))
+        std::abort(); // whatever the new key is, it did not sign the entry
+    const auto feed = readReleaseFeed(signer.feed(data, size), keys);
     const auto *fault = std::get_if<FeedFault>(&feed);
     if (fault && *fault == FeedFault::notSigned)
         std::abort();

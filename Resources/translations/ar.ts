@@ -930,5 +930,13 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a command.</extracomment>
         <translation>لا توجد مفاتيح مرتبطة. في إعدادات سطح المكتب، اربط مفاتيح بالأمر: %1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>انتهت صلاحية قائمة الإصدارات، لذا تم تجاهلها. هل ساعة الجهاز مضبوطة؟</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>تاريخ قائمة الإصدارات في المستقبل، لذا تم تجاهلها. هل ساعة الجهاز مضبوطة؟</translation>
+    </message>
 </context>
 </TS>

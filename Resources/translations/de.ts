@@ -918,5 +918,13 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <extracomment>%1 is a command.</extracomment>
         <translation>Keine Tasten sind zugewiesen. Weise in den Einstellungen des Desktops welche zu: %1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>Die Liste der Versionen ist abgelaufen und wurde deshalb ignoriert. Geht die Uhr richtig?</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>Die Liste der Versionen stammt aus der Zukunft und wurde deshalb ignoriert. Geht die Uhr richtig?</translation>
+    </message>
 </context>
 </TS>

@@ -918,5 +918,13 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
         <extracomment>%1 is a command.</extracomment>
         <translation>No hay teclas asignadas. En los ajustes del escritorio, asigna unas a: %1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>La lista de versiones ha caducado, así que se ha ignorado. ¿Está bien puesto el reloj?</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>La lista de versiones tiene una fecha futura, así que se ha ignorado. ¿Está bien puesto el reloj?</translation>
+    </message>
 </context>
 </TS>

@@ -918,5 +918,13 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <extracomment>%1 is a command.</extracomment>
         <translation>Aucune touche n’est attribuée. Dans les réglages du bureau, attribuez-en à : %1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>La liste des versions a expiré&#x202f;; elle a été ignorée. L’horloge est-elle à l’heure&#x202f;?</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>La liste des versions porte une date future&#x202f;; elle a été ignorée. L’horloge est-elle à l’heure&#x202f;?</translation>
+    </message>
 </context>
 </TS>

@@ -918,5 +918,13 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
         <extracomment>%1 is a command.</extracomment>
         <translation>Nessun tasto è assegnato. Nelle impostazioni del desktop assegnane alcuni a: %1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>L’elenco delle versioni è scaduto, quindi è stato ignorato. L’orologio è giusto?</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>L’elenco delle versioni ha una data futura, quindi è stato ignorato. L’orologio è giusto?</translation>
+    </message>
 </context>
 </TS>

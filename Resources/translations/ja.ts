@@ -915,5 +915,13 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a command.</extracomment>
         <translation>キーが割り当てられていません。デスクトップの設定で、キーを次のコマンドに割り当ててください: %1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>リリースの一覧の有効期限が切れているため、無視されました。時計は合っていますか？</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>リリースの一覧の日付が未来になっているため、無視されました。時計は合っていますか？</translation>
+    </message>
 </context>
 </TS>

@@ -915,5 +915,13 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a command.</extracomment>
         <translation>지정된 키가 없습니다. 데스크톱 설정에서 키를 다음 명령에 지정하세요: %1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>버전 목록이 만료되어 무시했습니다. 시계가 맞나요?</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>버전 목록의 날짜가 미래로 되어 있어 무시했습니다. 시계가 맞나요?</translation>
+    </message>
 </context>
 </TS>

@@ -918,5 +918,13 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
         <extracomment>%1 is a command.</extracomment>
         <translation>Er zijn geen toetsen toegewezen. Wijs ze in de instellingen van het bureaublad toe aan: %1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>De lijst met versies is verlopen en is daarom genegeerd. Staat de klok goed?</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>De lijst met versies heeft een datum in de toekomst en is daarom genegeerd. Staat de klok goed?</translation>
+    </message>
 </context>
 </TS>

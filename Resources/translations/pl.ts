@@ -921,5 +921,13 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
         <extracomment>%1 is a command.</extracomment>
         <translation>Nie przypisano klawiszy. W ustawieniach pulpitu przypisz je do polecenia: %1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>Lista wersji straciła ważność, więc została zignorowana. Czy zegar jest dobrze ustawiony?</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>Lista wersji ma datę z przyszłości, więc została zignorowana. Czy zegar jest dobrze ustawiony?</translation>
+    </message>
 </context>
 </TS>

@@ -918,5 +918,13 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
         <extracomment>%1 is a command.</extracomment>
         <translation>Nenhuma tecla está atribuída. Nas configurações da área de trabalho, atribua alguma a: %1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>A lista de versões expirou e foi ignorada. O relógio está certo?</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>A lista de versões tem uma data futura e foi ignorada. O relógio está certo?</translation>
+    </message>
 </context>
 </TS>

@@ -915,5 +915,13 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a command.</extracomment>
         <translation>未绑定按键。请在桌面设置中将按键绑定到命令：%1</translation>
     </message>
+    <message>
+        <source>The list of releases has expired, so it was ignored. Is the clock set right?</source>
+        <translation>版本列表已过期，已忽略。时钟准确吗？</translation>
+    </message>
+    <message>
+        <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
+        <translation>版本列表的日期在未来，已忽略。时钟准确吗？</translation>
+    </message>
 </context>
 </TS>

@@ -56,7 +56,7 @@ bool Session::start(const QStringList &arguments)
 {
     m_program = std::make_unique<ChildProcess>(m_environment);
     m_program->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    const QStringList line = m_launcher + QStringList{executable()} + arguments;
+    const QStringList line = m_launcher + QStringList{m_executable} + arguments;
     return m_program->launch(line.first(), line.mid(1)) &&
            waitUntil([this] { return !status().isEmpty() || !isRunning(); }) && isRunning();
 }
@@ -64,7 +64,7 @@ bool Session::start(const QStringList &arguments)
 Session::Result Session::command(const QStringList &arguments) const
 {
     ChildProcess process(m_environment);
-    if (!process.launch(executable(), arguments) || !process.waitForFinished(120000))
+    if (!process.launch(m_executable, arguments) || !process.waitForFinished(120000))
         return {};
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
             QString::fromUtf8(process.readAllStandardOutput()),

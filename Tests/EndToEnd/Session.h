@@ -34,6 +34,12 @@ struct Session
     /// Data that the program keeps in its own defaults.
     QByteArray data(const QString &key) const;
 
+    /// The program of this build, or the one that KESTRUNE_PROGRAM names, such as an installed one.
+    static QString executable();
+
+    /// Has another copy of the program started, and asked by the commands.
+    void setExecutable(const QString &file) { m_executable = file; }
+
     /// Has the program started by another, which gets its file and arguments behind its own.
     void setLauncher(const QStringList &launcher) { m_launcher = launcher; }
 
@@ -65,12 +71,11 @@ struct Session
     qint64 ownMemory() const;
 
 private:
-    /// The program of this build, or the one that KESTRUNE_PROGRAM names, such as an installed one.
-    static QString executable();
     QString defaultsFile(const QString &domain) const;
     Kestrune::SqliteUserDefaults read(const QString &domain) const;
 
     QTemporaryDir m_home;
+    QString m_executable = executable();
     QStringList m_launcher;
     QProcessEnvironment m_environment;
     std::unique_ptr<PrivateBus> m_bus;

@@ -17,15 +17,20 @@ private Q_SLOTS:
         write(u"kestrune.deb"_s, m_package);
         m_publicHalf = sign({u"--new-key"_s, m_files.filePath(u"key"_s)}).trimmed();
         QCOMPARE(QByteArray::fromBase64(m_publicHalf).size(), 32);
-        QVERIFY(!sign({u"--new-key"_s, m_files.filePath(u"other key"_s)}).isEmpty());
+        const QByteArray other = sign({u"--new-key"_s, m_files.filePath(u"other key"_s)}).trimmed();
+        const QString offline = m_files.filePath(u"offline key"_s);
+        m_offlineHalf = sign({u"--new-key"_s, offline}).trimmed();
+        write(u"replacement.json"_s, sign({u"--replace-key"_s, offline, u"1"_s, QString::fromLatin1(other)}));
     }
 
     void init()
     {
         m_server.forget();
+        session().setExecutable(QStringLiteral(KESTRUNE_WITH_TEST_FEED));
         QProcessEnvironment &environment = session().environment();
         environment.insert(u"KESTRUNE_FEED"_s, m_server.url(u"/feed"_s).toString());
         environment.insert(u"KESTRUNE_FEED_KEY"_s, QString::fromLatin1(m_publicHalf));
+        environment.insert(u"KESTRUNE_FEED_OFFLINE_KEY"_s, QString::fromLatin1(m_offlineHalf));
         environment.insert(u"PATH"_s, m_files.path() + u':' + environment.value(u"PATH"_s));
         write(u"xdg-open"_s, "#!/bin/sh\necho \"$1\" >> \"$HOME/opened\"\n");
         QFile::setPermissions(m_files.filePath(u"xdg-open"_s), QFile::ReadOwner | QFile::ExeOwner);
@@ -37,6 +42,8 @@ private Q_SLOTS:
     {
         // version: none, and the server is of no use
         columns<QString, QString, bool, bool>();
+        QTest::newRow("key replaced") << m_newer << u"other key"_s << true << true;
+        QTest::newRow("expired") << m_newer << u"key"_s << false << true;
         QTest::newRow("newer") << m_newer << u"key"_s << true << true;
         QTest::newRow("same") << QStringLiteral(KESTRUNE_VERSION) << u"key"_s << false << false;
         QTest::newRow("older") << u"0.0.1"_s << u"key"_s << false << false;
@@ -47,7 +54,8 @@ private Q_SLOTS:
     void whatTheWindowTells()
     {
         const auto [version, key, isNews, offers] = fetched<QString, QString, bool, bool>();
-        m_feed = version.isEmpty() ? WebStandIn::page(404, "gone") : release(version, key);
+        m_feed = version.isEmpty() ? WebStandIn::page(404, "gone")
+                                   : release(version, key, options(QTest::currentDataTag()));
         QVERIFY(stage().run());
         QVERIFY(chooseCheck() && waitUntil([this] { return findWindow(); }));
         QTRY_VERIFY(coloured(kSymbol) > 200); // Not the dots of something under way.
@@ -58,6 +66,19 @@ private Q_SLOTS:
 
         input().tap(XK_Escape);
         QTRY_VERIFY(!findWindow());
+    }
+
+    /// Whoever starts the program that people get cannot choose its feed.
+    void noOtherFeedIsTaken()
+    {
+        session().setExecutable(Session::executable());
+        session().setFlag(u"kestrune"_s, u"kestrune.automaticallyDownloadsUpdates"_s, true);
+        m_feed = release(m_newer, u"key"_s);
+        QVERIFY(stage().run());
+        QVERIFY(waitUntil([this] { return checkEntry().has_value(); }));
+        QCOMPARE(checkEntry()->properties.value(u"enabled"_s), QVariant(false));
+        QVERIFY(chooseCheck());
+        QVERIFY(holdsFor([this] { return m_server.log().isEmpty() && !findWindow(); }, 2000));
     }
 
     void fetchedAndInstalledWhenAsked()
@@ -108,11 +129,21 @@ private:
         script.start(QStringLiteral(KESTRUNE_SIGN_RELEASE), arguments);
         return script.waitForFinished() ? script.readAllStandardOutput() : QByteArray();
     }
-    WebStandIn::Answer release(const QString &version, const QString &key) const
+    QStringList options(const QByteArray &row) const
     {
-        return WebStandIn::page(
-            200, sign({u"--key"_s, m_files.filePath(key), version, m_files.filePath(u"kestrune.deb"_s),
-                       m_server.url(u"/kestrune.deb"_s).toString(), m_files.filePath(u"notes.json"_s)}));
+        if (row == "expired")
+            return {u"--days"_s, u"0"_s};
+        return row == "key replaced"
+                   ? QStringList{u"--replacement"_s, m_files.filePath(u"replacement.json"_s)}
+                   : QStringList();
+    }
+    WebStandIn::Answer release(const QString &version, const QString &key,
+                               const QStringList &options = {}) const
+    {
+        return WebStandIn::page(200, sign(options + QStringList{u"--key"_s, m_files.filePath(key), version,
+                                                                m_files.filePath(u"kestrune.deb"_s),
+                                                                m_server.url(u"/kestrune.deb"_s).toString(),
+                                                                m_files.filePath(u"notes.json"_s)}));
     }
 
     QString kept()
@@ -128,21 +159,23 @@ private:
         call.setArguments(arguments);
         return session().bus().call(call);
     }
-    bool chooseCheck()
+    std::optional<Kestrune::WireLayout> checkEntry()
     {
-        QList<Kestrune::WireLayout> entries;
-        waitUntil([&] {
-            const auto reply = askMenu(u"GetLayout"_s, {0, -1, QStringList()});
-            entries = qdbus_cast<Kestrune::WireLayout>(reply.arguments().value(1)).children;
-            return !entries.isEmpty();
-        });
+        const auto reply = askMenu(u"GetLayout"_s, {0, -1, QStringList()});
+        const auto entries = qdbus_cast<Kestrune::WireLayout>(reply.arguments().value(1)).children;
         for (const Kestrune::WireLayout &entry : entries) {
             if (entry.properties.value(u"label"_s) == u"Check for Updates…"_s)
-                return askMenu(u"Event"_s,
-                               {entry.id, u"clicked"_s, QVariant::fromValue(QDBusVariant(QVariant(0))), 0U})
-                           .type() == QDBusMessage::ReplyMessage;
+                return entry;
         }
-        return false;
+        return {};
+    }
+    bool chooseCheck()
+    {
+        if (!waitUntil([this] { return checkEntry().has_value(); }))
+            return false;
+        const QVariantList clicked{checkEntry()->id, u"clicked"_s,
+                                   QVariant::fromValue(QDBusVariant(QVariant(0))), 0U};
+        return askMenu(u"Event"_s, clicked).type() == QDBusMessage::ReplyMessage;
     }
 
     bool findWindow()
@@ -186,6 +219,7 @@ private:
     const QByteArray m_package = QByteArray(300'000, 'k');
     QTemporaryDir m_files;
     QByteArray m_publicHalf;
+    QByteArray m_offlineHalf;
     WebStandIn::Answer m_feed;
     WebStandIn m_server{[this](const WebStandIn::Request &request) {
         return request.target == "/feed" ? m_feed : WebStandIn::page(200, m_package);

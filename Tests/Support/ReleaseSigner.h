@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCryptographicHash>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QUrl>
@@ -29,19 +30,35 @@ struct ReleaseSigner
 
     QJsonObject entry(const QString &version, const QUrl &address, const QByteArray &package) const
     {
+        const QByteArray hash = QCryptographicHash::hash(package, QCryptographicHash::Sha256);
         const QJsonObject notes{{QStringLiteral("en"), QStringLiteral("New in ") + version}};
         return {{QStringLiteral("version"), version},
+                // The first day of the fake clock.
+                {QStringLiteral("issued"), QStringLiteral("2027-01-15T08:00:00Z")},
+                {QStringLiteral("expires"), QStringLiteral("2027-04-15T08:00:00Z")},
                 {QStringLiteral("notes"), notes},
                 {QStringLiteral("package"), address.toString()},
                 {QStringLiteral("size"), package.size()},
-                {QStringLiteral("signature"), sign(package)}};
+                {QStringLiteral("sha256"), QString::fromLatin1(hash.toHex())}};
     }
 
-    QByteArray feed(const QJsonObject &entry) const
+    /// With what replaced the key that a copy knows, if it was replaced.
+    QByteArray feed(const QJsonObject &entry, const QJsonObject &replacement = {}) const
     {
         const QByteArray text = json(entry);
-        return json({{QStringLiteral("entry"), QString::fromLatin1(text.toBase64())},
-                     {QStringLiteral("signature"), sign(text)}});
+        QJsonObject feed = replacement;
+        feed[QStringLiteral("entry")] = QString::fromLatin1(text.toBase64());
+        feed[QStringLiteral("signature")] = sign(text);
+        return json(feed);
+    }
+
+    /// By the owner of the offline key.
+    QJsonObject replacement(const QJsonValue &number, const QByteArray &key) const
+    {
+        const QByteArray text =
+            json({{QStringLiteral("number"), number}, {QStringLiteral("key"), QString::fromLatin1(key)}});
+        return {{QStringLiteral("replacement"), QString::fromLatin1(text.toBase64())},
+                {QStringLiteral("replacementSignature"), sign(text)}};
     }
 
     static QByteArray json(const QJsonObject &object)

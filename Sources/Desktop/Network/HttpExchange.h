@@ -26,6 +26,8 @@ private:
     void ask(const QNetworkRequest &request);
     void follow(const QUrl &url);
     void read();
+    void pass();
+    int status() const;
     void conclude();
     void giveUp(const char *reason);
     void finish(const HttpReply &reply);
@@ -33,6 +35,9 @@ private:
     QNetworkAccessManager &m_manager;
     Pledge<HttpReply> m_pledge;
     qint64 m_mostBytes;
+    std::shared_ptr<BodySink> m_sink;
+    qint64 m_passed = 0; ///< Bytes that came while it waits.
+    bool m_isOver = false;
     int m_redirections = 0;
     QByteArray m_body;
     QTimer m_deadline;

@@ -46,7 +46,8 @@ QFuture<HttpReply> QtHttpClient::get(const HttpRequest &request)
         if (pledge.isWanted())
             new HttpExchange(managerOn(thread), request, pledge);
     };
-    return m_loop.ask<HttpReply>(request.timeout + kSlack, fetch);
+    LoopThread &loop = request.sink ? m_downloads : m_loop;
+    return loop.ask<HttpReply>(request.timeout + kSlack, fetch);
 }
 
 } // namespace Kestrune

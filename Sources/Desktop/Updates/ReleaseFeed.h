@@ -20,11 +20,23 @@ private:
     QByteArray m_bytes;
 };
 
+/// The keys that a copy was built with.
+struct MakerKeys
+{
+    ReleaseKey everyday; ///< Signs the feed.
+    ReleaseKey offline;  ///< Signs nothing but what replaces the other one.
+};
+
 /// The release of a feed. Its form is JSON:
 ///   {"entry": base64 of the entry, "signature": base64 of the entry's signature}
+/// with two more members once the everyday key was replaced:
+///   {"replacement": base64, "replacementSignature": base64 of its signature with the offline key}
+/// of which the first is JSON again:
+///   {"number": from 1 on, a higher one each time, "key": base64 of the new key's public half}
 /// and the entry, which nothing is read from before its signature was checked, is JSON again:
-///   {"version", "notes": {language: text}, "package": address, "size": bytes, "signature": base64, of the
-///   package}
-std::variant<Release, FeedFault> readReleaseFeed(const QByteArray &feed, const ReleaseKey &key);
+///   {"version", "issued", "expires": times, "notes": {language: text}, "package": address, "size": bytes,
+///   "sha256": of the package, in lower-case hexadecimal digits}
+/// where a time is UTC to the second, as RFC 3339 writes it: 2027-01-15T08:00:00Z.
+std::variant<Release, FeedFault> readReleaseFeed(const QByteArray &feed, const MakerKeys &keys);
 
 } // namespace Kestrune

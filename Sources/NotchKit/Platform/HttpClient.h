@@ -6,9 +6,21 @@
 #include <QUrl>
 
 #include <chrono>
+#include <memory>
 #include <utility>
 
 namespace Kestrune {
+
+/// Takes the body of a reply as it comes, for bodies that are too large for memory.
+class BodySink
+{
+public:
+    virtual ~BodySink() = default;
+
+    /// The next piece; called on a thread of the client's, and may block as a disk does. False gives the
+    /// request up.
+    virtual bool take(const QByteArray &piece) = 0;
+};
 
 /// One GET.
 struct HttpRequest
@@ -17,6 +29,7 @@ struct HttpRequest
     QList<std::pair<QByteArray, QByteArray>> headers; ///< Beyond those that the protocol needs.
     std::chrono::milliseconds timeout;                ///< From the request to the last byte of its reply.
     qint64 mostBytes = 0;                             ///< A longer body, uncompressed, is no reply.
+    std::shared_ptr<BodySink> sink = nullptr; ///< Gets the body of a good reply; any other is dropped.
 
     bool operator==(const HttpRequest &) const = default;
 };
@@ -25,7 +38,7 @@ struct HttpRequest
 struct HttpReply
 {
     int status = 0;  ///< The server's status; 0 where there is no whole reply, for whatever reason.
-    QByteArray body; ///< Uncompressed; empty with status 0.
+    QByteArray body; ///< Uncompressed; empty with status 0, and where it went into a sink.
 
     /// The server gave what it was asked for.
     bool isGood() const { return status >= 200 && status < 300; }

@@ -1,13 +1,16 @@
 #pragma once
 
+#include "HttpClient.h"
 #include "SemanticVersion.h"
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QFuture>
 #include <QMap>
 #include <QString>
 #include <QUrl>
 
+#include <memory>
 #include <variant>
 
 namespace Kestrune {
@@ -17,10 +20,13 @@ struct Release
 {
     QString text; ///< The version as the feed writes it.
     SemanticVersion version;
+    int keyNumber = 0;            ///< Of the key that signed it: how often the makers had replaced theirs.
+    QDateTime issued;             ///< UTC, as the next.
+    QDateTime expires;            ///< From then on nothing of this is to be believed.
     QMap<QString, QString> notes; ///< What is new, by language code; English under "en".
     QUrl package;                 ///< https, or on this computer.
     qint64 size = 0;              ///< Bytes of the package.
-    QByteArray packageSignature;  ///< Of the package's bytes.
+    QByteArray packageHash;       ///< SHA-256 of the package's bytes.
 
     /// What the package is saved as: a plain name, never a path.
     QString fileName() const;
@@ -39,7 +45,7 @@ enum class FeedFault {
 class Releases
 {
 public:
-    enum class Kept { notSaved, notSigned, kept };
+    enum class Kept { notSaved, notFetched, notSigned, kept };
 
     virtual ~Releases() = default;
 
@@ -49,8 +55,11 @@ public:
     /// Whether the release's package is there, whole and as it was signed.
     virtual QFuture<bool> holds(const Release &release) = 0;
 
-    /// Takes in a package whose signature is right, in place of all others.
-    virtual QFuture<Kept> keep(const Release &release, const QByteArray &package) = 0;
+    /// What the release's package is to be fetched into, in place of all others.
+    virtual std::shared_ptr<BodySink> receive(const Release &release) = 0;
+
+    /// Keeps what was received last, if it `isWhole` and is what was signed.
+    virtual QFuture<Kept> keep(bool isWhole) = 0;
 
     /// The kept package.
     virtual QUrl file(const Release &release) const = 0;

@@ -19,8 +19,15 @@ constexpr std::chrono::milliseconds kPackagePatience = 30min;
 constexpr std::chrono::milliseconds kFirstLook = 1min; // after the start, when the machine has settled
 constexpr std::chrono::milliseconds kPause = 24h;
 
+/// Plain http is for a feed that is on this computer itself.
+bool mayComeFrom(const QUrl &package, const QUrl &feed)
+{
+    return package.scheme() == QLatin1String("https") || package.scheme() == feed.scheme();
+}
+
 QString automaticKey() { return QStringLiteral("kestrune.automaticallyDownloadsUpdates"); }
 QString newestKey() { return QStringLiteral("kestrune.newestRelease"); }
+QString keyNumberKey() { return QStringLiteral("kestrune.releaseKeyNumber"); }
 
 } // namespace
 
@@ -102,9 +109,10 @@ std::optional<Release> FeedUpdater::takeFeed(const HttpReply &reply)
     qCDebug(updatesLog, "the feed: status %d, %lld bytes", reply.status,
             static_cast<long long>(reply.body.size()));
     const auto feed = reply.isGood() ? m_releases->read(reply.body) : FeedFault::unreadable;
-    if (const auto *release = std::get_if<Release>(&feed))
+    const auto *release = std::get_if<Release>(&feed);
+    if (release && mayComeFrom(release->package, m_source.feed))
         return *release;
-    if (std::get<FeedFault>(feed) == FeedFault::notSigned)
+    if (!release && std::get<FeedFault>(feed) == FeedFault::notSigned)
         fail(QT_TRANSLATE_NOOP(
             "notch", "The list of releases is not signed by Kestrune’s makers, so it was ignored."));
     else
@@ -112,19 +120,57 @@ std::optional<Release> FeedUpdater::takeFeed(const HttpReply &reply)
     return std::nullopt;
 }
 
+/// Whether what was said of it still holds, by this computer's clock, which may be off by a day. The user is
+/// told where it does not.
+bool FeedUpdater::isOfNow(const Release &release)
+{
+    const QDateTime now = m_platform.clock.now();
+    if (release.expires <= now)
+        fail(QT_TRANSLATE_NOOP(
+            "notch", "The list of releases has expired, so it was ignored. Is the clock set right?"));
+    else if (release.issued > now.addDays(1))
+        fail(QT_TRANSLATE_NOOP(
+            "notch",
+            "The list of releases is dated in the future, so it was ignored. Is the clock set right?"));
+    else
+        return true;
+    return false;
+}
+
+/// Whether somebody plays back a feed of long ago, which was signed then, or signs with a key that was
+/// replaced.
+bool FeedUpdater::isPlayedBack(const Release &release) const
+{
+    const qint64 keyNumber = m_platform.defaults.value<qint64>(keyNumberKey()).value_or(0);
+    // Whoever had the key before may have told of any version.
+    if (release.keyNumber != keyNumber)
+        return release.keyNumber < keyNumber;
+    const auto newest =
+        SemanticVersion::parse(m_platform.defaults.value<QString>(newestKey()).value_or(QString()));
+    return newest && release.version < *newest;
+}
+
+void FeedUpdater::remember(const Release &release)
+{
+    UserDefaults &defaults = m_platform.defaults;
+    if (defaults.value<QString>(newestKey()) != release.text)
+        defaults.setObject(newestKey(), release.text);
+    // Last: with the new number and the old version, what the makers tell would be refused.
+    if (defaults.value<qint64>(keyNumberKey()).value_or(0) != release.keyNumber)
+        defaults.setObject(keyNumberKey(), qint64{release.keyNumber});
+}
+
 /// Whether it is one to offer.
 bool FeedUpdater::takeRelease(const Release &release)
 {
-    const auto newest =
-        SemanticVersion::parse(m_platform.defaults.value<QString>(newestKey()).value_or(QString()));
-    if (newest && release.version < *newest) {
-        // Somebody plays back a feed of long ago, which was signed then.
+    if (!isOfNow(release))
+        return false;
+    if (isPlayedBack(release)) {
         fail(QT_TRANSLATE_NOOP("notch",
                                "The list of releases is older than one seen before, so it was ignored."));
         return false;
     }
-    if (newest != release.version)
-        m_platform.defaults.setObject(newestKey(), release.text);
+    remember(release);
     if (release.version <= m_source.version) {
         enter(Phase::current);
         return false;
@@ -147,14 +193,11 @@ void FeedUpdater::fetchUpdate()
 QCoro::Task<> FeedUpdater::fetch()
 {
     enter(Phase::fetching);
-    const HttpRequest request{m_release.package, {}, kPackagePatience, m_release.size};
+    const HttpRequest request{
+        m_release.package, {}, kPackagePatience, m_release.size, m_releases->receive(m_release)};
     const QFuture<HttpReply> asked = m_platform.http.get(request);
     const HttpReply reply = co_await until(asked);
-    if (!reply.isGood() || reply.body.size() != m_release.size) {
-        fail(QT_TRANSLATE_NOOP("notch", "The update could not be downloaded. Are you online?"));
-        co_return;
-    }
-    const QFuture<Releases::Kept> saving = m_releases->keep(m_release, reply.body);
+    const QFuture<Releases::Kept> saving = m_releases->keep(reply.isGood());
     const Releases::Kept outcome = co_await until(saving);
     takeOutcome(outcome);
 }
@@ -164,6 +207,9 @@ void FeedUpdater::takeOutcome(Releases::Kept outcome)
     switch (outcome) {
     case Releases::Kept::kept:
         enterReady();
+        return;
+    case Releases::Kept::notFetched:
+        fail(QT_TRANSLATE_NOOP("notch", "The update could not be downloaded. Are you online?"));
         return;
     case Releases::Kept::notSigned:
         fail(QT_TRANSLATE_NOOP("notch",
@@ -184,6 +230,8 @@ void FeedUpdater::installUpdate()
 QCoro::Task<> FeedUpdater::install()
 {
     // It may have lain there for days.
+    if (!isOfNow(m_release))
+        co_return;
     const QFuture<bool> search = m_releases->holds(m_release);
     const bool isHere = co_await until(search);
     if (isHere)

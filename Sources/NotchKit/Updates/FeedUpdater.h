@@ -48,6 +48,9 @@ private:
     QCoro::Task<> look();
     std::optional<Release> takeFeed(const HttpReply &reply);
     bool takeRelease(const Release &release);
+    bool isOfNow(const Release &release);
+    bool isPlayedBack(const Release &release) const;
+    void remember(const Release &release);
     QCoro::Task<> fetch();
     QCoro::Task<> install();
     void takeOutcome(Releases::Kept outcome);

@@ -72,6 +72,22 @@ qint64 peakMemory()
     return 0;
 }
 
+/// Counts what goes into it, and takes at most so much.
+struct CountingSink : BodySink
+{
+    explicit CountingSink(qint64 most = std::numeric_limits<qint64>::max())
+        : room(most)
+    {}
+    bool take(const QByteArray &piece) override
+    {
+        taken += piece.size();
+        return taken <= room;
+    }
+
+    qint64 room;
+    std::atomic<qint64> taken = 0;
+};
+
 } // namespace
 
 /// The adapter against a server of the test's own, polite and otherwise.
@@ -178,6 +194,47 @@ private Q_SLOTS:
         QVERIFY2(grown < 100'000, qPrintable(QString::number(grown)));
     }
 
+    void intoASink_data()
+    {
+        // status: 0 for no reply; taken: bytes that went into the sink
+        const auto row = columns<WebStandIn::Answer, qint64, int, qint64>();
+        const Answer page = WebStandIn::page(200, QByteArray(5000, 'x'));
+        row("whole", page, 9000, 200, 5000);
+        row("not found", WebStandIn::page(404, QByteArray(5000, 'x')), 9000, 404, 0);
+        row("not found, endless", WebStandIn::page(404, QByteArray(kMost + 1, 'x')), 9000, 0, 0);
+        row("to http", WebStandIn::page(302, "moved", "Location: /other\r\n"), 9000, 0, 0);
+        row("full", page, 100, 0, 5000);
+        row("packed", WebStandIn::page(200, zeros(5000), "Content-Encoding: gzip\r\n"), 9000, 200,
+            zeros(5000).size());
+        row("truncated", ended({page.bytes.chopped(1)}, End::close), 9000, 0, 4999);
+    }
+    void intoASink()
+    {
+        const auto [answer, room, status, taken] = fetched<WebStandIn::Answer, qint64, int, qint64>();
+        const WebStandIn server([&](const auto &) { return answer; });
+        QtHttpClient client;
+        const auto sink = std::make_shared<CountingSink>(room);
+        const HttpReply reply = fetch(client, server.url(u"/"_s), 60s, sink);
+        QCOMPARE(reply.status, status);
+        QCOMPARE(reply.body, "");
+        QCOMPARE(sink->taken, taken);
+        QCOMPARE(server.log().constFirst().header("accept-encoding"), "identity");
+    }
+
+    /// A piece is passed on when it is there, not when all are.
+    void intoASinkAsItComes()
+    {
+        const QByteArray page = WebStandIn::page(200, QByteArray(5000, 'x')).bytes;
+        const WebStandIn server([&](const auto &) { return Answer{page.chopped(2500)}; });
+        QtHttpClient client;
+        const auto sink = std::make_shared<CountingSink>();
+        auto reply = client.get({server.url(u"/"_s), {}, 1h, kMost, sink});
+        QTRY_COMPARE(sink->taken, 2500);
+        QVERIFY(!reply.isFinished());
+        reply.cancel();
+        QTRY_COMPARE(sink.use_count(), 1);
+    }
+
     void cancelledAndLeftBehind()
     {
         const WebStandIn server([](const auto &) { return Answer{}; }); // silent
@@ -199,6 +256,8 @@ private Q_SLOTS:
             [](const WebStandIn::Request &request) {
                 if (request.target == "/loop")
                     return WebStandIn::page(302, {}, "Location: /loop\r\n");
+                if (request.target == "/large")
+                    return WebStandIn::page(200, QByteArray(5'000'000, 'x'));
                 return request.target == "/moved" ? WebStandIn::page(301, {}, "Location: /here\r\n")
                                                   : WebStandIn::page(200, "secret");
             },
@@ -214,6 +273,11 @@ private Q_SLOTS:
         QSslConfiguration::setDefaultConfiguration(trusting);
         QtHttpClient client;
         QCOMPARE(fetch(client, server.url(u"/moved"_s)).body, "secret");
+        const auto sink = std::make_shared<CountingSink>();
+        const auto large = client.get({server.url(u"/large"_s), {}, 60s, 5'000'000, sink});
+        QTRY_VERIFY_WITH_TIMEOUT(large.isFinished(), 120'000);
+        QCOMPARE(large.result().status, 200);
+        QCOMPARE(sink->taken, 5'000'000);
         QUrl otherName = server.url(u"/here"_s);
         otherName.setHost(u"localhost"_s);
         QCOMPARE(fetch(client, otherName).status, 0);
@@ -242,9 +306,10 @@ private Q_SLOTS:
     }
 
 private:
-    static HttpReply fetch(HttpClient &client, const QUrl &url, std::chrono::milliseconds timeout = 60s)
+    static HttpReply fetch(HttpClient &client, const QUrl &url, std::chrono::milliseconds timeout = 60s,
+                           const std::shared_ptr<BodySink> &sink = nullptr)
     {
-        const auto future = client.get({url, {}, timeout, kMost});
+        const auto future = client.get({url, {}, timeout, kMost, sink});
         return QTest::qWaitFor([&] { return future.isFinished(); }, 120'000) && !future.isCanceled()
                    ? future.result()
                    : HttpReply{-1, {}};

@@ -8,6 +8,8 @@
 
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -22,8 +24,7 @@ struct Stage : Fakes::Platform
     /// Without another word the updater is more patient than the slowest machine needs.
     explicit Stage(std::chrono::milliseconds patience = 60s)
         : updater({server.url(u"/feed"_s), *SemanticVersion::parse(u"1.2.0"_s), patience},
-                  std::make_unique<SignedReleases>(*ReleaseKey::fromBase64(signer.publicHalf()),
-                                                   folder.filePath(u"updates"_s)),
+                  std::make_unique<SignedReleases>(keys(), folder.filePath(u"updates"_s)),
                   ports({.http = &client}))
     {
         QObject::connect(&updater, &Updater::changed, &updater, [this] {
@@ -33,6 +34,10 @@ struct Stage : Fakes::Platform
         });
     }
 
+    MakerKeys keys() const
+    {
+        return {*ReleaseKey::fromBase64(signer.publicHalf()), *ReleaseKey::fromBase64(offline.publicHalf())};
+    }
     QJsonObject entry(const QString &version) const
     {
         return signer.entry(version, server.url(u"/kestrune.deb"_s), kPackage);
@@ -57,6 +62,7 @@ struct Stage : Fakes::Platform
     }
 
     ReleaseSigner signer;
+    ReleaseSigner offline;
     Reply feed; ///< Changed between requests only.
     Reply package = WebStandIn::page(200, kPackage);
     WebStandIn server{[this](const auto &request) { return request.target == "/feed" ? feed : package; }};
@@ -67,6 +73,12 @@ struct Stage : Fakes::Platform
     FeedUpdater updater;
     QSignalSpy attention{&updater, &Updater::attentionWanted};
 };
+
+mode_t modeOf(const QString &path)
+{
+    struct stat is = {};
+    return ::stat(path.toLocal8Bit().constData(), &is) == 0 ? is.st_mode & 07777 : 0;
+}
 
 /// As long as it lives, no file can grow beyond a few bytes.
 struct FullDisk
@@ -124,7 +136,7 @@ private Q_SLOTS:
         const auto raw = [](const Reply &reply) { return [reply](const Stage &) { return reply; }; };
         const auto with = [](const QString &key, const QJsonValue &value) {
             return [key, value](const Stage &stage) {
-                QJsonObject entry = stage.entry(u"9.0.0"_s);
+                QJsonObject entry = stage.entry(u"1.3.0"_s);
                 entry[key] = value;
                 return stage.page(entry);
             };
@@ -161,7 +173,16 @@ private Q_SLOTS:
         row("package without a name", Phase::failed, with(u"package"_s, u"https://host/a%2F..%2F.."_s));
         row("no version", Phase::failed, with(u"version"_s, 9));
         row("no size", Phase::failed, with(u"size"_s, -1));
-        row("no signature", Phase::failed, with(u"signature"_s, u"?"_s));
+        row("no hash", Phase::failed, with(u"sha256"_s, u"?"_s));
+        row("expires in a second", Phase::available, with(u"expires"_s, u"2027-01-15T08:00:01Z"_s));
+        row("expired", Phase::failed, with(u"expires"_s, u"2027-01-15T08:00:00Z"_s));
+        row("of tomorrow", Phase::available, with(u"issued"_s, u"2027-01-16T08:00:00Z"_s));
+        row("of the future", Phase::failed, with(u"issued"_s, u"2027-01-16T08:00:01Z"_s));
+        row("never issued", Phase::failed, with(u"issued"_s, QJsonValue()));
+        row("expires never", Phase::failed, with(u"expires"_s, QJsonValue()));
+        row("expires somewhere", Phase::failed, with(u"expires"_s, u"2027-04-15T08:00:00"_s));
+        row("expires elsewhere", Phase::failed, with(u"expires"_s, u"2027-04-15T08:00:00+01:00"_s));
+        row("expires on no day", Phase::failed, with(u"expires"_s, u"2027-02-30T08:00:00Z"_s));
     }
     void feeds()
     {
@@ -175,12 +196,106 @@ private Q_SLOTS:
         QVERIFY(!stage.server.targets().contains("/kestrune.deb")); // nothing is fetched unasked
     }
 
+    /// Plain http is for tests, whose feed comes that way itself.
+    void aPackageOverPlainHttp_data() { noAndYes("https", "http"); }
+    void aPackageOverPlainHttp()
+    {
+        const auto [plain] = fetched<bool>();
+        Stage stage;
+        const QUrl feed(u"https://host/feed"_s);
+        const QUrl package((plain ? u"http"_s : u"https"_s) + u"://127.0.0.1:1/kestrune.deb"_s);
+        const QByteArray text = stage.signer.feed(stage.signer.entry(u"1.3.0"_s, package, kPackage));
+        stage.http.replies[feed.toString()] = {200, text};
+        FeedUpdater updater({feed, *SemanticVersion::parse(u"1.2.0"_s)},
+                            std::make_unique<SignedReleases>(stage.keys(), stage.path), stage.ports());
+        updater.checkForUpdates();
+        QTRY_COMPARE(updater.status().phase, plain ? Phase::failed : Phase::available);
+    }
+
     void anOldFeedIsNotPlayedBack()
     {
         Stage stage;
         QCOMPARE(stage.check(u"1.4.0"_s), Phase::available);
         QCOMPARE(stage.check(u"1.3.0"_s), Phase::failed);
         QCOMPARE(stage.check(u"1.4.0"_s), Phase::available);
+        QJsonObject expired = stage.entry(u"9.0.0"_s);
+        expired[u"expires"_s] = expired[u"issued"_s];
+        QCOMPARE(stage.check(stage.page(expired)), Phase::failed);
+        QCOMPARE(stage.check(u"1.4.0"_s), Phase::available); // What is not believed is not remembered.
+    }
+
+    void aReplacedKey()
+    {
+        Stage stage;
+        const ReleaseSigner second;
+        const ReleaseSigner third;
+        const auto check = [&](const ReleaseSigner &signer, int number, const QString &version) {
+            const QJsonObject replacement = stage.offline.replacement(number, signer.publicHalf());
+            return stage.check(WebStandIn::page(200, signer.feed(stage.entry(version), replacement)));
+        };
+        QCOMPARE(stage.check(u"9.0.0"_s), Phase::available); // By a thief.
+        QCOMPARE(check(second, 1, u"1.3.0"_s), Phase::available);
+        QCOMPARE(check(second, 1, u"1.2.9"_s), Phase::failed);
+        QCOMPARE(stage.check(u"9.1.0"_s), Phase::failed);
+        QCOMPARE(check(third, 3, u"1.4.0"_s), Phase::available);
+        QCOMPARE(check(second, 1, u"9.2.0"_s), Phase::failed);
+        QCOMPARE(check(third, 3, u"1.4.0"_s), Phase::available);
+    }
+
+    void wrongReplacements_data()
+    {
+        const auto row = columns<std::function<QJsonObject(const Stage &, const QByteArray &)>>();
+        const auto numbered = [](const QJsonValue &number) {
+            return [number](const Stage &stage, const QByteArray &key) {
+                return stage.offline.replacement(number, key);
+            };
+        };
+        const auto without = [](const QString &member) {
+            return [member](const Stage &stage, const QByteArray &key) {
+                QJsonObject replacement = stage.offline.replacement(1, key);
+                replacement[member] = QJsonValue::Null;
+                return replacement;
+            };
+        };
+        row("none", [](const Stage &, const QByteArray &) { return QJsonObject(); });
+        row("by the everyday key",
+            [](const Stage &stage, const QByteArray &key) { return stage.signer.replacement(1, key); });
+        row("with another key", [](const Stage &stage, const QByteArray &) {
+            return stage.offline.replacement(1, ReleaseSigner().publicHalf());
+        });
+        row("with no key", [](const Stage &stage, const QByteArray &key) {
+            return stage.offline.replacement(1, key.chopped(4));
+        });
+        row("number 0", numbered(0));
+        row("number 1.5", numbered(1.5));
+        row("a text as number", numbered(u"1"_s));
+        row("an endless number", numbered(1e300));
+        row("no signature", without(u"replacementSignature"_s));
+        row("no text", without(u"replacement"_s));
+    }
+    /// None makes a copy believe another key, nor the old one less.
+    void wrongReplacements()
+    {
+        const auto [make] = fetched<std::function<QJsonObject(const Stage &, const QByteArray &)>>();
+        Stage stage;
+        const ReleaseSigner other;
+        const QJsonObject replacement = make(stage, other.publicHalf());
+        QCOMPARE(stage.check(WebStandIn::page(200, other.feed(stage.entry(u"1.3.0"_s), replacement))),
+                 Phase::failed);
+        QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
+    }
+
+    void aPackageThatWaitsTooLong()
+    {
+        Stage stage;
+        QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
+        stage.updater.fetchUpdate();
+        QCOMPARE(stage.settled(), Phase::ready);
+        stage.clock.advance(24h * 90);
+        stage.updater.installUpdate();
+        QTRY_COMPARE(stage.updater.status().phase, Phase::failed);
+        QVERIFY(stage.updater.status().message.contains(u"expired"_s));
+        QVERIFY(stage.workspace.opened.isEmpty());
     }
 
     void packages_data()
@@ -212,25 +327,69 @@ private Q_SLOTS:
         QCOMPARE(QFile::exists(stage.path), phase == Phase::ready);
     }
 
-    void aDiskThatTakesNothing_data() { noAndYes("unwritable", "full"); }
+    void aDiskThatTakesNothing_data()
+    {
+        const auto row = columns<QString>();
+        for (const char *name : {"unwritable", "full", "linked"})
+            row(name, QString::fromLatin1(name));
+    }
     void aDiskThatTakesNothing()
     {
-        const auto [full] = fetched<bool>();
+        const auto [kind] = fetched<QString>();
         Stage stage;
         QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
-        QVERIFY(full || writeFile(stage.folder.filePath(u"updates"_s)));
+        const QString place = stage.folder.filePath(u"updates"_s);
+        const QTemporaryDir elsewhere; // What a link leads to is left alone.
+        QVERIFY(writeFile(elsewhere.filePath(u"kestrune.deb"_s), "precious"));
+        QVERIFY(kind != u"unwritable" || writeFile(place));
+        QVERIFY(kind != u"linked" || QFile::link(elsewhere.path(), place));
         {
-            const std::optional<FullDisk> disk = full ? std::make_optional<FullDisk>() : std::nullopt;
+            const std::optional<FullDisk> disk =
+                kind == u"full" ? std::make_optional<FullDisk>() : std::nullopt;
             stage.updater.fetchUpdate();
             QCOMPARE(stage.settled(), Phase::failed);
         }
         QVERIFY(stage.updater.status().message.contains(u"disk"_s));
-        QVERIFY(!QFile::exists(stage.path));
+        QVERIFY(kind == u"linked" || !QFile::exists(stage.path));
+        QCOMPARE(QDir(elsewhere.path()).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{u"kestrune.deb"_s});
+        QCOMPARE(readFile(elsewhere.filePath(u"kestrune.deb"_s)), "precious");
     }
 
+    void aKeptPackage_data()
+    {
+        const auto row = columns<std::function<void(const QString &)>>();
+        row("changed", [](const QString &path) {
+            QFile file(path);
+            QCOMPARE(modeOf(path), 0400U);
+            QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+            QVERIFY(file.open(QFile::ReadWrite) && file.write("b") == 1);
+        });
+        row("a link to the like", [](const QString &path) {
+            QVERIFY(QFile::rename(path, path + u'2') && QFile::link(path + u'2', path));
+        });
+        row("with a second name", [](const QString &path) {
+            QCOMPARE(::link(path.toLocal8Bit().constData(), (path + u'2').toLocal8Bit().constData()), 0);
+        });
+        row("in a linked folder", [](const QString &path) {
+            const QString folder = QFileInfo(path).path();
+            QVERIFY(QFile::rename(folder, folder + u'2') && QFile::link(folder + u'2', folder));
+        });
+        row("in a folder for all", [](const QString &path) {
+            const QString folder = QFileInfo(path).path();
+            const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+            QCOMPARE(modeOf(folder), 0700U);
+            QVERIFY(QFile::setPermissions(folder, owner | QFile::WriteOther | QFile::ExeOther));
+        });
+        row("a pipe", [](const QString &path) {
+            QVERIFY(QFile::remove(path));
+            QCOMPARE(::mkfifo(path.toLocal8Bit().constData(), S_IRUSR | S_IWUSR), 0);
+        });
+    }
     /// It is fetched once, and opened only as it was signed.
     void aKeptPackage()
     {
+        const auto [spoil] = fetched<std::function<void(const QString &)>>();
         Stage stage;
         QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
         stage.updater.installUpdate();
@@ -242,9 +401,7 @@ private Q_SLOTS:
         stage.updater.installUpdate();
         QTRY_COMPARE(stage.workspace.opened, QList{QUrl::fromLocalFile(stage.path)});
 
-        QFile file(stage.path);
-        QVERIFY(file.open(QFile::ReadWrite) && file.write("b") == 1);
-        file.close();
+        spoil(stage.path);
         stage.updater.installUpdate();
         QTRY_COMPARE(stage.updater.status().phase, Phase::failed);
         QCOMPARE(stage.workspace.opened.size(), 1);
