@@ -930,5 +930,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a command.</extracomment>
         <translation>لا توجد مفاتيح مرتبطة. في إعدادات سطح المكتب، اربط مفاتيح بالأمر: %1</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>«%1»</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>تعذرت قراءة ما يلي بالكامل: %1</translation>
+    </message>
 </context>
 </TS>

@@ -918,5 +918,15 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <extracomment>%1 is a command.</extracomment>
         <translation>Keine Tasten sind zugewiesen. Weise in den Einstellungen des Desktops welche zu: %1</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Nicht vollständig lesbar: %1</translation>
+    </message>
 </context>
 </TS>

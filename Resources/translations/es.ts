@@ -918,5 +918,15 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
         <extracomment>%1 is a command.</extracomment>
         <translation>No hay teclas asignadas. En los ajustes del escritorio, asigna unas a: %1</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>No se ha podido leer por completo: %1</translation>
+    </message>
 </context>
 </TS>

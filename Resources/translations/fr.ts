@@ -918,5 +918,15 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <extracomment>%1 is a command.</extracomment>
         <translation>Aucune touche n’est attribuée. Dans les réglages du bureau, attribuez-en à : %1</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>«&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Lecture incomplète&#x202f;: %1</translation>
+    </message>
 </context>
 </TS>

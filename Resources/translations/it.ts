@@ -918,5 +918,15 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
         <extracomment>%1 is a command.</extracomment>
         <translation>Nessun tasto è assegnato. Nelle impostazioni del desktop assegnane alcuni a: %1</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Impossibile leggere per intero: %1</translation>
+    </message>
 </context>
 </TS>

@@ -915,5 +915,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a command.</extracomment>
         <translation>キーが割り当てられていません。デスクトップの設定で、キーを次のコマンドに割り当ててください: %1</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>完全には読み込めませんでした：%1</translation>
+    </message>
 </context>
 </TS>

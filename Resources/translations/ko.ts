@@ -915,5 +915,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a command.</extracomment>
         <translation>지정된 키가 없습니다. 데스크톱 설정에서 키를 다음 명령에 지정하세요: %1</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>‘%1’</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>완전히 읽지 못함: %1</translation>
+    </message>
 </context>
 </TS>

@@ -918,5 +918,15 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
         <extracomment>%1 is a command.</extracomment>
         <translation>Er zijn geen toetsen toegewezen. Wijs ze in de instellingen van het bureaublad toe aan: %1</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>‘%1’</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Niet volledig leesbaar: %1</translation>
+    </message>
 </context>
 </TS>

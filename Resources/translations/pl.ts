@@ -921,5 +921,15 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
         <extracomment>%1 is a command.</extracomment>
         <translation>Nie przypisano klawiszy. W ustawieniach pulpitu przypisz je do polecenia: %1</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>„%1”</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Nie udało się w całości odczytać: %1</translation>
+    </message>
 </context>
 </TS>

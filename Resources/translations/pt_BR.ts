@@ -918,5 +918,15 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
         <extracomment>%1 is a command.</extracomment>
         <translation>Nenhuma tecla está atribuída. Nas configurações da área de trabalho, atribua alguma a: %1</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Não foi possível ler por completo: %1</translation>
+    </message>
 </context>
 </TS>
