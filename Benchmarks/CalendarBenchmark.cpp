@@ -69,6 +69,7 @@ public:
     {
         return *(lastTasks = m_store.incompleteReminders());
     }
+    QFuture<QStringList> unread() override { return m_store.unread(); }
     QFuture<bool> complete(const QString &id) override { return m_store.complete(id); }
 
     std::optional<QFuture<std::optional<Events>>> lastEvents; ///< Nothing until it is asked for.

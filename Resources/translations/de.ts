@@ -926,5 +926,15 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
         <translation>Die Liste der Versionen stammt aus der Zukunft und wurde deshalb ignoriert. Geht die Uhr richtig?</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>„%1“</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Nicht vollständig lesbar: %1</translation>
+    </message>
 </context>
 </TS>

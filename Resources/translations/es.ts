@@ -926,5 +926,15 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
         <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
         <translation>La lista de versiones tiene una fecha futura, así que se ha ignorado. ¿Está bien puesto el reloj?</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>No se ha podido leer por completo: %1</translation>
+    </message>
 </context>
 </TS>

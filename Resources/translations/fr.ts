@@ -926,5 +926,15 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
         <translation>La liste des versions porte une date future&#x202f;; elle a été ignorée. L’horloge est-elle à l’heure&#x202f;?</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>«&#x202f;%1&#x202f;»</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Lecture incomplète&#x202f;: %1</translation>
+    </message>
 </context>
 </TS>

@@ -926,5 +926,15 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
         <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
         <translation>L’elenco delle versioni ha una data futura, quindi è stato ignorato. L’orologio è giusto?</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Impossibile leggere per intero: %1</translation>
+    </message>
 </context>
 </TS>

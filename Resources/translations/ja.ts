@@ -923,5 +923,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
         <translation>リリースの一覧の日付が未来になっているため、無視されました。時計は合っていますか？</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>「%1」</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>完全には読み込めませんでした：%1</translation>
+    </message>
 </context>
 </TS>

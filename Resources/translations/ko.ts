@@ -923,5 +923,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
         <translation>버전 목록의 날짜가 미래로 되어 있어 무시했습니다. 시계가 맞나요?</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>‘%1’</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>완전히 읽지 못함: %1</translation>
+    </message>
 </context>
 </TS>

@@ -926,5 +926,15 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
         <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
         <translation>De lijst met versies heeft een datum in de toekomst en is daarom genegeerd. Staat de klok goed?</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>‘%1’</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Niet volledig leesbaar: %1</translation>
+    </message>
 </context>
 </TS>

@@ -929,5 +929,15 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
         <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
         <translation>Lista wersji ma datę z przyszłości, więc została zignorowana. Czy zegar jest dobrze ustawiony?</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>„%1”</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Nie udało się w całości odczytać: %1</translation>
+    </message>
 </context>
 </TS>

@@ -926,5 +926,15 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
         <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
         <translation>A lista de versões tem uma data futura e foi ignorada. O relógio está certo?</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>Não foi possível ler por completo: %1</translation>
+    </message>
 </context>
 </TS>

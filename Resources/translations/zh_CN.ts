@@ -923,5 +923,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>The list of releases is dated in the future, so it was ignored. Is the clock set right?</source>
         <translation>版本列表的日期在未来，已忽略。时钟准确吗？</translation>
     </message>
+    <message>
+        <source>“%1”</source>
+        <extracomment>The name of a calendar in quotation marks.</extracomment>
+        <translation>“%1”</translation>
+    </message>
+    <message>
+        <source>Could not be read in full: %1</source>
+        <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
+        <translation>无法完整读取：%1</translation>
+    </message>
 </context>
 </TS>

@@ -130,6 +130,28 @@ private Q_SLOTS:
         QVERIFY(stage.model.eventsKnown() && stage.model.remindersKnown());
     }
 
+    void whatCannotBeReadIsNamed()
+    {
+        Stage stage;
+        const auto answer = [&](const QStringList &names) {
+            stage.answer(CalendarStore::Events(), CalendarStore::Tasks());
+            stage.calendars.unreadQuestions.answerLast(names);
+            stage.settle();
+            return CalendarFormat::unread(stage.model.unread());
+        };
+        const QString both = answer({u"%1"_s, u"עבודה"_s});
+        QCOMPARE(QString(both).remove(QRegularExpression(u"[\u2068\u2069]"_s)),
+                 u"Could not be read in full: “%1”, “עבודה”"_s);
+        QVERIFY(both.contains(u"“\u2068עבודה\u2069”"_s));
+        stage.model.refresh();
+        QCOMPARE(answer({}), QString());
+        stage.model.refresh();
+        answer({u"Work"_s});
+        stage.model.refresh();
+        stage.grant(Access::denied, Access::full);
+        QCOMPARE(stage.model.unread(), QStringList());
+    }
+
     void onlyTheNewestAnswerCounts()
     {
         Stage stage;

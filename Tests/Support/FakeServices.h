@@ -139,6 +139,7 @@ struct FakeCalendars : CalendarStore
         return eventQuestions.ask();
     }
     QFuture<std::optional<Tasks>> incompleteReminders() override { return reminderQuestions.ask(); }
+    QFuture<QStringList> unread() override { return unreadQuestions.ask(); }
     QFuture<bool> complete(const QString &id) override
     {
         completed.append(id);
@@ -149,6 +150,7 @@ struct FakeCalendars : CalendarStore
     std::map<CalendarEntity, Questions<bool>> requests;
     Questions<std::optional<Events>> eventQuestions;
     Questions<std::optional<Tasks>> reminderQuestions;
+    Questions<QStringList> unreadQuestions;
     Questions<bool> completions;
     QList<std::pair<QDateTime, QDateTime>> ranges;
     QStringList completed;

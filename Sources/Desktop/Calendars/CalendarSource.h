@@ -20,6 +20,8 @@ public:
     /// As CalendarStore has them.
     virtual std::optional<CalendarStore::Events> events(const IcalRange &range) = 0;
     virtual std::optional<CalendarStore::Tasks> openTasks() = 0;
+    /// Names as their calendars have them, however long and many.
+    virtual QStringList unread() = 0;
     virtual bool complete(const IcalTaskId &task) = 0;
 };
 

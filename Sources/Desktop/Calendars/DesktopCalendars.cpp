@@ -11,6 +11,26 @@ namespace {
 
 constexpr auto kLongestCall = 60s; // A service may have to be started first.
 
+/// One line, cut between two characters.
+QString shortened(const QString &name)
+{
+    QString line = name.left(CalendarStore::kLongestName).simplified();
+    if (!line.isEmpty() && line.back().isHighSurrogate())
+        line.chop(1);
+    return line;
+}
+
+QStringList firstOf(const QStringList &names)
+{
+    QStringList first;
+    for (const QString &name : names) {
+        const QString line = shortened(name);
+        if (first.size() < CalendarStore::kMostUnread && !line.isEmpty() && !first.contains(line))
+            first.append(line);
+    }
+    return first;
+}
+
 } // namespace
 
 DesktopCalendars::DesktopCalendars(const QDBusConnection &bus, const UserDefaults &defaults,
@@ -51,6 +71,11 @@ QFuture<std::optional<CalendarStore::Events>> DesktopCalendars::events(const QDa
 QFuture<std::optional<CalendarStore::Tasks>> DesktopCalendars::incompleteReminders()
 {
     return ask<std::optional<Tasks>>([](CalendarSource &source) { return source.openTasks(); });
+}
+
+QFuture<QStringList> DesktopCalendars::unread()
+{
+    return ask<QStringList>([](CalendarSource &source) { return firstOf(source.unread()); });
 }
 
 QFuture<bool> DesktopCalendars::complete(const QString &id)

@@ -30,6 +30,7 @@ public:
     QFuture<bool> requestAccess(CalendarEntity entity) override;
     QFuture<std::optional<Events>> events(const QDateTime &from, const QDateTime &to) override;
     QFuture<std::optional<Tasks>> incompleteReminders() override;
+    QFuture<QStringList> unread() override;
     QFuture<bool> complete(const QString &id) override;
 
 private:

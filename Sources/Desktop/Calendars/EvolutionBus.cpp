@@ -148,21 +148,23 @@ QList<EvolutionCalendar> EvolutionBus::finish(std::vector<Opening> opening)
         one.calendar.service = place.value(1).toString();
         one.call = call(one.calendar, QStringLiteral("Open"), {});
     }
-    QList<EvolutionCalendar> opened;
+    QList<EvolutionCalendar> all;
     for (Opening &one : opening) {
         const QString &uid = one.calendar.source.uid;
         one.call.waitForFinished();
         if (!one.call.isError()) {
             m_open.insert(uid, one.calendar);
             m_reported.remove(uid);
-            opened.append(one.calendar);
-        } else if (!m_reported.contains(uid)) {
+        } else {
+            if (!m_reported.contains(uid))
+                qCWarning(calendarLog, "the calendar %s cannot be opened: %s", qUtf8Printable(uid),
+                          qUtf8Printable(one.call.error().message()));
             m_reported.insert(uid);
-            qCWarning(calendarLog, "the calendar %s cannot be opened: %s", qUtf8Printable(uid),
-                      qUtf8Printable(one.call.error().message()));
+            one.calendar.path.clear();
         }
+        all.append(one.calendar);
     }
-    return opened;
+    return all;
 }
 
 bool EvolutionBus::isWritable(const EvolutionCalendar &calendar) const

@@ -17,7 +17,7 @@ struct EvolutionCalendar
 {
     EvolutionSource source;
     QString service;
-    QString path;
+    QString path; ///< Empty while it is not open.
 };
 
 /// The bus calls of Evolution Data Server. Each waits for its answer, ten seconds at the most; on a thread
@@ -35,7 +35,7 @@ public:
     State state() const;
 
     /// Starts the server where needed and opens its calendars or its task lists; those that cannot be opened
-    /// are left out. Nothing when the server is not to be reached.
+    /// are without a path. Nothing when the server is not to be reached.
     std::optional<QList<EvolutionCalendar>> open(bool taskLists);
 
     /// Whether clients may change the calendar; the server leaves it to them to keep to that.

@@ -41,6 +41,19 @@ std::optional<QList<EvolutionCalendar>> EvolutionCalendars::open(bool taskLists)
 {
     auto calendars = m_bus.open(taskLists);
     m_failed = !calendars;
+    if (!calendars)
+        return std::nullopt;
+    const auto isGone = [&](QMap<QString, EvolutionSource>::iterator source) {
+        const auto uid = [](const EvolutionCalendar &each) { return each.source.uid; };
+        return source->isTaskList == taskLists &&
+               std::ranges::find(*calendars, source->uid, uid) == calendars->end();
+    };
+    m_unread.removeIf(isGone);
+    calendars->removeIf([this](const EvolutionCalendar &calendar) {
+        if (calendar.path.isEmpty())
+            m_unread.insert(calendar.source.uid, calendar.source);
+        return calendar.path.isEmpty();
+    });
     return calendars;
 }
 
@@ -79,10 +92,13 @@ void EvolutionCalendars::addSeries(const EvolutionCalendar &calendar, const QStr
     }
 }
 
-IcalFound EvolutionCalendars::read(const EvolutionCalendar &calendar, const QList<QByteArray> &texts,
-                                   const IcalRange &range)
+IcalFound EvolutionCalendars::read(const EvolutionCalendar &calendar,
+                                   const std::optional<QList<QByteArray>> &texts, const IcalRange &range)
 {
-    IcalTexts known{calendar.source.uid, false, texts, {}, {}};
+    m_unread.insert(calendar.source.uid, calendar.source);
+    if (!texts)
+        return {};
+    IcalTexts known{calendar.source.uid, false, *texts, {}, {}};
     const auto look = [&] { return m_reader.read({known}, range).first(); };
     IcalFound found = look();
     if (!found.series.isEmpty()) {
@@ -91,11 +107,21 @@ IcalFound EvolutionCalendars::read(const EvolutionCalendar &calendar, const QLis
     }
     if (addZones(calendar, found.zones, known))
         found = look();
-    if (found.state == IcalFound::State::read)
+    if (found.state == IcalFound::State::read) {
+        m_unread.remove(calendar.source.uid);
         m_reported.remove(calendar.source.uid);
-    else if (!std::exchange(m_reported[calendar.source.uid], true))
+    } else if (!std::exchange(m_reported[calendar.source.uid], true)) {
         qCWarning(calendarLog, "a calendar of the server takes too much to be read and is left out");
+    }
     return found;
+}
+
+QStringList EvolutionCalendars::unread()
+{
+    QStringList names;
+    for (const EvolutionSource &source : std::as_const(m_unread))
+        names.append(source.name.isEmpty() ? source.uid : source.name);
+    return names;
 }
 
 std::optional<CalendarStore::Events> EvolutionCalendars::events(const IcalRange &range)
@@ -110,7 +136,7 @@ std::optional<CalendarStore::Events> EvolutionCalendars::events(const IcalRange 
     for (std::size_t i = 0; i < calls.size(); ++i) {
         const EvolutionCalendar &calendar = calendars->at(static_cast<qsizetype>(i));
         const auto texts = m_bus.texts(calendar, calls[i]);
-        for (CalendarEvent event : read(calendar, texts.value_or(QList<QByteArray>()), range).events) {
+        for (CalendarEvent event : read(calendar, texts, range).events) {
             event.color = calendar.source.color;
             found.append(event);
         }
@@ -132,7 +158,7 @@ std::optional<CalendarStore::Tasks> EvolutionCalendars::openTasks()
     for (std::size_t i = 0; i < calls.size(); ++i) {
         const EvolutionCalendar &list = lists->at(static_cast<qsizetype>(i));
         const auto texts = m_bus.texts(list, calls[i]);
-        for (CalendarTask task : read(list, texts.value_or(QList<QByteArray>()), {now, now}).tasks) {
+        for (CalendarTask task : read(list, texts, {now, now}).tasks) {
             task.color = list.source.color;
             found.append(task);
         }

@@ -21,19 +21,22 @@ public:
     bool requestAccess() override;
     std::optional<CalendarStore::Events> events(const IcalRange &range) override;
     std::optional<CalendarStore::Tasks> openTasks() override;
+    QStringList unread() override;
     bool complete(const IcalTaskId &task) override;
 
 private:
     std::optional<QList<EvolutionCalendar>> open(bool taskLists);
-    IcalFound read(const EvolutionCalendar &calendar, const QList<QByteArray> &texts, const IcalRange &range);
+    IcalFound read(const EvolutionCalendar &calendar, const std::optional<QList<QByteArray>> &texts,
+                   const IcalRange &range);
     void addSeries(const EvolutionCalendar &calendar, const QStringList &uids, IcalTexts &texts);
     bool addZones(const EvolutionCalendar &calendar, const QList<QByteArray> &names, IcalTexts &texts);
 
     EvolutionBus m_bus;
     HelperCalendars m_reader;
-    QHash<QString, bool> m_reported;    ///< Calendars of which the log says that they take too much.
-    bool m_failed = false;              ///< The last attempt to reach it.
-    QHash<QString, QByteArray> m_zones; ///< Definitions by calendar and name.
+    QHash<QString, bool> m_reported;         ///< Calendars of which the log says that they take too much.
+    QMap<QString, EvolutionSource> m_unread; ///< By uid; at the last look.
+    bool m_failed = false;                   ///< The last attempt to reach it.
+    QHash<QString, QByteArray> m_zones;      ///< Definitions by calendar and name.
 };
 
 } // namespace Kestrune

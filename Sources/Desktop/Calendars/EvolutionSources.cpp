@@ -1,6 +1,7 @@
 #include "EvolutionSources.h"
 
 #include <QHash>
+#include <QLocale>
 
 #include <algorithm>
 
@@ -29,6 +30,18 @@ Values parse(const QString &text)
 
 bool isOn(const Values &values, const QString &key) { return values.value(key) != QLatin1String("false"); }
 
+/// Empty without one.
+QString nameIn(const Values &values)
+{
+    const QString key = QStringLiteral("Data Source/DisplayName");
+    for (QString language : QLocale::system().uiLanguages()) {
+        const QString name = values.value(key + QStringLiteral("[%1]").arg(language.replace(u'-', u'_')));
+        if (!name.isEmpty())
+            return name;
+    }
+    return values.value(key);
+}
+
 } // namespace
 
 QList<EvolutionSource> enabledSources(const QList<EvolutionKeyFile> &files)
@@ -54,8 +67,8 @@ QList<EvolutionSource> enabledSources(const QList<EvolutionKeyFile> &files)
         for (const QString &kind : {calendar, tasks}) {
             if (values.contains(kind) && isOn(values, kind + QStringLiteral("/Selected")) &&
                 isEnabled(file.uid))
-                sources.append(
-                    {file.uid, kind == tasks, QColor(values.value(kind + QStringLiteral("/Color")))});
+                sources.append({file.uid, kind == tasks,
+                                QColor(values.value(kind + QStringLiteral("/Color"))), nameIn(values)});
         }
     }
     std::ranges::sort(sources, {}, &EvolutionSource::uid);

@@ -12,6 +12,7 @@ struct EvolutionSource
     QString uid;
     bool isTaskList = false;
     QColor color; ///< Invalid without one.
+    QString name; ///< In the user's language, where it has one in that.
 };
 
 /// One source's key file as the registry gives it.

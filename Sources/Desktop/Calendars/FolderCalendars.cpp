@@ -7,8 +7,10 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 #include <dirent.h>
@@ -30,14 +32,27 @@ QString usualRoot()
            QStringLiteral("/calendars");
 }
 
+/// The first bytes of a plain file; empty where there is none.
+QByteArray beginOf(const QString &path, qint64 bytes)
+{
+    QFile file(path);
+    return QFileInfo(file).isFile() && file.open(QFile::ReadOnly) ? file.read(bytes) : QByteArray();
+}
+
+/// What the folder's file calls it; else the folder's own name.
+QString nameOf(const QString &folder)
+{
+    constexpr qint64 kLongest = 1024;
+    const QByteArray text = beginOf(folder + QStringLiteral("/displayname"), kLongest);
+    const QString name = QString::fromUtf8(text.trimmed().split('\n').first());
+    return name.isEmpty() ? QFileInfo(folder).fileName() : name;
+}
+
 /// The colour that the folder's file names; invalid without one. Some programs add the opacity.
 QColor colorOf(const QString &folder)
 {
-    QFile file(folder + QStringLiteral("/color"));
-    constexpr int kLongest = 32;
-    if (!QFileInfo(file).isFile() || !file.open(QFile::ReadOnly))
-        return {};
-    QString name = QString::fromLatin1(file.read(kLongest)).trimmed();
+    constexpr qint64 kLongest = 32;
+    QString name = QString::fromLatin1(beginOf(folder + QStringLiteral("/color"), kLongest)).trimmed();
     if (name.startsWith(QLatin1Char('#')) && name.size() == 9)
         name.truncate(7);
     return QColor::isValidColorName(name) ? QColor(name) : QColor();
@@ -240,6 +255,19 @@ std::optional<CalendarStore::Tasks> FolderCalendars::openTasks()
         }
     }
     return tasks;
+}
+
+QStringList FolderCalendars::unread()
+{
+    QStringList folders;
+    for (auto file = m_files.cbegin(); file != m_files.cend(); ++file) {
+        const QString folder = QFileInfo(QFile::decodeName(file.key())).path();
+        if (file->found.state != IcalFound::State::read && !folders.contains(folder))
+            folders.append(folder);
+    }
+    QStringList names;
+    std::ranges::transform(folders, std::back_inserter(names), nameOf);
+    return names;
 }
 
 bool FolderCalendars::complete(const IcalTaskId &task)

@@ -9,7 +9,8 @@
 namespace Kestrune {
 
 /// Calendars as folders of iCalendar files, as vdirsyncer, khal and todoman keep them: a folder a calendar
-/// with a file an item, its colour in the file `color`. A file is read again only when it has changed.
+/// with a file an item, its colour in the file `color`, its name in the file `displayname`. A file is read
+/// again only when it has changed.
 class FolderCalendars : public CalendarSource
 {
 public:
@@ -27,6 +28,7 @@ public:
     bool requestAccess() override;
     std::optional<CalendarStore::Events> events(const IcalRange &range) override;
     std::optional<CalendarStore::Tasks> openTasks() override;
+    QStringList unread() override;
     bool complete(const IcalTaskId &task) override;
 
 private:

@@ -5,6 +5,7 @@
 #include <QFuture>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -62,6 +63,13 @@ public:
 
     /// What is not done yet in all lists, in an order that stays; nothing when it cannot be read at present.
     virtual QFuture<std::optional<Tasks>> incompleteReminders() = 0;
+
+    /// The names of the calendars of which something could not be read at the last look, in an order that
+    /// stays: plain texts of one line, the first `kMostUnread` of them, each once and at most `kLongestName`
+    /// long.
+    static constexpr qsizetype kMostUnread = 5;
+    static constexpr qsizetype kLongestName = 60;
+    virtual QFuture<QStringList> unread() = 0;
 
     /// Marks the task of that id done and saves that. False when there is none, or the saving failed.
     virtual QFuture<bool> complete(const QString &id) = 0;

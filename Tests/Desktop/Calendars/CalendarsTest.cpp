@@ -177,6 +177,24 @@ private Q_SLOTS:
         QTRY_COMPARE(readEvents(stage).size(), 0);
     }
 
+    void whatTheServerKeepsIsNamed()
+    {
+        EvolutionStage stage;
+        Fakes::MemoryDefaults defaults;
+        defaults.setObject(DesktopCalendars::sourceKey(), u"evolution"_s);
+        DesktopCalendars blind(stage.bus(), defaults, u"/nowhere"_s);
+        const auto names = [&] {
+            const QDateTime from = utc(u"2026-03-28T10:00:00"_s);
+            CalendarStage::wait(blind.events(from, from.addDays(1)));
+            return CalendarStage::wait(blind.unread()).filter(u"Calendar "_s);
+        };
+        const QString hidden = stage.create(u"Calendar"_s, vevent("a", "DTSTART:20260328T120000Z"), u"red"_s);
+        QCOMPARE(names(), QStringList{u"Calendar 1"_s});
+        stage.ask(
+            {{u"do"_s, u"change"_s}, {u"uid"_s, hidden}, {u"group"_s, u"Calendar"_s}, {u"value"_s, false}});
+        QTRY_COMPARE(names(), QStringList());
+    }
+
     void damagedFilesAreSkipped()
     {
         FolderStage stage;
@@ -208,10 +226,18 @@ private Q_SLOTS:
         QCOMPARE(described(readEvents(stage)), expected);
         QTest::failOnWarning(QRegularExpression(u".*"_s)); // each is named once only
         QCOMPARE(described(readEvents(stage)), expected);
+        QCOMPARE(unread(stage), QStringList{QFileInfo(stage.path()).fileName()});
+        FolderStage::write(stage.path() + u"/displayname"_s,
+                           "  Home\t& " + QByteArray("Ä").repeated(90) + "\nx");
+        QCOMPARE(unread(stage), QStringList{u"Home & "_s + QString(53, u'Ä')});
         FolderStage::write(stage.path() + u"/half.ics"_s, QByteArray(whole).replace("good", "later"));
         QVERIFY(described(readEvents(stage)).contains(u"later 28T12:00 28T12:00"_s));
         QFile::remove(stage.path() + u"/good.ics"_s);
         QCOMPARE(readEvents(stage).size(), 2);
+        for (const QString &name : damaged.keys())
+            QFile::remove(stage.path() + u'/' + name);
+        readEvents(stage);
+        QCOMPARE(unread(stage), QStringList());
     }
 
     /// A file that takes more memory than its reader has.
@@ -221,7 +247,7 @@ private Q_SLOTS:
         const auto event = [](const char *title) {
             return CalendarStage::calendar(vevent(title, "DTSTART:20260328T120000Z"));
         };
-        const QString poison = stage.path() + u"/poison.ics"_s;
+        const QString poison = stage.path() + u"/one/poison.ics"_s;
         FolderStage::write(stage.path() + u"/a.ics"_s, event("before"));
         FolderStage::write(stage.path() + u"/z.ics"_s, event("after"));
         FolderStage::write(poison, CalendarStage::calendar(QByteArray("X\n").repeated(7 * 1024 * 1024)));
@@ -230,8 +256,10 @@ private Q_SLOTS:
         QCOMPARE(described(readEvents(stage)), rest);
         QTest::failOnWarning(QRegularExpression(u".*"_s)); // it is not tried again
         QCOMPARE(described(readEvents(stage)), rest);
+        QCOMPARE(unread(stage), QStringList{u"one"_s});
         FolderStage::write(poison, event("mended"));
         QCOMPARE(readEvents(stage).size(), 3);
+        QCOMPARE(unread(stage), QStringList());
     }
 
     void rulesThatNobodyCanFollowCostOnlyThemselves_data()
@@ -344,6 +372,7 @@ private:
     {
         return CalendarStage::wait(stage.store().incompleteReminders()).value_or(CalendarStore::Tasks());
     }
+    static QStringList unread(CalendarStage &stage) { return CalendarStage::wait(stage.store().unread()); }
     static QStringList titles(CalendarStage &stage) { return described(readTasks(stage)); }
     static bool complete(CalendarStage &stage, const QString &title)
     {

@@ -195,6 +195,7 @@ struct Stage : WindowStage
                 return CalendarStore::Events{{u"e"_s, u"Call"_s, now.addSecs(60), now.addSecs(90), false, {}},
                                              {u"d"_s, u"Trip"_s, now.addSecs(60), now.addSecs(90), true, {}}};
             });
+            answerAll(core.calendars.unreadQuestions, [](std::size_t) { return QStringList{u"Work"_s}; });
             answerAll(core.calendars.reminderQuestions, [&](std::size_t) {
                 return CalendarStore::Tasks{{u"1"_s, u"Old"_s, now.addDays(-1), {}},
                                             {u"2"_s, u"New"_s, now.addDays(1), {}},

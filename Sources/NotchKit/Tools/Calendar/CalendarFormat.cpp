@@ -63,6 +63,22 @@ bool CalendarFormat::isOverdue(const QDateTime &due, const QDateTime &now)
     return isWholeDay(local) ? local.date() < now.toLocalTime().date() : due < now;
 }
 
+QString CalendarFormat::unread(const QStringList &names)
+{
+    if (names.isEmpty())
+        return {};
+    //: The name of a calendar in quotation marks.
+    const QString quoted = notchStrings(QT_TRANSLATE_NOOP("notch", "“%1”"));
+    QStringList all;
+    for (const QString &name : names) {
+        // Isolated, so that a name that is written the other way turns nothing around it.
+        all.append(quoted.arg(QChar(0x2068) + name + QChar(0x2069)));
+    }
+    //: %1 is the name of a calendar in quotation marks, or several with commas between them.
+    return notchStrings(QT_TRANSLATE_NOOP("notch", "Could not be read in full: %1"))
+        .arg(all.join(QStringLiteral(", ")));
+}
+
 QColor CalendarFormat::visible(const QColor &color)
 {
     constexpr float kDarkest = 0.18F; // Relative luminance: three times as bright as a tile at the least.

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QDateTime>
 #include <QObject>
+#include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
 namespace Kestrune {
@@ -24,6 +25,9 @@ public:
     /// the whole day. Empty without a time.
     Q_INVOKABLE static QString due(const QDateTime &due, const QDateTime &now);
     Q_INVOKABLE static bool isOverdue(const QDateTime &due, const QDateTime &now);
+
+    /// That something of the calendars of these names could not be read; empty without names.
+    Q_INVOKABLE static QString unread(const QStringList &names);
 
     /// A calendar's colour so light that it can be seen on the notch; grey without one.
     Q_INVOKABLE static QColor visible(const QColor &color);

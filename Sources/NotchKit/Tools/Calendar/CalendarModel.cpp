@@ -70,6 +70,7 @@ QCoro::Task<> CalendarModel::readEvents()
     m_status = static_cast<int>(access);
     if (access != CalendarAccess::full) {
         takeEvents(CalendarStore::Events());
+        m_unread = QStringList();
         co_return;
     }
     const QDateTime now = m_clock.now();
@@ -79,6 +80,8 @@ QCoro::Task<> CalendarModel::readEvents()
     const QFuture<std::optional<CalendarStore::Events>> read = m_store.events(now, end);
     const std::optional<CalendarStore::Events> events = co_await until(read);
     takeEvents(events);
+    const QFuture<QStringList> namesAsked = m_store.unread();
+    m_unread = co_await until(namesAsked);
 }
 
 QCoro::Task<> CalendarModel::readReminders()

@@ -63,6 +63,8 @@ class CalendarModel : public ToolModel
     Q_PROPERTY(QList<Kestrune::CalendarItem> items READ items NOTIFY itemsChanged)
     /// By when they are due, those without a time last.
     Q_PROPERTY(QList<Kestrune::CalendarReminder> reminders READ reminders NOTIFY remindersChanged)
+    /// The names of the calendars of which something could not be read, as CalendarStore has them.
+    Q_PROPERTY(QStringList unread READ unread NOTIFY unreadChanged)
     /// An Access each.
     Q_PROPERTY(int status READ status NOTIFY statusChanged)
     Q_PROPERTY(int reminderStatus READ reminderStatus NOTIFY reminderStatusChanged)
@@ -93,6 +95,7 @@ public:
 
     const Items &items() const { return m_items.value(); }
     const Reminders &reminders() const { return m_reminders.value(); }
+    const QStringList &unread() const { return m_unread.value(); }
     int status() const { return m_status; }
     int reminderStatus() const { return m_reminderStatus; }
     bool eventsKnown() const { return m_eventsKnown; }
@@ -114,6 +117,7 @@ public:
 Q_SIGNALS:
     void itemsChanged();
     void remindersChanged();
+    void unreadChanged();
     void statusChanged();
     void reminderStatusChanged();
     void eventsKnownChanged();
@@ -140,6 +144,7 @@ private:
     Scope m_completions;
     Q_OBJECT_BINDABLE_PROPERTY(CalendarModel, Items, m_items, &CalendarModel::itemsChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CalendarModel, Reminders, m_reminders, &CalendarModel::remindersChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CalendarModel, QStringList, m_unread, &CalendarModel::unreadChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CalendarModel, int, m_status, 0, &CalendarModel::statusChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CalendarModel, int, m_reminderStatus, 0,
                                          &CalendarModel::reminderStatusChanged)

@@ -28,6 +28,7 @@ Pane {
         anchor: "Privacy_Calendars"
         emptyText: qsTranslate("notch", "Nothing else today or tomorrow.")
         listName: "items"
+        notice: CalendarFormat.unread(pane.calendar.unread)
         onAllowed: pane.calendar.requestAccess()
         delegate: EventRow {
             required property calendarItem modelData

@@ -17,6 +17,7 @@ Tile {
     required property string anchor
     required property string emptyText
     required property string listName
+    property string notice // A line at the bottom; empty for none.
     property alias delegate: list.delegate
 
     signal allowed
@@ -32,7 +33,7 @@ Tile {
     ListView {
         id: list
 
-        anchors { fill: parent; topMargin: 36; leftMargin: 4; rightMargin: 4; bottomMargin: 8 }
+        anchors { fill: parent; topMargin: 36; leftMargin: 4; rightMargin: 4; bottomMargin: notice.visible ? 33 : 8 }
         visible: section.status === CalendarModel.Full
         clip: true
         spacing: 4
@@ -58,6 +59,33 @@ Tile {
         color: Theme.dim
         horizontalAlignment: Text.AlignLeft
         wrapMode: Text.WordWrap
+    }
+    PlainText {
+        id: notice
+
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: 12; bottomMargin: 9 }
+        visible: section.status === CalendarModel.Full && text !== ""
+        text: section.notice
+        font.pixelSize: Theme.smallFontSize
+        color: Theme.dim
+        horizontalAlignment: Text.AlignLeft
+        elide: Text.ElideRight
+        maximumLineCount: 1
+
+        Rectangle {
+            y: -height - 8
+            width: parent.width
+            height: 1
+            color: Theme.divider
+        }
+        HoverHandler { id: pointer }
+        Loader {
+            active: pointer.hovered && notice.truncated
+            sourceComponent: HelpTip {
+                text: notice.text
+                anchor: notice
+            }
+        }
     }
     AccessButton {
         anchors.leftMargin: 12
