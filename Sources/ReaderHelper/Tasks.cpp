@@ -52,7 +52,7 @@ std::unique_ptr<Tasks::Files> Tasks::next(void *question, std::size_t size)
     if (!header || header->cmsg_type != SCM_RIGHTS || header->cmsg_len != CMSG_LEN(sizeof files))
         return nullptr;
     std::memcpy(files.data(), CMSG_DATA(header), sizeof files);
-    return std::unique_ptr<Files>(new Files{Handed(files[0]), Handed(files[1])});
+    return std::make_unique<Files>(files[0], files[1]);
 }
 
 void Tasks::answer(const void *answer, std::size_t size)

@@ -32,6 +32,11 @@ public:
     /// What came with a question: what is to be read, and where to put what is found.
     struct Files
     {
+        Files(int toRead, int toFill)
+            : file(toRead)
+            , memory(toFill)
+        {}
+
         Handed file;
         Handed memory;
     };
