@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QImageReader>
 
 #include <algorithm>
 #include <cstring>
@@ -18,6 +19,7 @@ namespace {
 using namespace Kestrune;
 
 constexpr std::size_t kPictureMemory = std::size_t{1024} << 20;
+constexpr int kPictureMegabytes = 512; // Of one picture that is unpacked: the largest at 8 bytes a pixel.
 constexpr std::size_t kCalendarMemory = std::size_t{512} << 20;
 
 ReadPicture read(const ReaderWire::PictureQuestion &question, Tasks::Files &files)
@@ -58,6 +60,7 @@ ReaderWire::PictureAnswer answerFor(const ReadPicture &picture)
 int readPictures()
 {
     PictureDecoder::prepare();
+    QImageReader::setAllocationLimit(kPictureMegabytes);
     if (!Walls::raise(kPictureMemory))
         return 1;
     ReaderWire::PictureQuestion question{};

@@ -11,6 +11,8 @@ namespace Kestrune {
 
 namespace {
 
+constexpr qint64 kMostListed = 100'000;
+
 /// Writes or reads values one after the other: what both do is written once.
 class Packer
 {
@@ -63,12 +65,14 @@ public:
         m_stream >> isValid >> milliseconds;
         time = isValid ? QDateTime::fromMSecsSinceEpoch(milliseconds, kUtc) : QDateTime();
     }
-    /// Grows with what is there, whatever number is claimed.
+    /// Grows with what is there, whatever number is claimed, and not without end.
     template <typename Value, typename Each>
     void list(QList<Value> &values, const Each &each)
     {
         qint64 count = 0;
         m_stream >> count;
+        if (count > kMostListed)
+            m_stream.setStatus(QDataStream::ReadCorruptData);
         for (qint64 i = 0; i < count && isGood(); ++i) {
             each(values.emplaceBack());
         }

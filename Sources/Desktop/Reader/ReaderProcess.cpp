@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
 #include <sys/socket.h>
@@ -18,7 +19,8 @@ namespace {
 
 constexpr int kLongestAnswer = (ReaderWire::kLongest + 5) * 1000; // ms; it is to end by itself before.
 
-/// Starts it with the socket and the standard streams alone. Whether the process that did so ended well.
+/// Starts it with the socket alone: what the libraries say of damaged pictures is of no use to anybody, and
+/// would be a way out. Whether the process that did so ended well.
 bool spawn(const QByteArray &program, const char *kind, int socket)
 {
     posix_spawn_file_actions_t actions;
@@ -27,7 +29,11 @@ bool spawn(const QByteArray &program, const char *kind, int socket)
     std::array<char *, 3> arguments{const_cast<char *>(program.constData()), const_cast<char *>(kind),
                                     nullptr};
     pid_t process = 0;
+    const auto leadNowhere = [&](int stream) {
+        return ::posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", O_RDWR, 0) == 0;
+    };
     const bool started =
+        leadNowhere(STDIN_FILENO) && leadNowhere(STDOUT_FILENO) && leadNowhere(STDERR_FILENO) &&
         ::posix_spawn_file_actions_adddup2(&actions, socket, ReaderWire::kSocket) == 0 &&
         ::posix_spawn_file_actions_addclosefrom_np(&actions, ReaderWire::kSocket + 1) == 0 &&
         ::posix_spawn(&process, program.constData(), &actions, nullptr, arguments.data(), environ) == 0;
