@@ -1,6 +1,7 @@
 #pragma once
 
 #include "EndToEnd/Waiting.h"
+#include "NotchKit/Platform/Pasteboard.h"
 #include "Support/TestRegistry.h"
 
 #include <QFuture>
@@ -27,6 +28,24 @@ Answer wait(const QFuture<Answer> &future)
         return {};
     }
     return future.result();
+}
+
+/// Asks for the text of an owner that turns public and secret all the time, as a reader would that trusts the
+/// types. How often it was the public one; -1 once a secret was read.
+inline int publicTexts(Pasteboard &pasteboard, int rounds)
+{
+    int read = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const auto seen = pasteboard.types();
+        const auto text = pasteboard.string(); // Asked at once.
+        const bool secret = wait(seen).contains(QLatin1String(Pasteboard::kConcealed));
+        const auto answer = wait(text);
+        if (!secret && answer == u"secret"_s)
+            return -1;
+        read += !secret && answer == u"public"_s ? 1 : 0;
+    }
+    qInfo("%d of %d texts were read between the changes", read, rounds);
+    return read;
 }
 
 /// How often this program's thread of that name has gone to sleep; -1 when there is none.
