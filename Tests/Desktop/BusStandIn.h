@@ -40,6 +40,13 @@ struct ServiceStandIn : QDBusVirtualObject
     bool leave() { return m_connection.unregisterService(m_service); }
 
     void send(const QDBusMessage &signal) { m_connection.send(signal); }
+    void signal(const QString &path, const QString &interface, const QString &member,
+                const QVariantList &arguments)
+    {
+        QDBusMessage signal = QDBusMessage::createSignal(path, interface, member);
+        signal.setArguments(arguments);
+        send(signal);
+    }
 
     QString introspect(const QString &) const override { return {}; }
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override
@@ -53,11 +60,9 @@ struct ServiceStandIn : QDBusVirtualObject
     /// "path interface.member" of every call, in their order.
     QStringList called() const
     {
-        QStringList names;
-        for (const QDBusMessage &call : calls)
-            names.append(call.path() + QLatin1Char(' ') + call.interface() + QLatin1Char('.') +
-                         call.member());
-        return names;
+        return each(calls, [](const QDBusMessage &call) {
+            return QStringLiteral("%1 %2.%3").arg(call.path(), call.interface(), call.member());
+        });
     }
 
     QList<QDBusMessage> calls;

@@ -67,13 +67,14 @@ inline Display externalDisplay(int index = 0)
     return {QStringLiteral("HDMI-%1").arg(index + 1), QRectF(1920.0 * index, 0, 1920, 1080), 0, {}, {}};
 }
 
-/// The core with one such display, started.
+/// The core with one such display, or others, started.
 struct StartedCore : Core
 {
-    explicit StartedCore(MemoryDefaults::Values stored = {})
+    explicit StartedCore(MemoryDefaults::Values stored = {},
+                         const QList<Display> &shown = {externalDisplay()})
         : Core(std::move(stored))
     {
-        displays.displays = {externalDisplay()};
+        displays.displays = shown;
         controller.start();
     }
 };

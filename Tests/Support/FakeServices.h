@@ -6,6 +6,7 @@
 #include "NotchKit/Platform/HttpClient.h"
 #include "NotchKit/Platform/LocationService.h"
 #include "NotchKit/Platform/ScriptExecutor.h"
+#include "Support/Lists.h"
 #include "Support/Questions.h"
 
 #include <QMap>
@@ -31,10 +32,7 @@ struct FakeHttp : HttpClient
     }
     QStringList addresses() const
     {
-        QStringList list;
-        for (const HttpRequest &request : asked)
-            list.append(QString::fromLatin1(request.url.toEncoded()));
-        return list;
+        return each(asked, [](const auto &request) { return QString::fromLatin1(request.url.toEncoded()); });
     }
 
     QMap<QString, HttpReply> replies;

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Support/Lists.h"
+
 #include <QBuffer>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -21,13 +24,15 @@ inline bool writeFile(const QString &path, const QByteArray &bytes = {})
            file.write(bytes) == bytes.size() && file.flush();
 }
 
-inline QList<QUrl> fileUrls(const QStringList &paths)
+/// The same, last changed at that time.
+inline bool writeFile(const QString &path, const QByteArray &bytes, const QDateTime &time)
 {
-    QList<QUrl> urls;
-    for (const QString &path : paths)
-        urls.append(QUrl::fromLocalFile(path));
-    return urls;
+    QFile file(path);
+    return writeFile(path, bytes) && file.open(QFile::ReadWrite) &&
+           file.setFileTime(time, QFileDevice::FileModificationTime);
 }
+
+inline QList<QUrl> fileUrls(const QStringList &paths) { return each(paths, &QUrl::fromLocalFile); }
 
 inline QByteArray encoded(const QImage &image, const char *format = "png")
 {
@@ -42,6 +47,32 @@ inline QImage plainImage(QSize size, const QColor &colour = Qt::blue)
     QImage image(size, QImage::Format_RGB32);
     image.fill(colour);
     return image;
+}
+
+/// The number of that name in a file of this process in /proc, such as "VmHWM:" in "status"; -1 where there
+/// is none.
+inline qint64 processFigure(const char *file, const QByteArray &name)
+{
+    const auto lines = readFile(QStringLiteral("/proc/self/") + QLatin1String(file)).split('\n');
+    for (const QByteArray &line : lines) {
+        if (line.startsWith(name))
+            return line.mid(name.size()).simplified().split(' ').constFirst().toLongLong();
+    }
+    return -1;
+}
+
+/// The smallest rectangle that holds every place in that size for which `condition` holds.
+template <typename Condition>
+QRect areaWhere(QSize size, const Condition &condition)
+{
+    QRect found;
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x) {
+            if (condition(x, y))
+                found |= QRect(x, y, 1, 1);
+        }
+    }
+    return found;
 }
 
 /// A few kilobytes that would unpack to more pixels than any reader allows.

@@ -51,6 +51,14 @@ inline void noAndYes(const char *no, const char *yes)
     row(yes, true);
 }
 
+/// And for a text, with a row for each that is named by it.
+inline void texts(std::initializer_list<const char *> all)
+{
+    const auto row = columns<QString>();
+    for (const char *text : all)
+        row(text, text);
+}
+
 template <typename Value>
 Value fetchedFrom(std::size_t column)
 {

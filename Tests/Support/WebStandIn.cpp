@@ -1,5 +1,7 @@
 #include "Support/WebStandIn.h"
 
+#include "Support/Lists.h"
+
 #include <QSslConfiguration>
 #include <QSslServer>
 #include <QTcpServer>
@@ -110,13 +112,7 @@ QList<WebStandIn::Request> WebStandIn::log() const
     return m_log;
 }
 
-QList<QByteArray> WebStandIn::targets() const
-{
-    QList<QByteArray> targets;
-    for (const Request &request : log())
-        targets.append(request.target);
-    return targets;
-}
+QList<QByteArray> WebStandIn::targets() const { return each(log(), &Request::target); }
 
 void WebStandIn::forget()
 {

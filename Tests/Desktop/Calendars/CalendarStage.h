@@ -59,6 +59,7 @@ struct FolderStage : CalendarStage
     QByteArray texts(const QString &file) override { return readFile(file); }
     CalendarStore &store() override { return m_store; }
     QString path() const { return m_root.path(); }
+    void keep(const QString &name, const QByteArray &data) const { write(m_root.filePath(name), data); }
 
     static void write(const QString &path, const QByteArray &data)
     {

@@ -21,15 +21,15 @@ QByteArray vtodo(const QByteArray &uid, const QByteArray &lines)
 
 QDateTime utc(const QString &time) { return QDateTime::fromString(time + u'Z', Qt::ISODate); }
 
+QString time(const QDateTime &when) { return when.toUTC().toString(u"dd'T'HH:mm"_s); }
+
 /// "title start to end", times of UTC; in their order.
 QStringList described(const CalendarStore::Events &events)
 {
-    QStringList lines;
-    for (const CalendarEvent &event : events) {
-        const auto time = [](const QDateTime &when) { return when.toUTC().toString(u"dd'T'HH:mm"_s); };
-        lines.append(event.title + u' ' + time(event.start) + u' ' + time(event.end) +
-                     (event.allDay ? u" day"_s : QString()));
-    }
+    QStringList lines = each(events, [](const CalendarEvent &event) {
+        return event.title + u' ' + time(event.start) + u' ' + time(event.end) +
+               (event.allDay ? u" day"_s : QString());
+    });
     lines.sort();
     return lines;
 }
@@ -37,9 +37,8 @@ QStringList described(const CalendarStore::Events &events)
 /// "title due".
 QStringList described(const CalendarStore::Tasks &tasks)
 {
-    QStringList lines;
-    for (const CalendarTask &task : tasks)
-        lines.append(task.title + u' ' + task.due.toUTC().toString(u"dd'T'HH:mm"_s));
+    QStringList lines =
+        each(tasks, [](const CalendarTask &task) { return task.title + u' ' + time(task.due); });
     lines.sort();
     return lines;
 }
@@ -74,20 +73,13 @@ private Q_SLOTS:
         stage->create(u"Calendar"_s, components, u"#ff8000"_s);
         const auto found = readEvents(*stage);
         QCOMPARE(described(found), expected);
-        QSet<QString> ids;
-        for (const CalendarEvent &each : found) {
-            QCOMPARE(each.color, QColor(255, 128, 0));
-            ids.insert(each.id);
-        }
-        QCOMPARE(ids.size(), found.size());
-        const auto ordered = [](const CalendarStore::Events &events) {
-            QStringList all;
-            for (const CalendarEvent &each : events)
-                all.append(each.id);
-            all.sort();
-            return all;
+        QCOMPARE(each(found, &CalendarEvent::color), QList<QColor>(found.size(), QColor(255, 128, 0)));
+        const auto ids = [](const CalendarStore::Events &events) {
+            const QStringList all = each(events, &CalendarEvent::id);
+            return QSet<QString>(all.begin(), all.end());
         };
-        QVERIFY2(ordered(readEvents(*stage)) == ordered(found), "an occurrence keeps its id");
+        QCOMPARE(ids(found).size(), found.size());
+        QVERIFY2(ids(readEvents(*stage)) == ids(found), "an occurrence keeps its id");
     }
 
     void tasks_data() { adapters(); }
@@ -109,8 +101,7 @@ private Q_SLOTS:
                                               u"overdue 27T08:00"_s, u"undated "_s}));
         QCOMPARE(readTasks(*stage).first().color, QColor(0x11, 0x22, 0x33));
 
-        QVERIFY(complete(*stage, u"undated"_s));
-        QVERIFY(complete(*stage, u"overdue"_s));
+        QVERIFY(complete(*stage, u"undated"_s) && complete(*stage, u"overdue"_s));
         // Sunday's nine o'clock is in summer time.
         QVERIFY(complete(*stage, u"daily"_s));
         QCOMPARE(titles(*stage), (QStringList{u"daily 29T07:00"_s, u"day 28T23:00"_s, u"long 28T08:30"_s}));
@@ -166,32 +157,28 @@ private Q_SLOTS:
     void whatTheUserHidIsNotRead()
     {
         EvolutionStage stage;
-        const QString hidden = stage.create(u"Calendar"_s, vevent("a", "DTSTART:20260328T120000Z"), u"red"_s);
-        const QString off = stage.create(u"Calendar"_s, vevent("b", "DTSTART:20260328T120000Z"), u"red"_s);
-        QCOMPARE(readEvents(stage).size(), 2);
-        stage.ask(
-            {{u"do"_s, u"change"_s}, {u"uid"_s, hidden}, {u"group"_s, u"Calendar"_s}, {u"value"_s, false}});
-        QTRY_COMPARE(readEvents(stage).size(), 1);
-        stage.ask(
-            {{u"do"_s, u"change"_s}, {u"uid"_s, off}, {u"group"_s, u"Data Source"_s}, {u"value"_s, false}});
-        QTRY_COMPARE(readEvents(stage).size(), 0);
-    }
-
-    void whatTheServerKeepsIsNamed()
-    {
-        EvolutionStage stage;
         Fakes::MemoryDefaults defaults;
         defaults.setObject(DesktopCalendars::sourceKey(), u"evolution"_s);
-        DesktopCalendars blind(stage.bus(), defaults, u"/nowhere"_s);
+        DesktopCalendars blind(stage.bus(), defaults, u"/nowhere"_s); // It names all that it should read.
         const auto names = [&] {
             const QDateTime from = utc(u"2026-03-28T10:00:00"_s);
             CalendarStage::wait(blind.events(from, from.addDays(1)));
             return CalendarStage::wait(blind.unread()).filter(u"Calendar "_s);
         };
+        const auto switchOff = [&](const QString &uid, const QString &group) {
+            stage.ask({{u"do"_s, u"change"_s}, {u"uid"_s, uid}, {u"group"_s, group}, {u"value"_s, false}});
+        };
         const QString hidden = stage.create(u"Calendar"_s, vevent("a", "DTSTART:20260328T120000Z"), u"red"_s);
-        QCOMPARE(names(), QStringList{u"Calendar 1"_s});
-        stage.ask(
-            {{u"do"_s, u"change"_s}, {u"uid"_s, hidden}, {u"group"_s, u"Calendar"_s}, {u"value"_s, false}});
+        const QString off = stage.create(u"Calendar"_s, vevent("b", "DTSTART:20260328T120000Z"), u"red"_s);
+        QCOMPARE(readEvents(stage).size(), 2);
+        QStringList both = names();
+        both.sort();
+        QCOMPARE(both, (QStringList{u"Calendar 1"_s, u"Calendar 2"_s}));
+        switchOff(hidden, u"Calendar"_s);
+        QTRY_COMPARE(readEvents(stage).size(), 1);
+        QTRY_COMPARE(names(), QStringList{u"Calendar 2"_s});
+        switchOff(off, u"Data Source"_s);
+        QTRY_COMPARE(readEvents(stage).size(), 0);
         QTRY_COMPARE(names(), QStringList());
     }
 
@@ -209,28 +196,27 @@ private Q_SLOTS:
             {u"page.ics"_s, "<html>Please log in</html>"},
         };
         for (auto file = damaged.cbegin(); file != damaged.cend(); ++file) {
-            FolderStage::write(stage.path() + u'/' + file.key(), file.value());
+            stage.keep(file.key(), file.value());
             QTest::ignoreMessage(QtWarningMsg,
                                  QRegularExpression(u".*/%1 is no whole calendar.*"_s.arg(file.key())));
         }
-        FolderStage::write(stage.path() + u"/good.ics"_s, windows);
-        FolderStage::write(stage.path() + u"/inner.ics"_s,
-                           CalendarStage::calendar(
-                               vevent("broken", "DTSTART:tomorrow\nRRULE:FREQ=SOMETIMES") +
-                               vevent("fine", "DTSTART:20260328T130000Z\nRRULE:NONSENSE") +
-                               // which crashes the library itself
-                               vevent("week", "DTSTART:20250615T113000Z\nRRULE:FREQ=YEARLY;BYWEEKNO=20")));
-        FolderStage::write(stage.path() + u"/.hidden.ics"_s, whole);
+        stage.keep(u"good.ics"_s, windows);
+        stage.keep(u"inner.ics"_s,
+                   CalendarStage::calendar(
+                       vevent("broken", "DTSTART:tomorrow\nRRULE:FREQ=SOMETIMES") +
+                       vevent("fine", "DTSTART:20260328T130000Z\nRRULE:NONSENSE") +
+                       // which crashes the library itself
+                       vevent("week", "DTSTART:20250615T113000Z\nRRULE:FREQ=YEARLY;BYWEEKNO=20")));
+        stage.keep(u".hidden.ics"_s, whole);
         ::mkfifo(QFile::encodeName(stage.path() + u"/pipe.ics"_s).constData(), 0600);
         const QStringList expected{u"fine 28T13:00 28T13:00"_s, u"good 28T12:00 28T12:00"_s};
         QCOMPARE(described(readEvents(stage)), expected);
         QTest::failOnWarning(QRegularExpression(u".*"_s)); // each is named once only
         QCOMPARE(described(readEvents(stage)), expected);
         QCOMPARE(unread(stage), QStringList{QFileInfo(stage.path()).fileName()});
-        FolderStage::write(stage.path() + u"/displayname"_s,
-                           "  Home\t& " + QByteArray("Ä").repeated(90) + "\nx");
+        stage.keep(u"displayname"_s, "  Home\t& " + QByteArray("Ä").repeated(90) + "\nx");
         QCOMPARE(unread(stage), QStringList{u"Home & "_s + QString(53, u'Ä')});
-        FolderStage::write(stage.path() + u"/half.ics"_s, QByteArray(whole).replace("good", "later"));
+        stage.keep(u"half.ics"_s, QByteArray(whole).replace("good", "later"));
         QVERIFY(described(readEvents(stage)).contains(u"later 28T12:00 28T12:00"_s));
         QFile::remove(stage.path() + u"/good.ics"_s);
         QCOMPARE(readEvents(stage).size(), 2);
@@ -248,8 +234,8 @@ private Q_SLOTS:
             return CalendarStage::calendar(vevent(title, "DTSTART:20260328T120000Z"));
         };
         const QString poison = stage.path() + u"/one/poison.ics"_s;
-        FolderStage::write(stage.path() + u"/a.ics"_s, event("before"));
-        FolderStage::write(stage.path() + u"/z.ics"_s, event("after"));
+        stage.keep(u"a.ics"_s, event("before"));
+        stage.keep(u"z.ics"_s, event("after"));
         FolderStage::write(poison, CalendarStage::calendar(QByteArray("X\n").repeated(7 * 1024 * 1024)));
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u".*/poison.ics takes too much.*"_s));
         const QStringList rest{u"after 28T12:00 28T12:00"_s, u"before 28T12:00 28T12:00"_s};
@@ -264,28 +250,23 @@ private Q_SLOTS:
 
     void rulesThatNobodyCanFollowCostOnlyThemselves_data()
     {
-        QTest::addColumn<QByteArray>("zone");
-        QTest::addColumn<QByteArray>("event");
-        QTest::newRow("weeks of clocks") << QByteArray("FREQ=YEARLY;BYWEEKNO=20") << QByteArray();
-        QTest::newRow("clocks by the minute") << QByteArray("FREQ=MINUTELY") << QByteArray();
-        QTest::newRow("clocks by the second")
-            << QByteArray("FREQ=YEARLY;BYSECOND=0,1,2,3;BYMINUTE=1,2") << QByteArray();
-        QTest::newRow("a day that never comes") << QByteArray("FREQ=YEARLY;BYMONTH=3;BYDAY=-1SU")
-                                                << QByteArray("FREQ=HOURLY;BYMONTH=2;BYMONTHDAY=30");
-        QTest::newRow("an hour that is stepped over")
-            << QByteArray("FREQ=YEARLY") << QByteArray("FREQ=HOURLY;INTERVAL=24;BYHOUR=3");
+        const auto row = columns<QByteArray, QByteArray>(); // Of the zone, and of the event.
+        row("weeks of clocks", "FREQ=YEARLY;BYWEEKNO=20", "");
+        row("clocks by the minute", "FREQ=MINUTELY", "");
+        row("clocks by the second", "FREQ=YEARLY;BYSECOND=0,1,2,3;BYMINUTE=1,2", "");
+        row("a day that never comes", "FREQ=YEARLY;BYMONTH=3;BYDAY=-1SU",
+            "FREQ=HOURLY;BYMONTH=2;BYMONTHDAY=30");
+        row("an hour that is stepped over", "FREQ=YEARLY", "FREQ=HOURLY;INTERVAL=24;BYHOUR=3");
     }
     void rulesThatNobodyCanFollowCostOnlyThemselves()
     {
-        QFETCH(const QByteArray, zone);
-        QFETCH(const QByteArray, event);
+        const auto [zone, event] = fetched<QByteArray, QByteArray>();
         FolderStage stage;
         const QByteArray clocks =
             QByteArray(kOwnZone).replace("END:STANDARD", "RRULE:" + zone + "\nEND:STANDARD");
         const QByteArray rule = event.isEmpty() ? QByteArray() : "\nRRULE:" + event;
-        FolderStage::write(
-            stage.path() + u"/a.ics"_s,
-            CalendarStage::calendar(clocks + vevent("odd", "DTSTART;TZID=Far Away:20260328T100000" + rule)));
+        stage.keep(u"a.ics"_s, CalendarStage::calendar(
+                                   clocks + vevent("odd", "DTSTART;TZID=Far Away:20260328T100000" + rule)));
         QCOMPARE(described(readEvents(stage)), QStringList{u"odd 28T13:00 28T13:00"_s});
     }
 

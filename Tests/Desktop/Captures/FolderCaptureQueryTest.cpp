@@ -28,10 +28,8 @@ struct Stage
     /// Below the home folder, newest first.
     QStringList found() const
     {
-        QStringList names;
-        for (const ScreenCapture &capture : query.results())
-            names.append(QDir(home.folder.path()).relativeFilePath(capture.path));
-        return names;
+        const QDir folder(home.folder.path());
+        return each(query.results(), [&](const auto &found) { return folder.relativeFilePath(found.path); });
     }
     bool finds(const QStringList &names) const
     {
@@ -206,19 +204,14 @@ private Q_SLOTS:
         QCOMPARE(stage.query.results().first().created, age);
     }
 
-    void waitsForWholeFiles_data()
-    {
-        QTest::addColumn<QByteArray>("format");
-        for (const char *format : {"png", "jpg", "webp"})
-            QTest::newRow(format) << QByteArray(format);
-    }
+    void waitsForWholeFiles_data() { texts({"png", "jpg", "webp"}); }
 
     void waitsForWholeFiles()
     {
-        QFETCH(const QByteArray, format);
+        const auto [format] = fetched<QString>();
         Stage stage;
-        const QString name = u"Pictures/Screenshot."_s + QString::fromLatin1(format);
-        const QByteArray bytes = CaptureHome::picture({400, 300}, format.constData());
+        const QString name = u"Pictures/Screenshot."_s + format;
+        const QByteArray bytes = CaptureHome::picture({400, 300}, format.toLatin1().constData());
         QVERIFY(bytes.size() > 40);
         stage.home.write(name, bytes.left(bytes.size() / 2));
         QVERIFY(stage.start() && stage.found().isEmpty());
@@ -226,8 +219,7 @@ private Q_SLOTS:
         QVERIFY(stage.findsNoMoreThan({}));
         QFile file(stage.home.path(name));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes.chopped(20)) > 0 && file.flush());
-        QVERIFY(stage.findsNoMoreThan({}));
-        QVERIFY(file.write(bytes.right(20)) == 20 && file.flush());
+        QVERIFY(stage.findsNoMoreThan({}) && file.write(bytes.right(20)) == 20 && file.flush());
         file.close();
         QVERIFY(stage.finds({name}));
     }
@@ -238,18 +230,15 @@ private Q_SLOTS:
         QDir home(stage.home.folder.path());
         QVERIFY(stage.start() && home.rmdir(u"Pictures"_s));
         stage.home.write(kShot); // made with its folder, faster than any watch
-        QVERIFY(stage.finds({kShot}));
-        QVERIFY(home.rename(u"Pictures"_s, u"Old"_s) && stage.finds({}));
+        QVERIFY(stage.finds({kShot}) && home.rename(u"Pictures"_s, u"Old"_s) && stage.finds({}));
         stage.home.write(u"Old/Screenshot_2.png"_s);
-        QVERIFY(stage.findsNoMoreThan({}));
-        QVERIFY(home.rename(u"Old"_s, u"Pictures"_s));
+        QVERIFY(stage.findsNoMoreThan({}) && home.rename(u"Old"_s, u"Pictures"_s));
         QVERIFY(stage.finds({u"Pictures/Screenshot_2.png"_s, kShot}));
 
         // A link to a folder elsewhere, as a second disk is joined; and one that leads nowhere.
         QVERIFY(home.rename(u"Pictures"_s, u"Disk"_s) && stage.finds({}));
         QVERIFY(QFile::link(u"Pictures"_s, stage.home.path(u"Pictures"_s)));
-        QVERIFY(stage.findsNoMoreThan({}));
-        QVERIFY(home.remove(u"Pictures"_s));
+        QVERIFY(stage.findsNoMoreThan({}) && home.remove(u"Pictures"_s));
         QVERIFY(QFile::link(u"Disk"_s, stage.home.path(u"Pictures"_s)));
         QVERIFY(stage.finds({u"Pictures/Screenshot_2.png"_s, kShot}));
         QVERIFY(QFile::remove(stage.home.path(u"Disk/Screenshot_2.png"_s)) && stage.finds({kShot}));
@@ -306,8 +295,7 @@ private Q_SLOTS:
             QCOMPARE(::seteuid(65534), 0);
         }
         const auto restore = qScopeGuard([&] { std::ignore = isRoot ? ::seteuid(0) : 0; });
-        QVERIFY(stage.start());
-        QVERIFY(stage.query.isAccessMissing() && stage.found().isEmpty());
+        QVERIFY(stage.start() && stage.query.isAccessMissing() && stage.found().isEmpty());
         ::chmod(pictures.constData(), 0700);
         QVERIFY(stage.finds({kShot}) && !stage.query.isAccessMissing());
     }

@@ -65,8 +65,7 @@ private Q_SLOTS:
         fix.cancel();
         QTRY_VERIFY(fix.isFinished());
         const auto left = location->locate();
-        QVERIFY(destroyed(location));
-        QVERIFY(left.isFinished());
+        QVERIFY(destroyed(location) && left.isFinished());
         QCOMPARE(left.result(), std::nullopt);
     }
 
@@ -85,11 +84,9 @@ private:
         if (call.member() == "GetClient"_L1)
             return call.createReply(QVariant::fromValue(QDBusObjectPath(u"/client"_s)));
         if (call.member() == "Start"_L1 && !m_silent) {
-            auto update = QDBusMessage::createSignal(u"/client"_s, u"org.freedesktop.GeoClue2.Client"_s,
-                                                     u"LocationUpdated"_s);
-            update.setArguments({QVariant::fromValue(QDBusObjectPath(u"/"_s)),
-                                 QVariant::fromValue(QDBusObjectPath(u"/location"_s))});
-            m_service->send(update);
+            m_service->signal(u"/client"_s, u"org.freedesktop.GeoClue2.Client"_s, u"LocationUpdated"_s,
+                              {QVariant::fromValue(QDBusObjectPath(u"/"_s)),
+                               QVariant::fromValue(QDBusObjectPath(u"/location"_s))});
         }
         if (call.member() == "Get"_L1) {
             const QString name = call.arguments().value(1).toString();

@@ -48,12 +48,10 @@ private Q_SLOTS:
         QSignalSpy changed(&appearance, &Appearance::darkChanged);
         QTRY_VERIFY(!portal.calls.isEmpty());
         const auto tell = [&](const QString &key, uint value) {
-            auto signal =
-                QDBusMessage::createSignal(u"/org/freedesktop/portal/desktop"_s,
-                                           u"org.freedesktop.portal.Settings"_s, u"SettingChanged"_s);
-            signal << u"org.freedesktop.appearance"_s << key
-                   << QVariant::fromValue(QDBusVariant(QVariant(value)));
-            portal.send(signal);
+            portal.signal(
+                u"/org/freedesktop/portal/desktop"_s, u"org.freedesktop.portal.Settings"_s,
+                u"SettingChanged"_s,
+                {u"org.freedesktop.appearance"_s, key, QVariant::fromValue(QDBusVariant(QVariant(value)))});
         };
         tell(u"contrast"_s, 1);
         tell(u"color-scheme"_s, 1);

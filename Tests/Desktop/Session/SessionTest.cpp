@@ -12,16 +12,14 @@ private Q_SLOTS:
         const QTemporaryDir config;
         qputenv("XDG_CONFIG_HOME", config.path().toUtf8());
         AutostartLoginItem item(u"/opt/my \"apps\"/50% kestrune"_s);
-        QVERIFY(!item.isEnabled());
-        QVERIFY(!item.setEnabled(true) && item.isEnabled());
+        QVERIFY(!item.isEnabled() && !item.setEnabled(true) && item.isEnabled());
         const QString entry = config.filePath(u"autostart/kestrune.desktop"_s);
         const QByteArray text = readFile(entry);
         QVERIFY(text.contains("\nExec=\"/opt/my \\\\\"apps\\\\\"/50%% kestrune\"\n"));
         QVERIFY(writeFile(entry, text + "Hidden = true\n"));
         QVERIFY2(!item.isEnabled(), "the desktop's own settings switched it off");
         QVERIFY(!item.setEnabled(true) && item.isEnabled());
-        QVERIFY(!item.setEnabled(false) && !item.isEnabled());
-        QVERIFY(!item.setEnabled(false));
+        QVERIFY(!item.setEnabled(false) && !item.isEnabled() && !item.setEnabled(false));
         QVERIFY(QDir(config.path()).rmdir(u"autostart"_s));
         QVERIFY(writeFile(config.filePath(u"autostart"_s)));
         QVERIFY2(item.setEnabled(true).has_value(), "a folder that cannot be made is told");

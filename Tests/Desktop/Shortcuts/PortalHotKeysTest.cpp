@@ -23,8 +23,9 @@ struct Portal : BusStandIn
     QVariantMap wanted; ///< What BindShortcuts asked for.
     QStringList sessions;
 
-    Portal()
+    explicit Portal(const std::optional<QString> &bound = {})
         : BusStandIn(u"org.freedesktop.portal.Desktop"_s)
+        , trigger(bound)
     {
         PortalWire::registerTypes();
     }
@@ -42,18 +43,15 @@ struct Portal : BusStandIn
         return QVariant::fromValue(keys);
     }
 
-    void signal(const QString &member, const QVariantList &arguments)
+    void tell(const QString &member, const QVariantList &arguments)
     {
-        QDBusMessage signal =
-            QDBusMessage::createSignal(PortalWire::object(), PortalWire::shortcuts(), member);
-        signal.setArguments(arguments);
-        send(signal);
+        signal(PortalWire::object(), PortalWire::shortcuts(), member, arguments);
     }
 
     /// The key of that shortcut goes down or up, as the portal tells it.
     void key(const QString &member, const QString &session, const QString &id = u"toggle"_s)
     {
-        signal(member, {object(session), id, 0ULL, QVariantMap()});
+        tell(member, {object(session), id, 0ULL, QVariantMap()});
     }
 
     qsizetype count(const QString &member) const
@@ -96,10 +94,7 @@ private:
         } else {
             results.insert(u"shortcuts"_s, list());
         }
-        QDBusMessage signal =
-            QDBusMessage::createSignal(handle, u"org.freedesktop.portal.Request"_s, u"Response"_s);
-        signal << code << results;
-        send(signal);
+        signal(handle, u"org.freedesktop.portal.Request"_s, u"Response"_s, {code, results});
     }
 };
 
@@ -125,10 +120,8 @@ struct Accel : ServiceStandIn
 
     void tell(const QString &member)
     {
-        QDBusMessage signal =
-            QDBusMessage::createSignal(u"/component/k"_s, u"org.kde.kglobalaccel.Component"_s, member);
-        signal << u"example.kestrune.Kestrune"_s << u"toggle"_s << 0LL;
-        send(signal);
+        signal(u"/component/k"_s, u"org.kde.kglobalaccel.Component"_s, member,
+               {u"example.kestrune.Kestrune"_s, u"toggle"_s, 0LL});
     }
 };
 
@@ -162,18 +155,14 @@ class PortalHotKeysTest : public QObject
 private Q_SLOTS:
     void theListSaysWhatIsBound_data()
     {
-        columns<uint, std::optional<QString>, State, QString>();
-        const auto row = [](const char *name, uint response, const std::optional<QString> &trigger,
-                            State state, const QString &told) {
-            QTest::newRow(name) << response << trigger << state << told;
-        };
+        const auto row = columns<uint, std::optional<QString>, State, QString>();
         row("bound", 0, u"Meta+Ctrl+Alt+N"_s, State::chosen, u"Meta+Ctrl+Alt+N"_s);
         row("bound, said to be ended", 2, u"Press <Control><Alt><Super>n"_s, State::chosen,
             u"Ctrl+Alt+Super+N"_s);
         row("the user's own choice", 0, u" Strg+Umschalt+ñ"_s, State::chosen, u"Strg+Umschalt+ñ"_s);
-        row("refused", 1, std::nullopt, State::unbound, {});
-        row("ended", 2, std::nullopt, State::unbound, {});
-        row("without a key", 0, u""_s, State::taken, {});
+        row("refused", 1, std::nullopt, State::unbound, "");
+        row("ended", 2, std::nullopt, State::unbound, "");
+        row("without a key", 0, u""_s, State::taken, "");
         row("bound at great length", 0, u"F\n\u0007"_s + QString(1000, u'x'), State::chosen,
             u"F "_s + QString(77, u'x'));
     }
@@ -181,9 +170,8 @@ private Q_SLOTS:
     void theListSaysWhatIsBound()
     {
         const auto [response, trigger, state, told] = fetched<uint, std::optional<QString>, State, QString>();
-        Portal portal;
+        Portal portal(trigger);
         portal.response = response;
-        portal.trigger = trigger;
         QVERIFY(portal.appear());
         Keys keys(portal.bus());
         QVERIFY(keys.ask(1));
@@ -196,8 +184,8 @@ private Q_SLOTS:
         QCOMPARE(portal.wanted.value(u"description"_s), u"Open Notch"_s);
 
         portal.trigger = u"F7"_s;
-        portal.signal(u"ShortcutsChanged"_s, {object(u"/other"_s), QVariant::fromValue(portal.list())});
-        portal.signal(u"ShortcutsChanged"_s, {object(portal.sessions.at(0)), portal.list()});
+        portal.tell(u"ShortcutsChanged"_s, {object(u"/other"_s), QVariant::fromValue(portal.list())});
+        portal.tell(u"ShortcutsChanged"_s, {object(portal.sessions.at(0)), portal.list()});
         QTRY_COMPARE(keys.last(), (HotKeyBinding{State::chosen, u"F7"_s}));
         QCOMPARE(keys.bindings.size(), 2);
     }
@@ -244,8 +232,7 @@ private Q_SLOTS:
 
     void aPressIsToldOnce()
     {
-        Portal portal;
-        portal.trigger = u"F8"_s;
+        Portal portal(u"F8"_s);
         QVERIFY(portal.appear());
         Keys keys(portal.bus());
         QVERIFY(keys.ask(4));
@@ -253,7 +240,7 @@ private Q_SLOTS:
         const QString session = portal.sessions.at(0);
         portal.key(u"Activated"_s, u"/other"_s);
         portal.key(u"Activated"_s, session, u"other"_s);
-        portal.signal(u"Activated"_s, {u"of another kind"_s});
+        portal.tell(u"Activated"_s, {u"of another kind"_s});
         for (int i = 0; i < 3; ++i) // It repeats while it is held down.
             portal.key(u"Activated"_s, session);
         portal.key(u"Deactivated"_s, session);
@@ -263,8 +250,7 @@ private Q_SLOTS:
 
     void offAndOnAgain()
     {
-        Portal portal;
-        portal.trigger = u"F8"_s;
+        Portal portal(u"F8"_s);
         QVERIFY(portal.appear());
         Keys keys(portal.bus());
         for (quint32 id = 1; id <= 3; ++id) {
@@ -285,8 +271,7 @@ private Q_SLOTS:
 
     void offBeforeItWasBound()
     {
-        Portal portal;
-        portal.trigger = u"F8"_s;
+        Portal portal(u"F8"_s);
         portal.holds = true;
         QVERIFY(portal.appear());
         Keys keys(portal.bus());
@@ -302,8 +287,7 @@ private Q_SLOTS:
 
     void aPortalThatComesGoesAndEndsTheSession()
     {
-        Portal portal;
-        portal.trigger = u"F8"_s;
+        Portal portal(u"F8"_s);
         Keys keys(portal.bus());
         QVERIFY(keys.ask(1));
         const HotKeyBinding bound{State::chosen, u"F8"_s};
@@ -320,10 +304,8 @@ private Q_SLOTS:
         portal.key(u"Activated"_s, portal.sessions.at(1));
         QTRY_COMPARE(keys.pressed, QList<quint32>{1});
 
-        QDBusMessage closed = QDBusMessage::createSignal(portal.sessions.at(1),
-                                                         u"org.freedesktop.portal.Session"_s, u"Closed"_s);
-        closed << QVariantMap();
-        portal.send(closed);
+        portal.signal(portal.sessions.at(1), u"org.freedesktop.portal.Session"_s, u"Closed"_s,
+                      {QVariantMap()});
         QTRY_COMPARE(keys.last(), unbound);
     }
 

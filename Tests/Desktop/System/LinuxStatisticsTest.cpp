@@ -8,8 +8,6 @@ class LinuxStatisticsTest : public QObject
 {
     Q_OBJECT
 
-    using Files = QMap<QString, QString>;
-
 private Q_SLOTS:
     void figuresAgreeWithAnotherProgram()
     {
@@ -59,55 +57,43 @@ private Q_SLOTS:
 
     void powerSupplies_data()
     {
-        const auto row = columns<Files, QStringList>();
-        const Files adapter{{u"AC/type"_s, u"Mains"_s}, {u"AC/online"_s, u"1"_s}};
-        const Files battery{{u"BAT0/type"_s, u"Battery"_s},
-                            {u"BAT0/status"_s, u"Discharging"_s},
-                            {u"BAT0/energy_now"_s, u"4999"_s},
-                            {u"BAT0/energy_full"_s, u"5000"_s}};
-        const auto with = [](Files files, const Files &more) { return files.insert(more), files; };
-        row("none", adapter, QStringList());
-        row("on the battery", battery, QStringList{u"4999/5000"_s});
-        row("on mains", with(battery, adapter), QStringList{u"4999/5000 AC Power"_s});
-        row("unplugged", with(with(battery, adapter), {{u"AC/online"_s, u"0"_s}}),
-            QStringList{u"4999/5000"_s});
-        row("no adapter to ask", with(battery, {{u"BAT0/status"_s, u"Full"_s}}),
-            QStringList{u"4999/5000 AC Power"_s});
-        row("a USB adapter", with(battery, {{u"ucsi/type"_s, u"USB"_s}, {u"ucsi/online"_s, u"1"_s}}),
-            QStringList{u"4999/5000 AC Power"_s});
+        // files: with what is in them; later ones replace earlier ones
+        const auto row = columns<QString, QStringList>();
+        const QString adapter = u"AC/type=Mains AC/online=1 "_s;
+        const QString battery =
+            u"BAT0/type=Battery BAT0/status=Discharging BAT0/energy_now=4999 BAT0/energy_full=5000 "_s;
+        row("none", adapter, {});
+        row("on the battery", battery, {u"4999/5000"_s});
+        row("on mains", battery + adapter, {u"4999/5000 AC Power"_s});
+        row("unplugged", battery + adapter + u"AC/online=0"_s, {u"4999/5000"_s});
+        row("no adapter to ask", battery + u"BAT0/status=Full"_s, {u"4999/5000 AC Power"_s});
+        row("a USB adapter", battery + u"ucsi/type=USB ucsi/online=1"_s, {u"4999/5000 AC Power"_s});
         row("two, and a mouse",
-            with(battery, {{u"BAT1/type"_s, u"Battery"_s},
-                           {u"BAT1/charge_now"_s, u"7"_s},
-                           {u"BAT1/charge_full"_s, u"0"_s},
-                           {u"hid/type"_s, u"Battery"_s},
-                           {u"hid/scope"_s, u"Device"_s},
-                           {u"hid/capacity"_s, u"9"_s}}),
-            QStringList{u"4999/5000"_s, u"7/0"_s});
-        row("per cent only", Files{{u"BAT0/type"_s, u"Battery"_s}, {u"BAT0/capacity"_s, u"42"_s}},
-            QStringList{u"42/100"_s});
-        row("unreadable", Files{{u"BAT0/type"_s, u"Battery"_s}, {u"BAT0/charge_now"_s, u"x"_s}},
-            QStringList{u"-/100"_s});
+            battery + u"BAT1/type=Battery BAT1/charge_now=7 BAT1/charge_full=0 "
+                      "hid/type=Battery hid/scope=Device hid/capacity=9"_s,
+            {u"4999/5000"_s, u"7/0"_s});
+        row("per cent only", "BAT0/type=Battery BAT0/capacity=42", {u"42/100"_s});
+        row("unreadable", "BAT0/type=Battery BAT0/charge_now=x", {u"-/100"_s});
     }
     void powerSupplies()
     {
-        const auto [files, sources] = fetched<Files, QStringList>();
+        const auto [files, sources] = fetched<QString, QStringList>();
         const QTemporaryDir root;
         QCOMPARE(LinuxStatistics(root.path()).powerSources().has_value(), false);
-        for (auto file = files.cbegin(); file != files.cend(); ++file) {
-            const QString path = root.path() + u"/sys/class/power_supply/"_s + file.key();
-            QVERIFY(writeFile(path, file.value().toUtf8() + '\n'));
+        for (const QString &file : files.split(u' ', Qt::SkipEmptyParts)) {
+            const QString path = root.path() + u"/sys/class/power_supply/"_s + file.section(u'=', 0, 0);
+            QVERIFY(writeFile(path, file.section(u'=', 1).toUtf8() + '\n'));
         }
         const auto found = LinuxStatistics(root.path()).powerSources();
         QVERIFY(found);
-        QStringList described;
         const auto number = [](const std::optional<qint64> &value) {
             return value ? QString::number(*value) : u"-"_s;
         };
-        for (const PowerSource &source : *found)
-            described.append(
-                (number(source.currentCapacity) + u'/' + number(source.maxCapacity) + u' ' + source.state)
-                    .trimmed());
-        QCOMPARE(described, sources);
+        const auto described = [&](const PowerSource &source) {
+            return u"%1/%2 %3"_s.arg(number(source.currentCapacity), number(source.maxCapacity), source.state)
+                .trimmed();
+        };
+        QCOMPARE(each(*found, described), sources);
     }
 };
 
