@@ -49,51 +49,38 @@ private Q_SLOTS:
         const X11 &x = stage().x;
         const auto panels = x.topWindows({880, 390});
         QCOMPARE(panels.size(), 1);
-        auto *symbols = xcb_key_symbols_alloc(x.connection());
-        auto *codes = xcb_key_symbols_get_keycode(symbols, XK_n);
         xcb_key_press_event_t event{};
         event.response_type = XCB_KEY_PRESS;
-        event.detail = codes[0];
+        event.detail = input().code(XK_n);
         event.root = event.event = x.root();
-        event.state = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
+        event.state = modifiers;
         event.time = 1;
         xcb_send_event(x.connection(), 0, panels[0], XCB_EVENT_MASK_NO_EVENT,
                        reinterpret_cast<const char *>(&event));
         x.sync();
-        std::free(codes);
-        xcb_key_symbols_free(symbols);
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
         QVERIFY(stage().openByHotKey());
     }
 
     void aTakenCombinationLeavesTheRestWorking()
     {
-        takeCombination();
+        const X11 &x = stage().x;
+        for (const int locks :
+             {0, int{XCB_MOD_MASK_2}, int{XCB_MOD_MASK_LOCK}, XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK})
+            xcb_grab_key(x.connection(), 1, x.root(), static_cast<uint16_t>(modifiers | locks),
+                         input().code(XK_n), XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+        x.sync();
         QVERIFY(stage().run());
         input().hotKey();
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
 
-        QVERIFY(stage().openByHover());
-        QVERIFY(stage().leave());
+        QVERIFY(stage().openByHover() && stage().leave());
         QCOMPARE(session().command({u"toggle"_s}).status, 0);
         QTRY_VERIFY(stage().looksOpen());
     }
 
 private:
-    void takeCombination()
-    {
-        const X11 &x = stage().x;
-        auto *symbols = xcb_key_symbols_alloc(x.connection());
-        auto *codes = xcb_key_symbols_get_keycode(symbols, XK_n);
-        const int modifiers = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
-        for (const int locks :
-             {0, int{XCB_MOD_MASK_2}, int{XCB_MOD_MASK_LOCK}, XCB_MOD_MASK_2 | XCB_MOD_MASK_LOCK})
-            xcb_grab_key(x.connection(), 1, x.root(), static_cast<uint16_t>(modifiers | locks), codes[0],
-                         XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-        x.sync();
-        std::free(codes);
-        xcb_key_symbols_free(symbols);
-    }
+    static constexpr int modifiers = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | XCB_MOD_MASK_4;
 };
 
 REGISTER_TEST(HotKeyTest);

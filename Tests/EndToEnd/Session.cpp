@@ -108,10 +108,8 @@ QStringList Session::tools() const
 
 QStringList Session::copiedTexts() const
 {
-    QStringList texts;
-    for (const auto &item : decodeClipboardItems(data(u"notch.clipboardItems"_s)).value_or(ClipboardItems()))
-        texts.append(item.text);
-    return texts;
+    return each(decodeClipboardItems(data(u"notch.clipboardItems"_s)).value_or(ClipboardItems()),
+                &ClipboardItem::text);
 }
 
 void Session::copy(const QString &type, const QByteArray &bytes) const

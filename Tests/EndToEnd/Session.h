@@ -58,6 +58,7 @@ struct Session
     QJsonArray displays() const;
     QJsonObject display(int index = 0) const;
     bool isOpen(int index = 0) const;
+    bool hasActivity() const { return status().value(QLatin1String("hasActivity")).toBool(); }
     QString selected(int index = 0) const;
     /// The texts of the clipboard history.
     QStringList copiedTexts() const;
