@@ -14,8 +14,7 @@ private Q_SLOTS:
     {
         write(u"first"_s, "DUE:20200101T080000Z\r\nX-KEPT:yes\r\n");
         write(u"second"_s, "");
-        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"calendar"_s) &&
-                stage().openByHotKey());
+        QVERIFY(stage().show(u"calendar"_s));
         QTRY_VERIFY(isWritten(firstTitle));
         input().click(firstCircle);
         QTRY_VERIFY(read(u"first"_s).contains("\r\nSTATUS:COMPLETED\r\n"));
@@ -36,9 +35,7 @@ private Q_SLOTS:
 
     void accessMakesTheFolder()
     {
-        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"calendar"_s) &&
-                stage().openByHotKey());
-        QVERIFY(!QDir(folder()).exists());
+        QVERIFY(stage().show(u"calendar"_s) && !QDir(folder()).exists());
         const auto made = [&] { return QDir(folder()).exists(); };
         QVERIFY(waitUntil([&] { return input().click(allowCalendar), waitUntil(made, 1000); }));
     }
@@ -48,13 +45,8 @@ private:
     bool isWritten(QRect place)
     {
         const QImage image = stage().x.grab(place);
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (image.pixelColor(x, y).lightness() > 128)
-                    return true;
-            }
-        }
-        return false;
+        const auto isBright = [&](int x, int y) { return image.pixelColor(x, y).lightness() > 128; };
+        return !areaWhere(image.size(), isBright).isEmpty();
     }
 
     QString folder() { return session().environment().value(u"XDG_DATA_HOME"_s) + u"/calendars"_s; }

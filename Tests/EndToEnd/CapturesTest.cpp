@@ -1,5 +1,4 @@
 #include "EndToEnd/Stage.h"
-#include "Support/Files.h"
 
 /// Screenshots of real tools, from the disk to the closed notch's wings and the pane.
 class CapturesTest : public StageTest
@@ -24,9 +23,8 @@ private Q_SLOTS:
     {
         auto [tool, arguments, folder] = fetched<QString, QString, QString>();
         const QDir home(session().environment().value(u"HOME"_s));
-        QVERIFY(home.mkpath(folder));
-        QVERIFY(runWithAnOlderOne(home));
-        QVERIFY(!hasActivity() && !stage().covered(wing));
+        QVERIFY(home.mkpath(folder) && runWithAnOlderOne(home));
+        QVERIFY(!session().hasActivity() && !stage().covered(wing));
         const qsizetype before = pictures(home.filePath(folder)).size();
 
         ChildProcess process(session().environment());
@@ -34,7 +32,7 @@ private Q_SLOTS:
         arguments.replace("HOME"_L1, home.path());
         QVERIFY(process.launch(tool, arguments.split(u' ', Qt::SkipEmptyParts)));
         QVERIFY(waitUntil([&] { return pictures(home.filePath(folder)).size() > before; }));
-        QVERIFY(waitUntil([&] { return hasActivity(); }));
+        QVERIFY(waitUntil([&] { return session().hasActivity(); }));
         // Some tools light the whole display up for a moment.
         const auto isThere = [&] { return stage().covered(wing); };
         QVERIFY(waitUntil([&] { return holdsFor(isThere, 500); }));
@@ -44,20 +42,20 @@ private Q_SLOTS:
     {
         const QDir home(session().environment().value(u"HOME"_s));
         QVERIFY(runWithAnOlderOne(home));
-        QVERIFY(holdsFor([&] { return !hasActivity(); }, 1500));
+        QVERIFY(holdsFor([&] { return !session().hasActivity(); }, 1500));
         shoot(home);
-        QVERIFY(waitUntil([&] { return hasActivity(); }));
+        QVERIFY(waitUntil([&] { return session().hasActivity(); }));
         QTest::qWait(1500);
         QElapsedTimer second;
         second.start();
         shoot(home);
-        QVERIFY(waitUntil([&] { return !hasActivity(); }));
+        QVERIFY(waitUntil([&] { return !session().hasActivity(); }));
         QVERIFY2(second.elapsed() > 5500, "six seconds after the second one");
         QTRY_VERIFY(!stage().covered(wing));
 
         QVERIFY(session().set(u"announceScreenshots"_s, u"false"_s));
         shoot(home);
-        QVERIFY(holdsFor([&] { return !hasActivity(); }, 1500));
+        QVERIFY(holdsFor([&] { return !session().hasActivity(); }, 1500));
         for (const QString &name : pictures(home.filePath(u"Pictures"_s)))
             QVERIFY(QFile::remove(home.filePath(u"Pictures/"_s + name)));
         QVERIFY(holdsFor([&] { return session().isRunning(); }, 500));
@@ -80,7 +78,6 @@ private:
                stage().run({{"hoverDelay", "60"}}) &&
                waitUntil([&] { return !pictures(thumbnails).isEmpty(); });
     }
-    bool hasActivity() { return session().status().value("hasActivity"_L1).toBool(); }
     void shoot(const QDir &home)
     {
         ChildProcess process(session().environment());

@@ -8,32 +8,28 @@ class CommandLineTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void badArguments_data()
+    void refusals_data()
     {
-        rows({"frobnicate", "--frobnicate", "open frobnicate", "toggle home", "settings", "settings get",
-              "settings get frobnicate", "settings set hoverDelay", "settings set hoverDelay soon",
-              "settings set openMode Click", "settings set tools home", "usage --home",
-              "usage --home /nowhere", "usage --now noon"});
+        columns<QStringList, int>();
+        const auto rows = [](int status, std::initializer_list<const char *> lines) {
+            for (const char *line : lines) // No argument in them has a space.
+                QTest::newRow(line) << QString::fromLatin1(line).split(u' ') << status;
+        };
+        // Bad arguments, which are looked at before anything else.
+        rows(2, {"frobnicate", "--frobnicate", "open frobnicate", "toggle home", "settings", "settings get",
+                 "settings get frobnicate", "settings set hoverDelay", "settings set hoverDelay soon",
+                 "settings set openMode Click", "settings set tools home", "usage --home",
+                 "usage --home /nowhere", "usage --now noon"});
+        // Nothing is running.
+        rows(1, {"toggle", "open", "open timer", "close", "quit", "status --json"});
     }
 
-    void badArguments()
+    void refusals()
     {
-        QFETCH(QStringList, arguments);
-        const Session session; // no display either: the arguments are looked at first
+        const auto [arguments, status] = fetched<QStringList, int>();
+        const Session session; // no display either
         const Session::Result result = session.command(arguments);
-        QCOMPARE(result.status, 2);
-        QVERIFY2(isOneLine(result.errors), qPrintable(result.errors));
-        QCOMPARE(result.output, QString());
-    }
-
-    void nothingRunning_data() { rows({"toggle", "open", "open timer", "close", "quit", "status --json"}); }
-
-    void nothingRunning()
-    {
-        QFETCH(QStringList, arguments);
-        const Session session;
-        const Session::Result result = session.command(arguments);
-        QCOMPARE(result.status, 1);
+        QCOMPARE(result.status, status);
         QVERIFY2(isOneLine(result.errors), qPrintable(result.errors));
         QCOMPARE(result.output, QString());
     }
@@ -55,9 +51,8 @@ private Q_SLOTS:
         QVERIFY(stage().run({{"tools", R"(["home", "note"])"}}));
         QJsonObject status = session().status();
         QCOMPARE(status.value("running"_L1), true);
-        QCOMPARE(status.value("yielding"_L1), false);
-        QCOMPARE(status.value("anyExpanded"_L1), false);
-        QCOMPARE(status.value("hasActivity"_L1), false);
+        for (const auto &field : {u"yielding"_s, u"anyExpanded"_s, u"hasActivity"_s})
+            QCOMPARE(status.value(field), false);
         QVERIFY(status.value("visibleTool"_L1).isNull());
         QCOMPARE(status.value("tools"_L1).toArray(), QJsonArray({u"home"_s, u"note"_s}));
         const QJsonObject display = session().display();
@@ -83,14 +78,13 @@ private Q_SLOTS:
         QVERIFY(!live || stage().run());
         const Session &session = stage().session;
         QCOMPARE(session.setting(u"hoverDelay"_s), u"0.12"_s);
-        QVERIFY(session.set(u"hoverDelay"_s, u"0.5"_s));
-        QCOMPARE(session.setting(u"hoverDelay"_s), u"0.5"_s);
-        QVERIFY(session.set(u"openMode"_s, u"click"_s));
-        QCOMPARE(session.setting(u"openMode"_s), u"click"_s);
-        QVERIFY(session.set(u"allDisplays"_s, u"true"_s));
-        QCOMPARE(session.setting(u"allDisplays"_s), u"true"_s);
-        QVERIFY(session.set(u"note"_s, u"Zwölf\nEier"_s));
-        QCOMPARE(session.setting(u"note"_s), u"Zwölf\nEier"_s);
+        for (const auto &[name, value] : {std::pair(u"hoverDelay"_s, u"0.5"_s),
+                                          {u"openMode"_s, u"click"_s},
+                                          {u"allDisplays"_s, u"true"_s},
+                                          {u"note"_s, u"Zwölf\nEier"_s}}) {
+            QVERIFY(session.set(name, value));
+            QCOMPARE(session.setting(name), value);
+        }
 
         const Session::Result refused =
             session.command({u"settings"_s, u"set"_s, u"calendarSource"_s, u"folder"_s});
@@ -105,12 +99,7 @@ private Q_SLOTS:
         QCOMPARE(session.setting(u"hoverDelay"_s), u"0.12"_s);
     }
 
-    void readingChangesNothing_data()
-    {
-        const auto row = columns<QString>();
-        for (const char *store : {"none", "closed", "left by a kill", "damaged"})
-            row(store, store);
-    }
+    void readingChangesNothing_data() { texts({"none", "closed", "left by a kill", "damaged"}); }
 
     void readingChangesNothing()
     {
@@ -148,8 +137,7 @@ private Q_SLOTS:
 
     void settingsActAtOnce()
     {
-        QVERIFY(stage().run());
-        QVERIFY(session().set(u"openMode"_s, u"click"_s));
+        QVERIFY(stage().run() && session().set(u"openMode"_s, u"click"_s));
         input().move(Place::notch);
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 500));
         QVERIFY(session().set(u"openMode"_s, u"hover"_s));
@@ -161,14 +149,6 @@ private Q_SLOTS:
     }
 
 private:
-    /// One row per command line; no argument in them has a space.
-    static void rows(std::initializer_list<const char *> commandLines)
-    {
-        QTest::addColumn<QStringList>("arguments");
-        for (const char *line : commandLines)
-            QTest::newRow(line) << QString::fromLatin1(line).split(u' ');
-    }
-
     /// Every file and folder with its bytes.
     static QMap<QString, QByteArray> contentsBelow(const QString &folder)
     {

@@ -10,8 +10,7 @@ private Q_SLOTS:
 
     void oneNotchPerDisplayOnRequest()
     {
-        QVERIFY(stage().display.plugSecond(true));
-        QVERIFY(stage().run());
+        QVERIFY(stage().display.plugSecond(true) && stage().run());
         const QColor desktop = stage().x.pixel({1920, 100});
         QVERIFY(showsNotches(1));
         QCOMPARE(stage().x.pixel(secondNotch), desktop);
@@ -36,8 +35,7 @@ private Q_SLOTS:
 
     void theHotKeyOpensWhereThePointerIs()
     {
-        QVERIFY(stage().display.plugSecond(true));
-        QVERIFY(stage().run({{"allDisplays", "true"}}));
+        QVERIFY(stage().display.plugSecond(true) && stage().run({{"allDisplays", "true"}}));
         QTRY_VERIFY(showsNotches(2));
         input().move({1920, 600});
         input().hotKey();

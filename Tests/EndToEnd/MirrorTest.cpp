@@ -31,9 +31,7 @@ private Q_SLOTS:
         QTRY_VERIFY(isBlue(left));
         QVERIFY(server.pullOut());
         QTRY_COMPARE(stage().x.pixel(left), QColor(Qt::black));
-        QCOMPARE(session().command({u"close"_s}).status, 0);
-        QVERIFY(stage().waitClosed() && server.plugIn());
-        QVERIFY(stage().openByHotKey());
+        QVERIFY(stage().close() && server.plugIn() && stage().openByHotKey());
         QTRY_VERIFY(isBlue(left));
 
         session().program().killNow();
@@ -43,8 +41,7 @@ private Q_SLOTS:
     void comesBackByItself()
     {
         CameraServer server(session().environment());
-        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"mirror"_s));
-        QVERIFY(stage().openByHotKey());
+        QVERIFY(stage().show(u"mirror"_s));
         QTRY_COMPARE(stage().x.pixel(left), QColor(Qt::black));
         QVERIFY(server.plugIn());
         QTRY_VERIFY(isBlue(left));
@@ -62,16 +59,12 @@ private Q_SLOTS:
     {
         const auto [manager] = fetched<bool>();
         CameraServer server(session().environment());
-        QVERIFY(server.plugIn());
-        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"mirror"_s));
-        QVERIFY(stage().openByHotKey());
+        QVERIFY(server.plugIn() && stage().show(u"mirror"_s));
         QTRY_VERIFY(isBlue(left));
         QVERIFY(server.hang(manager));
         if (!manager)
             QTRY_COMPARE(stage().x.pixel(left), QColor(Qt::black));
-        QCOMPARE(session().command({u"close"_s}).status, 0);
-        QVERIFY(stage().waitClosed() && server.plugIn());
-        QVERIFY(stage().openByHotKey());
+        QVERIFY(stage().close() && server.plugIn() && stage().openByHotKey());
         QTRY_VERIFY(isBlue(left));
     }
 
@@ -86,8 +79,7 @@ private Q_SLOTS:
                 return call.createReply(QVariant::fromValue(QDBusVariant(true)));
             return call.createErrorReply(u"org.freedesktop.portal.Error.NotAllowed"_s, u"no"_s);
         }));
-        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"mirror"_s));
-        QVERIFY(stage().openByHotKey());
+        QVERIFY(stage().show(u"mirror"_s));
         QTRY_VERIFY(stage().x.pixel(settingsButton).blue() > 200);
         QVERIFY(portal.called().last().endsWith(u"Camera.AccessCamera"_s));
         QCOMPARE(server.state(), u"suspended"_s);

@@ -10,13 +10,13 @@ private Q_SLOTS:
     {
         QVERIFY(makeSongs());
         QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"nowPlaying"_s));
-        QVERIFY(!hasActivity() && !stage().covered(wing));
+        QVERIFY(!session().hasActivity() && !stage().covered(wing));
 
         ChildProcess mpv(session().environment());
         QVERIFY(mpv.launch(u"mpv"_s,
                            {u"--no-config"_s, u"--no-terminal"_s, u"--ao=null"_s, u"--vo=null"_s,
                             u"--script=/usr/lib/mpv-mpris/mpris.so"_s, song(u"one"_s), song(u"two"_s)}));
-        QVERIFY(waitUntil([&] { return hasActivity(); }));
+        QVERIFY(waitUntil([&] { return session().hasActivity(); }));
         QTRY_VERIFY(stage().covered(wing));
         QVERIFY2(waitUntil([&] { return wingsMove(); }), "the song plays");
         QVERIFY(stage().openByHotKey());
@@ -50,19 +50,17 @@ private Q_SLOTS:
         ask(u"mpv"_s, u"pause"_s);
         QTest::qWait(2200);
         input().move(Place::away);
-        QCOMPARE(session().command({u"close"_s}).status, 0);
-        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().close());
         QVERIFY2(waitUntil([&] { return !wingsMove() && stage().covered(wing); }), "it is paused");
 
         ask(u"mpv"_s, u"stop"_s);
-        QVERIFY(holdsFor([&] { return hasActivity(); }, 2500)); // the other one is paused
+        QVERIFY(holdsFor([&] { return session().hasActivity(); }, 2500)); // the other one is paused
         ask(u"cmus"_s, u"stop"_s);
-        QVERIFY(waitUntil([&] { return !hasActivity(); }));
+        QVERIFY(waitUntil([&] { return !session().hasActivity(); }));
         QTRY_VERIFY(!stage().covered(wing));
     }
 
 private:
-    bool hasActivity() { return session().status().value("hasActivity"_L1).toBool(); }
     QString music() { return session().environment().value(u"HOME"_s) + u"/music"_s; }
     QString song(const QString &title) { return music() + u'/' + title + u".flac"_s; }
 

@@ -69,8 +69,7 @@ private Q_SLOTS:
         QCOMPARE(hosts.value(target("ERR")), (QList{first, second}));
 
         m_server.forget();
-        QVERIFY(session().set(u"tickers"_s, uR"(["NEW"])"_s));
-        QVERIFY(stage().openByHotKey());
+        QVERIFY(session().set(u"tickers"_s, uR"(["NEW"])"_s) && stage().openByHotKey());
         QTRY_COMPARE(m_server.targets(), QList{target("NEW")});
     }
 

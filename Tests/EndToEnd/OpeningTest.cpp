@@ -9,25 +9,16 @@ class OpeningTest : public StageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void hoverOpensAfterTheDelay_data()
-    {
-        QTest::addColumn<QByteArray>("delay");
-        QTest::newRow("none") << "0"_ba;
-        QTest::newRow("default") << "0.12"_ba;
-        QTest::newRow("long") << "0.8"_ba;
-    }
+    void hoverOpensAfterTheDelay_data() { texts({"0", "0.12", "0.8"}); }
 
     void hoverOpensAfterTheDelay()
     {
-        QFETCH(QByteArray, delay);
-        QVERIFY(stage().run({{"hoverDelay", delay.constData()}}));
+        const auto [delay] = fetched<QString>();
+        QVERIFY(stage().run({{"hoverDelay", QTest::currentDataTag()}}));
         input().move(Place::notch);
-        const qint64 opened = timeUntil([&] { return !stage().looksClosed(); });
-        const auto promised = static_cast<qint64>(delay.toDouble() * 1000);
-        QVERIFY2(opened >= promised, qPrintable(QString::number(opened)));
+        QCOMPARE_GE(timeUntil([&] { return !stage().looksClosed(); }), qint64(delay.toDouble() * 1000));
         QTRY_VERIFY(stage().looksOpen());
-        QVERIFY(session().isOpen());
-        QVERIFY(session().display().value("pointerEntered"_L1).toBool());
+        QVERIFY(session().isOpen() && session().display().value("pointerEntered"_L1).toBool());
     }
 
     void pressingWhileRestingStartsTheDelayAnew()
@@ -38,8 +29,7 @@ private Q_SLOTS:
         input().pressButton();
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 900));
         input().releaseButton();
-        const qint64 opened = timeUntil([&] { return !stage().looksClosed(); });
-        QVERIFY2(opened >= 600, qPrintable(QString::number(opened)));
+        QCOMPARE_GE(timeUntil([&] { return !stage().looksClosed(); }), 600);
     }
 
     void clickModeOpensOnThePress()
@@ -65,17 +55,11 @@ private Q_SLOTS:
         QCOMPARE(stage().beneath.clicks(), 0);
     }
 
-    void aPressDraggedInDoesNotOpen_data()
-    {
-        QTest::addColumn<QByteArray>("mode");
-        QTest::newRow("click") << "click"_ba;
-        QTest::newRow("hover") << "hover"_ba;
-    }
+    void aPressDraggedInDoesNotOpen_data() { texts({"click", "hover"}); }
 
     void aPressDraggedInDoesNotOpen()
     {
-        QFETCH(QByteArray, mode);
-        QVERIFY(stage().run({{"openMode", mode.constData()}}));
+        QVERIFY(stage().run({{"openMode", QTest::currentDataTag()}}));
         input().move(Place::panel);
         input().pressButton();
         QTest::qWait(100);
@@ -95,8 +79,7 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 700));
 
         input().move(Place::away);
-        const qint64 closed = timeUntil([&] { return !stage().looksOpen(); });
-        QVERIFY2(closed >= leaveDelay, qPrintable(QString::number(closed)));
+        QCOMPARE_GE(timeUntil([&] { return !stage().looksOpen(); }), leaveDelay);
         QVERIFY(stage().waitClosed());
     }
 
@@ -109,8 +92,7 @@ private Q_SLOTS:
         input().move(Place::panel);
         QTRY_VERIFY(session().display().value("pointerEntered"_L1).toBool());
         input().move(Place::away);
-        const qint64 closed = timeUntil([&] { return !stage().looksOpen(); });
-        QVERIFY2(closed >= leaveDelay, qPrintable(QString::number(closed)));
+        QCOMPARE_GE(timeUntil([&] { return !stage().looksOpen(); }), leaveDelay);
     }
 
     void openedByHotKeyAClickOutsideClosesIt()
@@ -123,8 +105,7 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 500));
         input().releaseButton();
         QTest::qWait(100);
-        QVERIFY(stage().clickReachesBeneath(Place::away));
-        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().clickReachesBeneath(Place::away) && stage().waitClosed());
     }
 
     void pinnedItStays()

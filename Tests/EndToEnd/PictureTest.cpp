@@ -33,8 +33,7 @@ private Q_SLOTS:
         QVERIFY(!stage().covered({205, 200}) && !stage().covered({1074, 200}) &&
                 !stage().covered({640, 388}));
 
-        QCOMPARE(session().command({u"close"_s}).status, 0);
-        QVERIFY(stage().waitClosed());
+        QVERIFY(stage().close());
         QTRY_VERIFY(fills(changedArea(before), closed));
     }
 
@@ -57,8 +56,7 @@ private Q_SLOTS:
 
         input().move({1280, 40});
         QTRY_VERIFY(fills(changedArea(before), QRect(1280 - 760, 0, 1520, 660)));
-        QVERIFY(stage().clickIsKept({1280, 670}));
-        QVERIFY(stage().clickReachesBeneath({1280, 684}));
+        QVERIFY(stage().clickIsKept({1280, 670}) && stage().clickReachesBeneath({1280, 684}));
         input().move({1280, 1500});
         QTRY_VERIFY(fills(changedArea(before), QRect(1280 - 190, 0, 380, 64)));
     }
@@ -126,20 +124,6 @@ private:
     {
         return frame.contains(area) &&
                area.contains(frame.adjusted(frame.height() / 5, 0, -frame.height() / 5, 0));
-    }
-
-    /// The smallest rectangle that holds every pixel for whose place `condition` holds.
-    template <typename Condition>
-    static QRect areaWhere(QSize size, const Condition &condition)
-    {
-        QRect found;
-        for (int y = 0; y < size.height(); ++y) {
-            for (int x = 0; x < size.width(); ++x) {
-                if (condition(x, y))
-                    found |= QRect(x, y, 1, 1);
-            }
-        }
-        return found;
     }
 
     /// What of the top of the screen differs from `before`.

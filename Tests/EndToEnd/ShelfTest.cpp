@@ -19,9 +19,8 @@ private Q_SLOTS:
         input().move(Place::panel);
         QTest::qWait(200);
         input().releaseButton();
-        QStringList paths;
-        for (const QString &file : files)
-            paths.append(path(u"from/"_s + file));
+        const QStringList paths =
+            each(files, [this](const QString &file) { return path(u"from/"_s + file); });
         QTRY_COMPARE(shelved(), paths);
         QVERIFY(session().isOpen());
         manager.stop();
@@ -53,10 +52,9 @@ private Q_SLOTS:
         QByteArray many;
         QStringList all;
         for (int i = 0; i < 2000; ++i) {
-            QFile file(folder.filePath(u"A file with quite a long name %1"_s.arg(i)));
-            QVERIFY(file.open(QFile::WriteOnly));
-            many += QUrl::fromLocalFile(file.fileName()).toEncoded() + "\r\n";
-            all.append(file.fileName());
+            all.append(folder.filePath(u"A file with quite a long name %1"_s.arg(i)));
+            QVERIFY(writeFile(all.last()));
+            many += QUrl::fromLocalFile(all.last()).toEncoded() + "\r\n";
         }
         row("files", "text/uri-list"_ba, files, true, QStringList{u"/etc/passwd"_s, u"/etc/group"_s});
         row("a list in parts", "text/uri-list"_ba, many, true, all);
@@ -122,8 +120,7 @@ private:
     bool fill(const QString &folder, const QStringList &names)
     {
         return QDir().mkpath(path(folder)) && std::ranges::all_of(names, [&](const QString &name) {
-                   QFile file(path(folder + u'/' + name));
-                   return file.open(QFile::WriteOnly) && file.write("content") > 0;
+                   return writeFile(path(folder + u'/' + name), "content");
                });
     }
 

@@ -8,8 +8,7 @@ class TeleprompterTest : public StageTest
 private Q_SLOTS:
     void aTypedScriptSurvivesAndScrolls()
     {
-        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"teleprompter"_s));
-        QVERIFY(stage().openByHotKey());
+        QVERIFY(stage().show(u"teleprompter"_s));
         input().type("good evening all");
         QTRY_COMPARE(session().setting(u"prompterText"_s), u"good evening all"_s);
         session().program().killNow();
@@ -22,8 +21,7 @@ private Q_SLOTS:
         QVERIFY2(holdsFor([&] { return height() == start; }, 300), "it moves before it is played");
         input().click(play);
         QTRY_VERIFY(height() < start - 15);
-        QVERIFY(stage().leave());
-        QVERIFY(stage().openByHotKey());
+        QVERIFY(stage().leave() && stage().openByHotKey());
         QTRY_VERIFY(height() > 0);
         const int paused = height();
         QVERIFY2(paused < start - 15, "it lost its place");
@@ -37,13 +35,9 @@ private:
     int height()
     {
         const QImage picture = stage().x.grab(area);
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                if (qGray(picture.pixel(x, y)) > 100)
-                    return area.y() + y;
-            }
-        }
-        return 0;
+        const QRect bright =
+            areaWhere(picture.size(), [&](int x, int y) { return qGray(picture.pixel(x, y)) > 100; });
+        return bright.isEmpty() ? 0 : area.y() + bright.y();
     }
 
     static constexpr QRect area{300, 44, 680, 190};

@@ -1,8 +1,6 @@
-#include "Desktop/Tray/MenuWire.h"
+#include "Desktop/TrayReader.h"
 #include "EndToEnd/Stage.h"
 #include "Support/WebStandIn.h"
-
-#include <QDBusMessage>
 
 /// Updates of the real program from a server of the test's own, signed with the makers' script.
 class UpdatesTest : public StageTest
@@ -152,30 +150,11 @@ private:
     }
     QString opened() { return session().environment().value(u"HOME"_s) + u"/opened"_s; }
 
-    QDBusMessage askMenu(const QString &method, const QVariantList &arguments)
-    {
-        QDBusMessage call = QDBusMessage::createMethodCall(Session::busName(), u"/MenuBar"_s,
-                                                           u"com.canonical.dbusmenu"_s, method);
-        call.setArguments(arguments);
-        return session().bus().call(call);
-    }
-    std::optional<Kestrune::WireLayout> checkEntry()
-    {
-        const auto reply = askMenu(u"GetLayout"_s, {0, -1, QStringList()});
-        const auto entries = qdbus_cast<Kestrune::WireLayout>(reply.arguments().value(1)).children;
-        for (const Kestrune::WireLayout &entry : entries) {
-            if (entry.properties.value(u"label"_s) == u"Check for Updates…"_s)
-                return entry;
-        }
-        return {};
-    }
+    TrayReader panel() { return {session().bus(), Session::busName()}; }
+    std::optional<Kestrune::WireLayout> checkEntry() { return panel().entry(u"Check for Updates…"_s); }
     bool chooseCheck()
     {
-        if (!waitUntil([this] { return checkEntry().has_value(); }))
-            return false;
-        const QVariantList clicked{checkEntry()->id, u"clicked"_s,
-                                   QVariant::fromValue(QDBusVariant(QVariant(0))), 0U};
-        return askMenu(u"Event"_s, clicked).type() == QDBusMessage::ReplyMessage;
+        return waitUntil([this] { return checkEntry().has_value(); }) && panel().choose(checkEntry()->id);
     }
 
     bool findWindow()

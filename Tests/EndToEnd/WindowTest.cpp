@@ -34,8 +34,7 @@ private Q_SLOTS:
             QCOMPARE(reachingBeneath({place}), QList<QPoint>{place});
         }
 
-        QVERIFY(stage().leave());
-        QVERIFY(stage().clickReachesBeneath(Place::panel));
+        QVERIFY(stage().leave() && stage().clickReachesBeneath(Place::panel));
     }
 
     void clicksFollowAPointerThatJumps()
@@ -44,30 +43,24 @@ private Q_SLOTS:
         // There is no time between the jump and the press in which the program could look at the pointer, and
         // the click before it has made the window manager raise the window beneath.
         for (int round = 0; round < 10; ++round) {
-            QVERIFY(stage().clickIsKept(Place::notch));
-            QVERIFY(stage().clickReachesBeneath({640, 42}));
+            QVERIFY(stage().clickIsKept(Place::notch) && stage().clickReachesBeneath({640, 42}));
         }
     }
 
     void openingByHoverLeavesTheActiveWindowActive()
     {
-        QVERIFY(stage().run());
-        QVERIFY(stage().openByHover());
-        QVERIFY(stage().beneath.hasFocus());
+        QVERIFY(stage().run() && stage().openByHover() && stage().beneath.hasFocus());
         stage().beneath.forget();
         input().type("abc");
         QTRY_COMPARE(stage().beneath.keys(), 3);
-        QVERIFY(stage().leave());
-        QVERIFY(stage().beneath.hasFocus());
+        QVERIFY(stage().leave() && stage().beneath.hasFocus());
     }
 
     void typingIntoTheNote_data() { windowManagers(); }
     void typingIntoTheNote()
     {
-        QFETCH(QString, windowManager);
-        setStage({.windowManager = windowManager});
-        QVERIFY(stage().run() && stage().choose(u"note"_s));
-        QVERIFY(stage().openByHover());
+        setWindowManager();
+        QVERIFY(stage().run() && stage().choose(u"note"_s) && stage().openByHover());
         QVERIFY(stage().beneath.hasFocus());
         stage().beneath.forget();
 
@@ -104,9 +97,7 @@ private Q_SLOTS:
         TestWindow other(stage().display.name(), kind, geometry, 0xff8040c0);
         const auto shown = [&](QPoint place) { return stage().x.pixel(place) != other.colour(); };
         QTRY_VERIFY(shown(Place::notch));
-        QVERIFY(shown({640, 0}));
-        QVERIFY(!shown({530, 0}));
-        QVERIFY(stage().clickIsKept(Place::notch));
+        QVERIFY(shown({640, 0}) && !shown({530, 0}) && stage().clickIsKept(Place::notch));
         QCOMPARE(other.clicks(), 0);
 
         input().move(Place::away);
@@ -126,11 +117,9 @@ private Q_SLOTS:
     void isInNoListOfWindows_data() { windowManagers(); }
     void isInNoListOfWindows()
     {
-        QFETCH(QString, windowManager);
-        setStage({.windowManager = windowManager});
+        setWindowManager();
         const QList<quint32> before = stage().x.clientWindows();
-        QVERIFY(before.contains(stage().beneath.id()));
-        QVERIFY(stage().run());
+        QVERIFY(before.contains(stage().beneath.id()) && stage().run());
         QCOMPARE(stage().x.clientWindows(), before);
         QVERIFY(stage().openByHotKey());
         QCOMPARE(stage().x.clientWindows(), before);
@@ -139,8 +128,7 @@ private Q_SLOTS:
     void showsOnEveryDesktop_data() { windowManagers(); }
     void showsOnEveryDesktop()
     {
-        QFETCH(QString, windowManager);
-        setStage({.windowManager = windowManager});
+        setWindowManager();
         QVERIFY(stage().run());
         stage().x.ask(stage().x.root(), "_NET_CURRENT_DESKTOP", {1, XCB_CURRENT_TIME});
         QTRY_COMPARE(stage().x.property(stage().x.root(), "_NET_CURRENT_DESKTOP"), QList<quint32>{1});
@@ -152,29 +140,18 @@ private Q_SLOTS:
     }
 
 private:
-    /// Those of `places` where a click goes to the window beneath.
-    QList<QPoint> reachingBeneath(const QList<QPoint> &places)
+    /// Those of `places` where a click goes to the window beneath, or does not.
+    QList<QPoint> reachingBeneath(QList<QPoint> places)
     {
-        QList<QPoint> reaching;
-        std::copy_if(places.begin(), places.end(), std::back_inserter(reaching),
-                     [this](QPoint place) { return stage().clickReachesBeneath(place); });
-        return reaching;
+        return places.removeIf([this](QPoint place) { return !stage().clickReachesBeneath(place); }), places;
+    }
+    QList<QPoint> kept(QList<QPoint> places)
+    {
+        return places.removeIf([this](QPoint place) { return !stage().clickIsKept(place); }), places;
     }
 
-    QList<QPoint> kept(const QList<QPoint> &places)
-    {
-        QList<QPoint> keeping;
-        std::copy_if(places.begin(), places.end(), std::back_inserter(keeping),
-                     [this](QPoint place) { return stage().clickIsKept(place); });
-        return keeping;
-    }
-
-    static void windowManagers()
-    {
-        QTest::addColumn<QString>("windowManager");
-        QTest::newRow("openbox") << u"openbox"_s;
-        QTest::newRow("xfwm4") << u"xfwm4"_s;
-    }
+    static void windowManagers() { texts({"openbox", "xfwm4"}); }
+    void setWindowManager() { setStage({.windowManager = std::get<0>(fetched<QString>())}); }
 };
 
 REGISTER_TEST(WindowTest);
