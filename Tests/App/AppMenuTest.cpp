@@ -3,8 +3,7 @@
 #include "App/TrayIcon.h"
 #include "Desktop/BusStandIn.h"
 #include "Desktop/Tray/BusStatusItem.h"
-
-#include <QDBusPendingCall>
+#include "Desktop/TrayReader.h"
 
 namespace {
 
@@ -12,7 +11,8 @@ namespace {
 struct Stage : AppStage
 {
     BusStandIn watcher{u"org.kde.StatusNotifierWatcher"_s};
-    QDBusConnection panel = QDBusConnection::connectToBus(watcher.address(), u"panel"_s);
+    TrayReader panel{QDBusConnection::connectToBus(watcher.address(), u"panel"_s),
+                     watcher.bus().baseService()};
     Fakes::FakeUpdater updater;
     std::unique_ptr<BusStatusItem> item;
     std::unique_ptr<AppMenu> menu;
@@ -32,32 +32,11 @@ struct Stage : AppStage
                waitUntil([this] { return !watcher.calls.isEmpty(); });
     }
 
-    QDBusMessage ask(const QString &path, const QString &interface, const QString &method,
-                     const QVariantList &arguments = {})
-    {
-        QDBusMessage call =
-            QDBusMessage::createMethodCall(watcher.bus().baseService(), path, interface, method);
-        call.setArguments(arguments);
-        const QDBusPendingCall pending = panel.asyncCall(call);
-        waitUntil([&] { return pending.isFinished(); });
-        return pending.reply();
-    }
-    QDBusMessage askMenu(const QString &method, const QVariantList &arguments)
-    {
-        return ask(u"/MenuBar"_s, u"com.canonical.dbusmenu"_s, method, arguments);
-    }
-
-    QList<WireLayout> entries()
-    {
-        const QDBusMessage reply = askMenu(u"GetLayout"_s, {0, -1, QStringList()});
-        return qdbus_cast<WireLayout>(reply.arguments().value(1)).children;
-    }
-
     /// Each entry on a line: its label, "off" where it is disabled, its keys.
     QStringList lines()
     {
         QStringList lines;
-        for (const auto &[id, properties, children] : entries()) {
+        for (const auto &[id, properties, children] : panel.entries()) {
             const auto keys =
                 qdbus_cast<QList<QStringList>>(properties.value(u"shortcut"_s)).value(0).join(u'+');
             const QString off = properties.value(u"enabled"_s, true).toBool() ? QString() : u"off"_s;
@@ -70,18 +49,10 @@ struct Stage : AppStage
 
     void choose(int id)
     {
-        askMenu(u"Event"_s,
-                {id, u"clicked"_s, QVariant::fromValue(QDBusVariant(QVariant(0))), QVariant::fromValue(0U)});
+        panel.choose(id);
         QCoreApplication::processEvents();
     }
-    int idOf(const QString &label)
-    {
-        for (const WireLayout &entry : entries()) {
-            if (entry.properties.value(u"label"_s).toString() == label)
-                return entry.id;
-        }
-        return -1;
-    }
+    int idOf(const QString &label) const { return panel.entry(label).value_or(WireLayout{-1, {}, {}}).id; }
     void pause(bool on)
     {
         setSuite(on, on);
@@ -133,7 +104,8 @@ private Q_SLOTS:
         QCOMPARE(stage.workspace.opened, QList{QUrl(u"https://fennivar.example/?ref=kestrune"_s)});
         stage.choose(open); // Of the menu before.
         QVERIFY(stage.model().expanded());
-        QCOMPARE(stage.askMenu(u"GetLayout"_s, {open, -1, QStringList()}).type(), QDBusMessage::ErrorMessage);
+        QCOMPARE(stage.panel.askMenu(u"GetLayout"_s, {open, -1, QStringList()}).type(),
+                 QDBusMessage::ErrorMessage);
         QTimer::singleShot(60s, qApp, [] { QCoreApplication::exit(1); });
         QTimer::singleShot(0ms, qApp, [&] { stage.choose(stage.idOf(u"Quit Kestrune"_s)); });
         QCOMPARE(QCoreApplication::exec(), 0);
@@ -143,8 +115,8 @@ private Q_SLOTS:
     {
         Stage stage;
         const auto title = [&] {
-            return stage.ask(u"/StatusNotifierItem"_s, u"org.freedesktop.DBus.Properties"_s, u"GetAll"_s,
-                             {u"org.kde.StatusNotifierItem"_s});
+            return stage.panel.ask(u"/StatusNotifierItem"_s, u"org.freedesktop.DBus.Properties"_s,
+                                   u"GetAll"_s, {u"org.kde.StatusNotifierItem"_s});
         };
         QCOMPARE(title().type(), QDBusMessage::ErrorMessage);
         QVERIFY(stage.watch());
@@ -158,7 +130,7 @@ private Q_SLOTS:
         QVERIFY(face.value(u"ItemIsMenu"_s).toBool());
         QCOMPARE(face.value(u"Menu"_s).value<QDBusObjectPath>().path(), u"/MenuBar"_s);
         const QVariant many = QVariant::fromValue(QList<int>(1000));
-        const auto refused = stage.askMenu(u"GetGroupProperties"_s, {many, QStringList()});
+        const auto refused = stage.panel.askMenu(u"GetGroupProperties"_s, {many, QStringList()});
         QCOMPARE(refused.errorName(), u"org.freedesktop.DBus.Error.LimitsExceeded"_s);
         const auto icons = qdbus_cast<WirePixmaps>(face.value(u"IconPixmap"_s));
         for (const WirePixmap &icon : icons) {

@@ -70,27 +70,6 @@ private Q_SLOTS:
                                 u"Turn off Notch in Fennivar to use Kestrune."_s};
         QCOMPARE(stage.alerts, alert + alert);
     }
-
-    void loginItemSpringsBack()
-    {
-        AppStage stage;
-        stage.launch();
-        stage.app->setLaunchAtLogin(true);
-        QVERIFY(stage.app->launchAtLogin());
-        stage.loginItem.failure = u"read-only file system"_s;
-        stage.app->setLaunchAtLogin(false);
-        QVERIFY(stage.app->launchAtLogin());
-    }
-
-    void displaySettingsApplyAtOnce()
-    {
-        AppStage stage;
-        stage.launch();
-        stage.app->settings().setShowWithoutNotch(false);
-        QVERIFY(stage.panels.alive.empty());
-        stage.app->settings().setShortcutEnabled(false);
-        QVERIFY(stage.hotKeys.registered.empty());
-    }
 };
 
 REGISTER_TEST(AppStateTest);

@@ -16,35 +16,21 @@ private Q_SLOTS:
     void verbs_data()
     {
         columns<QString, Verb>();
-        QTest::newRow("plain start") << "" << Verb::start;
-        QTest::newRow("open argument") << "--open weather" << Verb::start;
-        QTest::newRow("open argument alone") << "--open" << Verb::start;
-        QTest::newRow("unknown option") << "--opne" << Verb::bad;
-        QTest::newRow("word after a tool") << "--open weather please" << Verb::bad;
-        QTest::newRow("open") << "open note" << Verb::open;
-        QTest::newRow("open anything") << "open" << Verb::open;
-        QTest::newRow("open the unknown") << "open sundial" << Verb::bad;
-        QTest::newRow("toggle with more") << "toggle note" << Verb::bad;
-        QTest::newRow("status") << "status --json" << Verb::status;
-        QTest::newRow("status in words") << "status" << Verb::status;
-        QTest::newRow("status as XML") << "status --xml" << Verb::bad;
-        QTest::newRow("set") << "settings set hoverDelay 0.3" << Verb::settings;
-        QTest::newRow("set to less than nothing") << "settings set x -12" << Verb::settings;
-        QTest::newRow("set to what an option is called") << "settings set note --help" << Verb::settings;
-        QTest::newRow("set without a value") << "settings set hoverDelay" << Verb::bad;
-        QTest::newRow("settings window") << "settings open" << Verb::settings;
-        QTest::newRow("settings") << "settings" << Verb::bad;
-        QTest::newRow("usage") << "usage --json --now 2026-03-10T12:00:00Z --home /" << Verb::usage;
-        QTest::newRow("usage of no home") << "usage --home" << Verb::bad;
-        QTest::newRow("usage of some time") << "usage --now noon" << Verb::bad;
-        QTest::newRow("usage of a home with a minus") << "usage --home -x" << Verb::usage;
-        QTest::newRow("usage of more") << "usage --json now" << Verb::bad;
-        QTest::newRow("help") << "--help" << Verb::help;
-        QTest::newRow("help in short") << "-h" << Verb::help;
-        QTest::newRow("help with more") << "--help toggle" << Verb::bad;
-        QTest::newRow("version") << "--version" << Verb::version;
-        QTest::newRow("word alone") << "weather" << Verb::bad;
-        QTest::newRow("value of an option without one") << "--open=weather" << Verb::bad;
+        const auto rows = [](Verb verb, std::initializer_list<const char *> lines) {
+            for (const char *line : lines)
+                QTest::newRow(line) << QString::fromLatin1(line) << verb;
+        };
+        rows(Verb::start, {"", "--open weather", "--open"});
+        rows(Verb::open, {"open note", "open"});
+        rows(Verb::status, {"status --json", "status"});
+        rows(Verb::settings, {"settings set hoverDelay 0.3", "settings set x -12", "settings set note --help",
+                              "settings open"});
+        rows(Verb::usage, {"usage --json --now 2026-03-10T12:00:00Z --home /", "usage --home -x"});
+        rows(Verb::help, {"--help", "-h"});
+        rows(Verb::version, {"--version"});
+        rows(Verb::bad, {"--opne", "--open weather please", "open sundial", "toggle note", "status --xml",
+                         "settings set hoverDelay", "settings", "usage --home", "usage --now noon",
+                         "usage --json now", "--help toggle", "weather", "--open=weather"});
     }
 
     void verbs()
@@ -61,17 +47,16 @@ private Q_SLOTS:
     void settingsTexts_data()
     {
         columns<QString, DefaultsValue, bool>();
-        QTest::newRow("true") << "true" << DefaultsValue(false) << true;
-        QTest::newRow("yes") << "yes" << DefaultsValue(false) << false;
-        QTest::newRow("double") << "0.35" << DefaultsValue(0.0) << true;
-        QTest::newRow("infinite") << "inf" << DefaultsValue(0.0) << false;
-        QTest::newRow("integer") << "-12" << DefaultsValue(qint64(0)) << true;
-        QTest::newRow("fraction") << "1.5" << DefaultsValue(qint64(0)) << false;
+        const auto rows = [](const DefaultsValue &example, const char *valid, const char *invalid) {
+            QTest::newRow(valid) << QString::fromUtf8(valid) << example << true;
+            QTest::newRow(invalid) << QString::fromUtf8(invalid) << example << false;
+        };
+        rows(false, "true", "yes");
+        rows(0.0, "0.35", "inf");
+        rows(qint64(0), "-12", "1.5");
+        rows(QStringList(), R"(["a","b c"])", "[1]");
+        rows(StringMap(), R"({"note":"left"})", R"(["note"])");
         QTest::newRow("text") << "Grüße \"you\"" << DefaultsValue(QString()) << true;
-        QTest::newRow("list") << R"(["a","b c"])" << DefaultsValue(QStringList()) << true;
-        QTest::newRow("list of numbers") << "[1]" << DefaultsValue(QStringList()) << false;
-        QTest::newRow("map") << R"({"note":"left"})" << DefaultsValue(StringMap()) << true;
-        QTest::newRow("no map") << R"(["note"])" << DefaultsValue(StringMap()) << false;
     }
 
     void settingsTexts()
@@ -141,10 +126,8 @@ void ArgumentsTest::usageAsJson()
 {
     const QTemporaryDir home;
     const auto write = [&](const QString &folder, const QByteArray &text) {
-        QFile file(home.filePath(folder) + "/a.jsonl"_L1);
-        QVERIFY(writeFile(file.fileName(), text) && file.open(QFile::ReadWrite));
         const QDateTime time = QDateTime::fromMSecsSinceEpoch(1773144000500, kUtc);
-        QVERIFY(file.setFileTime(time, QFileDevice::FileModificationTime));
+        QVERIFY(writeFile(home.filePath(folder) + "/a.jsonl"_L1, text, time));
     };
     const auto report = [&] {
         const QStringList line{u"usage"_s,  u"--now"_s,  u"2026-03-10T13:00:00+01:00"_s,

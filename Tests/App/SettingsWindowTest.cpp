@@ -99,7 +99,8 @@ private Q_SLOTS:
             stage.settings().setProperty(key, !before); // From elsewhere.
             QVERIFY2(row->property("on").toBool() != before, key);
         }
-        QVERIFY(stage.hotKeys.registered.empty()); // What depends on a setting has followed.
+        // What depends on a setting has followed.
+        QVERIFY(stage.hotKeys.registered.empty() && stage.panels.alive.empty());
     }
 
     void theHotKeyTellsWhatItIsBoundTo_data()
