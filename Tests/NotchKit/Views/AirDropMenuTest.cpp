@@ -8,8 +8,6 @@ class AirDropMenuTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { registerViews(); }
-
     void onlyTheMenuThatAskedOffersTheDevices()
     {
         WindowStage stage;

@@ -5,7 +5,6 @@ class CapturesPaneTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { registerViews(); }
     void clickMenuAndMessages()
     {
         WindowStage stage;

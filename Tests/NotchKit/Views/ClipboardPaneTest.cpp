@@ -54,7 +54,6 @@ class ClipboardPaneTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { registerViews(); }
     void keyboardSearchesChoosesCopiesAndRemoves()
     {
         Stage stage;

@@ -36,8 +36,6 @@ class MirrorPaneTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { registerViews(); }
-
     void showsOnePictureAfterTheOther()
     {
         Stage stage;

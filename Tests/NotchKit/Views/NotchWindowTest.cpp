@@ -60,15 +60,10 @@ private Q_SLOTS:
         QVERIFY2(!value.running(), "a spring at rest stays there");
     }
 
-    void animationsStepWithTheFramesOfPacedWindows_data()
-    {
-        QTest::addColumn<bool>("paced");
-        QTest::newRow("paced") << true;
-        QTest::newRow("by time alone") << false;
-    }
+    void animationsStepWithTheFramesOfPacedWindows_data() { noAndYes("by time alone", "paced"); }
     void animationsStepWithTheFramesOfPacedWindows()
     {
-        QFETCH(const bool, paced);
+        const auto [paced] = fetched<bool>();
         Stage stage;
         if (paced)
             stage.window->paceAnimations();
@@ -87,15 +82,10 @@ private Q_SLOTS:
         QCOMPARE(steps, paced ? 4 : 0);
     }
 
-    void viewsReachNoServer_data()
-    {
-        QTest::addColumn<bool>("view");
-        QTest::newRow("an engine that may") << false;
-        QTest::newRow("the views' engine") << true;
-    }
+    void viewsReachNoServer_data() { noAndYes("an engine that may", "the views' engine"); }
     void viewsReachNoServer()
     {
-        QFETCH(const bool, view);
+        const auto [view] = fetched<bool>();
         QTcpServer server;
         QVERIFY(server.listen(QHostAddress::LocalHost));
         const std::unique_ptr<QQmlEngine> engine(view ? new ViewEngine : new QQmlEngine);

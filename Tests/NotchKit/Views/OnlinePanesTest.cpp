@@ -46,7 +46,6 @@ class OnlinePanesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { registerViews(); }
     void cityIsSoughtAndChanged();
     void symbolsAreEdited();
 };

@@ -30,8 +30,6 @@ class TeleprompterPaneTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { registerViews(); }
-
     void anEmptyPaneTakesTheScript()
     {
         Stage stage{QString()};

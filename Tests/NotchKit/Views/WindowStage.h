@@ -17,6 +17,8 @@ struct WindowStage
     explicit WindowStage(Fakes::MemoryDefaults::Values stored = {})
         : core(std::move(stored))
     {
+        static const bool once = (registerViews(), true);
+        std::ignore = once;
         core.displays.displays = {Fakes::externalDisplay()};
         core.settings.setColumn(HomeColumn::center, HomeWidget::timer);
         core.settings.setColumn(HomeColumn::right, HomeWidget::note);
