@@ -25,9 +25,7 @@ struct Home
 
     void write(const char *place, const QByteArray &text, int age = 0) const
     {
-        QFile file(folder.filePath(QLatin1String(place)));
-        QVERIFY(writeFile(file.fileName(), text) && file.open(QFile::ReadWrite));
-        QVERIFY(file.setFileTime(core.clock.now().addSecs(-age), QFileDevice::FileModificationTime));
+        QVERIFY(writeFile(folder.filePath(QLatin1String(place)), text, core.clock.now().addSecs(-age)));
     }
 
     void writeClaude(qint64 tokens, int minutesAgo) const
@@ -73,8 +71,7 @@ private Q_SLOTS:
     {
         const auto [window] = fetched<std::optional<UsageWindow>>();
         const QJsonDocument json = QJsonDocument::fromJson(QTest::currentDataTag());
-        QVERIFY(!json.isNull());
-        QVERIFY(CodexReader::window(json.object(), now) == window);
+        QVERIFY(!json.isNull() && CodexReader::window(json.object(), now) == window);
     }
 
     void lastLineOfATail_data()

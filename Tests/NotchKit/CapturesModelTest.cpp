@@ -26,9 +26,7 @@ struct Stage : Fakes::Core
     }
     void lay(const QList<int> &minutes)
     {
-        captures.found.clear();
-        for (const int minute : minutes)
-            captures.found.append(capture(minute));
+        captures.found = each(minutes, [this](int minute) { return capture(minute); });
     }
     void find(const QList<int> &minutes)
     {
@@ -41,23 +39,11 @@ struct Stage : Fakes::Core
         wait(seconds * 1000);
         QCoreApplication::processEvents();
     }
-    QStringList ids() const
-    {
-        QStringList ids;
-        for (const CaptureItem &item : model.items())
-            ids.append(item.id);
-        return ids;
-    }
+    QStringList ids() const { return each(model.items(), &CaptureItem::id); }
     QString fresh() const { return model.fresh() ? model.fresh()->id : QString(); }
 };
 
-QStringList paths(const QList<int> &minutes)
-{
-    QStringList paths;
-    for (const int minute : minutes)
-        paths.append(pathOf(minute));
-    return paths;
-}
+QStringList paths(const QList<int> &minutes) { return each(minutes, pathOf); }
 
 } // namespace
 
@@ -69,12 +55,9 @@ private Q_SLOTS:
     void newestOfWhatIsFound()
     {
         QList<int> found;
-        QList<int> newest;
-        for (int minute = 100; minute > 40; --minute) {
+        for (int minute = 100; minute > 40; --minute)
             found.append(minute);
-            if (newest.size() < 24)
-                newest.append(minute);
-        }
+        const QList<int> newest = found.first(24);
         std::swap(found[3], found[30]); // the query's order is not relied on
         const Stage stage(found);
         QCOMPARE(stage.ids(), paths(newest));

@@ -29,8 +29,7 @@ private Q_SLOTS:
     {
         for (const NotchTool tool : allCases<NotchTool>())
             QCOMPARE(fromRawValue<NotchTool>(rawValue(tool)), std::optional(tool));
-        QVERIFY(!fromRawValue<NotchTool>(u"Home"_s));
-        QVERIFY(!fromRawValue<HomeColumn>(u"centre"_s));
+        QVERIFY(!fromRawValue<NotchTool>(u"Home"_s) && !fromRawValue<HomeColumn>(u"centre"_s));
         QVERIFY(!fromRawValue<NotchOpenMode>(QString()));
     }
 

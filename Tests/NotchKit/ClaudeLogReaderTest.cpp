@@ -4,7 +4,6 @@
 #include "SlowLogReader.h"
 #include "Support/TestRegistry.h"
 
-#include <fstream>
 #include <thread>
 
 #include <sys/socket.h>
@@ -14,8 +13,6 @@
 using namespace Kestrune::Tests;
 
 namespace {
-
-using Entries = QList<std::pair<const char *, qint64>>;
 
 QDateTime at(const char *time) { return QDateTime::fromString(QLatin1String(time), Qt::ISODateWithMs); }
 
@@ -37,18 +34,6 @@ void useZone(const QByteArray &zone)
 {
     qputenv("TZ", zone);
     tzset();
-}
-
-/// A number of one of this process's files in /proc.
-qint64 figure(const char *file, const std::string &name)
-{
-    std::ifstream lines(std::string("/proc/self/") + file);
-    for (std::string word; lines >> word;) {
-        qint64 value = 0;
-        if (word == name && lines >> value)
-            return value;
-    }
-    return -1;
 }
 
 } // namespace
@@ -83,97 +68,88 @@ private Q_SLOTS:
 
     void figures_data()
     {
-        columns<QByteArray, QDateTime, Entries, ClaudeUsage>();
-        const auto row = [](const char *name, const char *zone, const char *now, const Entries &entries,
+        // entries: time=tokens
+        columns<QByteArray, QDateTime, QString, ClaudeUsage>();
+        const auto row = [](const char *name, const char *zone, const char *now, const char *entries,
                             const ClaudeUsage &expected) {
-            QTest::newRow(name) << QByteArray(zone) << at(now) << entries << expected;
+            QTest::newRow(name) << QByteArray(zone) << at(now) << QString::fromLatin1(entries) << expected;
         };
         row("two blocks", "UTC", "2026-03-10T15:00:00Z",
-            {{"2026-03-10T14:01:00.000Z", 4},
-             {"2026-03-10T09:00:00.000Z", 1},
-             {"2026-03-10T13:59:00.000Z", 2}},
+            "2026-03-10T14:01:00.000Z=4 2026-03-10T09:00:00.000Z=1 2026-03-10T13:59:00.000Z=2",
             {4, at("2026-03-10T14:01:00Z"), 7, 3, at("2026-03-10T14:01:00Z"), 4, {0, 0, 0, 0, 0, 0, 7}});
         row("a block ends after five hours", "UTC", "2026-03-10T14:30:00Z",
-            {{"2026-03-10T09:10:00.000Z", 5}, {"2026-03-10T09:30:00.000Z", 5}},
+            "2026-03-10T09:10:00.000Z=5 2026-03-10T09:30:00.000Z=5",
             {0, {}, 10, 2, at("2026-03-10T09:30:00Z"), 10, {0, 0, 0, 0, 0, 0, 10}});
         row("exactly five hours later begins another", "UTC", "2026-03-10T14:00:00Z",
-            {{"2026-03-10T09:00:00.000Z", 5}, {"2026-03-10T14:00:00.000Z", 3}},
+            "2026-03-10T09:00:00.000Z=5 2026-03-10T14:00:00.000Z=3",
             {3, at("2026-03-10T14:00:00Z"), 8, 2, at("2026-03-10T14:00:00Z"), 5, {0, 0, 0, 0, 0, 0, 8}});
         row("a week old is too old", "UTC", "2026-03-10T12:00:00Z",
-            {{"2026-03-03T12:00:00.000Z", 1},
-             {"2026-03-03T12:00:00.001Z", 2},
-             {"2026-03-04T00:00:00.000Z", 4}},
+            "2026-03-03T12:00:00.000Z=1 2026-03-03T12:00:00.001Z=2 2026-03-04T00:00:00.000Z=4",
             {0, {}, 6, 2, at("2026-03-04T00:00:00Z"), 4, {4, 0, 0, 0, 0, 0, 0}});
         // The night of 29 March has no hour from 2 to 3; midnights are at 23:00Z, then at 22:00Z.
         row("a day of 23 hours", "Europe/Berlin", "2026-03-30T10:00:00Z",
-            {{"2026-03-28T22:59:59.999Z", 1},
-             {"2026-03-28T23:00:00.000Z", 2},
-             {"2026-03-29T21:59:59.999Z", 4},
-             {"2026-03-29T22:00:00.000Z", 8}},
+            "2026-03-28T22:59:59.999Z=1 2026-03-28T23:00:00.000Z=2 2026-03-29T21:59:59.999Z=4 "
+            "2026-03-29T22:00:00.000Z=8",
             {0, {}, 15, 4, at("2026-03-29T22:00:00Z"), 12, {0, 0, 0, 0, 1, 6, 8}});
         row("a day of 25 hours", "Europe/Berlin", "2026-10-26T10:00:00Z",
-            {{"2026-10-24T21:59:59.999Z", 1},
-             {"2026-10-24T22:00:00.000Z", 2},
-             {"2026-10-25T22:59:59.999Z", 4},
-             {"2026-10-25T23:00:00.000Z", 8}},
+            "2026-10-24T21:59:59.999Z=1 2026-10-24T22:00:00.000Z=2 2026-10-25T22:59:59.999Z=4 "
+            "2026-10-25T23:00:00.000Z=8",
             {0, {}, 15, 4, at("2026-10-25T23:00:00Z"), 12, {0, 0, 0, 0, 1, 6, 8}});
         row("a day that begins at one o'clock", "America/Havana", "2026-03-08T12:00:00Z",
-            {{"2026-03-08T04:59:59.999Z", 1}, {"2026-03-08T05:00:00.000Z", 2}},
+            "2026-03-08T04:59:59.999Z=1 2026-03-08T05:00:00.000Z=2",
             {0, {}, 3, 2, at("2026-03-08T05:00:00Z"), 3, {0, 0, 0, 0, 0, 1, 2}});
-        row("a clock that was wrong", "UTC", "2026-03-10T12:00:00Z", {{"2026-03-11T12:00:00.000Z", 9}},
+        row("a clock that was wrong", "UTC", "2026-03-10T12:00:00Z", "2026-03-11T12:00:00.000Z=9",
             {9, at("2026-03-11T12:00:00Z"), 9, 1, at("2026-03-11T12:00:00Z"), 9, {}});
     }
 
     void figures()
     {
-        const auto [zone, now, entries, expected] = fetched<QByteArray, QDateTime, Entries, ClaudeUsage>();
+        const auto [zone, now, entries, expected] = fetched<QByteArray, QDateTime, QString, ClaudeUsage>();
         useZone(zone);
-        for (const auto &[time, tokens] : entries)
-            write(path(), entryLine(time, tokens, time));
+        for (const QString &entry : entries.split(u' ')) {
+            const QByteArray time = entry.section(u'=', 0, 0).toLatin1();
+            write(path(), entryLine(time, entry.section(u'=', 1).toLongLong(), time));
+        }
         ClaudeLogReader reader(m_folder->path());
         const auto usage = reader.summary(now);
         QVERIFY(usage.has_value());
         QCOMPARE(usage->dailyTokens, expected.dailyTokens);
         QCOMPARE(usage->blockStart, expected.blockStart);
         QCOMPARE(usage->peakBlockTokens, expected.peakBlockTokens);
-        QVERIFY(usage == expected);
-        QVERIFY(!reader.summary(now.addDays(9)));
+        QVERIFY(usage == expected && !reader.summary(now.addDays(9)));
         QVERIFY(!ClaudeLogReader(path("missing")).summary(now));
     }
 
     void countsALineOnceItIsComplete()
     {
-        const QDateTime now = QDateTime::currentDateTimeUtc();
-        const QByteArray time = now.toString(Qt::ISODateWithMs).toLatin1();
-        const QByteArray second = entryLine(time, 20, "b");
+        const QByteArray second = entryLine(m_time, 20, "b");
         ClaudeLogReader reader(m_folder->path());
-        const auto tokens = [&] { return reader.summary(now).value_or(ClaudeUsage{}).weekTokens; };
-        write(path(), entryLine(time, 1, "a") + entryLine(time, 2, "a") + second.left(90));
+        const auto tokens = [&] { return reader.summary(m_now).value_or(ClaudeUsage{}).weekTokens; };
+        write(path(), entryLine(m_time, 1, "a") + entryLine(m_time, 2, "a") + second.left(90));
         QCOMPARE(tokens(), 2);
         write(path(), second.mid(90).chopped(1));
         QCOMPARE(tokens(), 2);
         write(path(), "\n");
         QCOMPARE(tokens(), 22);
-        write(path(), entryLine(time, 400, "c"), QIODevice::Truncate); // shorter than what was read
+        write(path(), entryLine(m_time, 400, "c"), QIODevice::Truncate); // shorter than what was read
         QCOMPARE(tokens(), 422);
-        write(path("new"), entryLine(time, 3, "a") + entryLine(time, 4000, "d") + entryLine(time, 400, "c"));
+        write(path("new"),
+              entryLine(m_time, 3, "a") + entryLine(m_time, 4000, "d") + entryLine(m_time, 400, "c"));
         QCOMPARE(std::rename(qPrintable(path("new")), qPrintable(path())), 0);
         QCOMPARE(tokens(), 4423);
     }
 
     void hugeNumbersStayNumbers()
     {
-        const QDateTime now = QDateTime::currentDateTimeUtc();
-        const QByteArray time = now.toString(Qt::ISODateWithMs).toLatin1();
         QByteArray text;
         for (const QByteArray &number :
              {QByteArray("9223372036854775807"), QByteArray("18446744073709551615"), QByteArray("1e300"),
               QByteArray("1e18")})
-            text += entryLine(time, 0, number).replace(":0,", ':' + number + ',');
+            text += entryLine(m_time, 0, number).replace(":0,", ':' + number + ',');
         write(path(), text);
         ClaudeLogReader reader(m_folder->path());
-        QCOMPARE(reader.summary(now)->weekTokens, std::numeric_limits<qint64>::max());
-        QCOMPARE(reader.summary(now)->weekMessages, 4);
+        QCOMPARE(reader.summary(m_now)->weekTokens, std::numeric_limits<qint64>::max());
+        QCOMPARE(reader.summary(m_now)->weekMessages, 4);
     }
 
     void agreesWithTheSlowReader_data()
@@ -206,24 +182,21 @@ private Q_SLOTS:
 
     void threadsDoNotDecide()
     {
-        const QDateTime now = QDateTime::currentDateTimeUtc();
-        const QByteArray time = now.toString(Qt::ISODateWithMs).toLatin1();
         for (int file = 10; file < 40; ++file) {
             QByteArray text;
             for (int id = 0; id < 2000; ++id)
-                text += entryLine(time, file, QByteArray::number(id)) + QByteArray(200, ' ') + '\n';
+                text += entryLine(m_time, file, QByteArray::number(id)) + QByteArray(200, ' ') + '\n';
             write(path(QByteArray::number(file) + ".jsonl"), text);
         }
         for (int round = 0; round < 5; ++round) {
             ClaudeLogReader reader(m_folder->path());
-            QCOMPARE(reader.summary(now)->weekTokens, 2000 * 39);
+            QCOMPARE(reader.summary(m_now)->weekTokens, 2000 * 39);
         }
     }
 
     void oddFilesNeitherHangNorGrow()
     {
-        const QDateTime now = QDateTime::currentDateTimeUtc();
-        write(path(), entryLine(now.toString(Qt::ISODateWithMs).toLatin1(), 7, "a"));
+        write(path(), entryLine(m_time, 7, "a"));
         QCOMPARE(mkfifo(qPrintable(path("fifo.jsonl")), 0600), 0);
         const int server = socket(AF_UNIX, SOCK_STREAM, 0);
         sockaddr_un address{AF_UNIX, {}};
@@ -243,26 +216,24 @@ private Q_SLOTS:
         QVERIFY(QFile::resize(huge, kHuge));
 
         ClaudeLogReader reader(m_folder->path());
-        std::ofstream("/proc/self/clear_refs") << 5; // the peak is counted from here
-        const qint64 before = figure("status", "VmRSS:");
-        QCOMPARE(reader.summary(now)->weekTokens, 7);
-        const qint64 grown = figure("status", "VmHWM:") - before;
-        QVERIFY2(grown < 24 << 10, qPrintable(QString::number(grown)));
+        QVERIFY(writeFile(u"/proc/self/clear_refs"_s, "5")); // the peak is counted from here
+        const qint64 before = processFigure("status", "VmRSS:");
+        QCOMPARE(reader.summary(m_now)->weekTokens, 7);
+        QCOMPARE_LT(processFigure("status", "VmHWM:") - before, 24 << 10);
 
         // What was scanned is not scanned again, whether or not the line grows, nor is it ever parsed.
         for (const char *more : {"", "x", "\n"}) {
             write(huge, more);
-            const qint64 read = figure("io", "rchar:");
-            QCOMPARE(reader.summary(now)->weekTokens, 7);
-            QVERIFY(figure("io", "rchar:") - read < 100'000);
+            const qint64 read = processFigure("io", "rchar:");
+            QCOMPARE(reader.summary(m_now)->weekTokens, 7);
+            QVERIFY(processFigure("io", "rchar:") - read < 100'000);
         }
         close(server);
     }
 
     void filesMayVanishWhileRead()
     {
-        const QDateTime now = QDateTime::currentDateTimeUtc();
-        write(path("stays.jsonl"), entryLine(now.toString(Qt::ISODateWithMs).toLatin1(), 7, "a"));
+        write(path("stays.jsonl"), entryLine(m_time, 7, "a"));
         std::jthread trouble([&](const std::stop_token &stop) {
             const QByteArray text = QByteArray(2'000'000, '"') + "\"usage\"\n";
             while (!stop.stop_requested()) {
@@ -275,7 +246,7 @@ private Q_SLOTS:
         });
         for (int round = 0; round < 200; ++round) {
             ClaudeLogReader reader(m_folder->path());
-            QCOMPARE(reader.summary(now)->weekTokens, 7);
+            QCOMPARE(reader.summary(m_now)->weekTokens, 7);
         }
     }
 
@@ -293,6 +264,8 @@ private Q_SLOTS:
 private:
     QString path(const char *name = "log.jsonl") const { return m_folder->filePath(QLatin1String(name)); }
 
+    const QDateTime m_now = QDateTime::currentDateTimeUtc();
+    const QByteArray m_time = m_now.toString(Qt::ISODateWithMs).toLatin1();
     std::unique_ptr<QTemporaryDir> m_folder;
 };
 

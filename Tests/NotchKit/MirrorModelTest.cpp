@@ -25,6 +25,8 @@ struct Stage
     }
     /// What the session was told since the last call.
     QString told() { return std::exchange(camera.called, {}).join(u' '); }
+    /// The same, and what the pane shows since.
+    std::pair<QString, State> seen() { return {told(), mirror.state()}; }
     void showFirst()
     {
         show();
@@ -79,11 +81,9 @@ private Q_SLOTS:
         stage.camera.status = Authorization::notDetermined;
         stage.show();
         stage.show();
-        QCOMPARE(stage.told(), u"access"_s);
-        QCOMPARE(stage.mirror.state(), State::Waiting);
+        QCOMPARE(stage.seen(), std::pair(u"access"_s, State::Waiting));
         stage.allow(answer);
-        QCOMPARE(stage.told(), told);
-        QCOMPARE(stage.mirror.state(), state);
+        QCOMPARE(stage.seen(), std::pair(told, state));
         // What the user changes elsewhere takes effect at the next showing.
         stage.show({});
         stage.camera.called.clear();
@@ -133,8 +133,7 @@ private Q_SLOTS:
         QCOMPARE(stage.mirror.state(), State::NoCamera);
         QCOMPARE(stage.told(), u"stop"_s);
         stage.show();
-        QCOMPARE(stage.told(), u"start"_s);
-        QCOMPARE(stage.mirror.state(), State::Picture);
+        QCOMPARE(stage.seen(), std::pair(u"start"_s, State::Picture));
     }
 
     void comesBackWhileItIsShown()
@@ -146,8 +145,7 @@ private Q_SLOTS:
             stage.core.wait(pause - 1);
             QCOMPARE(stage.told(), u"stop"_s);
             stage.core.wait(1);
-            QCOMPARE(stage.told(), u"start"_s);
-            QCOMPARE(stage.mirror.state(), State::NoCamera); // the pane does not flicker
+            QCOMPARE(stage.seen(), std::pair(u"start"_s, State::NoCamera)); // the pane does not flicker
             stage.camera.handlers.lost();
         }
         stage.core.wait(5000);
@@ -197,8 +195,7 @@ private Q_SLOTS:
             stage.camera.status = Authorization::notDetermined;
             stage.camera.handlers.lost();
             stage.core.wait(1000);
-            QCOMPARE(stage.told(), u"stop access"_s);
-            QCOMPARE(stage.mirror.state(), State::NoCamera);
+            QCOMPARE(stage.seen(), std::pair(u"stop access"_s, State::NoCamera));
             stage.allow(answer);
         };
         comesBack(Authorization::authorized);

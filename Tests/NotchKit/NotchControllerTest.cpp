@@ -8,6 +8,16 @@ constexpr QPointF kNotch(960, 1070); ///< In the closed notch of the first exter
 constexpr QPointF kPanel(700, 800);  ///< In the open notch only.
 constexpr QPointF kOutside(300, 300);
 
+/// Where the pointer is, with its button down or not, and whether a notch is open after that time.
+struct Step
+{
+    QPointF place;
+    bool down;
+    int milliseconds;
+    bool open;
+};
+using Steps = QList<Step>;
+
 class NotchControllerTest : public QObject
 {
     Q_OBJECT
@@ -33,9 +43,8 @@ private Q_SLOTS:
         core.settings.setAllDisplays(allDisplays);
         core.settings.setShowWithoutNotch(showWithoutNotch);
         core.controller.start();
-        QStringList names;
-        for (const auto &notch : core.controller.notches())
-            names.append(notch.screen.name);
+        const QStringList names =
+            each(core.controller.notches(), [](const auto &notch) { return notch.screen.name; });
         QCOMPARE(names.join(u' '), notches);
         if (builtIn)
             QCOMPARE(core.controller.notches().back().model->geometry().notchSize, QSizeF(200, 38));
@@ -43,10 +52,7 @@ private Q_SLOTS:
 
     void panelsFollowTheDisplays()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay(0)};
-        core.settings.setAllDisplays(true);
-        core.controller.start();
+        Fakes::StartedCore core({{u"notch.allDisplays"_s, true}});
         NotchScreenModel *first = &core.model();
         QVERIFY(core.panel().shown);
         QCOMPARE(core.panel().frame, QRectF(520, 690, 880, 390));
@@ -58,58 +64,59 @@ private Q_SLOTS:
         core.displays.displays = {externalDisplay(1)};
         Q_EMIT core.displays.changed();
         QCOMPARE(core.panels.alive.size(), 1U);
-        QVERIFY(!core.services.anyExpanded());
-        QVERIFY(!core.services.visibleTool());
+        QVERIFY(!core.services.anyExpanded() && !core.services.visibleTool());
         core.displays.displays[0].frame = QRectF(0, 0, 2560, 1440);
         Q_EMIT core.displays.changed();
         QCOMPARE(core.panel().frame, QRectF(840, 1050, 880, 390));
         QCOMPARE(core.panel().hitArea, core.model().geometry().hitRect(false, false));
     }
 
-    void hoverOpensAfterItsDelay_data()
+    void thePointerOpensAndCloses_data()
     {
-        columns<double, int, int>();
-        QTest::newRow("at once") << 0.0 << 0 << 33;
-        QTest::newRow("as shipped") << 0.12 << 132 << 165;
-        QTest::newRow("long") << 0.8 << 825 << 858;
+        const auto row = columns<Fakes::MemoryDefaults::Values, Steps>();
+        const auto hovering = [](double delay) {
+            return Fakes::MemoryDefaults::Values{{u"notch.hoverDelay"_s, delay}};
+        };
+        constexpr bool down = true, open = true;
+        row("at once", hovering(0), {{kNotch, !down, 0, !open}, {kNotch, !down, 33, open}});
+        row("as shipped", hovering(0.12), {{kNotch, !down, 132, !open}, {kNotch, !down, 33, open}});
+        row("after long", hovering(0.8), {{kNotch, !down, 825, !open}, {kNotch, !down, 33, open}});
+        row("pressing cancels the hover", {},
+            {{kNotch, !down, 99, !open},
+             {kNotch, down, 1000, !open},
+             {kNotch, !down, 132, !open},
+             {kNotch, !down, 66, open}});
+        row("a press that began outside is none", {{u"notch.openMode"_s, u"click"_s}},
+            {{kNotch, !down, 2000, !open},
+             {kOutside, down, 33, !open},
+             {kNotch, down, 500, !open},
+             {kNotch, !down, 33, !open},
+             {kNotch, down, 33, open}});
+        row("each exit counts anew", {},
+            {{kNotch, !down, 200, open},
+             {kPanel, !down, 33, open},
+             {kOutside, !down, 198, open},
+             {kPanel, !down, 33, open},
+             {kOutside, !down, 264, open},
+             {kOutside, !down, 66, !open}});
+        row("a press holds it", {},
+            {{kNotch, !down, 300, open},
+             {kNotch, down, 33, open},
+             {kOutside, down, 5000, open},
+             {kOutside, !down, 330, !open}});
     }
 
-    void hoverOpensAfterItsDelay()
+    void thePointerOpensAndCloses()
     {
-        const auto [delay, closedAt, openAt] = fetched<double, int, int>();
-        Fakes::StartedCore core({{u"notch.hoverDelay"_s, delay}});
-        core.moveTo(kNotch, closedAt);
-        QVERIFY(!core.model().expanded());
-        core.wait(openAt - closedAt);
-        QVERIFY(core.model().expanded());
-        QVERIFY(!core.panel().key);
-        QCOMPARE(core.services.visibleTool(), std::optional(NotchTool::home));
-    }
-
-    void pressingCancelsTheHover()
-    {
-        Fakes::StartedCore core;
-        core.moveTo(kNotch, 99);
-        core.press(true, 1000);
-        QVERIFY(!core.model().expanded());
-        core.press(false, 132);
-        QVERIFY(!core.model().expanded());
-        core.wait(66);
-        QVERIFY(core.model().expanded());
-    }
-
-    void clickModeOpensOnTheFreshPress()
-    {
-        Fakes::StartedCore core({{u"notch.openMode"_s, u"click"_s}});
-        core.moveTo(kNotch, 2000);
-        QVERIFY(!core.model().expanded());
-        core.moveTo(kOutside);
-        core.press(true, 33);
-        core.moveTo(kNotch, 500);
-        QVERIFY2(!core.model().expanded(), "a press that began outside");
-        core.press(false, 33);
-        core.press(true, 33);
-        QVERIFY(core.model().expanded());
+        const auto [stored, steps] = fetched<Fakes::MemoryDefaults::Values, Steps>();
+        Fakes::StartedCore core(stored);
+        for (const Step &step : steps) {
+            core.press(step.down);
+            core.moveTo(step.place, step.milliseconds);
+            QCOMPARE(core.model().expanded(), step.open);
+            QVERIFY(!core.panel().key);
+            QCOMPARE(core.services.visibleTool(), step.open ? std::optional(NotchTool::home) : std::nullopt);
+        }
     }
 
     void filesOpenTheShelf_data()
@@ -139,43 +146,19 @@ private Q_SLOTS:
         QCOMPARE(core.model().selected(), opens ? NotchTool::shelf : NotchTool::note);
     }
 
-    void leavingClosesAfterAQuarterSecond()
-    {
-        Fakes::StartedCore core;
-        core.moveTo(kNotch, 200);
-        core.moveTo(kPanel, 33);
-        core.moveTo(kOutside, 198);
-        core.moveTo(kPanel, 33);
-        core.moveTo(kOutside, 264);
-        QVERIFY2(core.model().expanded(), "the count restarts at each exit");
-        core.wait(66);
-        QVERIFY(!core.model().expanded());
-        QVERIFY(!core.services.visibleTool());
-    }
-
-    void whatHoldsTheNotchOpen_data()
-    {
-        columns<QString>();
-        QTest::newRow("pinned") << "pinned";
-        QTest::newRow("pressed") << "pressed";
-        QTest::newRow("drag over it") << "dropTargeted";
-    }
+    void whatHoldsTheNotchOpen_data() { noAndYes("pinned", "drag over it"); }
 
     void whatHoldsTheNotchOpen()
     {
-        const auto [held] = fetched<QString>();
+        const auto [drag] = fetched<bool>();
         Fakes::StartedCore core;
         core.moveTo(kNotch, 300);
-        const auto hold = [&](bool on) {
-            core.press(on && held == "pressed"_L1);
-            core.model().setPinned(on && held == "pinned"_L1);
-            core.model().setDropTargeted(on && held == "dropTargeted"_L1);
-        };
-        hold(true);
+        const auto hold = drag ? &NotchScreenModel::setDropTargeted : &NotchScreenModel::setPinned;
+        std::invoke(hold, core.model(), true);
         core.wait(33);
         core.moveTo(kOutside, 5000);
         QVERIFY(core.model().expanded());
-        hold(false);
+        std::invoke(hold, core.model(), false);
         core.wait(330);
         QVERIFY(!core.model().expanded());
     }
@@ -214,11 +197,8 @@ private Q_SLOTS:
 
     void togglePicksTheDisplay()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay(0), builtInDisplay(1920), externalDisplay(2)};
-        core.settings.setAllDisplays(true);
-        core.settings.setShowWithoutNotch(false);
-        core.controller.start();
+        Fakes::StartedCore core({{u"notch.allDisplays"_s, true}, {u"notch.showWithoutNotch"_s, false}},
+                                {externalDisplay(0), builtInDisplay(1920), externalDisplay(2)});
         QCOMPARE(core.controller.notches().size(), 1U);
         core.moveTo(kOutside); // on a display without a notch, which is the main one
         core.controller.toggle();
@@ -251,10 +231,7 @@ private Q_SLOTS:
 
     void hubFollowsTheOpenNotches()
     {
-        Fakes::Core core;
-        core.displays.displays = {externalDisplay(0), externalDisplay(1)};
-        core.settings.setAllDisplays(true);
-        core.controller.start();
+        Fakes::StartedCore core({{u"notch.allDisplays"_s, true}}, {externalDisplay(0), externalDisplay(1)});
         core.moveTo(kOutside);
         core.controller.open(NotchTool::timer);
         core.moveTo({2000, 300});
@@ -346,8 +323,7 @@ private Q_SLOTS:
         core.controller.stop();
         QVERIFY(core.panels.alive.empty());
         QCOMPARE(core.clock.running(), 0U);
-        QVERIFY(core.hotKeys.registered.empty());
-        QVERIFY(!core.services.anyExpanded());
+        QVERIFY(core.hotKeys.registered.empty() && !core.services.anyExpanded());
         core.controller.settingsChanged();
         QVERIFY(core.panels.alive.empty());
         core.controller.start();
@@ -356,13 +332,11 @@ private Q_SLOTS:
 
     void noDisplayIsNoTrouble()
     {
-        Fakes::Core core;
-        core.controller.start();
+        Fakes::StartedCore core({}, {});
         core.controller.toggle();
         core.controller.open(NotchTool::home);
         core.wait(1000);
-        QVERIFY(core.controller.notches().empty());
-        QVERIFY(!core.services.anyExpanded());
+        QVERIFY(core.controller.notches().empty() && !core.services.anyExpanded());
     }
 };
 

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QDateTime>
-#include <QDir>
-#include <QFile>
+#include "Support/TestRegistry.h"
 
 #include <random>
 
@@ -26,33 +24,26 @@ struct RandomLogs
         const QString path = anyPath();
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
-        switch (below(12)) {
-        case 0:
+        const unsigned event = below(12);
+        if (event == 0) {
             file.remove();
             return;
-        case 1: // cut anywhere
+        }
+        if (event == 1) { // cut anywhere
             if (file.size() > 0)
                 file.resize(beginning(file.size()));
-            break;
-        case 2: // replaced by another file
-            file.setFileName(path + QLatin1String(".new"));
+        } else if (event == 2) { // replaced by another file
+            file.setFileName(path + u".new"_s);
             append(file, line(now) + line(now));
             std::rename(qPrintable(file.fileName()), qPrintable(path));
-            file.setFileName(path);
-            break;
-        case 3: // not written for a week
-            touch(path, now.addDays(-8));
-            return;
-        case 4: { // half a line, which the next append may or may not complete
+        } else if (event == 4) { // half a line, which the next append may or may not complete
             const QByteArray whole = line(now);
             append(file, whole.left(beginning(whole.size())));
-            break;
-        }
-        default:
+        } else if (event > 4) {
             for (unsigned count = below(4) + 1; count > 0; --count)
                 append(file, line(now));
         }
-        touch(path, now);
+        touch(path, event == 3 ? now.addDays(-8) : now); // not written for a week
     }
 
     QByteArray line(const QDateTime &now)
@@ -70,22 +61,13 @@ struct RandomLogs
             return pick(broken) + '\n';
         QByteArray text = response(now);
         const auto place = static_cast<qsizetype>(below(static_cast<unsigned>(text.size())));
-        switch (below(16)) {
-        case 0:
-            text.insert(place, '\0');
-            break;
-        case 1:
-            text.insert(place, '\xff');
-            break;
-        case 2:
+        const unsigned fault = below(16);
+        if (fault <= 1)
+            text.insert(place, fault == 0 ? '\0' : '\xff');
+        else if (fault == 2)
             text.truncate(place);
-            break;
-        case 3:
+        else if (fault == 3)
             text += '\r';
-            break;
-        default:
-            break;
-        }
         return text + '\n';
     }
 
@@ -100,10 +82,9 @@ private:
 
     QString anyPath()
     {
-        static const QStringList places{QStringLiteral("a.jsonl"),     QStringLiteral("b/c.jsonl"),
-                                        QStringLiteral("b/d/e.jsonl"), QStringLiteral(".hidden/f.jsonl"),
-                                        QStringLiteral("b/.g.jsonl"),  QStringLiteral("h.json")};
-        return m_folder + QLatin1Char('/') + places.at(below(static_cast<unsigned>(places.size())));
+        static const QStringList places{u"a.jsonl"_s,         u"b/c.jsonl"_s,  u"b/d/e.jsonl"_s,
+                                        u".hidden/f.jsonl"_s, u"b/.g.jsonl"_s, u"h.json"_s};
+        return m_folder + u'/' + places.at(below(static_cast<unsigned>(places.size())));
     }
 
     QByteArray number()

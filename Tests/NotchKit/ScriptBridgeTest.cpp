@@ -75,25 +75,21 @@ private Q_SLOTS:
     void answers_data()
     {
         // read: "state title|artist|duration|position"
-        columns<ScriptOutcome, bool, QString>();
-        const auto row = [](const char *name, const QString &text, const QString &read,
-                            bool spotify = false) {
-            QTest::newRow(name) << ScriptOutcome(text) << spotify << read;
-        };
-        row("playing", u"playing\nSong\nBand\n215.5\n3"_s, u"on Song|Band|215.5|3"_s);
-        row("paused", u"paused\nSong\nBand\n215.5\n3"_s, u"off Song|Band|215.5|3"_s);
-        row("another state", u"Playing\nSong\nBand\n9\n3"_s, u"off Song|Band|9|3"_s);
-        row("comma", u"playing\nA, B\nC, D\n215,5\n1,25"_s, u"on A, B|C, D|215.5|1.25"_s);
-        row("milliseconds", u"playing\nSong\nBand\n1500\n1,5"_s, u"on Song|Band|1.5|1.5"_s, true);
-        row("no numbers", u"playing\nSong\nBand\nmissing value\n"_s, u"on Song|Band|0|0"_s);
-        row("numbers that are none", u"playing\nSong\nBand\nnan\ninf"_s, u"on Song|Band|0|0"_s);
-        row("too large a number", u"playing\nSong\nBand\n1e999\n1"_s, u"on Song|Band|0|1"_s);
-        row("further lines", u"playing\n\n\n1\n2\n3\n4"_s, u"on ||1|2"_s);
-        row("stopped", QString(), u"none"_s);
-        row("too short", u"playing\nSong\nBand\n215"_s, u"none"_s);
-        QTest::newRow("data") << ScriptOutcome(QByteArray("playing\na\nb\n1\n2")) << false << u"none"_s;
-        QTest::newRow("failed") << ScriptOutcome() << false << u"none"_s;
-        QTest::newRow("refused") << ScriptOutcome(ScriptNotPermitted()) << false << u"denied"_s;
+        const auto row = columns<ScriptOutcome, bool, QString>();
+        row("playing", u"playing\nSong\nBand\n215.5\n3"_s, false, u"on Song|Band|215.5|3"_s);
+        row("paused", u"paused\nSong\nBand\n215.5\n3"_s, false, u"off Song|Band|215.5|3"_s);
+        row("another state", u"Playing\nSong\nBand\n9\n3"_s, false, u"off Song|Band|9|3"_s);
+        row("comma", u"playing\nA, B\nC, D\n215,5\n1,25"_s, false, u"on A, B|C, D|215.5|1.25"_s);
+        row("milliseconds", u"playing\nSong\nBand\n1500\n1,5"_s, true, u"on Song|Band|1.5|1.5"_s);
+        row("no numbers", u"playing\nSong\nBand\nmissing value\n"_s, false, u"on Song|Band|0|0"_s);
+        row("numbers that are none", u"playing\nSong\nBand\nnan\ninf"_s, false, u"on Song|Band|0|0"_s);
+        row("too large a number", u"playing\nSong\nBand\n1e999\n1"_s, false, u"on Song|Band|0|1"_s);
+        row("further lines", u"playing\n\n\n1\n2\n3\n4"_s, false, u"on ||1|2"_s);
+        row("stopped", QString(), false, u"none"_s);
+        row("too short", u"playing\nSong\nBand\n215"_s, false, u"none"_s);
+        row("data", ScriptOutcome(QByteArray("playing\na\nb\n1\n2")), false, u"none"_s);
+        row("failed", ScriptOutcome(), false, u"none"_s);
+        row("refused", ScriptOutcome(ScriptNotPermitted()), false, u"denied"_s);
     }
 
     void answers()

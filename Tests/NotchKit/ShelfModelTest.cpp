@@ -15,13 +15,7 @@ struct Folder
         urls.append(QUrl::fromLocalFile(dir.filePath(u"sub"_s)));
     }
 
-    QStringList paths() const
-    {
-        QStringList all;
-        for (const QUrl &url : urls)
-            all.append(url.toLocalFile());
-        return all;
-    }
+    QStringList paths() const { return each(urls, &QUrl::toLocalFile); }
 
     QTemporaryDir dir;
     QList<QUrl> urls;

@@ -1,15 +1,10 @@
 #pragma once
 
 #include "NotchKit/Tools/AIUsage/UsageFigures.h"
+#include "Support/TestRegistry.h"
 
 #include <QDirIterator>
-#include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QMap>
-#include <QSet>
-
-#include <cmath>
 
 #include <sys/stat.h>
 
@@ -26,7 +21,7 @@ struct SlowLogReader
     {
         const QDateTime weekAgo = now.addDays(-7);
         QStringList paths;
-        QDirIterator files(m_root, {QStringLiteral("*.jsonl")}, QDir::Files, QDirIterator::Subdirectories);
+        QDirIterator files(m_root, {u"*.jsonl"_s}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext())
             paths.append(files.next());
         paths.sort();
@@ -71,24 +66,21 @@ private:
             line.size() > 4 << 20)
             return;
         const QJsonObject object = QJsonDocument::fromJson(line).object();
-        const QJsonValue message = object[QLatin1String("message")];
-        const QJsonValue usage = message[QLatin1String("usage")];
-        const QDateTime date = timestamp(object[QLatin1String("timestamp")].toString());
+        const QJsonValue message = object["message"_L1];
+        const QJsonValue usage = message["usage"_L1];
+        const QDateTime date = timestamp(object["timestamp"_L1].toString());
         if (!usage.isObject() || !date.isValid())
             return;
-        const QString key = message[QLatin1String("id")].isString()
-                                ? QLatin1Char('k') + message[QLatin1String("id")].toString() +
-                                      object[QLatin1String("requestId")].toString()
-                                : QStringLiteral("unnamed %1").arg(++m_unnamed);
-        m_entries[key] = {date, integer(usage[QLatin1String("input_tokens")]) +
-                                    integer(usage[QLatin1String("output_tokens")]) +
-                                    integer(usage[QLatin1String("cache_creation_input_tokens")])};
+        const QString key = message["id"_L1].isString()
+                                ? u'k' + message["id"_L1].toString() + object["requestId"_L1].toString()
+                                : u"unnamed %1"_s.arg(++m_unnamed);
+        m_entries[key] = {date, integer(usage["input_tokens"_L1]) + integer(usage["output_tokens"_L1]) +
+                                    integer(usage["cache_creation_input_tokens"_L1])};
     }
 
     static QDateTime timestamp(const QString &text)
     {
-        static const QRegularExpression form(
-            QStringLiteral(R"(^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d+(Z|[+-]\d\d:\d\d)$)"));
+        static const QRegularExpression form(uR"(^\d{4}-\d\d-\d\dT\d\d:\d\d:\d\d\.\d+(Z|[+-]\d\d:\d\d)$)"_s);
         return form.match(text).hasMatch() ? QDateTime::fromString(text, Qt::ISODateWithMs) : QDateTime();
     }
 

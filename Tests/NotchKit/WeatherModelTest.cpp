@@ -43,7 +43,12 @@ struct Stage : Fakes::Core
         location.questions.answerLast(fix);
         QCoreApplication::processEvents();
     }
-    qsizetype asked() const { return http.asked.size(); }
+    /// How often so far, after another while.
+    qsizetype asked(int milliseconds = 0)
+    {
+        wait(milliseconds);
+        return http.asked.size();
+    }
 };
 
 } // namespace
@@ -56,32 +61,27 @@ private Q_SLOTS:
     void asksWhileOnScreen()
     {
         Stage stage;
-        stage.wait(3'600'000);
-        QCOMPARE(stage.asked(), 0);
+        QCOMPARE(stage.asked(3'600'000), 0);
         stage.show(NotchTool::timer);
-        stage.wait(60'000);
-        QCOMPARE(stage.asked(), 0);
+        QCOMPARE(stage.asked(60'000), 0);
         stage.show(NotchTool::weather);
         QCOMPARE(stage.asked(), 1); // and it stays unanswered: no other
         stage.wait(899'000);
         stage.show(NotchTool::home);
         QCOMPARE(stage.asked(), 1);
-        stage.wait(1000);
-        QCOMPARE(stage.asked(), 2);
+        QCOMPARE(stage.asked(1000), 2);
         stage.model.refresh(true);
         QCOMPARE(stage.asked(), 3);
         stage.settings.setColumn(HomeColumn::hidden, HomeWidget::weather);
         stage.wait(3'600'000);
         stage.show({});
-        stage.wait(3'600'000);
-        QCOMPARE(stage.asked(), 3);
+        QCOMPARE(stage.asked(3'600'000), 3);
 
         Stage placeless(false);
         placeless.show(NotchTool::weather);
         placeless.model.refresh(true);
         placeless.settings.setWeatherLatitude(1);
-        placeless.wait(5000);
-        QCOMPARE(placeless.asked(), 0);
+        QCOMPARE(placeless.asked(5000), 0);
     }
 
     void figuresAndUnits()
@@ -158,10 +158,7 @@ private Q_SLOTS:
         const auto forecast = parseForecast("{\"daily\": {\"time\": [" + time + "], \"weather_code\": [" +
                                             code + "], \"temperature_2m_max\": [" + high +
                                             "], \"temperature_2m_min\": [0, 0, 0, 0]}}");
-        QList<int> found;
-        for (const WeatherDay &day : forecast->days)
-            found.append(day.date.day());
-        QCOMPARE(found, dates);
+        QCOMPARE(each(forecast->days, [](const WeatherDay &day) { return day.date.day(); }), dates);
     }
 
     void search_data()
