@@ -106,16 +106,14 @@ private Q_SLOTS:
     void theHotKeyTellsWhatItIsBoundTo_data()
     {
         using State = HotKeyBinding::State;
-        columns<State, QString, QString>();
-        QTest::newRow("pending") << State::pending << QString() << QString();
-        QTest::newRow("asked") << State::asked << QString() << QString();
-        QTest::newRow("chosen") << State::chosen << u"<b>%1+N"_s << u"Bound to <b>%1+N"_s;
-        QTest::newRow("taken")
-            << State::taken << QString()
-            << u"Another program has these keys. In the desktop’s settings, bind others to: kestrune\u00a0toggle"_s;
-        QTest::newRow("unbound")
-            << State::unbound << QString()
-            << u"No keys are bound. In the desktop’s settings, bind some to: kestrune\u00a0toggle"_s;
+        const auto row = columns<State, QString, QString>();
+        row("pending", State::pending, "", "");
+        row("asked", State::asked, "", "");
+        row("chosen", State::chosen, "<b>%1+N", "Bound to <b>%1+N");
+        row("taken", State::taken, "",
+            u"Another program has these keys. In the desktop’s settings, bind others to: kestrune\u00a0toggle"_s);
+        row("unbound", State::unbound, "",
+            u"No keys are bound. In the desktop’s settings, bind some to: kestrune\u00a0toggle"_s);
     }
 
     void theHotKeyTellsWhatItIsBoundTo()

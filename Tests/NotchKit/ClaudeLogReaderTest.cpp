@@ -12,31 +12,30 @@
 
 using namespace Kestrune::Tests;
 
-namespace {
+static QDateTime at(const char *time)
+{
+    return QDateTime::fromString(QLatin1String(time), Qt::ISODateWithMs);
+}
 
-QDateTime at(const char *time) { return QDateTime::fromString(QLatin1String(time), Qt::ISODateWithMs); }
-
-QByteArray entryLine(const QByteArray &time, qint64 tokens, const QByteArray &id)
+static QByteArray entryLine(const QByteArray &time, qint64 tokens, const QByteArray &id)
 {
     return "{\"timestamp\":\"" + time + "\",\"requestId\":\"r\",\"message\":{\"id\":\"" + id +
            "\",\"usage\":{\"input_tokens\":" + QByteArray::number(tokens) +
            ",\"cache_read_input_tokens\":1000}}}\n";
 }
 
-void write(const QString &path, const QByteArray &text, QIODevice::OpenMode mode = QIODevice::Append)
+static void write(const QString &path, const QByteArray &text, QIODevice::OpenMode mode = QIODevice::Append)
 {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly | mode));
     QCOMPARE(file.write(text), text.size());
 }
 
-void useZone(const QByteArray &zone)
+static void useZone(const QByteArray &zone)
 {
     qputenv("TZ", zone);
     tzset();
 }
-
-} // namespace
 
 class ClaudeLogReaderTest : public QObject
 {

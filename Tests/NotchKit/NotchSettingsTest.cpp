@@ -2,14 +2,10 @@
 #include "Support/Fakes.h"
 #include "Support/TestRegistry.h"
 
-namespace {
+static QStringList words(const QString &text) { return text.split(u' ', Qt::SkipEmptyParts); }
+static QString joined(const QStringList &list) { return list.join(u' '); }
 
-QStringList words(const QString &text) { return text.split(u' ', Qt::SkipEmptyParts); }
-QString joined(const QStringList &list) { return list.join(u' '); }
-
-const QString allTools = joined(rawValues(allCases<NotchTool>()));
-
-} // namespace
+static const QString allTools = joined(rawValues(allCases<NotchTool>()));
 
 class NotchSettingsTest : public QObject
 {

@@ -113,11 +113,10 @@ private Q_SLOTS:
     {
         Stage stage(u"denied"_s);
         stage.refresh();
-        const QList<std::pair<QString, QString>> steps{{u""_s, u"denied"_s},
-                                                       {u"off"_s, u"denied"_s},
-                                                       {u"playing A 1"_s, u"Music A 1"_s},
-                                                       {u"denied"_s, u"denied"_s}};
-        for (const auto &[words, shown] : steps) {
+        for (const auto &[words, shown] : {std::pair(u""_s, u"denied"_s),
+                                           {u"off"_s, u"denied"_s},
+                                           {u"playing A 1"_s, u"Music A 1"_s},
+                                           {u"denied"_s, u"denied"_s}}) {
             stage.say(kMusic, words);
             stage.refresh();
             QCOMPARE(stage.shown(), shown);

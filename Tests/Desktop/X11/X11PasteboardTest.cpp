@@ -1,15 +1,11 @@
 #include "Desktop/X11/ClipboardStage.h"
 
-namespace {
-
-QByteArray png()
+static QByteArray png()
 {
     QImage image = plainImage({300, 200}, Qt::red);
     image.setPixel(7, 9, 0xff00ff00);
     return encoded(image);
 }
-
-} // namespace
 
 /// The adapter between real programs: each of them copies for it, and pastes what it wrote.
 class X11PasteboardTest : public PasteboardTest<ClipboardStage>

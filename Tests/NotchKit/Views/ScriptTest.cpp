@@ -63,22 +63,17 @@ private Q_SLOTS:
         QCOMPARE(layout.lineAt(layout.lines()[middle].start), middle);
     }
 
-    void glideNeverGoesBackAndKeepsThePace_data()
-    {
-        QTest::addColumn<int>("jitter"); ///< How late a step may come, in milliseconds.
-        QTest::newRow("on time") << 0;
-        QTest::newRow("late") << 20;
-    }
+    void glideNeverGoesBackAndKeepsThePace_data() { noAndYes("on time", "late"); }
 
     void glideNeverGoesBackAndKeepsThePace()
     {
-        QFETCH(const int, jitter);
+        const auto [isLate] = fetched<bool>();
         constexpr double speed = 100;
         ScrollGlide glide;
         double fastest = 0, slowest = 1000;
         int step = 0;
         for (int frame = 1; frame <= 300; ++frame) {
-            const int late = step % 3 * jitter / 2;
+            const int late = isLate ? step % 3 * 10 : 0; // Milliseconds.
             if (frame * 15 >= (step + 1) * 50 + late)
                 glide.setTarget(++step * speed / 20);
             const double before = glide.position();
