@@ -141,18 +141,17 @@ private Q_SLOTS:
         Player &spotify = stage.add(u"spotify"_s);
         stage.add(u"playerctld"_s).song = {{u"xesam:title"_s, u"an echo"_s}};
         spotify.song.insert(u"mpris:length"_s, 1'500'000LL);
-        mpv.state = u"Paused"_s;
-        QCOMPARE(stage.title(kMusic), u"vlc song"_s);
-        mpv.state = u"Playing"_s; // the last one that began
-        QCOMPARE(stage.title(kMusic), u"mpv song"_s);
+        const auto titleOnce = [&](Player &player, const QString &state) {
+            player.state = state;
+            return stage.title(kMusic);
+        };
+        QCOMPARE(titleOnce(mpv, u"Paused"_s), u"vlc song"_s);
+        QCOMPARE(titleOnce(mpv, u"Playing"_s), u"mpv song"_s); // the last one that began
         vlc.song.insert(u"xesam:title"_s, u"another"_s);
         QCOMPARE(stage.title(kMusic), u"another"_s);
-        vlc.state = u"Paused"_s;
-        QCOMPARE(stage.title(kMusic), u"mpv song"_s);
-        mpv.state = u"Paused"_s; // the last one that was paused
-        QCOMPARE(stage.title(kMusic), u"mpv song"_s);
-        mpv.state = u"Stopped"_s;
-        QCOMPARE(stage.title(kMusic), u"another"_s);
+        QCOMPARE(titleOnce(vlc, u"Paused"_s), u"mpv song"_s);
+        QCOMPARE(titleOnce(mpv, u"Paused"_s), u"mpv song"_s); // the last one that was paused
+        QCOMPARE(titleOnce(mpv, u"Stopped"_s), u"another"_s);
         vlc.state = u"Stopped"_s;
         QCOMPARE(stage.status(kMusic), u""_s);
         QCOMPARE(stage.status(kSpotify), u"playing|spotify song||1500|2.500"_s);
