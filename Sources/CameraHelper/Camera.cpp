@@ -1,5 +1,7 @@
 #include "Camera.h"
 
+#include "CameraWalls.h"
+
 #include <gst/app/gstappsink.h>
 
 #include <array>
@@ -54,6 +56,16 @@ bool isJpeg(const GstCaps *format)
     return gst_structure_has_name(gst_caps_get_structure(format, 0), "image/jpeg");
 }
 
+/// What comes first through here is the first that a stranger may have made: it goes on behind walls only.
+GstPadProbeReturn guardFirst(GstPad *pad, GstPadProbeInfo *, void *)
+{
+    if (CameraWalls::raiseBeforePictures())
+        return GST_PAD_PROBE_REMOVE;
+    const Handle<GstElement> source(gst_pad_get_parent_element(pad));
+    GST_ELEMENT_ERROR(source.get(), RESOURCE, FAILED, ("not without walls"), (nullptr));
+    return GST_PAD_PROBE_DROP;
+}
+
 } // namespace
 
 Camera::~Camera()
@@ -99,6 +111,10 @@ bool Camera::open()
     if (g_object_class_find_property(G_OBJECT_GET_CLASS(source), "always-copy"))
         g_object_set(source, "always-copy", TRUE, nullptr);
     gst_bin_add(GST_BIN(m_pipeline.get()), source);
+    if (const Handle<GstPad> pad(gst_element_get_static_pad(source, "src")); pad)
+        gst_pad_add_probe(pad.get(), GST_PAD_PROBE_TYPE_BUFFER, guardFirst, nullptr, nullptr);
+    else
+        return false;
     const std::string rest = std::string("capsfilter name=format ! ") +
                              (isJpeg(m_format.get()) ? "jpegdec ! " : "") +
                              "appsink name=sink caps=video/x-raw max-buffers=1 drop=true sync=false";

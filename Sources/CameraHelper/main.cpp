@@ -1,4 +1,5 @@
 #include "Camera.h"
+#include "CameraWalls.h"
 #include "Desktop/Camera/CameraWire.h"
 #include "PictureMaker.h"
 
@@ -65,7 +66,13 @@ int main(int argc, char *argv[])
 {
     if (argc != 2)
         return EXIT_FAILURE;
+    // Pictures are converted without code that is made while it runs; neither bus is of use to it.
+    ::setenv("ORC_CODE", "backup", 1);
+    ::setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
+    ::setenv("DBUS_SYSTEM_BUS_ADDRESS", "disabled:", 1);
     gst_init(nullptr, nullptr);
+    if (!CameraWalls::raiseBeforeLooking())
+        return EXIT_FAILURE;
     ::alarm(kLongestOpening); // Its signal ends the process.
     Camera camera;
     bool good = camera.open();

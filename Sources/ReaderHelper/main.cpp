@@ -61,7 +61,7 @@ int readPictures()
 {
     PictureDecoder::prepare();
     QImageReader::setAllocationLimit(kPictureMegabytes);
-    if (!Walls::raise(kPictureMemory))
+    if (!Walls::raiseAroundReader(kPictureMemory))
         return 1;
     ReaderWire::PictureQuestion question{};
     while (const auto files = Tasks::next(&question, sizeof question)) {
@@ -88,7 +88,7 @@ QByteArray contents(int file, std::uint32_t size)
 int readCalendars()
 {
     IcalZones::prepare();
-    if (!Walls::raise(kCalendarMemory))
+    if (!Walls::raiseAroundReader(kCalendarMemory))
         return 1;
     CalendarAnswers answers;
     ReaderWire::CalendarsQuestion asked{};

@@ -225,6 +225,10 @@ void FolderCalendars::take(const QByteArray &path, IcalFound found, const IcalRa
         qCInfo(calendarLog, "%s: %d rules repeat what cannot be worked out in time", path.constData(),
                found.leftOut);
     File &file = m_files[path];
+    if (found.state == IcalFound::State::unread) { // What was found before is better than nothing.
+        found.events = std::move(file.found.events);
+        found.tasks = std::move(file.found.tasks);
+    }
     file.found = std::move(found);
     file.range = range;
 }

@@ -1,11 +1,10 @@
 #include "HelperCamera.h"
 
 #include "CameraRun.h"
+#include "Desktop/Helpers/InstalledHelper.h"
 #include "Log.h"
 
-#include <QCoreApplication>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTimer>
 
 #include <algorithm>
@@ -84,13 +83,7 @@ HelperCamera::HelperCamera(const QDBusConnection &bus, const QString &helper)
 
 HelperCamera::~HelperCamera() { m_running = false; }
 
-QString HelperCamera::installedHelper()
-{
-    const QString folder = QCoreApplication::applicationDirPath();
-    return QStandardPaths::findExecutable(
-        QStringLiteral("kestrune-camera"),
-        {folder, folder + QStringLiteral("/../" KESTRUNE_LIBEXEC "/kestrune")});
-}
+QString HelperCamera::installed() { return installedHelper(QStringLiteral("kestrune-camera")); }
 
 QFuture<bool> HelperCamera::configure()
 {

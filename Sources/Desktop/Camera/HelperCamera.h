@@ -19,11 +19,11 @@ class HelperCamera : public QObject, public CameraSession
 
 public:
     /// `helper` is the helper's file, the installed one by default.
-    explicit HelperCamera(const QDBusConnection &bus, const QString &helper = installedHelper());
+    explicit HelperCamera(const QDBusConnection &bus, const QString &helper = installed());
     ~HelperCamera() override;
 
     /// The helper beside the program in a build tree, else where it is installed.
-    static QString installedHelper();
+    static QString installed();
 
     void installHandlers(Handlers handlers) override { m_handlers = std::move(handlers); }
     CameraAuthorization authorization() override { return m_access.authorization(); }

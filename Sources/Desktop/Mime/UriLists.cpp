@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QSysInfo>
 
+#include <algorithm>
+
 namespace Kestrune::UriLists {
 
 namespace {
@@ -21,11 +23,19 @@ QUrl localFile(QByteArrayView line)
         line.chop(1);
     if (line.isEmpty() || line.startsWith('#'))
         return {};
-    QUrl url = QUrl::fromEncoded(line.toByteArray());
-    if (url.scheme() != QLatin1String("file") || url.path().isEmpty() || !isThisMachine(url.host()))
+    const QUrl url = QUrl::fromEncoded(line.toByteArray());
+    if (url.scheme() != QLatin1String("file") || !url.path().startsWith(QLatin1Char('/')) ||
+        !isThisMachine(url.host()))
         return {};
-    url.setHost(QString());
-    return url;
+    // Without a host a path must not begin with two slashes, of which programs write too many.
+    const QString path = url.path(QUrl::FullyEncoded);
+    qsizetype slashes = 0;
+    while (slashes < path.size() && path.at(slashes) == QLatin1Char('/'))
+        ++slashes;
+    QUrl file;
+    file.setScheme(QStringLiteral("file"));
+    file.setPath(path.mid(std::max<qsizetype>(slashes - 1, 0)), QUrl::StrictMode);
+    return file;
 }
 
 } // namespace

@@ -37,6 +37,16 @@ public:
             each(value);
     }
 
+    template <typename Key, typename Value, typename Each>
+    void map(QMap<Key, Value> &values, const Each &each)
+    {
+        m_stream << static_cast<qint64>(values.size());
+        for (auto entry = values.begin(); entry != values.end(); ++entry) {
+            m_stream << entry.key();
+            each(entry.value());
+        }
+    }
+
     QByteArray take() { return std::move(m_bytes); }
 
 private:
@@ -69,12 +79,18 @@ public:
     template <typename Value, typename Each>
     void list(QList<Value> &values, const Each &each)
     {
-        qint64 count = 0;
-        m_stream >> count;
-        if (count > kMostListed)
-            m_stream.setStatus(QDataStream::ReadCorruptData);
-        for (qint64 i = 0; i < count && isGood(); ++i) {
+        const qint64 count = readCount();
+        for (qint64 i = 0; i < count && isGood(); ++i)
             each(values.emplaceBack());
+    }
+    template <typename Key, typename Value, typename Each>
+    void map(QMap<Key, Value> &values, const Each &each)
+    {
+        const qint64 count = readCount();
+        for (qint64 i = 0; i < count && isGood(); ++i) {
+            Key key;
+            m_stream >> key;
+            each(values[key]);
         }
     }
 
@@ -82,6 +98,15 @@ public:
     bool isOver() const { return isGood() && m_stream.atEnd(); }
 
 private:
+    qint64 readCount()
+    {
+        qint64 count = 0;
+        m_stream >> count;
+        if (count > kMostListed)
+            m_stream.setStatus(QDataStream::ReadCorruptData);
+        return count;
+    }
+
     QDataStream m_stream;
 };
 
@@ -95,7 +120,11 @@ void pack(Pack &pack, IcalRange &range)
 template <typename Pack>
 void pack(Pack &pack, IcalTexts &texts)
 {
-    pack(texts.origin, texts.isWhole, texts.texts, texts.series, texts.zones);
+    const auto packOne = [&](QByteArray &text) { pack(text); };
+    pack(texts.origin, texts.isWhole);
+    pack.list(texts.texts, packOne);
+    pack.map(texts.series, [&](QList<QByteArray> &series) { pack.list(series, packOne); });
+    pack.map(texts.zones, packOne);
 }
 
 template <typename Pack>

@@ -1,11 +1,10 @@
 #include "ReaderPool.h"
 
+#include "Desktop/Helpers/InstalledHelper.h"
 #include "Log.h"
 #include "ReaderWire.h"
 
-#include <QCoreApplication>
 #include <QFile>
-#include <QStandardPaths>
 
 namespace Kestrune {
 
@@ -24,13 +23,7 @@ ReaderPool::ReaderPool(const QString &program, const char *kind)
 
 ReaderPool::~ReaderPool() = default;
 
-QString ReaderPool::installed()
-{
-    const QString folder = QCoreApplication::applicationDirPath();
-    return QStandardPaths::findExecutable(
-        QStringLiteral("kestrune-reader"),
-        {folder, folder + QStringLiteral("/../" KESTRUNE_LIBEXEC "/kestrune")});
-}
+QString ReaderPool::installed() { return installedHelper(QStringLiteral("kestrune-reader")); }
 
 std::optional<ReaderFault> ReaderPool::askOne(std::span<const std::byte> question, int file, int memory,
                                               std::span<std::byte> answer)

@@ -4,10 +4,13 @@
 #include "Desktop/Bus/BusCall.h"
 #include "Log.h"
 
+#include <QFileInfo>
 #include <QStandardPaths>
 #include <QUrl>
 
 #include <array>
+
+#include <sys/prctl.h>
 
 namespace Kestrune {
 
@@ -31,11 +34,27 @@ constexpr std::array kSettingsPrograms{
     SettingsProgram{"xfce4-settings-manager", ""},
 };
 
+/// Behind what a service unit takes from this program others could not do their work. The user's service
+/// manager starts them outside; empty where they are children like any.
+QString serviceStarter()
+{
+    const bool isConfined = ::prctl(PR_GET_NO_NEW_PRIVS, 0, 0, 0, 0) == 1;
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const bool isManaged = isConfined && QFileInfo::exists(runtime + QStringLiteral("/systemd/private"));
+    return isManaged ? QStandardPaths::findExecutable(QStringLiteral("systemd-run")) : QString();
+}
+
 bool startProgram(const QString &program, const QStringList &arguments)
 {
     QProcess process;
     process.setProgram(program);
     process.setArguments(arguments);
+    if (const QString starter = serviceStarter(); !starter.isEmpty()) {
+        process.setProgram(starter);
+        process.setArguments(QStringList{QStringLiteral("--user"), QStringLiteral("--quiet"),
+                                         QStringLiteral("--collect"), QStringLiteral("--"), program} +
+                             arguments);
+    }
     CoreDumps::allow(process);
     return process.startDetached();
 }

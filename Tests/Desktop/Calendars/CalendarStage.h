@@ -27,7 +27,7 @@ struct CalendarStage
     template <typename Result>
     static Result wait(const QFuture<Result> &future)
     {
-        if (!waitUntil([&] { return future.isFinished(); }, 30'000) || future.isCanceled())
+        if (!waitUntil([&] { return future.isFinished(); }) || future.isCanceled())
             qFatal("the calendars do not answer");
         return future.result();
     }

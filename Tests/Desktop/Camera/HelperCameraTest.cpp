@@ -5,6 +5,7 @@
 #include <QDBusArgument>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
+#include <QDirIterator>
 
 using Authorization = CameraAuthorization;
 
@@ -69,6 +70,24 @@ qint64 childProcesses()
         all += readFile(u"/proc/self/task/%1/children"_s.arg(thread)).count(' ');
     }
     return all;
+}
+
+/// Whether each thread of each process of the camera is behind both filters of calls.
+bool isBehindWalls()
+{
+    int threads = 0;
+    for (QDirIterator it(u"/proc"_s, QDir::Dirs | QDir::NoDotAndDotDot); it.hasNext();) {
+        const QString process = it.next();
+        if (QFileInfo(process + u"/exe"_s).symLinkTarget() != QLatin1String(KESTRUNE_CAMERA))
+            continue;
+        for (QDirIterator thread(process + u"/task"_s, QDir::Dirs | QDir::NoDotAndDotDot);
+             thread.hasNext();) {
+            ++threads;
+            if (!readFile(thread.next() + u"/status"_s).contains("\nSeccomp_filters:\t2\n"))
+                return false;
+        }
+    }
+    return threads > 1;
 }
 
 /// Threads, open files and child processes of this process.
@@ -168,6 +187,7 @@ private Q_SLOTS:
                      shape.radius > 0);
             QCOMPARE(alpha({20, 20}), 255);
         }
+        QVERIFY(isBehindWalls());
         const QColor left = picture.pixelColor(4, 40);
         const QColor right = picture.pixelColor(395, 40);
         QVERIFY(left.blue() > 150 && left.red() < 50 && left.green() < 50);

@@ -29,14 +29,16 @@ private Q_SLOTS:
 
     void lists()
     {
-        const QByteArray lines =
-            "# a comment\r\nfile:///a%20b\r\nhttp://example.org/c\r\nfile://localhost/d\n"
-            "file://elsewhere.example/e\r\nfile:///%C3%BC";
-        const QList<QUrl> files{QUrl::fromLocalFile(u"/a b"_s), QUrl::fromLocalFile(u"/d"_s),
-                                QUrl::fromLocalFile(u"/ü"_s)};
+        const QByteArray lines = "# a "
+                                 "comment\r\nfile:///a%20b\r\nhttp://example.org/c\r\nfile:g\r\nfile:////"
+                                 "f\r\nfile://localhost//d\n"
+                                 "file://elsewhere.example/e\r\nfile:///%C3%BC";
+        const QList<QUrl> files{QUrl::fromLocalFile(u"/a b"_s), QUrl::fromLocalFile(u"/f"_s),
+                                QUrl::fromLocalFile(u"/d"_s), QUrl::fromLocalFile(u"/ü"_s)};
         QCOMPARE(UriLists::localFiles(lines, "text/uri-list"), files);
         QCOMPARE(UriLists::localFiles("cut\n" + lines, UriLists::kCopiedFiles), files);
-        QCOMPARE(UriLists::copiedFiles(files), "copy\nfile:///a%20b\nfile:///d\nfile:///%C3%BC"_ba);
+        QCOMPARE(UriLists::copiedFiles(files),
+                 "copy\nfile:///a%20b\nfile:///f\nfile:///d\nfile:///%C3%BC"_ba);
         QCOMPARE(UriLists::localFiles("file:///a\n"_ba.repeated(150'000), "text/uri-list").size(), 100'000);
     }
 };

@@ -68,18 +68,23 @@ private Q_SLOTS:
         QVERIFY(reads());
     }
 
-    void itsWallsHold_data()
+    void wallsHold_data()
     {
-        const auto row = columns<QString, bool>();
-        for (const char *refused :
-             {"read", "write", "connect", "bus", "fork", "execute", "allocate", "make code"})
-            row(refused, QString::fromLatin1(refused), true);
-        row("compute", u"compute"_s, false);
+        const auto row = columns<QString, QString, bool>();
+        // The camera's: by the first ones it is to find a camera still, by all of them to take pictures.
+        const QStringList attempts{
+            u"read of the user's"_s, u"write"_s, u"connect"_s, u"fork"_s,      u"execute"_s,
+            u"allocate"_s,           u"read"_s,  u"bus"_s,     u"make code"_s, u"compute"_s};
+        for (const QString &walls : {u"reader"_s, u"look"_s, u"pictures"_s}) {
+            const qsizetype refused = walls == "look"_L1 ? 6 : 9;
+            for (qsizetype i = 0; i < attempts.size(); ++i)
+                row(qPrintable(walls + u": "_s + attempts.at(i)), walls, attempts.at(i), i < refused);
+        }
     }
-    void itsWallsHold()
+    void wallsHold()
     {
-        const auto [attempt, refused] = fetched<QString, bool>();
-        QCOMPARE(QProcess::execute(QStringLiteral(KESTRUNE_WALLS_PROBE), {attempt}), refused ? 0 : 1);
+        const auto [walls, attempt, refused] = fetched<QString, QString, bool>();
+        QCOMPARE(QProcess::execute(QStringLiteral(KESTRUNE_WALLS_PROBE), {walls, attempt}), refused ? 0 : 1);
     }
 
 private:

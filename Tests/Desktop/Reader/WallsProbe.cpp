@@ -1,6 +1,7 @@
-// Raises the walls of the reader, tries one thing, and ends with 0 where it was refused, with 1 where it
+// Raises the walls of a helper, tries one thing, and ends with 0 where it was refused, with 1 where it
 // worked.
-#include "ReaderHelper/Walls/Walls.h"
+#include "CameraHelper/CameraWalls.h"
+#include "Walls/Walls.h"
 
 #include <array>
 #include <cerrno>
@@ -45,7 +46,16 @@ bool mayExecute() { return executes() || errno != EPERM; }
 
 bool maps(std::size_t size, int protection)
 {
-    return ::mmap(nullptr, size, protection, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0) != MAP_FAILED;
+    return ::mmap(nullptr, size, protection, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0) !=
+           MAP_FAILED;
+}
+
+bool raise(const std::string &walls)
+{
+    using namespace Kestrune;
+    if (walls == "reader")
+        return Walls::raiseAroundReader(std::size_t{1} << 30);
+    return CameraWalls::raiseBeforeLooking() && (walls == "look" || CameraWalls::raiseBeforePictures());
 }
 
 } // namespace
@@ -54,15 +64,16 @@ int main(int, char *arguments[])
 {
     const std::map<std::string, bool (*)()> tries{
         {"read", [] { return opens("/etc/hostname", O_RDONLY); }},
+        {"read of the user's", [] { return opens(std::getenv("HOME"), O_RDONLY); }},
         {"write", [] { return opens("/tmp/kestrune-walls", O_WRONLY | O_CREAT); }},
-        {"connect", [] { return ::socket(AF_INET, SOCK_STREAM, 0) >= 0; }},
+        {"connect", [] { return ::socket(AF_INET6, SOCK_STREAM, 0) >= 0; }},
         {"bus", [] { return ::socket(AF_UNIX, SOCK_STREAM, 0) >= 0; }},
         {"fork", forks},
         {"execute", mayExecute},
-        {"allocate", [] { return maps(std::size_t{2} << 30, PROT_READ | PROT_WRITE); }},
+        {"allocate", [] { return maps(std::size_t{5} << 30, PROT_READ | PROT_WRITE); }},
         {"make code", [] { return maps(4096, PROT_READ | PROT_EXEC); }},
         {"compute", [] { return maps(4096, PROT_READ | PROT_WRITE); }},
     };
-    const auto wanted = tries.at(arguments[1]);
-    return Kestrune::Walls::raise(std::size_t{1} << 30) && !wanted() ? EXIT_SUCCESS : EXIT_FAILURE;
+    const auto wanted = tries.at(arguments[2]);
+    return raise(arguments[1]) && !wanted() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -2,6 +2,8 @@
 #include "Desktop/BusStandIn.h"
 #include "Desktop/Session/CoreDumps.h"
 
+#include <sys/prctl.h>
+
 /// Showing files in the file manager, over a stand-in of it and of the program that opens folders.
 class DesktopWorkspaceTest : public QObject
 {
@@ -84,6 +86,21 @@ private Q_SLOTS:
         BusStandIn manager(u"org.freedesktop.FileManager1"_s);
         DesktopWorkspace(manager.bus()).open(QUrl(u"https://example.org/"_s));
         QTRY_COMPARE(opened(), QStringList{QString::fromLatin1(before)});
+    }
+
+    void theServiceManagerOpensWhatWallsWouldHoldBack()
+    {
+        QTemporaryDir runtime;
+        qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
+        QVERIFY(writeFile(runtime.filePath(u"systemd/private"_s), {}));
+        QFile starter(m_folder.filePath(u"systemd-run"_s));
+        QVERIFY(writeFile(starter.fileName(),
+                          "#!/bin/sh\necho \"$@\" >> " + m_folder.filePath(u"opened"_s).toUtf8() + '\n'));
+        starter.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QCOMPARE(::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0), 0); // The last test: there is no way back.
+        BusStandIn manager(u"org.freedesktop.FileManager1"_s);
+        DesktopWorkspace(manager.bus()).open(QUrl(u"https://example.org/"_s));
+        QTRY_COMPARE(opened(), QStringList{u"--user --quiet --collect -- xdg-open https://example.org/"_s});
     }
 
 private:
