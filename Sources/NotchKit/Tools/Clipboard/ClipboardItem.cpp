@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace Kestrune {
 
@@ -112,12 +113,21 @@ bool ClipboardItem::sameContent(const ClipboardItem &other) const
     return kind == other.kind && text == other.text && paths == other.paths;
 }
 
-QByteArray encodeClipboardItems(const ClipboardItems &items)
+QByteArray encodeClipboardItems(const ClipboardItems &items) { return ClipboardEncoder().encode(items); }
+
+QByteArray ClipboardEncoder::encode(const ClipboardItems &items)
 {
-    QJsonArray array;
-    for (const ClipboardItem &item : items)
-        array.append(encode(item));
-    return QJsonDocument(array).toJson(QJsonDocument::Compact);
+    QHash<QUuid, QByteArray> entries;
+    QByteArrayList list;
+    for (const ClipboardItem &item : items) {
+        QByteArray entry = m_entries.value(item.id);
+        if (entry.isEmpty())
+            entry = QJsonDocument(Kestrune::encode(item)).toJson(QJsonDocument::Compact);
+        entries.insert(item.id, entry);
+        list.append(entry);
+    }
+    m_entries = std::move(entries);
+    return '[' + list.join(',') + ']';
 }
 
 std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored)

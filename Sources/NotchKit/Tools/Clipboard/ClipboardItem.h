@@ -3,6 +3,7 @@
 #include "ClipboardPicture.h"
 
 #include <QDateTime>
+#include <QHash>
 #include <QObject>
 #include <QStringList>
 #include <QUuid>
@@ -67,6 +68,17 @@ using ClipboardItems = QList<ClipboardItem>;
 
 /// The stored form: a JSON array, UTF-8. Pictures are left out; dates are seconds since 2001-01-01 UTC.
 QByteArray encodeClipboardItems(const ClipboardItems &items);
+
+/// Gives that form of a list that changes by an item at a time: each item, which stays as it is, is encoded
+/// once.
+class ClipboardEncoder
+{
+public:
+    QByteArray encode(const ClipboardItems &items);
+
+private:
+    QHash<QUuid, QByteArray> m_entries; ///< Of the items of the last list.
+};
 
 /// Nothing when `stored` is not, as a whole, such an array.
 std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored);

@@ -119,7 +119,7 @@ void ClipboardModel::persist()
 {
     Items stored;
     std::ranges::copy_if(items(), std::back_inserter(stored), isStored);
-    m_defaults.setObject(kStoreKey, encodeClipboardItems(stored));
+    m_defaults.setObject(kStoreKey, m_encoder.encode(stored));
 }
 
 ClipboardItems ClipboardModel::computeVisible() const

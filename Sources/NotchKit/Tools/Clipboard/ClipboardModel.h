@@ -88,6 +88,7 @@ private:
     Pasteboard &m_pasteboard;
     qint64 m_lastChange;
     ClipboardWorkers m_workers;
+    ClipboardEncoder m_encoder;
     Scope m_reads; ///< One at a time.
     Q_OBJECT_BINDABLE_PROPERTY(ClipboardModel, Items, m_items, &ClipboardModel::itemsChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(ClipboardModel, Filter, m_filter, Filter::all,
