@@ -90,10 +90,11 @@ LoopThread::LoopThread(const char *name)
 
 LoopThread::~LoopThread()
 {
-    if (m_loop)
-        m_loop->end({});
+    // First, else what the thread drops may be answered later than now.
     for (const auto &[number, giveUp] : m_questions)
         giveUp();
+    if (m_loop)
+        m_loop->end({});
 }
 
 void LoopThread::post(Task task)
