@@ -1,5 +1,6 @@
 #include "LoopThread.h"
 
+#include "Crossing.h"
 #include "Log.h"
 #include "Threads.h"
 
@@ -28,8 +29,7 @@ public:
             return;
         m_tasks.push_back(std::move(task));
         if (m_loop)
-            QMetaObject::invokeMethod(
-                m_loop, [this] { carryOut(); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(m_loop, Crossing([this] { carryOut(); }), Qt::QueuedConnection);
     }
 
     /// Main thread. Answers what has not begun; `whenEnded` goes when the thread does.
@@ -41,7 +41,8 @@ public:
         m_whenEnded = std::move(whenEnded);
         dropped.swap(m_tasks);
         if (m_loop)
-            QMetaObject::invokeMethod(m_loop, &QEventLoop::quit, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(m_loop, Crossing([loop = m_loop] { loop->quit(); }),
+                                      Qt::QueuedConnection);
     }
 
 private:
@@ -90,10 +91,11 @@ LoopThread::LoopThread(const char *name)
 
 LoopThread::~LoopThread()
 {
-    if (m_loop)
-        m_loop->end({});
+    // First, else what the thread drops may be answered later than now.
     for (const auto &[number, giveUp] : m_questions)
         giveUp();
+    if (m_loop)
+        m_loop->end({});
 }
 
 void LoopThread::post(Task task)

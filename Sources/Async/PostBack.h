@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Crossing.h"
+
 #include <QObject>
 
 #include <memory>
@@ -28,7 +30,8 @@ public:
         {
             const std::lock_guard lock(m_link->mutex);
             if (m_link->receiver)
-                QMetaObject::invokeMethod(m_link->receiver, std::move(function), Qt::QueuedConnection);
+                QMetaObject::invokeMethod(m_link->receiver, Crossing(std::move(function)),
+                                          Qt::QueuedConnection);
         }
 
     private:

@@ -171,6 +171,23 @@ private Q_SLOTS:
         QTRY_COMPARE(loop.ask<int>(1min, answer).result(), 2);
     }
 
+    void theEndOfALoopAnswersEverything()
+    {
+        for (int round = 0; round < 300; ++round) {
+            auto loop = std::make_unique<LoopThread>("test");
+            const auto keep = [gate = m_gate](QObject &parent, const Pledge<int> &pledge) {
+                connect(&parent, &QObject::destroyed, &parent, [pledge] {});
+                gate->release();
+            };
+            QList<QFuture<int>> asked;
+            for (int i = 0; i < 2; ++i)
+                asked.append(loop->ask<int>(1min, keep));
+            m_gate->acquire(2);
+            loop.reset();
+            QVERIFY(std::ranges::all_of(asked, &QFuture<int>::isFinished));
+        }
+    }
+
     void postsBackUntilTheEnd()
     {
         auto back = std::make_unique<PostBack>();

@@ -4,6 +4,8 @@
 #include "Desktop/Pictures/HelperPictures.h"
 #include "Support/TestRegistry.h"
 
+#include <QFutureWatcher>
+
 #include <sys/stat.h>
 
 class SharedThumbnailsTest : public QObject
@@ -109,11 +111,15 @@ private Q_SLOTS:
             QVERIFY(QDir(home.path(u".cache/thumbnails"_s)).removeRecursively());
             SharedThumbnails thumbnails(m_pictures);
             QList<QFuture<QImage>> answers;
+            QObject watchers;
             for (int i = 0; i < 6; ++i) {
                 answers.append(thumbnails.thumbnail(home.path(u"%1.png"_s.arg(i))));
-                answers.last().then(this, [&made, i](const QImage &image) {
-                    made.append(QString::number(i) + QString::number(image.width()));
+                auto *watcher = new QFutureWatcher<QImage>(&watchers);
+                connect(watcher, &QFutureWatcherBase::finished, this, [&made, i, watcher] {
+                    if (!watcher->isCanceled())
+                        made.append(QString::number(i) + QString::number(watcher->result().width()));
                 });
+                watcher->setFuture(answers.last());
             }
             inTime = std::ranges::none_of(answers, &QFuture<QImage>::isFinished);
             answers[3].cancel();
