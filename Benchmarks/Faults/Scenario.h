@@ -55,5 +55,7 @@ void tellProgress(int done, int count);
 using Scenario = Outcome (*)(int count, Chance &chance);
 
 Outcome kills(int count, Chance &chance);
+Outcome displays(int count, Chance &chance);
+Outcome monkey(int count, Chance &chance);
 
 } // namespace Faults

@@ -22,6 +22,8 @@ struct Entry
 
 constexpr Entry kScenarios[] = {
     {"kills", kills, 1000},
+    {"displays", displays, 1000},
+    {"monkey", monkey, 100000},
 };
 
 quint64 chosenSeed()

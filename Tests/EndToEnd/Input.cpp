@@ -15,9 +15,9 @@ Input::~Input() { xcb_key_symbols_free(m_symbols); }
 
 void Input::move(QPoint place) { fake(XCB_MOTION_NOTIFY, 0, place); }
 
-void Input::pressButton() { fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1); }
+void Input::pressButton(quint8 button) { fake(XCB_BUTTON_PRESS, button); }
 
-void Input::releaseButton() { fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1); }
+void Input::releaseButton(quint8 button) { fake(XCB_BUTTON_RELEASE, button); }
 
 void Input::click(QPoint place)
 {

@@ -14,8 +14,8 @@ struct Input
     Q_DISABLE_COPY_MOVE(Input)
 
     void move(QPoint place);
-    void pressButton();
-    void releaseButton();
+    void pressButton(quint8 button = XCB_BUTTON_INDEX_1);
+    void releaseButton(quint8 button = XCB_BUTTON_INDEX_1);
     void click(QPoint place);
 
     void pressKey(xcb_keysym_t key);
