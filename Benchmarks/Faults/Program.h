@@ -41,6 +41,7 @@ public:
     std::optional<QString> setting(const QString &key) const;
     bool set(const QString &key, const QString &value) const;
     bool open(const QString &tool) const { return ask(QStringLiteral("Open"), {tool}).has_value(); }
+    bool close() const { return ask(QStringLiteral("Close")).has_value(); }
     QJsonObject status() const;
 
     /// A call to the program.

@@ -57,5 +57,9 @@ using Scenario = Outcome (*)(int count, Chance &chance);
 Outcome kills(int count, Chance &chance);
 Outcome displays(int count, Chance &chance);
 Outcome monkey(int count, Chance &chance);
+Outcome bus(int count, Chance &chance);
+Outcome fullDisk(int count, Chance &chance);
+Outcome readOnly(int count, Chance &chance);
+Outcome day(int count, Chance &chance);
 
 } // namespace Faults

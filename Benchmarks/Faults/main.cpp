@@ -21,9 +21,8 @@ struct Entry
 };
 
 constexpr Entry kScenarios[] = {
-    {"kills", kills, 1000},
-    {"displays", displays, 1000},
-    {"monkey", monkey, 100000},
+    {"kills", kills, 1000},    {"displays", displays, 1000}, {"monkey", monkey, 100000}, {"bus", bus, 1},
+    {"fulldisk", fullDisk, 1}, {"readonly", readOnly, 1},    {"day", day, 24},
 };
 
 quint64 chosenSeed()
