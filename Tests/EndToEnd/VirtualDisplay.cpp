@@ -87,6 +87,12 @@ bool VirtualDisplay::plugSecond(bool plugged)
                    : randr({u"--output"_s, output, u"--off"_s});
 }
 
+bool VirtualDisplay::resizeFirst(QSize size)
+{
+    return randr({u"--output"_s, u"DUMMY0"_s, u"--mode"_s, u"%1x%2"_s.arg(size.width()).arg(size.height()),
+                  u"--output"_s, u"DUMMY1"_s, u"--pos"_s, u"%1x0"_s.arg(size.width())});
+}
+
 bool VirtualDisplay::launch(const QString &program, const QStringList &arguments)
 {
     m_programs.push_back(std::make_unique<ChildProcess>(m_environment));

@@ -33,6 +33,11 @@ struct VirtualDisplay
 
     /// Plugs in or unplugs the display right of the first one; `Server::Outputs` only.
     bool plugSecond(bool plugged);
+    /// Gives the first display another size; the second one moves along.
+    bool resizeFirst(QSize size);
+
+    /// Ends the server as a crash would; nothing more can be asked of it.
+    void killServer() { m_server.killNow(); }
 
 private:
     bool launch(const QString &program, const QStringList &arguments);
