@@ -24,10 +24,21 @@ public:
         outcome.figure(QStringLiteral("threads"), fromTo(m_before.threads, after.threads));
         outcome.limit("own memory grew by", after.ownMemory - m_before.ownMemory, mostMemory, "kB");
         if (after.descriptors > m_before.descriptors + kNoise || after.threads > m_before.threads + kNoise)
-            outcome.fault(QStringLiteral("descriptors or threads are left behind"));
+            outcome.fault(QStringLiteral("descriptors or threads are left behind: ") + more(after));
     }
 
 private:
+    /// Of which kinds of descriptors there are more.
+    QString more(const Holdings &after) const
+    {
+        QStringList kinds;
+        for (auto kind = after.kinds.begin(); kind != after.kinds.end(); ++kind) {
+            if (*kind > m_before.kinds.value(kind.key()))
+                kinds.append(QStringLiteral("%1 of %2").arg(*kind).arg(kind.key()));
+        }
+        return kinds.join(QStringLiteral(", "));
+    }
+
     static constexpr qint64 kNoise = 5; ///< Threads that end a moment later, and theirs.
 
     Holdings m_before;

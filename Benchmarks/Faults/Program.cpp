@@ -5,6 +5,10 @@
 
 #include <QDBusConnectionInterface>
 #include <QJsonDocument>
+#include <QRegularExpression>
+
+#include <filesystem>
+#include <numeric>
 
 namespace Faults {
 
@@ -21,6 +25,17 @@ qint64 figure(const QByteArray &text, const char *name)
     return sum;
 }
 
+/// What each descriptor leads to, without numbers.
+QMap<QString, int> kindsOfDescriptors(const QString &folder)
+{
+    static const QRegularExpression numbers(QStringLiteral("[0-9]+"));
+    QMap<QString, int> kinds;
+    std::error_code fault;
+    for (const auto &link : std::filesystem::directory_iterator(folder.toStdString(), fault))
+        ++kinds[QString::fromStdString(std::filesystem::read_symlink(link, fault).string()).remove(numbers)];
+    return kinds;
+}
+
 } // namespace
 
 Holdings Holdings::of(qint64 process)
@@ -28,12 +43,12 @@ Holdings Holdings::of(qint64 process)
     const QString folder = QStringLiteral("/proc/%1/").arg(process);
     const QByteArray memory = readFile(folder + QStringLiteral("smaps_rollup"));
     const QByteArray status = readFile(folder + QStringLiteral("status"));
-    const auto descriptors =
-        QDir(folder + QStringLiteral("fd")).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System);
+    const QMap<QString, int> kinds = kindsOfDescriptors(folder + QStringLiteral("fd"));
     return {.memory = figure(memory, "Pss:"),
             .ownMemory = figure(memory, "Pss_Anon:") + figure(memory, "Pss_Shmem:"),
-            .descriptors = descriptors.size(),
+            .descriptors = std::accumulate(kinds.begin(), kinds.end(), qint64{0}),
             .threads = figure(status, "Threads:"),
+            .kinds = kinds,
             .wakeUps = figure(status, "voluntary_ctxt_switches:")};
 }
 

@@ -15,7 +15,8 @@ struct Holdings
     qint64 ownMemory = 0;   ///< Of it what no file backs.
     qint64 descriptors = 0; ///< Open ones.
     qint64 threads = 0;
-    qint64 wakeUps = 0; ///< Times that its main thread gave the processor up so far.
+    QMap<QString, int> kinds; ///< Of the descriptors: what each leads to, without numbers.
+    qint64 wakeUps = 0;       ///< Times that its main thread gave the processor up so far.
 
     static Holdings of(qint64 process);
 };
