@@ -133,6 +133,7 @@ void NotchController::rebuildPanels()
             continue;
         set(notch, false);
         notch.panel->orderOut();
+        notch.panel.reset(); // Where the others move up into its place, the model goes first.
     }
     std::erase_if(m_notches, gone);
     for (const Display &screen : wanted) {

@@ -48,6 +48,22 @@ private Q_SLOTS:
         QVERIFY(!session().status().value("anyExpanded"_L1).toBool());
     }
 
+    void aNotchGoesWhereItsDisplayGoes()
+    {
+        QVERIFY(stage().display.plugSecond(true));
+        QVERIFY(stage().run({{"allDisplays", "true"}}));
+        QTRY_VERIFY(showsNotches(2));
+        for (const int width : {1024, 1280, 800, 1280, 1024}) {
+            QVERIFY(stage().display.resizeFirst({width, width == 1280 ? 800 : width * 3 / 4}));
+            const auto placeOf = [&](int index, const char *value) {
+                return session().display(index).value("frame"_L1)[QLatin1String(value)].toInt();
+            };
+            QTRY_COMPARE(placeOf(0, "width"), width);
+            QTRY_COMPARE(placeOf(1, "x"), width);
+            QTRY_VERIFY(stage().x.pixel({width + 640, 16}).lightness() == 0);
+        }
+    }
+
     void pluggingAHundredTimesLeavesNothingBehind()
     {
         QVERIFY(stage().run({{"allDisplays", "true"}}));

@@ -19,8 +19,8 @@ struct Input
     Q_DISABLE_COPY_MOVE(Input)
 
     void move(QPoint place) { fake(XCB_MOTION_NOTIFY, 0, place); }
-    void pressButton() { fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1); }
-    void releaseButton() { fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1); }
+    void pressButton(quint8 button = XCB_BUTTON_INDEX_1) { fake(XCB_BUTTON_PRESS, button); }
+    void releaseButton(quint8 button = XCB_BUTTON_INDEX_1) { fake(XCB_BUTTON_RELEASE, button); }
     void click(QPoint place)
     {
         move(place);
@@ -35,6 +35,7 @@ struct Input
         pressKey(key);
         releaseKey(key);
     }
+    /// Latin-1.
     void type(const QByteArray &text)
     {
         for (const char character : text) {
@@ -47,7 +48,7 @@ struct Input
             if (shifted)
                 releaseKey(XK_Shift_L);
         }
-    } ///< Latin-1
+    }
 
     /// The combination that opens and closes the notch, held for `milliseconds`; a person holds it a while.
     void hotKey(int milliseconds = 60)

@@ -68,6 +68,16 @@ struct VirtualDisplay
         return plugged ? randr({u"--output"_s, output, u"--preferred"_s, u"--right-of"_s, u"DUMMY0"_s})
                        : randr({u"--output"_s, output, u"--off"_s});
     }
+    /// Gives the first display another size; the second one moves along.
+    bool resizeFirst(QSize size)
+    {
+        return randr({u"--output"_s, u"DUMMY0"_s, u"--mode"_s,
+                      u"%1x%2"_s.arg(size.width()).arg(size.height()), u"--output"_s, u"DUMMY1"_s, u"--pos"_s,
+                      u"%1x0"_s.arg(size.width())});
+    }
+
+    /// Ends the server as a crash would; nothing more can be asked of it.
+    void killServer() { m_server.killNow(); }
 
 private:
     static QByteArray outputsConfiguration(QSize size)

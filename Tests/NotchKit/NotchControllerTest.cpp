@@ -64,6 +64,7 @@ private Q_SLOTS:
         core.displays.displays = {externalDisplay(1)};
         Q_EMIT core.displays.changed();
         QCOMPARE(core.panels.alive.size(), 1U);
+        QCOMPARE(core.panels.outlivedModels, 0);
         QVERIFY(!core.services.anyExpanded() && !core.services.visibleTool());
         core.displays.displays[0].frame = QRectF(0, 0, 2560, 1440);
         Q_EMIT core.displays.changed();

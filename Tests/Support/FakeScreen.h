@@ -1,6 +1,7 @@
 #pragma once
 
 #include "NotchKit/NotchPanels.h"
+#include "NotchKit/NotchScreenModel.h"
 #include "NotchKit/Platform/Displays.h"
 #include "NotchKit/Platform/DragPasteboard.h"
 #include "NotchKit/Platform/HotKeys.h"
@@ -8,6 +9,7 @@
 #include "NotchKit/Platform/WindowSystem.h"
 #include "Support/Questions.h"
 
+#include <QPointer>
 #include <QUrl>
 #include <QWindow>
 
@@ -45,12 +47,17 @@ struct FakePanels : NotchPanels
 {
     struct Panel : NotchPanel
     {
-        explicit Panel(FakePanels &owner)
+        Panel(FakePanels &owner, NotchScreenModel &shownModel)
             : panels(owner)
+            , model(&shownModel)
         {
             panels.alive.push_back(this);
         }
-        ~Panel() override { std::erase(panels.alive, this); }
+        ~Panel() override
+        {
+            std::erase(panels.alive, this);
+            panels.outlivedModels += model ? 0 : 1;
+        }
         Q_DISABLE_COPY_MOVE(Panel)
 
         void setFrame(const QRectF &place) override { frame = place; }
@@ -63,20 +70,22 @@ struct FakePanels : NotchPanels
         void resignKey() override { key = false; }
 
         FakePanels &panels;
+        QPointer<NotchScreenModel> model;
         QRectF frame;
         QRectF hitArea;
         bool shown = false;
         bool key = false;
     };
 
-    std::unique_ptr<NotchPanel> create(const QRectF &frame, NotchScreenModel &, NotchServices &) override
+    std::unique_ptr<NotchPanel> create(const QRectF &frame, NotchScreenModel &model, NotchServices &) override
     {
-        auto panel = std::make_unique<Panel>(*this);
+        auto panel = std::make_unique<Panel>(*this, model);
         panel->frame = frame;
         return panel;
     }
 
     std::vector<Panel *> alive;
+    int outlivedModels = 0; ///< Panels that were still there when their model went.
 };
 
 struct FakeHotKeys : HotKeys

@@ -21,8 +21,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kLongestProbe = 20s; // The first one of a user lists all plugins.
-constexpr auto kSlack = 10s;        // A loop that needs longer to notice hangs.
+constexpr auto kLongestProbe = 20s;   // The first one of a user lists all plugins.
+constexpr int kLongestProbeEnd = 500; // ms
+constexpr auto kSlack = 10s;          // A loop that needs longer to notice hangs.
 
 /// One look for a camera. Deletes itself once the pledge is given.
 class Probe : public QObject
@@ -43,7 +44,12 @@ public:
         m_process.setProcessChannelMode(QProcess::ForwardedChannels);
         m_process.start(helper, {QString::fromLatin1(CameraWire::kProbe)});
     }
-    ~Probe() override { m_process.disconnect(this); }
+    ~Probe() override
+    {
+        m_process.disconnect(this);
+        m_process.kill(); // One that was given up is still looking.
+        m_process.waitForFinished(kLongestProbeEnd);
+    }
     Q_DISABLE_COPY_MOVE(Probe)
 
 private:

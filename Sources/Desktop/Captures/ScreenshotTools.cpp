@@ -95,8 +95,11 @@ bool isInstalled(const char *schema)
 /// Through the desktop's own reader: its library would stay in memory for one value.
 QString readSchema(const char *schema)
 {
+    const QString program = QStandardPaths::findExecutable(QStringLiteral("gsettings"));
+    if (program.isEmpty()) // Each one that cannot be started would leave a descriptor open.
+        return {};
     QProcess reader;
-    reader.start(QStringLiteral("gsettings"),
+    reader.start(program,
                  {QStringLiteral("get"), QString::fromLatin1(schema), QStringLiteral("auto-save-directory")});
     if (!reader.waitForFinished(kLongestWait)) {
         reader.kill();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QPointF>
 #include <QRectF>
 
@@ -8,6 +9,16 @@ class QScreen;
 /// Qt counts from the top left; the program counts points from the bottom left of the main display. Here one
 /// turns into the other. Main thread only.
 namespace Kestrune::Points {
+
+/// Where screens are by their names, in device pixels.
+using Places = QHash<QString, QRect>;
+
+/// What the window system says where Qt may be wrong; a screen that is not named is where Qt says. Whether
+/// that is something new.
+bool setPlaces(const Places &places);
+
+/// Where a screen is in Qt's own coordinates.
+QRect geometryOf(const QScreen &screen);
 
 /// A screen's frame in points, y growing upwards.
 QRectF frameOf(const QScreen &screen);

@@ -20,6 +20,9 @@ public:
     std::optional<Display> main() const override;
     void housingsChanged() override;
 
+    /// Points were told of other places.
+    void placesChanged() { m_settle.start(); }
+
 private:
     Display describe(const QScreen &screen) const;
     void watch(const QScreen *screen);

@@ -12,7 +12,7 @@ namespace {
 /// A screen keeps its place in device pixels; only its size is divided by its scale.
 QRectF pixelsOf(const QScreen &screen)
 {
-    const QRectF geometry = screen.geometry();
+    const QRectF geometry = Points::geometryOf(screen);
     return {geometry.topLeft(), geometry.size() * screen.devicePixelRatio()};
 }
 

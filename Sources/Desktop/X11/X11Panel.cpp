@@ -202,7 +202,7 @@ void X11Panel::placeHitWindow()
         xcb_unmap_window(connection, m_hitWindow);
         return;
     }
-    const QPointF origin = m_window->screen()->geometry().topLeft();
+    const QPointF origin = Points::geometryOf(*m_window->screen()).topLeft();
     const QPointF offset = (QPointF(m_window->position()) - origin) * m_window->devicePixelRatio();
     const QRect place = pixelsInPanel(m_hitArea).translated((origin + offset).toPoint());
     const std::array<uint32_t, 6> values{static_cast<uint32_t>(place.x()),

@@ -9,6 +9,7 @@
 #include "X11Desktop.h"
 #include "X11DragPasteboard.h"
 #include "X11HotKeys.h"
+#include "X11Monitors.h"
 #include "X11Panel.h"
 #include "X11Pasteboard.h"
 #include "X11Pointer.h"
@@ -39,7 +40,9 @@ public:
         : m_displays(defaults)
         , m_hotKeys(makeHotKeys())
         , m_pasteboard(makePasteboard())
-    {}
+    {
+        QObject::connect(&m_monitors, &X11Monitors::changed, &m_displays, &ScreenDisplays::placesChanged);
+    }
 
     Displays &displays() override { return m_displays; }
     Pointer &pointer() override { return m_pointer; }
@@ -54,6 +57,7 @@ public:
 
 private:
     X11Desktop m_desktop;
+    X11Monitors m_monitors;
     ScreenDisplays m_displays;
     X11Pointer m_pointer;
     std::unique_ptr<HotKeys> m_hotKeys;

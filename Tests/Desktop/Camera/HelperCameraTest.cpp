@@ -208,6 +208,19 @@ private Q_SLOTS:
         QCOMPARE(stage.lost, 2);
     }
 
+    void aLookThatIsGivenUpEndsQuietly()
+    {
+        const Home home;
+        const qint64 others = childProcesses();
+        Stage stage(home.portal.bus());
+        QTest::failOnWarning(QRegularExpression(u"still running"_s));
+        auto looking = stage.camera.configure();
+        QVERIFY(waitUntil([&] { return childProcesses() > others; }));
+        looking.cancel();
+        QVERIFY(waitUntil([&] { return childProcesses() == others; }));
+        QTest::qWait(100); // What is warned of comes from another thread.
+    }
+
     void stopsAtOnceAndLeavesNothing()
     {
         const Home home;

@@ -1,6 +1,7 @@
 #include "Desktop/Captures/FolderCaptureQuery.h"
 #include "CaptureHome.h"
 #include "Desktop/Captures/ScreenshotNames.h"
+#include "Desktop/Captures/ScreenshotTools.h"
 #include "Support/Fakes.h"
 #include "Support/TestRegistry.h"
 
@@ -298,6 +299,22 @@ private Q_SLOTS:
         QVERIFY(stage.start() && stage.query.isAccessMissing() && stage.found().isEmpty());
         ::chmod(pictures.constData(), 0700);
         QVERIFY(stage.finds({kShot}) && !stage.query.isAccessMissing());
+    }
+
+    void withoutTheDesktopsReaderNothingStaysOpen()
+    {
+        const CaptureHome home;
+        home.write(u"glib-2.0/schemas/org.mate.screenshot.gschema.xml"_s, "<schemalist/>");
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", QFile::encodeName(home.path(u"Pictures"_s)));
+        const auto restore = qScopeGuard([&] { qputenv("PATH", path); });
+        const auto descriptors = [] {
+            return QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size();
+        };
+        const qsizetype before = descriptors();
+        for (int i = 0; i < 10; ++i)
+            QCOMPARE(readScreenshotTools(), ScreenshotTools());
+        QCOMPARE(descriptors(), before);
     }
 
     void stopsAndStartsAgain()
