@@ -1,16 +1,13 @@
 #include "NotchKit/Tools/AIUsage/ClaudeLogReader.h"
 #include "NotchKit/IsoTimestamp.h"
-#include "RandomLogs.h"
-#include "SlowLogReader.h"
 #include "Support/TestRegistry.h"
 
 #include <thread>
 
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
-
-using namespace Kestrune::Tests;
 
 static QDateTime at(const char *time)
 {
@@ -149,34 +146,6 @@ private Q_SLOTS:
         ClaudeLogReader reader(m_folder->path());
         QCOMPARE(reader.summary(m_now)->weekTokens, std::numeric_limits<qint64>::max());
         QCOMPARE(reader.summary(m_now)->weekMessages, 4);
-    }
-
-    void agreesWithTheSlowReader_data()
-    {
-        QTest::addColumn<unsigned>("seed");
-        const unsigned first = qEnvironmentVariableIntValue("KESTRUNE_SEED") + 1;
-        const unsigned count = std::max(24, qEnvironmentVariableIntValue("KESTRUNE_SEEDS"));
-        for (unsigned seed = first; seed < first + count; ++seed)
-            QTest::addRow("seed %u", seed) << seed;
-    }
-
-    void agreesWithTheSlowReader()
-    {
-        static const QByteArrayList zones{"UTC",          "Asia/Kathmandu",      "America/Havana",
-                                          "Pacific/Apia", "Australia/Lord_Howe", "Europe/Berlin"};
-        QFETCH(const unsigned, seed);
-        RandomLogs logs(m_folder->path(), seed);
-        useZone(zones.at(logs.below(6)));
-        // Around the changes of the clock in both halves of the year.
-        QDateTime now = at(seed % 2 ? "2026-03-29T01:30:00Z" : "2026-10-04T15:00:00Z");
-        ClaudeLogReader reader(m_folder->path());
-        SlowLogReader slow(m_folder->path());
-        for (int step = 0; step < 30; ++step) {
-            for (unsigned changes = logs.below(6); changes > 0; --changes)
-                logs.change(now);
-            QVERIFY2(reader.summary(now) == slow.summary(now), qPrintable(u"step %1"_s.arg(step)));
-            now = now.addMSecs(logs.below(5 * 3'600'000));
-        }
     }
 
     void threadsDoNotDecide()

@@ -46,32 +46,6 @@ class ScriptBridgeTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void scripts()
-    {
-        using Command = ScriptBridge::Command;
-        QCOMPARE(
-            PlayerScripts::status(MediaPlayer::music),
-            u"tell application \"Music\"\n"
-            "  if player state is stopped then return \"\"\n"
-            "  set t to current track\n"
-            "  set d to duration of t\n"
-            "  return (player state as text) & \"\\n\" & (name of t) & \"\\n\" & (artist of t) & \"\\n\" & "
-            "(d as text) & \"\\n\" & (player position as text)\n"
-            "end tell"_s);
-        QVERIFY(PlayerScripts::status(MediaPlayer::spotify).startsWith("tell application \"Spotify\"\n"_L1));
-        QCOMPARE(PlayerScripts::artwork(MediaPlayer::music),
-                 u"tell application \"Music\" to if (count of artworks of current track) > 0 then "
-                 "return data of artwork 1 of current track"_s);
-        QCOMPARE(PlayerScripts::artwork(MediaPlayer::spotify),
-                 u"tell application \"Spotify\" to return artwork url of current track"_s);
-        QCOMPARE(PlayerScripts::command(Command::next, MediaPlayer::spotify),
-                 u"tell application \"Spotify\" to next track"_s);
-        QCOMPARE(PlayerScripts::command(Command::previous, MediaPlayer::music),
-                 u"tell application \"Music\" to previous track"_s);
-        QCOMPARE(PlayerScripts::command(Command::playPause, MediaPlayer::music),
-                 u"tell application \"Music\" to playpause"_s);
-    }
-
     void answers_data()
     {
         // read: "state title|artist|duration|position"

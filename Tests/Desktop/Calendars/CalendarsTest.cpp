@@ -64,7 +64,25 @@ private Q_SLOTS:
 
     void events_data()
     {
-        both([this] { addCases(); });
+        columns<bool, QByteArray, QStringList>();
+        const QStringList cases =
+            QString::fromUtf8(readFile(QStringLiteral(KESTRUNE_EVENTS))).split(u"\n["_s);
+        QCOMPARE(cases.size(), 9);
+        for (const QString &one : cases.mid(1)) {
+            const QStringList lines = one.split(u'\n', Qt::SkipEmptyParts);
+            const QString name = lines.first().chopped(1);
+            QByteArray components = name == "zones"_L1 ? kOwnZone : "";
+            QStringList expected;
+            for (const QString &line : lines.mid(1)) {
+                if (line.startsWith(u"= "_s))
+                    expected.append(line.mid(2));
+                else
+                    components += vevent(line.section(u" | "_s, 0, 0).toLatin1(),
+                                         line.section(u" | "_s, 1).replace(u" | "_s, u"\n"_s).toLatin1());
+            }
+            QTest::addRow("folders: %s", qPrintable(name)) << false << components << expected;
+            QTest::addRow("server: %s", qPrintable(name)) << true << components << expected;
+        }
     }
     void events()
     {
@@ -374,97 +392,6 @@ private:
     }
 
     static void adapters() { noAndYes("folders", "server"); }
-
-    void both(const std::function<void()> &addAll)
-    {
-        columns<bool, QByteArray, QStringList>();
-        for (const bool evolution : {false, true}) {
-            m_evolution = evolution;
-            addAll();
-        }
-    }
-    void add(const char *name, const QByteArray &components, const QStringList &expected) const
-    {
-        QTest::addRow("%s: %s", m_evolution ? "server" : "folders", name)
-            << m_evolution << components << expected;
-    }
-
-    void addCases() const
-    {
-        add("around now",
-            vevent("over", "DTSTART:20260328T080000Z\nDTEND:20260328T090000Z") +
-                vevent("just over", "DTSTART:20260328T080000Z\nDTEND:20260328T100000Z") +
-                vevent("under way", "DTSTART:20260327T100000Z\nDTEND:20260328T100001Z") +
-                vevent("soon", "DTSTART:20260328T100100Z\nDURATION:PT1H30M") +
-                vevent("last", "DTSTART:20260329T215959Z") + vevent("late", "DTSTART:20260329T220000Z") +
-                vevent("backwards", "DTSTART:20260328T120000Z\nDTEND:20260328T110000Z"),
-            {u"backwards 28T12:00 28T12:00"_s, u"last 29T21:59 29T21:59"_s, u"soon 28T10:01 28T11:31"_s,
-             u"under way 27T10:00 28T10:00"_s});
-        add("whole days",
-            vevent("today", "DTSTART;VALUE=DATE:20260328\nDTEND;VALUE=DATE:20260329") +
-                vevent("tomorrow", "DTSTART;VALUE=DATE:20260329") +
-                vevent("yesterday", "DTSTART;VALUE=DATE:20260327") +
-                vevent("after", "DTSTART;VALUE=DATE:20260330") +
-                vevent("trip", "DTSTART;VALUE=DATE:20260320\nDTEND;VALUE=DATE:20260331"),
-            {u"today 27T23:00 28T23:00 day"_s, u"tomorrow 28T23:00 29T22:00 day"_s,
-             u"trip 19T23:00 30T22:00 day"_s});
-        add("the clocks change",
-            vevent("run", "DTSTART;TZID=Europe/Berlin:20200101T193000\n"
-                          "DTEND;TZID=Europe/Berlin:20200101T203000\nRRULE:FREQ=DAILY"),
-            {u"run 28T18:30 28T19:30"_s, u"run 29T17:30 29T18:30"_s});
-        add("without some",
-            vevent("class", "DTSTART;TZID=America/New_York:20260320T090000\nRRULE:FREQ=DAILY\n"
-                            "EXDATE;TZID=America/New_York:20260328T090000") +
-                vevent("days", "DTSTART;VALUE=DATE:20260301\nRRULE:FREQ=DAILY\nEXDATE;VALUE=DATE:20260328"),
-            {u"class 29T13:00 29T13:00"_s, u"days 28T23:00 29T22:00 day"_s});
-        add("moved and cancelled",
-            vevent("out", "DTSTART:20260314T150000Z\nRRULE:FREQ=WEEKLY") +
-                vevent("out", "RECURRENCE-ID:20260328T150000Z\nDTSTART:20260406T150000Z") +
-                vevent("in", "DTSTART;TZID=Asia/Tokyo:20260306T120000\nRRULE:FREQ=WEEKLY") +
-                vevent("in", "RECURRENCE-ID;TZID=Asia/Tokyo:20260327T120000\nDTSTART:20260328T200000Z\n"
-                             "DTEND:20260328T210000Z") +
-                vevent("off", "DTSTART:20260328T110000Z\nRRULE:FREQ=DAILY") +
-                vevent("off", "RECURRENCE-ID:20260328T110000Z\nDTSTART:20260328T110000Z\nSTATUS:CANCELLED") +
-                vevent("gone", "DTSTART:20260328T110000Z\nSTATUS:CANCELLED"),
-            {u"in 28T20:00 28T21:00"_s, u"off 29T11:00 29T11:00"_s});
-        add("zones",
-            QByteArray(kOwnZone) + vevent("york", "DTSTART;TZID=America/New_York:20260328T090000") +
-                vevent("tokyo", "DTSTART;TZID=Asia/Tokyo:20260329T010000") +
-                vevent("far", "DTSTART;TZID=Far Away:20260328T120000") +
-                vevent("here", "DTSTART:20260328T200000") +
-                vevent("skipped", "DTSTART;TZID=Europe/Berlin:20260329T023000"),
-            {u"far 28T15:00 28T15:00"_s, u"here 28T19:00 28T19:00"_s, u"skipped 29T01:30 29T01:30"_s,
-             u"tokyo 28T16:00 28T16:00"_s, u"york 28T13:00 28T13:00"_s});
-        add("ends of series",
-            vevent("counted", "DTSTART:20260327T120000Z\nRRULE:FREQ=DAILY;COUNT=2") +
-                vevent("until", "DTSTART;TZID=Europe/Berlin:20260301T190000\n"
-                                "RRULE:FREQ=DAILY;UNTIL=20260328T180000Z") +
-                vevent("short", "DTSTART;TZID=Europe/Berlin:20260301T190000\n"
-                                "RRULE:FREQ=DAILY;UNTIL=20260328T175959Z") +
-                vevent("extra", "DTSTART:20260101T120000Z\nRDATE:20260328T130000Z,20260401T130000Z"),
-            {u"counted 28T12:00 28T12:00"_s, u"extra 28T13:00 28T13:00"_s, u"until 28T18:00 28T18:00"_s});
-        add("rules",
-            vevent("last Saturday", "DTSTART:20250125T160000Z\nRRULE:FREQ=MONTHLY;BYDAY=-1SA") +
-                vevent("born", "DTSTART;VALUE=DATE:19800329\nRRULE:FREQ=YEARLY") +
-                vevent("other week", "DTSTART:20260307T170000Z\nRRULE:FREQ=WEEKLY;INTERVAL=2") +
-                vevent("each fifth hour", "DTSTART:20240101T000000Z\nRRULE:FREQ=HOURLY;INTERVAL=5;"
-                                          "UNTIL=20260328T140000Z") +
-                vevent("day by hours", "DTSTART:20060328T130000Z\nRRULE:FREQ=HOURLY;INTERVAL=24;COUNT=7306") +
-                vevent("over", "DTSTART:20060328T130000Z\nRRULE:FREQ=HOURLY;INTERVAL=24;COUNT=7305") +
-                vevent("day by minutes",
-                       "DTSTART:20060328T140000Z\nRRULE:FREQ=MINUTELY;INTERVAL=1440;UNTIL=20260329T000000Z") +
-                vevent("nine hours by seconds",
-                       "DTSTART:20060328T150000Z\nRRULE:FREQ=SECONDLY;INTERVAL=32400;"
-                       "UNTIL=20260328T150000Z") +
-                vevent("third week", "DTSTART:20260307T180000Z\nRRULE:FREQ=WEEKLY;INTERVAL=3") +
-                vevent("long ago", "DTSTART:20100102T190000Z\nRRULE:FREQ=DAILY;INTERVAL=7"),
-            {u"born 28T23:00 29T22:00 day"_s, u"day by hours 28T13:00 28T13:00"_s,
-             u"day by minutes 28T14:00 28T14:00"_s, u"each fifth hour 28T12:00 28T12:00"_s,
-             u"last Saturday 28T16:00 28T16:00"_s, u"long ago 28T19:00 28T19:00"_s,
-             u"nine hours by seconds 28T15:00 28T15:00"_s, u"third week 28T18:00 28T18:00"_s});
-    }
-
-    bool m_evolution = false;
 };
 
 REGISTER_TEST(CalendarsTest);

@@ -55,40 +55,27 @@ private Q_SLOTS:
     void names_data()
     {
         QTest::addColumn<bool>("isScreenshot");
-        for (const char *name : {"Screenshot from 2026-11-21 10-20-30.png",
-                                 "Screenshot_2026-11-21_10-20-30.png",
-                                 "screenshot.webp",
-                                 "Screenshot_20261121_102030.png",
-                                 "Screenshot-3.JPG",
-                                 "Screen Shot 2026-11-21 at 10.20.30.png",
-                                 "Screenshot at 2026-11-21 10-20-30.png",
-                                 "2026-11-21_10-20.png",
-                                 "2026-11-21_10-20-30_2.png",
-                                 "2026-11-21-102030_1280x800_scrot.png",
-                                 "2026-11-21-102030_1280x800_scrot_000.png",
-                                 "20261121_10h20m30s_grim.png",
-                                 "ksnip_20261121-102030.png",
-                                 "Bildschirmfoto vom 2026-11-21 10-20-30.png",
-                                 "Bildschirmfoto_2026-11-21.png",
-                                 "Capture d’écran du 2026-11-21.png",
-                                 "Capture d'e\u0301cran_20261121.png",
-                                 "Captura de pantalla de 2026-11-21.png",
-                                 "Schermata del 2026-11-21.png",
-                                 "Istantanea_2026.png",
-                                 "Captura de tela de 2026-11-21.png",
-                                 "Schermafdruk van 2026-11-21.png",
-                                 "Zrzut ekranu z 2026.png",
-                                 "Снимок экрана от 2026-11-21.png",
-                                 "スクリーンショット 2026-11-21.png",
-                                 "截图录屏_选择区域_2026.png",
-                                 "屏幕截图 2026-11-21.png",
-                                 "스크린샷 2026-11-21.png",
-                                 "لقطة شاشة 2026-11-21.png"})
-            QTest::newRow(name) << true;
-        for (const char *name : {"IMG_20261121_102030.jpg", "2026-11-21_10-20.jpg", "20261121_102030.png",
-                                 "Screenshotter.png", "holiday screenshot plan.png", "Schermatazo.png",
-                                 "2026-11-21 Screens.png", "scrot.png", "ksnip.png"})
-            QTest::newRow(name) << false;
+        const auto rows = [](bool isScreenshot, const QByteArray &names) {
+            for (const QByteArray &name : names.split(','))
+                QTest::newRow(name.trimmed().constData()) << isScreenshot;
+        };
+        rows(true,
+             "Screenshot from 2026-11-21 10-20-30.png, Screenshot_2026-11-21_10-20-30.png, "
+             "screenshot.webp, Screenshot_20261121_102030.png, Screenshot-3.JPG, "
+             "Screen Shot 2026-11-21 at 10.20.30.png, Screenshot at 2026-11-21 10-20-30.png, "
+             "2026-11-21_10-20.png, 2026-11-21_10-20-30_2.png, 2026-11-21-102030_1280x800_scrot.png, "
+             "2026-11-21-102030_1280x800_scrot_000.png, 20261121_10h20m30s_grim.png, "
+             "ksnip_20261121-102030.png, Bildschirmfoto vom 2026-11-21 10-20-30.png, "
+             "Bildschirmfoto_2026-11-21.png, Capture d’écran du 2026-11-21.png, "
+             "Capture d'e\u0301cran_20261121.png, Captura de pantalla de 2026-11-21.png, "
+             "Schermata del 2026-11-21.png, Istantanea_2026.png, Captura de tela de 2026-11-21.png, "
+             "Schermafdruk van 2026-11-21.png, Zrzut ekranu z 2026.png, Снимок экрана от 2026-11-21.png, "
+             "スクリーンショット 2026-11-21.png, 截图录屏_选择区域_2026.png, 屏幕截图 2026-11-21.png, "
+             "스크린샷 2026-11-21.png, "
+             "لقطة شاشة 2026-11-21.png");
+        rows(false, "IMG_20261121_102030.jpg, 2026-11-21_10-20.jpg, 20261121_102030.png, "
+                    "Screenshotter.png, holiday screenshot plan.png, Schermatazo.png, "
+                    "2026-11-21 Screens.png, scrot.png, ksnip.png");
     }
 
     void names()

@@ -29,10 +29,9 @@ private Q_SLOTS:
 
     void lists()
     {
-        const QByteArray lines = "# a "
-                                 "comment\r\nfile:///a%20b\r\nhttp://example.org/c\r\nfile:g\r\nfile:////"
-                                 "f\r\nfile://localhost//d\n"
-                                 "file://elsewhere.example/e\r\nfile:///%C3%BC";
+        const QByteArray lines =
+            "# a comment\r\nfile:///a%20b\r\nhttp://example.org/c\r\nfile:g\r\nfile:////f\r\n"
+            "file://localhost//d\nfile://elsewhere.example/e\r\nfile:///%C3%BC";
         const QList<QUrl> files{QUrl::fromLocalFile(u"/a b"_s), QUrl::fromLocalFile(u"/f"_s),
                                 QUrl::fromLocalFile(u"/d"_s), QUrl::fromLocalFile(u"/ü"_s)};
         QCOMPARE(UriLists::localFiles(lines, "text/uri-list"), files);

@@ -1,14 +1,21 @@
 #pragma once
 
 #include "NotchKit/Tools/AIUsage/UsageFigures.h"
-#include "Support/TestRegistry.h"
 
 #include <QDirIterator>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMap>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <limits>
 
 #include <sys/stat.h>
 
-namespace Kestrune::Tests {
+namespace Kestrune {
+
+using namespace Qt::StringLiterals;
 
 /// The log reader again, as plainly as it can be written: what the real one is compared with.
 struct SlowLogReader
@@ -127,4 +134,4 @@ private:
     int m_unnamed = 0;
 };
 
-} // namespace Kestrune::Tests
+} // namespace Kestrune

@@ -1,23 +1,38 @@
 #pragma once
 
-#include "Support/TestRegistry.h"
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
 
-#include <random>
+#include <span>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 
-namespace Kestrune::Tests {
+namespace Kestrune {
 
-/// A folder of logs to which random things happen, good and bad; the same for the same seed.
+using namespace Qt::StringLiterals;
+
+/// A folder of logs to which things happen, good and bad, as the bytes say.
 struct RandomLogs
 {
-    RandomLogs(const QString &folder, unsigned seed)
+    RandomLogs(const QString &folder, std::span<const uint8_t> bytes)
         : m_folder(folder)
-        , m_random(seed)
+        , m_bytes(bytes)
     {}
 
-    unsigned below(unsigned end) { return std::uniform_int_distribution<unsigned>(0, end - 1)(m_random); }
+    bool atEnd() const { return m_bytes.empty(); }
+
+    /// A number that the next bytes make, as many as it needs; 0 at the end of them.
+    unsigned below(unsigned end)
+    {
+        quint64 number = 0;
+        for (quint64 range = 1; range < end && !atEnd(); range <<= 8) {
+            number = number << 8 | m_bytes.front();
+            m_bytes = m_bytes.subspan(1);
+        }
+        return static_cast<unsigned>(number % end);
+    }
 
     void change(const QDateTime &now)
     {
@@ -116,9 +131,9 @@ private:
     {
         switch (below(40)) {
         case 0: // spans blocks
-            return "\"pad\":\"" + QByteArray(200'000 + below(400'000), 'x') + "\",";
+            return pad(200'000 + below(400'000));
         case 1: // too long
-            return below(4) ? QByteArray() : "\"pad\":\"" + QByteArray((4 << 20) + 1, 'x') + "\",";
+            return below(4) ? QByteArray() : pad((4 << 20) + 1);
         case 2:
             return "\"pad\":" + QByteArray(200, '[') + QByteArray(200, ']') + ",";
         case 3: // half a surrogate pair
@@ -126,6 +141,13 @@ private:
         default:
             return {};
         }
+    }
+
+    /// So many, but in all no more than is soon written and read.
+    QByteArray pad(qsizetype count)
+    {
+        m_pads -= count;
+        return m_pads < 0 ? QByteArray() : "\"pad\":\"" + QByteArray(count, 'x') + "\",";
     }
 
     QByteArray response(const QDateTime &now)
@@ -157,8 +179,9 @@ private:
     }
 
     QString m_folder;
-    std::mt19937 m_random;
+    std::span<const uint8_t> m_bytes;
+    qsizetype m_pads = 10 << 20;
     long m_touched = 0;
 };
 
-} // namespace Kestrune::Tests
+} // namespace Kestrune
