@@ -33,21 +33,6 @@ private Q_SLOTS:
         QTRY_COMPARE(stage().x.pixel(secondNotch), desktop);
     }
 
-    void theHotKeyOpensWhereThePointerIs()
-    {
-        QVERIFY(stage().display.plugSecond(true) && stage().run({{"allDisplays", "true"}}));
-        QTRY_VERIFY(showsNotches(2));
-        input().move({1920, 600});
-        input().hotKey();
-        QTRY_VERIFY(session().isOpen(1));
-        QVERIFY(!session().isOpen(0));
-
-        // An open notch goes with its display.
-        QVERIFY(stage().display.plugSecond(false));
-        QTRY_VERIFY(showsNotches(1));
-        QVERIFY(!session().status().value("anyExpanded"_L1).toBool());
-    }
-
     void pluggingAHundredTimesLeavesNothingBehind()
     {
         QVERIFY(stage().run({{"allDisplays", "true"}}));

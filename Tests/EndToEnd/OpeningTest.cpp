@@ -21,17 +21,6 @@ private Q_SLOTS:
         QVERIFY(session().isOpen() && session().display().value("pointerEntered"_L1).toBool());
     }
 
-    void pressingWhileRestingStartsTheDelayAnew()
-    {
-        QVERIFY(stage().run({{"hoverDelay", "0.6"}}));
-        input().move(Place::notch);
-        QTest::qWait(300);
-        input().pressButton();
-        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 900));
-        input().releaseButton();
-        QCOMPARE_GE(timeUntil([&] { return !stage().looksClosed(); }), 600);
-    }
-
     void clickModeOpensOnThePress()
     {
         QVERIFY(stage().run({{"openMode", "click"}}));
@@ -70,19 +59,6 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 300));
     }
 
-    void leavingClosesAfterADelay()
-    {
-        QVERIFY(stage().run() && stage().openByHover());
-        input().move(Place::away);
-        QTest::qWait(100);
-        input().move(Place::panel);
-        QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 700));
-
-        input().move(Place::away);
-        QCOMPARE_GE(timeUntil([&] { return !stage().looksOpen(); }), leaveDelay);
-        QVERIFY(stage().waitClosed());
-    }
-
     void openedByHotKeyItStaysUntilVisited()
     {
         QVERIFY(stage().run() && stage().openByHotKey());
@@ -106,19 +82,6 @@ private Q_SLOTS:
         input().releaseButton();
         QTest::qWait(100);
         QVERIFY(stage().clickReachesBeneath(Place::away) && stage().waitClosed());
-    }
-
-    void pinnedItStays()
-    {
-        QVERIFY(stage().run() && stage().openByHover());
-        input().click(Place::pin);
-        QTRY_VERIFY(session().display().value("pinned"_L1).toBool());
-        input().move(Place::away);
-        QVERIFY(holdsFor([&] { return stage().looksOpen(); }, 800));
-
-        input().click(Place::pin);
-        QTRY_VERIFY(!session().display().value("pinned"_L1).toBool());
-        QVERIFY(stage().leave());
     }
 
     void escapeCloses()
