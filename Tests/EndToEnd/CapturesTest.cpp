@@ -38,29 +38,6 @@ private Q_SLOTS:
         QVERIFY(waitUntil([&] { return holdsFor(isThere, 500); }));
     }
 
-    void aSecondOneStartsTheTimeAnew()
-    {
-        const QDir home(session().environment().value(u"HOME"_s));
-        QVERIFY(runWithAnOlderOne(home));
-        QVERIFY(holdsFor([&] { return !session().hasActivity(); }, 1500));
-        shoot(home);
-        QVERIFY(waitUntil([&] { return session().hasActivity(); }));
-        QTest::qWait(1500);
-        QElapsedTimer second;
-        second.start();
-        shoot(home);
-        QVERIFY(waitUntil([&] { return !session().hasActivity(); }));
-        QVERIFY2(second.elapsed() > 5500, "six seconds after the second one");
-        QTRY_VERIFY(!stage().covered(wing));
-
-        QVERIFY(session().set(u"announceScreenshots"_s, u"false"_s));
-        shoot(home);
-        QVERIFY(holdsFor([&] { return !session().hasActivity(); }, 1500));
-        for (const QString &name : pictures(home.filePath(u"Pictures"_s)))
-            QVERIFY(QFile::remove(home.filePath(u"Pictures/"_s + name)));
-        QVERIFY(holdsFor([&] { return session().isRunning(); }, 500));
-    }
-
 private:
     static QStringList pictures(const QString &folder)
     {
@@ -77,12 +54,6 @@ private:
                          encoded(plainImage({40, 30}))) &&
                stage().run({{"hoverDelay", "60"}}) &&
                waitUntil([&] { return !pictures(thumbnails).isEmpty(); });
-    }
-    void shoot(const QDir &home)
-    {
-        ChildProcess process(session().environment());
-        process.setWorkingDirectory(home.filePath(u"Pictures"_s));
-        QVERIFY(process.launch(u"scrot"_s) && process.waitForFinished());
     }
 
     static constexpr QPoint wing{640 - 160, 12};

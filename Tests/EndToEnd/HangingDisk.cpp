@@ -6,7 +6,7 @@
 // While the file FOLDER.answers exists, the folder answers. Ends as the program does. The kernel asks this
 // process about the calls (seccomp's user notification), which lets all go on but those.
 
-#include <cerrno>
+#include <atomic>
 #include <csignal>
 #include <cstddef>
 #include <cstdint>
@@ -14,15 +14,15 @@
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
+#include <future>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <sys/prctl.h>
-#include <sys/socket.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/uio.h>
 #include <sys/wait.h>
@@ -79,53 +79,17 @@ int installFilter()
     return static_cast<int>(listener);
 }
 
-/// Sends a descriptor, or with -1 receives one.
-int passDescriptor(int socket, int descriptor)
-{
-    char byte = 0;
-    iovec data{&byte, 1};
-    alignas(cmsghdr) char control[CMSG_SPACE(sizeof(int))] = {};
-    msghdr message{};
-    message.msg_iov = &data;
-    message.msg_iovlen = 1;
-    message.msg_control = control;
-    message.msg_controllen = sizeof control;
-    if (descriptor < 0) {
-        if (::recvmsg(socket, &message, MSG_CMSG_CLOEXEC) != 1 || !CMSG_FIRSTHDR(&message))
-            fail("recvmsg");
-        std::memcpy(&descriptor, CMSG_DATA(CMSG_FIRSTHDR(&message)), sizeof descriptor);
-        return descriptor;
-    }
-    cmsghdr *header = CMSG_FIRSTHDR(&message);
-    header->cmsg_level = SOL_SOCKET;
-    header->cmsg_type = SCM_RIGHTS;
-    header->cmsg_len = CMSG_LEN(sizeof(int));
-    std::memcpy(CMSG_DATA(header), &descriptor, sizeof descriptor);
-    if (::sendmsg(socket, &message, 0) != 1)
-        fail("sendmsg");
-    return descriptor;
-}
-
-/// The text at that place of another process; what of it can be read.
+/// The text at that place of another process; what of it can be read. It ends on the page after its first at
+/// the latest, which may not be there.
 std::string textAt(pid_t process, std::uint64_t address)
 {
-    std::string text;
-    while (text.size() < 4096) {
-        char piece[256];
-        // Never over the end of a page: the next one may not be there.
-        const std::size_t wanted = sizeof piece - address % sizeof piece;
-        iovec here{piece, wanted};
-        iovec there{reinterpret_cast<void *>(address), wanted};
-        const ssize_t got = ::process_vm_readv(process, &here, 1, &there, 1, 0);
-        if (got <= 0)
-            break;
-        const void *end = std::memchr(piece, 0, static_cast<std::size_t>(got));
-        text.append(piece, end ? static_cast<std::size_t>(static_cast<const char *>(end) - piece)
-                               : static_cast<std::size_t>(got));
-        if (end)
-            break;
-        address += static_cast<std::uint64_t>(got);
-    }
+    constexpr std::size_t kPage = 4096;
+    char text[kPage + 1] = {};
+    const std::size_t first = kPage - address % kPage;
+    const iovec here{text, kPage};
+    const iovec there[] = {{reinterpret_cast<void *>(address), first},
+                           {reinterpret_cast<void *>(address + first), kPage - first}};
+    ::process_vm_readv(process, &here, 1, there, 2, 0);
     return text;
 }
 
@@ -172,30 +136,26 @@ int main(int argc, char *argv[])
         std::fputs("usage: HangingDisk FOLDER PROGRAM [ARGUMENT...]\n", stderr);
         return 125;
     }
-    int sockets[2];
-    if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, sockets) != 0)
-        fail("socketpair");
-    const pid_t program = ::fork();
-    if (program == 0) {
-        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-        const int listener = installFilter();
-        passDescriptor(sockets[1], listener);
-        ::close(listener);
-        ::execv(argv[2], argv + 2);
-        fail(argv[2]);
-    }
-    if (program < 0)
-        fail("fork");
-    const int listener = passDescriptor(sockets[0], -1);
-    // The listener hangs up once no process has the filter any more.
-    pollfd source{listener, POLLIN, 0};
+    std::promise<int> listener;
     int status = 0;
-    for (;;) {
-        const int happened = ::poll(&source, 1, 100);
-        if (happened > 0 && (source.revents & POLLIN) != 0)
-            answer(listener, argv[1]);
-        if (::waitpid(program, &status, WNOHANG) == program)
-            break;
+    std::atomic<bool> ended = false;
+    // The filter is this thread's and its child's. It stays, because the child dies with it.
+    std::jthread parent([&] {
+        listener.set_value(installFilter());
+        const pid_t program = ::fork();
+        if (program == 0) {
+            ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+            ::execv(argv[2], argv + 2);
+        }
+        if (program <= 0)
+            fail(argv[2]);
+        ::waitpid(program, &status, 0);
+        ended = true;
+    });
+    pollfd source{listener.get_future().get(), POLLIN, 0};
+    while (!ended) {
+        if (::poll(&source, 1, 100) > 0 && (source.revents & POLLIN) != 0)
+            answer(source.fd, argv[1]);
     }
     if (WIFSIGNALED(status))
         ::raise(WTERMSIG(status));

@@ -21,17 +21,6 @@ private Q_SLOTS:
         QVERIFY(session().isOpen() && session().display().value("pointerEntered"_L1).toBool());
     }
 
-    void pressingWhileRestingStartsTheDelayAnew()
-    {
-        QVERIFY(stage().run({{"hoverDelay", "0.6"}}));
-        input().move(Place::notch);
-        QTest::qWait(300);
-        input().pressButton();
-        QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 900));
-        input().releaseButton();
-        QCOMPARE_GE(timeUntil([&] { return !stage().looksClosed(); }), 600);
-    }
-
     void clickModeOpensOnThePress()
     {
         QVERIFY(stage().run({{"openMode", "click"}}));

@@ -21,15 +21,14 @@ private Q_SLOTS:
         // The outline is rounded: its corners show the desktop, its body is inset below the flared top.
         for (const QPoint corner :
              {closed.bottomLeft(), closed.bottomRight(), QPoint(546, 20), QPoint(733, 20)})
-            QVERIFY2(!stage().covered(corner), qPrintable(u"%1,%2"_s.arg(corner.x()).arg(corner.y())));
+            QVERIFY2(!stage().covered(corner), qPrintable(QDebug::toString(corner)));
 
         QVERIFY(stage().openByHotKey());
         QTest::qWait(700); // the spring comes to rest
         QTRY_VERIFY(compositor || fills(changedArea(before), open));
         for (const QPoint corner :
              {open.bottomLeft(), open.bottomRight(), QPoint(262, 200), QPoint(1017, 200)})
-            QVERIFY2(compositor || !stage().covered(corner),
-                     qPrintable(u"%1,%2"_s.arg(corner.x()).arg(corner.y())));
+            QVERIFY2(compositor || !stage().covered(corner), qPrintable(QDebug::toString(corner)));
         QVERIFY(!stage().covered({205, 200}) && !stage().covered({1074, 200}) &&
                 !stage().covered({640, 388}));
 
@@ -88,11 +87,7 @@ private Q_SLOTS:
             const QRect hole =
                 areaWhere(now.size(), [&](int x, int y) { return now.pixelColor(x, y) == desktop; });
             if (!opened || !hole.isEmpty())
-                faults += u"%1 after %2: %3 x %4 at %5,%6"_s.arg(tool, before)
-                              .arg(hole.width())
-                              .arg(hole.height())
-                              .arg(hole.x())
-                              .arg(hole.y());
+                faults += u"%1 after %2: %3"_s.arg(tool, before, QDebug::toString(hole));
             before = tool;
         };
         // Goes from each tool to each other one exactly once.

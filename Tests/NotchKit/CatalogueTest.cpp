@@ -25,14 +25,6 @@ private Q_SLOTS:
         QCOMPARE(QString::fromLatin1(entry(HomeColumn::center).title), u"Centre"_s);
     }
 
-    void parsingIsExact()
-    {
-        for (const NotchTool tool : allCases<NotchTool>())
-            QCOMPARE(fromRawValue<NotchTool>(rawValue(tool)), std::optional(tool));
-        QVERIFY(!fromRawValue<NotchTool>(u"Home"_s) && !fromRawValue<HomeColumn>(u"centre"_s));
-        QVERIFY(!fromRawValue<NotchOpenMode>(QString()));
-    }
-
     void localizationFollowsPreference_data()
     {
         const auto row = columns<QString, QString>();

@@ -108,10 +108,6 @@ private Q_SLOTS:
         }
         ClaudeLogReader reader(m_folder->path());
         const auto usage = reader.summary(now);
-        QVERIFY(usage.has_value());
-        QCOMPARE(usage->dailyTokens, expected.dailyTokens);
-        QCOMPARE(usage->blockStart, expected.blockStart);
-        QCOMPARE(usage->peakBlockTokens, expected.peakBlockTokens);
         QVERIFY(usage == expected && !reader.summary(now.addDays(9)));
         QVERIFY(!ClaudeLogReader(path("missing")).summary(now));
     }

@@ -85,16 +85,10 @@ private Q_SLOTS:
     void typesHaveSymbols_data()
     {
         QTest::addColumn<QString>("symbol");
-        for (const auto &[name, symbol] : {std::pair("a.JPG", "photo"),
-                                           {"b.tar.gz", "doc.zipper"},
-                                           {"c.mkv", "film"},
-                                           {"d.pdf", "doc.richtext"},
-                                           {"e.docx", "doc"},
-                                           {"f.cpp", "doc.text"},
-                                           {"g.json", "doc.text"},
-                                           {"h", "doc"},
-                                           {"i.flac", "music.note"}})
-            QTest::newRow(name) << QString::fromLatin1(symbol);
+        const QString rows = u"a.JPG=photo b.tar.gz=doc.zipper c.mkv=film d.pdf=doc.richtext e.docx=doc "
+                             "f.cpp=doc.text g.json=doc.text h=doc i.flac=music.note"_s;
+        for (const QString &row : rows.split(u' '))
+            QTest::newRow(qPrintable(row.section(u'=', 0, 0))) << row.section(u'=', 1);
     }
     void typesHaveSymbols()
     {

@@ -71,8 +71,7 @@ private Q_SLOTS:
              "Schermata del 2026-11-21.png, Istantanea_2026.png, Captura de tela de 2026-11-21.png, "
              "Schermafdruk van 2026-11-21.png, Zrzut ekranu z 2026.png, Снимок экрана от 2026-11-21.png, "
              "スクリーンショット 2026-11-21.png, 截图录屏_选择区域_2026.png, 屏幕截图 2026-11-21.png, "
-             "스크린샷 2026-11-21.png, "
-             "لقطة شاشة 2026-11-21.png");
+             "스크린샷 2026-11-21.png, لقطة شاشة 2026-11-21.png");
         rows(false, "IMG_20261121_102030.jpg, 2026-11-21_10-20.jpg, 20261121_102030.png, "
                     "Screenshotter.png, holiday screenshot plan.png, Schermatazo.png, "
                     "2026-11-21 Screens.png, scrot.png, ksnip.png");

@@ -13,23 +13,6 @@ class SharedThumbnailsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void sizes_data()
-    {
-        columns<QSize, QSize>();
-        QTest::newRow("screen") << QSize(1280, 800) << QSize(256, 160);
-        QTest::newRow("tall") << QSize(300, 3000) << QSize(25, 256);
-        QTest::newRow("line") << QSize(4000, 1) << QSize(256, 1);
-        QTest::newRow("small") << QSize(40, 30) << QSize(40, 30);
-    }
-
-    void sizes()
-    {
-        const auto [picture, thumbnail] = fetched<QSize, QSize>();
-        const CaptureHome home;
-        const QString path = home.write(u"a.png"_s, CaptureHome::picture(picture));
-        QCOMPARE(read(path).size(), thumbnail);
-    }
-
     void refusals_data()
     {
         QTest::addColumn<QByteArray>("bytes");
