@@ -15,6 +15,7 @@ constexpr QPoint firstOpened(640, 60);  ///< Black as soon as the notch begins t
 constexpr QPoint panel(640, 200);       ///< Inside the open notch only, in the middle of the pane.
 constexpr QPoint panelEdge(640, 324);   ///< Inside the fully open notch only.
 constexpr QPoint away(640, 600);        ///< Outside the open notch and its window.
+constexpr QPoint pin(938, 20);          ///< The pin button in the header.
 constexpr QPoint settings(974, 20);     ///< The settings button in the header.
 constexpr QPoint firstPreset(520, 169); ///< The shortest countdown in the timer's pane.
 constexpr QRect toolRow(290, 304, 530, 1);
