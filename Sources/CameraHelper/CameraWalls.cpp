@@ -3,11 +3,11 @@
 #include "Walls/CallFilter.h"
 #include "Walls/Walls.h"
 
+#include <array>
 #include <cstdlib>
 #include <vector>
 
 #include <glob.h>
-#include <linux/dma-buf.h>
 #include <linux/netlink.h>
 #include <sys/socket.h>
 
@@ -18,7 +18,13 @@ namespace {
 constexpr std::size_t kMostMemory = std::size_t{4} << 30; // Of addresses: each thread takes many.
 constexpr std::size_t kMostFiles = 256;
 constexpr unsigned kKindOfIoctl = 0xFF00; // As _IOC_TYPE takes it.
-constexpr unsigned kVideo = 'V' << 8;
+
+/// What is asked of cameras while they run: of video and media devices, of memory that devices share.
+constexpr std::array kAskedOfDevices{'V', '|', 'b', 'H', 'u'};
+
+/// Cameras of which each part is a device of its own need the memory for their pictures, too.
+constexpr std::array kDevices{"/dev/video*", "/dev/media*", "/dev/v4l-subdev*", "/dev/dma_heap/*",
+                              "/dev/udmabuf"};
 
 /// Of the user's own only the settings of PipeWire.
 std::vector<Walls::Reachable> neededToLook()
@@ -37,7 +43,7 @@ std::vector<Walls::Reachable> neededToLook()
 
 void addDevices(std::vector<Walls::Reachable> &reachable)
 {
-    for (const char *pattern : {"/dev/video*", "/dev/media*"}) {
+    for (const char *pattern : kDevices) {
         glob_t found{};
         if (::glob(pattern, 0, nullptr, &found) == 0) {
             for (std::size_t i = 0; i < found.gl_pathc; ++i)
@@ -80,8 +86,9 @@ bool CameraWalls::raiseBeforePictures()
           SCMP_SYS(timerfd_gettime), SCMP_SYS(timerfd_create), SCMP_SYS(memfd_create), SCMP_SYS(ftruncate),
           SCMP_SYS(dup), SCMP_SYS(shutdown), SCMP_SYS(nanosleep), SCMP_SYS(getrusage)})
         filter.allow(call);
-    filter.allow(SCMP_SYS(ioctl), SCMP_A1(SCMP_CMP_MASKED_EQ, kKindOfIoctl, kVideo));
-    filter.allow(SCMP_SYS(ioctl), SCMP_A1(SCMP_CMP_EQ, DMA_BUF_IOCTL_SYNC));
+    for (const char kind : kAskedOfDevices)
+        filter.allow(SCMP_SYS(ioctl),
+                     SCMP_A1(SCMP_CMP_MASKED_EQ, kKindOfIoctl, static_cast<scmp_datum_t>(kind) << 8U));
     return filter.load();
 }
 
