@@ -46,8 +46,9 @@ AppState::~AppState() = default;
 
 void AppState::followSettings()
 {
-    for (const auto changed : {&NotchSettings::allDisplaysChanged, &NotchSettings::showWithoutNotchChanged,
-                               &NotchSettings::shortcutEnabledChanged})
+    for (const auto changed :
+         {&NotchSettings::allDisplaysChanged, &NotchSettings::showWithoutNotchChanged,
+          &NotchSettings::hideOverFullScreenChanged, &NotchSettings::shortcutEnabledChanged})
         connect(&m_settings, changed, &m_controller, &NotchController::settingsChanged);
 }
 

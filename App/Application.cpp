@@ -42,6 +42,7 @@ void Application::run(const LaunchRequest &request)
     m_statusItem = std::make_unique<BusStatusItem>(m_bus, NotchBranding::fennivar().name, trayIcon);
     m_menu = std::make_unique<AppMenu>(*m_state, *m_updater, *m_statusItem);
     m_keys = std::make_unique<SettingsKeys>(makeKeys());
+    m_memory = std::make_unique<IdleMemory>(m_state->services());
     m_control.serve({*m_state, *m_keys, m_windows});
 }
 

@@ -7,6 +7,7 @@
 #include "Desktop/Tray/BusStatusItem.h"
 #include "DesktopPlatform.h"
 #include "FeedSource.h"
+#include "IdleMemory.h"
 #include "NotchKit/Shell/AlertWindow.h"
 #include "NotchKit/Shell/ViewEngine.h"
 #include "NotchKit/Updates/Updater.h"
@@ -51,6 +52,7 @@ private:
     std::unique_ptr<BusStatusItem> m_statusItem;
     std::unique_ptr<AppMenu> m_menu;
     std::unique_ptr<SettingsKeys> m_keys;
+    std::unique_ptr<IdleMemory> m_memory;
 };
 
 } // namespace Kestrune

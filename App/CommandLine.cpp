@@ -82,9 +82,11 @@ CommandLine parseUsage(const QStringList &words)
     if (!parseOptions(parser, words))
         return bad(QStringLiteral("usage takes --json, --home DIR and --now TIME"));
     UsageRequest request{parser.isSet(QStringLiteral("json")), QDir::homePath(),
-                         QDateTime::currentDateTimeUtc()};
-    if (parser.isSet(home))
+                         QDateTime::currentDateTimeUtc(), qEnvironmentVariable("CLAUDE_CONFIG_DIR")};
+    if (parser.isSet(home)) {
         request.home = parser.value(home);
+        request.claudeConfig.clear();
+    }
     if (parser.isSet(now))
         request.now = QDateTime::fromString(parser.value(now), Qt::ISODateWithMs);
     if (!request.now.isValid())
@@ -129,10 +131,20 @@ CommandLine parseStart(const QStringList &words)
     return {.launch = {true, fromRawValue<NotchTool>(words.value(0))}};
 }
 
+/// As session managers write it behind what a start was; Qt reads the name of the session.
+bool isRestoring(const QStringList &arguments)
+{
+    const qsizetype at = arguments.size() - 2;
+    return at >= 0 && arguments.at(at) == QLatin1String("-session") &&
+           (at == 0 || arguments.constFirst() == QLatin1String("--open"));
+}
+
 } // namespace
 
 CommandLine CommandLine::parse(const QStringList &arguments)
 {
+    if (isRestoring(arguments))
+        return {.launch = {false, {}, true}};
     if (arguments.isEmpty())
         return {};
     QCommandLineParser parser;

@@ -17,6 +17,7 @@ DesktopPlatform::DesktopPlatform(const QDBusConnection &bus, const WindowSystemC
     , m_workspace(bus)
     , m_sharing(bus)
     , m_loginItem(QCoreApplication::applicationFilePath())
+    , m_lock(bus, QDBusConnection::systemBus())
     , m_applications(bus, {NotchBranding::suiteIdentifier()})
     , m_windows(windows.make(m_defaults))
     , m_captures(m_capturePreferences)
@@ -24,10 +25,17 @@ DesktopPlatform::DesktopPlatform(const QDBusConnection &bus, const WindowSystemC
     , m_thumbnails(m_pictures)
     , m_localServices(LocalServices::fromEnvironment(m_http))
     , m_players(bus)
+    , m_scripts({},
+                [this] {
+                    return m_defaults.value<QStringList>(QStringLiteral("notch.ignoredPlayers"))
+                        .value_or(QStringList());
+                })
     , m_camera(bus)
     , m_calendars(bus, m_defaults)
     , m_platform(makePlatform())
-{}
+{
+    m_loginItem.repair();
+}
 
 Platform DesktopPlatform::makePlatform()
 {
@@ -38,6 +46,7 @@ Platform DesktopPlatform::makePlatform()
             .applications = m_applications,
             .players = m_players,
             .loginItem = m_loginItem,
+            .lock = m_lock,
             .sounds = m_sounds,
             .workspace = m_workspace,
             .sharing = m_sharing,
@@ -49,7 +58,8 @@ Platform DesktopPlatform::makePlatform()
             .scripts = m_scripts,
             .host = m_host,
             .camera = m_camera,
-            .calendars = m_calendars};
+            .calendars = m_calendars,
+            .claudeConfig = qEnvironmentVariable("CLAUDE_CONFIG_DIR")};
 }
 
 } // namespace Kestrune

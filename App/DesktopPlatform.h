@@ -12,6 +12,7 @@
 #include "Desktop/Pictures/HelperPictures.h"
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "Desktop/Session/BusApplications.h"
+#include "Desktop/Session/DesktopSessionLock.h"
 #include "Desktop/Session/DesktopWorkspace.h"
 #include "Desktop/Sharing/KdeConnectSharing.h"
 #include "Desktop/Sound/CanberraSounds.h"
@@ -47,6 +48,7 @@ private:
     DesktopWorkspace m_workspace;
     KdeConnectSharing m_sharing;
     AutostartLoginItem m_loginItem;
+    DesktopSessionLock m_lock;
     BusApplications m_applications;
     std::unique_ptr<WindowSystem> m_windows;
     FolderCaptureQuery m_captures;

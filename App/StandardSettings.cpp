@@ -27,7 +27,8 @@ SettingsKeys::Extra textExtra(UserDefaults &defaults, const QString &key, const 
 
 SettingRule calendarSources()
 {
-    return SettingRule::oneOf({QStringLiteral("evolution"), QStringLiteral("folders")});
+    return SettingRule::oneOf(
+        {QStringLiteral("evolution"), QStringLiteral("folders"), QStringLiteral("both")});
 }
 
 SettingRule housingSizes()

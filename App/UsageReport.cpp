@@ -44,12 +44,17 @@ QJsonValue json(const std::optional<UsageWindow> &window)
                        {QStringLiteral("resetsAt"), time(window->resetsAt)}};
 }
 
-QJsonValue json(const std::optional<CodexUsage> &codex)
+std::optional<UsageWindow> asOf(const QDateTime &now, const std::optional<UsageWindow> &window)
+{
+    return window ? std::optional(window->asOf(now)) : std::nullopt;
+}
+
+QJsonValue json(const std::optional<CodexUsage> &codex, const QDateTime &now)
 {
     if (!codex)
         return {};
-    return QJsonObject{{QStringLiteral("primary"), json(codex->primary)},
-                       {QStringLiteral("secondary"), json(codex->secondary)},
+    return QJsonObject{{QStringLiteral("primary"), json(asOf(now, codex->primary))},
+                       {QStringLiteral("secondary"), json(asOf(now, codex->secondary))},
                        {QStringLiteral("updated"), time(codex->updated)}};
 }
 
@@ -96,8 +101,10 @@ private:
     {
         if (!window)
             return;
-        line(QStringLiteral("  %1: %2% used").arg(name).arg(window->usedPercent) +
-             (window->resetsAt ? until(*window->resetsAt) : QString()));
+        const QString resets = window->isRenewed(m_now) ? QStringLiteral(", renewed since")
+                               : window->resetsAt       ? until(*window->resetsAt)
+                                                        : QString();
+        line(QStringLiteral("  %1: %2% used").arg(name).arg(window->asOf(m_now).usedPercent) + resets);
     }
 
     QString until(const QDateTime &end) const { return QStringLiteral(", resets ") + timeText(end); }
@@ -117,12 +124,12 @@ private:
 
 QByteArray usageReport(const UsageRequest &request)
 {
-    const AIUsageHomes homes = AIUsageHomes::below(request.home);
+    const AIUsageHomes homes = AIUsageHomes::below(request.home, request.claudeConfig);
     const auto claude = ClaudeLogReader(homes.claude).summary(request.now);
     const auto codex = CodexReader::readCodex(homes.codex, request.now, StopFlag(false));
     if (request.json) {
         const QJsonObject report{{QStringLiteral("claude"), json(claude)},
-                                 {QStringLiteral("codex"), json(codex)}};
+                                 {QStringLiteral("codex"), json(codex, request.now)}};
         return QJsonDocument(report).toJson(QJsonDocument::Indented);
     }
     Words words(request.now);

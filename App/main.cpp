@@ -3,6 +3,7 @@
 #include "CommandLine.h"
 #include "ControlService.h"
 #include "Desktop/Session/CoreDumps.h"
+#include "GapWatch.h"
 #include "LocalServices.h"
 #include "Log.h"
 #include "NotchKit/NotchStrings.h"
@@ -133,6 +134,10 @@ int runProgram(int argc, char *argv[], const LaunchRequest &request)
     SingleInstance instance(bus, control);
     std::unique_ptr<Application> program;
     instance.claim([&](SingleInstance::Outcome outcome) {
+        if (outcome == SingleInstance::Outcome::second && request.restored) {
+            QCoreApplication::exit(0); // It was opened at the login as well.
+            return;
+        }
         if (outcome == SingleInstance::Outcome::second) {
             qCInfo(appLog, "one is running already: it is handed the request");
             const QString tool = request.tool ? rawValue(*request.tool) : QString();
@@ -149,6 +154,7 @@ int runProgram(int argc, char *argv[], const LaunchRequest &request)
         program = std::make_unique<Application>(bus, *windows, FeedSource::ofProgram(), control);
         program->start(request);
     });
+    const GapWatch gaps;
     const int status = QGuiApplication::exec();
 
     // Everything was saved when it was changed. The next start must not meet this one, however long its end

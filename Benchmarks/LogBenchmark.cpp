@@ -139,10 +139,10 @@ double memory(const char *name)
 /// In a process of its own: what reading takes over what the process had before.
 int printPeak(const QString &folder)
 {
-    ClaudeLogReader warm(folder + QLatin1String("/nothing"));
+    ClaudeLogReader warm({folder + QLatin1String("/nothing")});
     warm.summary(QDateTime::currentDateTimeUtc());
     const double before = memory("VmRSS:");
-    ClaudeLogReader reader(folder);
+    ClaudeLogReader reader({folder});
     timeSummary(reader);
     std::printf("%f\n", (memory("VmHWM:") - before) / 1024);
     return 0;
@@ -175,7 +175,7 @@ int main(int argc, char *argv[])
     std::vector<double> next;
     for (int i = 0; i < kRounds; ++i) {
         grep.push_back(timeGrep(folder.path()));
-        ClaudeLogReader reader(folder.path());
+        ClaudeLogReader reader({folder.path()});
         first.push_back(timeSummary(reader));
         next.push_back(timeSummary(reader));
     }

@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // Around the changes of the clock in both halves of the year.
     const QString start = logs.below(2) ? u"2026-03-29T01:30:00Z"_s : u"2026-10-04T15:00:00Z"_s;
     QDateTime now = QDateTime::fromString(start, Qt::ISODate);
-    ClaudeLogReader reader(folder.path());
+    ClaudeLogReader reader(QStringList(folder.path()));
     SlowLogReader slow(folder.path());
     // Fewer than a week: after that a file that was away is read again.
     for (int step = 0; step < 30 && !logs.atEnd(); ++step) {

@@ -43,8 +43,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QVariantMap song;
     for (std::size_t i = 0; i < kSong.size(); ++i)
         song.insert(QLatin1String(kSong.at(i)), valueOf(lines.value(static_cast<qsizetype>(i))));
+    song.insert(QStringLiteral("mpris:trackid"), valueOf(lines.value(8)));
     const QVariantMap properties{{QStringLiteral("PlaybackStatus"), valueOf(lines.value(5))},
                                  {QStringLiteral("Position"), valueOf(lines.value(6))},
+                                 {QStringLiteral("Rate"), valueOf(lines.value(9))},
+                                 {QStringLiteral("CanSeek"), true},
                                  {QStringLiteral("Metadata"), song}};
     const QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("a.b"), QStringLiteral("/"),
                                                              QStringLiteral("a.b"), QStringLiteral("c"));

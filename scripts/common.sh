@@ -33,7 +33,8 @@ install_packages() {
     ((${#missing[@]})) || return 0
     echo "Installing ${missing[*]}"
     mkdir -p build
-    local log=build/packages.log apt=(env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get -y --no-install-recommends)
+    local log=build/packages.log apt=(env LC_ALL=C DEBIAN_FRONTEND=noninteractive apt-get -y --no-install-recommends
+        -o DPkg::Lock::Timeout=300)
     as_root "${apt[@]}" update >"$log" 2>&1 &&
         as_root "${apt[@]}" install "${missing[@]}" 2>>"$log" | show_installation "$log" && return
     tail -n 20 "$log"

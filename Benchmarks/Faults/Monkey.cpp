@@ -5,12 +5,15 @@
 
 #include "EndToEnd/Stage.h"
 
+#include <QRegularExpression>
+
 namespace Faults {
 
 namespace {
 
 constexpr int kLookEvery = 1000;        // Inputs.
 constexpr qint64 kLongestAnswer = 5000; // ms
+constexpr qint64 kLongestGap = 50;      // ms that the main thread computes without coming round.
 constexpr qint64 kMostGrowth = 16'000;  // Kilobytes: what it typed and copied is kept.
 constexpr int kWheelUp = 4;
 constexpr int kWheelDown = 5;
@@ -33,9 +36,12 @@ public:
 private:
     void prepare();
     bool begin();
+    void bringBackTheNotch();
+    bool start();
     void act();
     void pause() { QTest::qWait(m_chance.between(0, 8)); }
     void hear();
+    void hear(const QString &line);
     void askQuickly();
     bool look();
     bool restartAfterEnd();
@@ -84,10 +90,15 @@ private:
     Outcome m_outcome;
     std::map<QString, int> m_words; ///< What the program said on standard error, and how often.
     qint64 m_inputs = 0;
-    qint64 m_longest = 0; ///< ms
+    qint64 m_longest = 0;         ///< ms
+    int m_gaps = 0;               ///< Times that the main thread did not come round.
+    qint64 m_longestGap = 0;      ///< ms
+    qint64 m_longestComputed = 0; ///< ms, of one gap by the main thread itself.
+    QString m_tools;              ///< All of them, as the setting has it.
     int m_quits = 0;
     int m_opened = 0; ///< Looks that found the notch open.
     int m_looks = 0;
+    const bool m_tellGaps = qEnvironmentVariableIsSet("KESTRUNE_TELL_GAPS");
 };
 
 Outcome Monkey::run(int count)
@@ -117,6 +128,9 @@ Outcome Monkey::run(int count)
     m_outcome.figure("longest answer", m_longest, "ms");
     m_outcome.figure("quit by itself", m_quits);
     hear();
+    m_outcome.figure("gaps of the main thread", m_gaps);
+    m_outcome.figure("longest gap", m_longestGap, "ms");
+    m_outcome.limit("most computed in one", m_longestComputed, kLongestGap, "ms");
     m_outcome.figure("different warnings", static_cast<qint64>(m_words.size()));
     for (const auto &[words, times] : m_words)
         std::fprintf(stderr, "said %d times: %s\n", times, qPrintable(words));
@@ -131,6 +145,7 @@ void Monkey::prepare()
     writeFile(opener, "#!/bin/sh\n");
     QFile::setPermissions(opener, QFile::ReadOwner | QFile::ExeOwner);
     environment.insert(u"PATH"_s, m_programs.path());
+    environment.insert(u"QT_LOGGING_RULES"_s, u"kestrune.gaps.debug=true"_s);
     m_stage.session.setFlag(u"kestrune"_s, u"kestrune.welcomed"_s, true);
     const QDir home(environment.value(u"HOME"_s));
     QStringList shelf;
@@ -141,13 +156,25 @@ void Monkey::prepare()
     m_stage.session.set(
         u"shelfPaths"_s,
         QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(shelf)).toJson(QJsonDocument::Compact)));
-    m_stage.session.set(u"hoverDelay"_s, u"0"_s);
+}
+
+/// What it changes in the settings must not keep the notch from it for the rest of the time.
+void Monkey::bringBackTheNotch()
+{
+    for (const auto &[key, value] : {std::pair{u"openMode"_s, u"hover"_s},
+                                     {u"hoverDelay"_s, u"0"_s},
+                                     {u"showWithoutNotch"_s, u"true"_s},
+                                     {u"shortcutEnabled"_s, u"true"_s},
+                                     {u"tools"_s, m_tools}})
+        m_program.set(key, value);
 }
 
 bool Monkey::begin()
 {
-    if (!m_program.start())
+    if (!start())
         return false;
+    m_tools = m_program.setting(u"tools"_s).value_or(QString());
+    bringBackTheNotch();
     for (const char *text : {"a text", "https://example.com/", "another text"}) {
         m_stage.session.copy(u"UTF8_STRING"_s, text);
         QTest::qWait(700); // The clipboard is looked at twice a second.
@@ -177,7 +204,33 @@ void Monkey::act()
 void Monkey::hear()
 {
     for (const QString &line : m_program.takeWords())
+        hear(line);
+}
+
+void Monkey::hear(const QString &line)
+{
+    static const QRegularExpression gap(u"^kestrune.gaps: \\D*(\\d+) ms, \\D*(\\d+) ms"_s);
+    const QRegularExpressionMatch match = gap.match(line);
+    if (!match.hasMatch()) {
         ++m_words[line];
+        return;
+    }
+    ++m_gaps;
+    m_longestGap = std::max(m_longestGap, match.captured(1).toLongLong());
+    m_longestComputed = std::max(m_longestComputed, match.captured(2).toLongLong());
+    if (m_tellGaps)
+        std::fprintf(stderr, "after %lld inputs: %s\n", static_cast<long long>(m_inputs), qPrintable(line));
+}
+
+/// What its start takes is measured elsewhere.
+bool Monkey::start()
+{
+    if (!m_program.start())
+        return false;
+    constexpr int kUntilStarted = 1000; // ms
+    QTest::qWait(kUntilStarted);
+    static_cast<void>(m_program.takeWords());
+    return true;
 }
 
 /// How long the main loop takes to come round.
@@ -198,6 +251,7 @@ bool Monkey::look()
     const QJsonObject status = QJsonDocument::fromJson(answer.output.toUtf8()).object();
     ++m_looks;
     m_opened += status["anyExpanded"_L1].toBool() ? 1 : 0;
+    bringBackTheNotch();
     if (answer.status == 0 && status["running"_L1].toBool() && timer.elapsed() <= kLongestAnswer)
         return true;
     if (!m_program.isRunning() && restartAfterEnd()) // In this very moment.
@@ -216,7 +270,7 @@ bool Monkey::restartAfterEnd()
     if (!quit)
         m_outcome.fault(
             u"it ended after %1 inputs with %2"_s.arg(m_inputs).arg(m_program.process().exitCode()));
-    return m_program.start();
+    return start();
 }
 
 /// Closed, and what it does for an open notch has ended.

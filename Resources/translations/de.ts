@@ -936,5 +936,25 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
         <translation>Nicht vollständig lesbar: %1</translation>
     </message>
+    <message>
+        <source>Renewed; figures of %1</source>
+        <extracomment>A limit has begun anew since it was read; %1 is when that was, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>Erneuert; Werte von %1</translation>
+    </message>
+    <message>
+        <source>All day, since %1</source>
+        <extracomment>In the place of an appointment’s time; %1 is the day before today when it began, such as “Mon”.</extracomment>
+        <translation>Ganztägig, seit %1</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <extracomment>When an appointment began; %1 is a day before today and a time, such as “Mon 14:05”.</extracomment>
+        <translation>Seit %1</translation>
+    </message>
+    <message>
+        <source>Hide over full-screen windows</source>
+        <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
+        <translation>Über Vollbildfenstern ausblenden</translation>
+    </message>
 </context>
 </TS>

@@ -936,5 +936,25 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
         <translation>Lecture incomplète&#x202f;: %1</translation>
     </message>
+    <message>
+        <source>Renewed; figures of %1</source>
+        <extracomment>A limit has begun anew since it was read; %1 is when that was, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>Réinitialisé&#x202f;; données de %1</translation>
+    </message>
+    <message>
+        <source>All day, since %1</source>
+        <extracomment>In the place of an appointment’s time; %1 is the day before today when it began, such as “Mon”.</extracomment>
+        <translation>Toute la journée, depuis %1</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <extracomment>When an appointment began; %1 is a day before today and a time, such as “Mon 14:05”.</extracomment>
+        <translation>Depuis %1</translation>
+    </message>
+    <message>
+        <source>Hide over full-screen windows</source>
+        <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
+        <translation>Masquer au-dessus des fenêtres en plein écran</translation>
+    </message>
 </context>
 </TS>

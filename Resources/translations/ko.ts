@@ -933,5 +933,25 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
         <translation>완전히 읽지 못함: %1</translation>
     </message>
+    <message>
+        <source>Renewed; figures of %1</source>
+        <extracomment>A limit has begun anew since it was read; %1 is when that was, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>초기화됨 (%1 기준 수치)</translation>
+    </message>
+    <message>
+        <source>All day, since %1</source>
+        <extracomment>In the place of an appointment’s time; %1 is the day before today when it began, such as “Mon”.</extracomment>
+        <translation>하루 종일, %1부터</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <extracomment>When an appointment began; %1 is a day before today and a time, such as “Mon 14:05”.</extracomment>
+        <translation>%1부터</translation>
+    </message>
+    <message>
+        <source>Hide over full-screen windows</source>
+        <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
+        <translation>전체 화면 창 위에서 숨기기</translation>
+    </message>
 </context>
 </TS>

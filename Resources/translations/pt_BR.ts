@@ -936,5 +936,25 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
         <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
         <translation>Não foi possível ler por completo: %1</translation>
     </message>
+    <message>
+        <source>Renewed; figures of %1</source>
+        <extracomment>A limit has begun anew since it was read; %1 is when that was, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>Renovado; dados de %1</translation>
+    </message>
+    <message>
+        <source>All day, since %1</source>
+        <extracomment>In the place of an appointment’s time; %1 is the day before today when it began, such as “Mon”.</extracomment>
+        <translation>Dia inteiro, desde %1</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <extracomment>When an appointment began; %1 is a day before today and a time, such as “Mon 14:05”.</extracomment>
+        <translation>Desde %1</translation>
+    </message>
+    <message>
+        <source>Hide over full-screen windows</source>
+        <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
+        <translation>Ocultar sobre janelas em tela cheia</translation>
+    </message>
 </context>
 </TS>

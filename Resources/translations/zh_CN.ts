@@ -933,5 +933,25 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of a calendar in quotation marks, or several with commas between them.</extracomment>
         <translation>无法完整读取：%1</translation>
     </message>
+    <message>
+        <source>Renewed; figures of %1</source>
+        <extracomment>A limit has begun anew since it was read; %1 is when that was, such as “14:05” or “Mon 14:05”.</extracomment>
+        <translation>已重置（数据截至 %1）</translation>
+    </message>
+    <message>
+        <source>All day, since %1</source>
+        <extracomment>In the place of an appointment’s time; %1 is the day before today when it began, such as “Mon”.</extracomment>
+        <translation>全天，自 %1 起</translation>
+    </message>
+    <message>
+        <source>Since %1</source>
+        <extracomment>When an appointment began; %1 is a day before today and a time, such as “Mon 14:05”.</extracomment>
+        <translation>自 %1 起</translation>
+    </message>
+    <message>
+        <source>Hide over full-screen windows</source>
+        <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
+        <translation>在全屏窗口上方隐藏</translation>
+    </message>
 </context>
 </TS>

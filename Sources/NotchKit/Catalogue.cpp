@@ -95,8 +95,9 @@ constexpr std::array kTools{
                    .view = "AIUsagePane",
                    .makeModel =
                        [](Context c) {
-                           return made<AIUsageModel>(c.settings, c.platform.clock,
-                                                     AIUsageHomes::below(c.platform.home));
+                           return made<AIUsageModel>(
+                               c.settings, c.platform.clock,
+                               AIUsageHomes::below(c.platform.home, c.platform.claudeConfig));
                        }},
     CatalogueEntry{.rawValue = "weather",
                    .title = QT_TRANSLATE_NOOP("notch", "Weather"),

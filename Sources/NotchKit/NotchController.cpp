@@ -2,7 +2,9 @@
 
 #include "GlobalHotkey.h"
 #include "NotchKit/Platform/DragPasteboard.h"
+#include "NotchKit/Platform/FullScreenWindows.h"
 #include "NotchKit/Platform/Pointer.h"
+#include "NotchKit/Platform/SessionLock.h"
 #include "NotchKit/Platform/WindowSystem.h"
 #include "NotchPanels.h"
 
@@ -16,6 +18,7 @@ namespace {
 
 constexpr auto kPollInterval = 33ms; // 1/30 s
 constexpr auto kLeaveDelay = 250ms;
+constexpr auto kClosing = 1s;                             // Its motion is over by then.
 constexpr quint32 kShortcutKey = 45;                      // N
 constexpr quint32 kShortcutModifiers = 256 + 2048 + 4096; // command, option, control
 
@@ -35,6 +38,7 @@ NotchController::NotchController(NotchServices &services, const Platform &platfo
     , m_windows(platform.windows)
     , m_clock(platform.clock)
     , m_panels(panels)
+    , m_lock(platform.lock)
 {
     m_services.surroundings()->collapseAll = [this] { collapseAll(); };
 }
@@ -49,11 +53,16 @@ void NotchController::start()
 {
     if (isRunning())
         return;
-    m_poller = m_clock.every(kPollInterval, [this] { poll(); });
+    m_isRunning = true;
     rebuildPanels();
     m_services.start();
     m_screenObserver =
         connect(&m_windows.displays(), &Displays::changed, this, &NotchController::rebuildPanels);
+    m_lockObserver = connect(&m_lock, &SessionLock::changed, this, &NotchController::followLock);
+    m_coverObserver = connect(&m_windows.fullScreenWindows(), &FullScreenWindows::changed, this,
+                              &NotchController::showOrHideAll);
+    if (!m_lock.isLocked())
+        watchPointer();
     applyShortcut();
 }
 
@@ -61,8 +70,11 @@ void NotchController::stop()
 {
     if (!isRunning())
         return;
+    m_isRunning = false;
     m_poller.reset();
     disconnect(m_screenObserver);
+    disconnect(m_lockObserver);
+    disconnect(m_coverObserver);
     m_hotkey.reset();
     setHotKeyBinding({});
     collapseAll();
@@ -74,11 +86,60 @@ void NotchController::stop()
     m_leaveStart.clear();
 }
 
+void NotchController::watchPointer()
+{
+    m_poller = m_clock.every(kPollInterval, [this] { poll(); });
+}
+
+void NotchController::followLock()
+{
+    if (!m_lock.isLocked()) {
+        watchPointer();
+    } else {
+        m_poller.reset();
+        m_hoverStart.clear();
+        m_leaveStart.clear();
+        for (Notch &notch : m_notches) {
+            if (!notch.model->pinned())
+                set(notch, false);
+        }
+    }
+    showOrHideAll();
+    tellWhatShows();
+}
+
+bool NotchController::knowsFullScreenWindows() const { return m_windows.fullScreenWindows().areTold(); }
+
+bool NotchController::isCovered(const Notch &notch) const
+{
+    return m_services.settings()->hideOverFullScreen() && notch.screen.safeAreaTop <= 0 &&
+           m_windows.fullScreenWindows().cover(notch.screen.name);
+}
+
+void NotchController::showOrHide(Notch &notch)
+{
+    const bool isClosed = !notch.model->expanded() && !notch.closing;
+    const bool wanted = !m_lock.isLocked() && !(isClosed && isCovered(notch));
+    if (std::exchange(notch.isOnScreen, wanted) == wanted)
+        return;
+    if (wanted)
+        notch.panel->orderFront();
+    else
+        notch.panel->orderOut();
+}
+
+void NotchController::showOrHideAll()
+{
+    for (Notch &notch : m_notches)
+        showOrHide(notch);
+}
+
 void NotchController::settingsChanged()
 {
     if (!isRunning())
         return;
     rebuildPanels();
+    showOrHideAll();
     applyShortcut();
 }
 
@@ -118,6 +179,9 @@ QList<Display> NotchController::wantedScreens() const
     }
     if (!m_services.settings()->showWithoutNotch())
         candidates.removeIf([&](const Display &display) { return !hasHousing(display); });
+    const auto once = std::ranges::find(all, m_shownOnce, &Display::name);
+    if (once != all.end() && !candidates.contains(*once))
+        candidates.append(*once);
     return candidates;
 }
 
@@ -166,7 +230,7 @@ void NotchController::addNotch(const Display &screen)
     });
     m_notches.push_back({screen, std::move(model), std::move(panel), {}});
     updateHitArea(m_notches.back());
-    m_notches.back().panel->orderFront();
+    showOrHide(m_notches.back());
 }
 
 NotchTool NotchController::firstTool() const
@@ -203,10 +267,24 @@ NotchController::Notch *NotchController::notchUnderPointer()
     return mainNotch();
 }
 
+NotchController::Notch *NotchController::orOnce(Notch *notch)
+{
+    const auto main = m_windows.displays().main();
+    if (notch || !main || !isRunning() || m_lock.isLocked())
+        return notch;
+    const QPointF location = m_windows.pointer().location();
+    const QList<Display> all = m_windows.displays().all();
+    const auto under =
+        std::ranges::find_if(all, [&](const Display &screen) { return holds(screen.frame, location); });
+    m_shownOnce = under == all.end() ? main->name : under->name;
+    rebuildPanels();
+    return find(m_shownOnce);
+}
+
 void NotchController::toggle()
 {
-    Notch *notch = notchUnderPointer();
-    if (!notch)
+    Notch *notch = orOnce(notchUnderPointer());
+    if (!notch || m_lock.isLocked())
         return;
     set(*notch, !notch->model->expanded());
     if (notch->model->expanded())
@@ -215,8 +293,8 @@ void NotchController::toggle()
 
 void NotchController::open(std::optional<NotchTool> tool, bool takeKeyboard)
 {
-    Notch *notch = mainNotch();
-    if (!notch)
+    Notch *notch = orOnce(mainNotch());
+    if (!notch || m_lock.isLocked())
         return;
     select(*notch->model, tool);
     set(*notch, true);
@@ -229,7 +307,7 @@ void NotchController::select(NotchScreenModel &model, std::optional<NotchTool> t
     if (!tool || !m_services.settings()->tools().contains(*tool) || model.selected() == *tool)
         return;
     model.setSelected(*tool);
-    if (model.expanded())
+    if (model.expanded() && !m_lock.isLocked())
         m_services.show(*tool);
 }
 
@@ -242,7 +320,7 @@ void NotchController::collapseAll()
 void NotchController::set(Notch &notch, bool expanded)
 {
     NotchScreenModel &model = *notch.model;
-    if (model.expanded() == expanded)
+    if (model.expanded() == expanded || (expanded && m_lock.isLocked()))
         return;
     if (expanded && !m_services.settings()->tools().contains(model.selected()))
         model.setSelected(firstTool());
@@ -255,19 +333,42 @@ void NotchController::set(Notch &notch, bool expanded)
         closed(notch);
 }
 
-void NotchController::opened(const Notch &notch)
+void NotchController::opened(Notch &notch)
 {
     m_services.setAnyExpanded(true);
     m_services.show(notch.model->selected());
+    notch.closing.reset();
+    showOrHide(notch);
 }
 
 void NotchController::closed(Notch &notch)
 {
     notch.panel->resignKey();
-    const auto other =
-        std::ranges::find_if(m_notches, [](const Notch &candidate) { return candidate.model->expanded(); });
-    m_services.setAnyExpanded(other != m_notches.end());
-    m_services.show(other == m_notches.end() ? std::nullopt : std::optional(other->model->selected()));
+    tellWhatShows();
+    notch.closing = m_clock.after(kClosing, [this, name = notch.screen.name] { hasClosed(name); });
+}
+
+/// `name` is a copy: what called this goes with the timer.
+void NotchController::hasClosed(QString name) // NOLINT(performance-unnecessary-value-param)
+{
+    Notch *notch = find(name);
+    if (!notch)
+        return;
+    notch->closing.reset();
+    showOrHide(*notch);
+    if (m_shownOnce != name)
+        return;
+    m_shownOnce.clear();
+    rebuildPanels();
+}
+
+void NotchController::tellWhatShows()
+{
+    const auto open = std::ranges::find_if(m_notches, [this](const Notch &candidate) {
+        return candidate.model->expanded() && !m_lock.isLocked();
+    });
+    m_services.setAnyExpanded(open != m_notches.end());
+    m_services.show(open == m_notches.end() ? std::nullopt : std::optional(open->model->selected()));
 }
 
 void NotchController::updateHitArea(Notch &notch)
@@ -324,6 +425,7 @@ void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool fre
 
 void NotchController::pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress)
 {
+    inside = inside && notch.isOnScreen;
     if (inside && pressed && !freshPress && m_services.settings()->tools().contains(NotchTool::shelf) &&
         m_windows.drags().holdsFileUrls()) {
         notch.model->setSelected(NotchTool::shelf);

@@ -21,10 +21,13 @@ class NotchPanels;
 class WindowSystem;
 
 /// Keeps one panel and one screen model per wanted display, and opens and closes them: it polls the
-/// pointer thirty times a second and owns the hot key. Main thread only.
+/// pointer thirty times a second and owns the hot key. On a display without a housing that a full-screen
+/// window covers, the closed notch is not on screen and does not open by pointer. While the session is locked
+/// no panel is on screen, nothing opens, and what a pinned notch shows counts as hidden. Main thread only.
 class NotchController : public QObject
 {
     Q_OBJECT
+    Q_PROPERTY(bool knowsFullScreenWindows READ knowsFullScreenWindows CONSTANT)
 
 public:
     /// One display's notch.
@@ -34,6 +37,8 @@ public:
         std::unique_ptr<NotchScreenModel> model;
         std::unique_ptr<NotchPanel> panel;
         QRectF hitArea; ///< What the panel was told last.
+        bool isOnScreen = false;
+        std::unique_ptr<RunningTimer> closing{}; ///< Until it may go from the screen, closed.
     };
     using Notches = std::vector<Notch>;
 
@@ -42,8 +47,10 @@ public:
                     QObject *parent = nullptr);
     ~NotchController() override;
 
-    bool isRunning() const { return m_poller != nullptr; }
+    bool isRunning() const { return m_isRunning; }
     const Notches &notches() const { return m_notches; }
+    /// Whether the setting that hides the notch over them makes a difference.
+    bool knowsFullScreenWindows() const;
     bool hasHotkey() const { return m_hotkey != nullptr; }
     /// What came of the hot key; while it is asked for anew, what came of it before. Pending when it is off.
     const HotKeyBinding &hotKeyBinding() const { return m_hotKeyBinding; }
@@ -54,8 +61,9 @@ public:
     /// The choice of displays or the hot key may have changed.
     void settingsChanged();
 
-    /// Opens or closes the notch of the display under the pointer, else the main display's, else the first.
-    /// A notch opened this way takes the keyboard.
+    /// Opens or closes the notch of the display under the pointer, else the main display's, else the first. A
+    /// notch opened this way takes the keyboard. Where no display has one, that under the pointer shows one
+    /// until it closes.
     void toggle();
 
     /// Opens the main display's notch, else the first, on `tool` if it is offered, else on what it showed
@@ -72,6 +80,11 @@ private:
     using Moment = std::chrono::nanoseconds;
 
     QList<Display> wantedScreens() const;
+    void followLock();
+    bool isCovered(const Notch &notch) const;
+    void showOrHide(Notch &notch);
+    void showOrHideAll();
+    void watchPointer();
     void rebuildPanels();
     void addNotch(const Display &screen);
     void updateNotch(Notch &notch, const Display &screen);
@@ -79,12 +92,15 @@ private:
     Notch *find(const QString &name);
     Notch *mainNotch();
     Notch *notchUnderPointer();
+    Notch *orOnce(Notch *notch);
     void applyShortcut();
     void setHotKeyBinding(const HotKeyBinding &binding);
     void select(NotchScreenModel &model, std::optional<NotchTool> tool);
     void set(Notch &notch, bool expanded);
-    void opened(const Notch &notch);
+    void opened(Notch &notch);
     void closed(Notch &notch);
+    void hasClosed(QString name);
+    void tellWhatShows();
     void updateHitArea(Notch &notch);
     void poll();
     void pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress);
@@ -96,13 +112,18 @@ private:
     Clock &m_clock;
     NotchPanels &m_panels;
     Notches m_notches;
-    std::unique_ptr<RunningTimer> m_poller;
-    QHash<QString, Moment> m_hoverStart; ///< When the pointer began to rest over a closed notch.
-    QHash<QString, Moment> m_leaveStart; ///< When the pointer left an open notch.
+    SessionLock &m_lock;
+    bool m_isRunning = false;
+    std::unique_ptr<RunningTimer> m_poller; ///< None while the screen is locked.
+    QHash<QString, Moment> m_hoverStart;    ///< When the pointer began to rest over a closed notch.
+    QHash<QString, Moment> m_leaveStart;    ///< When the pointer left an open notch.
     bool m_wasPressed = false;
+    QString m_shownOnce; ///< A display without a notch of its own that shows one until it closes.
     std::unique_ptr<GlobalHotkey> m_hotkey;
     HotKeyBinding m_hotKeyBinding;
     QMetaObject::Connection m_screenObserver;
+    QMetaObject::Connection m_lockObserver;
+    QMetaObject::Connection m_coverObserver;
 };
 
 } // namespace Kestrune

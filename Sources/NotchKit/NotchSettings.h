@@ -43,8 +43,10 @@ struct SettingRule
     SETTING(NotchTools, tools, Tools, allCases<NotchTool>())                                                 \
     SETTING(bool, allDisplays, AllDisplays, false)                                                           \
     SETTING(bool, showWithoutNotch, ShowWithoutNotch, true)                                                  \
+    SETTING(bool, hideOverFullScreen, HideOverFullScreen, true)                                              \
     SETTING(bool, shortcutEnabled, ShortcutEnabled, true)                                                    \
     SETTING(bool, liveActivities, LiveActivities, true)                                                      \
+    SETTING(QStringList, ignoredPlayers, IgnoredPlayers, QStringList())                                      \
     SETTING(QString, note, Note, QString())                                                                  \
     SETTING(QStringList, shelfPaths, ShelfPaths, QStringList())                                              \
     SETTING(bool, clipboardHistory, ClipboardHistory, true)                                                  \

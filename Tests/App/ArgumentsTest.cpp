@@ -3,6 +3,7 @@
 #include "App/StandardSettings.h"
 #include "App/UsageReport.h"
 #include "NotchKit/Platform/Utc.h"
+#include "NotchKit/Tools/AIUsage/AIUsageModel.h"
 #include "Support/Fakes.h"
 #include "Support/TestRegistry.h"
 
@@ -20,7 +21,7 @@ private Q_SLOTS:
             for (const char *line : lines)
                 QTest::newRow(line) << QString::fromLatin1(line) << verb;
         };
-        rows(Verb::start, {"", "--open weather", "--open"});
+        rows(Verb::start, {"", "--open weather", "--open", "-session 10f1", "--open weather -session 10f1"});
         rows(Verb::open, {"open note", "open"});
         rows(Verb::status, {"status --json", "status"});
         rows(Verb::settings, {"settings set hoverDelay 0.3", "settings set x -12", "settings set note --help",
@@ -28,9 +29,10 @@ private Q_SLOTS:
         rows(Verb::usage, {"usage --json --now 2026-03-10T12:00:00Z --home /", "usage --home -x"});
         rows(Verb::help, {"--help", "-h"});
         rows(Verb::version, {"--version"});
-        rows(Verb::bad, {"--opne", "--open weather please", "open sundial", "toggle note", "status --xml",
-                         "settings set hoverDelay", "settings", "usage --home", "usage --now noon",
-                         "usage --json now", "--help toggle", "weather", "--open=weather"});
+        rows(Verb::bad,
+             {"--opne", "--open weather please", "open sundial", "toggle note", "status --xml",
+              "settings set hoverDelay", "settings", "usage --home", "usage --now noon", "usage --json now",
+              "--help toggle", "weather", "--open=weather", "toggle -session 10f1", "-session"});
     }
 
     void verbs()
@@ -40,6 +42,7 @@ private Q_SLOTS:
         const CommandLine parsed = CommandLine::parse(words);
         QCOMPARE(parsed.verb, verb);
         QCOMPARE(parsed.fault.isEmpty(), verb != Verb::bad);
+        QCOMPARE(parsed.launch.restored, verb == Verb::start && line.contains(u"-session"));
         if (verb == Verb::settings)
             QCOMPARE(parsed.arguments, words.mid(1));
     }
@@ -99,7 +102,7 @@ private Q_SLOTS:
         row("homeColumns", R"({"note":"centre"})", R"(note to hidden, left, center or right, not "centre")");
         row("homeColumns", R"({"sundial":"left"})", R"(not "sundial")");
         row("calendarSource", "folders");
-        row("calendarSource", "folder", R"(takes evolution or folders, not "folder")");
+        row("calendarSource", "folder", R"(takes evolution, folders or both, not "folder")");
         row("cameraHousings", R"({"eDP-1":"185x32"})");
         row("cameraHousings", R"({"eDP-1":"185"})", R"(not "185")");
         row("launchAtLogin", "yes", R"(takes true or false, not "yes")");
@@ -129,11 +132,18 @@ void ArgumentsTest::usageAsJson()
         const QDateTime time = QDateTime::fromMSecsSinceEpoch(1773144000500, kUtc);
         QVERIFY(writeFile(home.filePath(folder) + "/a.jsonl"_L1, text, time));
     };
+    qputenv("CLAUDE_CONFIG_DIR", "/one, /two");
+    const QString config = CommandLine::parse({u"usage"_s}).usage.claudeConfig;
+    QCOMPARE(AIUsageHomes::below(u"/me"_s, config).claude,
+             (QStringList{u"/me/.claude/projects"_s, u"/me/.config/claude/projects"_s, u"/one/projects"_s,
+                          u"/two/projects"_s}));
     const auto report = [&] {
         const QStringList line{u"usage"_s,  u"--now"_s,  u"2026-03-10T13:00:00+01:00"_s,
                                u"--home"_s, home.path(), u"--json"_s};
         return QJsonDocument::fromJson(usageReport(CommandLine::parse(line).usage));
     };
+    QCOMPARE(CommandLine::parse({u"usage"_s, u"--home"_s, u"/"_s}).usage.claudeConfig, QString());
+    qunsetenv("CLAUDE_CONFIG_DIR");
     QCOMPARE(report(), QJsonDocument::fromJson(R"({"claude": null, "codex": null})"));
     write(u".claude/projects/p"_s,
           R"({"timestamp":"2026-03-10T11:00:00.5Z","message":{"usage":{"output_tokens":9007199254740993}}})"

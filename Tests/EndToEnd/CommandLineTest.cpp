@@ -89,7 +89,8 @@ private Q_SLOTS:
         const Session::Result refused =
             session.command({u"settings"_s, u"set"_s, u"calendarSource"_s, u"folder"_s});
         QCOMPARE(refused.status, 2);
-        QCOMPARE(refused.errors, u"Kestrune: calendarSource takes evolution or folders, not \"folder\"\n"_s);
+        QCOMPARE(refused.errors,
+                 u"Kestrune: calendarSource takes evolution, folders or both, not \"folder\"\n"_s);
 
         QString list = session.command({u"settings"_s, u"list"_s}).output;
         for (const auto &name : {u"openMode"_s, u"hoverDelay"_s, u"tools"_s, u"allDisplays"_s, u"note"_s,

@@ -58,6 +58,15 @@ private Q_SLOTS:
         QCOMPARE(stage().x.topWindows({880, 390}).size(), qsizetype(1));
     }
 
+    void restoredBesideOneThatRunsItChangesNothing()
+    {
+        QVERIFY(stage().run());
+        const Session::Result second = session().command({u"-session"_s, u"10f1"_s});
+        QCOMPARE(second.status, 0);
+        QCOMPARE(second.errors, QString());
+        QVERIFY(session().isRunning() && !session().isOpen() && stage().looksClosed());
+    }
+
     void whoMeetsTheNameIsAnswered()
     {
         const QDBusConnection bus = session().bus();
@@ -175,6 +184,22 @@ private Q_SLOTS:
             QVERIFY(stage().run() && stage().choose(u"note"_s));
             QCOMPARE(session().setting(u"note"_s), expected);
         }
+    }
+
+    /// What stands in files: nothing runs it while the notch is closed, and all of it must be right
+    /// afterwards.
+    void codeLeavesTheMemoryWhileItIsClosed()
+    {
+        QVERIFY(stage().run() && stage().openByHover());
+        const auto held = [this] {
+            return processFigure("status", "RssFile:", session().program().processId());
+        };
+        const qint64 open = held();
+        input().move(Place::away);
+        QVERIFY(waitUntil([&] { return held() < open / 2; }));
+        for (const QString &tool : session().tools())
+            QVERIFY2(stage().choose(tool), qPrintable(tool));
+        QVERIFY(stage().openByHover());
     }
 
     void quitEndsTheProgram()

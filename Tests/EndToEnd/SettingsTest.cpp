@@ -38,7 +38,7 @@ private Q_SLOTS:
         input().tap(XK_space);
         QTRY_COMPARE(session().setting(u"shortcutEnabled"_s), u"false"_s);
 
-        constexpr int kToFirstColumn = 9; // The switches in between, and the column of Home's first block.
+        constexpr int kToFirstColumn = 10; // The switches in between, and the column of Home's first block.
         const QImage top = stage().x.grab(area());
         for (int i = 0; i < kToFirstColumn; ++i)
             input().tap(XK_Tab);
@@ -67,9 +67,9 @@ private Q_SLOTS:
         QTRY_VERIFY(looksOn());
         input().click(place(sliderMiddle));
         QTRY_COMPARE(session().setting(u"hoverDelay"_s), u"0.4"_s);
-        for (const auto *name :
-             {"shortcutEnabled", "liveActivities", "announceScreenshots", "allDisplays", "showWithoutNotch",
-              "clipboardHistory", "readCodexUsage", "readClaudeUsage", "useFahrenheit"}) {
+        for (const auto *name : {"shortcutEnabled", "liveActivities", "announceScreenshots", "allDisplays",
+                                 "showWithoutNotch", "hideOverFullScreen", "clipboardHistory",
+                                 "readCodexUsage", "readClaudeUsage", "useFahrenheit"}) {
             QCOMPARE(changedBy({XK_Tab, XK_space}), QStringList(QLatin1String(name)));
             QCOMPARE(changedBy({XK_space}), QStringList(QLatin1String(name)));
         }

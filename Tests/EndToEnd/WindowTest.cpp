@@ -93,7 +93,7 @@ private Q_SLOTS:
     {
         auto [windowManager, kind, geometry] = fetched<QString, TestWindow::Kind, QRect>();
         setStage({.windowManager = windowManager});
-        QVERIFY(stage().run());
+        QVERIFY(stage().run({{"hideOverFullScreen", "false"}}));
         TestWindow other(stage().display.name(), kind, geometry, 0xff8040c0);
         const auto shown = [&](QPoint place) { return stage().x.pixel(place) != other.colour(); };
         QTRY_VERIFY(shown(Place::notch));
@@ -112,6 +112,37 @@ private Q_SLOTS:
         QVERIFY(session().start());
         QTRY_VERIFY(shown(Place::notch));
         QVERIFY(shown({640, 0}));
+    }
+
+    void hidesOverFullScreenWindows_data() { windowManagers(); }
+    void hidesOverFullScreenWindows()
+    {
+        setWindowManager();
+        QVERIFY(stage().run());
+        std::optional<TestWindow> film(std::in_place, stage().display.name(), TestWindow::Kind::FullScreen,
+                                       QRect(0, 0, 1280, 800), 0xff8040c0);
+        const auto shown = [&](QPoint place) { return stage().x.pixel(place) != film->colour(); };
+        QTRY_VERIFY(!shown(Place::notch));
+        input().move(Place::notch);
+        QVERIFY(holdsFor([&] { return !shown(Place::panelEdge); }, 800));
+        input().click(Place::notch);
+        QTRY_COMPARE(film->clicks(), 1);
+        input().move(Place::away);
+        QTest::qWait(300); // The program has looked where the pointer is, whatever it does meanwhile.
+
+        input().hotKey();
+        QTRY_VERIFY(shown(Place::panelEdge) && session().isOpen());
+        input().tap(XK_Escape);
+        QTRY_VERIFY(!shown(Place::panelEdge) && !shown(Place::notch));
+        QTRY_VERIFY(film->hasFocus());
+
+        QVERIFY(session().set(u"hideOverFullScreen"_s, u"false"_s));
+        QTRY_VERIFY(shown(Place::notch));
+        QVERIFY(session().set(u"hideOverFullScreen"_s, u"true"_s));
+        QTRY_VERIFY(!shown(Place::notch));
+        film.reset();
+        QTRY_VERIFY(stage().covered(Place::notch));
+        QVERIFY(stage().openByHover());
     }
 
     void isInNoListOfWindows_data() { windowManagers(); }

@@ -84,7 +84,8 @@ private Q_SLOTS:
         QTest::newRow("still being written") << used(1) + used(2).left(30) << 1.0;
         QTest::newRow("broken") << used(1) + used(2).left(30) + '\n' << -1.0;
         QTest::newRow("cut at its start") << used(1).mid(5) << -1.0;
-        QTest::newRow("no limits") << used(1) + "{\"rate_limits\":null}\n" << -1.0;
+        QTest::newRow("no limits in the last") << used(1) + "{\"rate_limits\":null}\n" << 1.0;
+        QTest::newRow("no limits") << QByteArray("{\"rate_limits\":null}\n{\"rate_limits\":null}") << -1.0;
         QTest::newRow("too deep") << QByteArray(100'000, '[') + used(1) << -1.0;
         QTest::newRow("nothing") << QByteArray() << -1.0;
     }
@@ -228,6 +229,12 @@ private Q_SLOTS:
         home.core.settings.setClaudeBlockBudget(200'000);
         QCOMPARE(shown.claudeBlock().text, u"150% of your budget"_s);
         QCOMPARE(shown.claudeBlock().fraction, 1.5);
+
+        home.write(".codex/sessions/a.jsonl", limits(R"({"used_percent": 90, "resets_at": 1})"));
+        reread();
+        QCOMPARE(shown.codexWindows().constFirst().text, u"100% left"_s);
+        QCOMPARE(shown.codexWindows().constFirst().fraction, 0.0);
+        QVERIFY(shown.codexWindows().constFirst().resets.startsWith("Renewed; figures of "_L1));
 
         home.core.wait(5 * 3'600'000); // the block is over; a refresh that finds nothing new says so once
         reread();

@@ -261,6 +261,9 @@ private Q_SLOTS:
         QCOMPARE(CalendarFormat::when(at(28, 15).toUTC(), false, now), u"Today 15:00"_s);
         QCOMPARE(CalendarFormat::when(at(29, 9).toUTC(), false, now), u"Tomorrow 09:00"_s);
         QCOMPARE(CalendarFormat::when(at(28, 0), true, now), u"All day"_s);
+        QCOMPARE(CalendarFormat::when(at(27, 22), false, now), u"Since Fr. 22:00"_s);
+        QCOMPARE(CalendarFormat::when(at(1, 9), false, now), u"Since 01.03.26 09:00"_s);
+        QCOMPARE(CalendarFormat::when(at(22, 0), true, now), u"All day, since So."_s);
         QCOMPARE(CalendarFormat::due({}, now), QString());
         QCOMPARE(CalendarFormat::due(at(27, 9), now), u"Yesterday"_s);
         QCOMPARE(CalendarFormat::due(at(28, 9), now), u"09:00"_s);

@@ -106,16 +106,26 @@ private Q_SLOTS:
             const QByteArray time = entry.section(u'=', 0, 0).toLatin1();
             write(path(), entryLine(time, entry.section(u'=', 1).toLongLong(), time));
         }
-        ClaudeLogReader reader(m_folder->path());
+        ClaudeLogReader reader({m_folder->path()});
         const auto usage = reader.summary(now);
         QVERIFY(usage == expected && !reader.summary(now.addDays(9)));
-        QVERIFY(!ClaudeLogReader(path("missing")).summary(now));
+        QVERIFY(!ClaudeLogReader(QStringList(path("missing"))).summary(now));
+    }
+
+    void severalFoldersCountOnceEach()
+    {
+        const QTemporaryDir other;
+        write(path(), entryLine(m_time, 20, "b").replace("\"id\"", "\"no\""));
+        write(other.filePath(u"x.jsonl"_s), entryLine(m_time, 3, "c"));
+        QVERIFY(QFile::link(m_folder->path(), other.filePath(u"link"_s)));
+        ClaudeLogReader reader({m_folder->path(), other.filePath(u"link"_s), other.path(), u"/nowhere"_s});
+        QCOMPARE(reader.summary(m_now).value_or(ClaudeUsage{}).weekTokens, 23);
     }
 
     void countsALineOnceItIsComplete()
     {
         const QByteArray second = entryLine(m_time, 20, "b");
-        ClaudeLogReader reader(m_folder->path());
+        ClaudeLogReader reader({m_folder->path()});
         const auto tokens = [&] { return reader.summary(m_now).value_or(ClaudeUsage{}).weekTokens; };
         write(path(), entryLine(m_time, 1, "a") + entryLine(m_time, 2, "a") + second.left(90));
         QCOMPARE(tokens(), 2);
@@ -139,7 +149,7 @@ private Q_SLOTS:
               QByteArray("1e18")})
             text += entryLine(m_time, 0, number).replace(":0,", ':' + number + ',');
         write(path(), text);
-        ClaudeLogReader reader(m_folder->path());
+        ClaudeLogReader reader({m_folder->path()});
         QCOMPARE(reader.summary(m_now)->weekTokens, std::numeric_limits<qint64>::max());
         QCOMPARE(reader.summary(m_now)->weekMessages, 4);
     }
@@ -153,7 +163,7 @@ private Q_SLOTS:
             write(path(QByteArray::number(file) + ".jsonl"), text);
         }
         for (int round = 0; round < 5; ++round) {
-            ClaudeLogReader reader(m_folder->path());
+            ClaudeLogReader reader({m_folder->path()});
             QCOMPARE(reader.summary(m_now)->weekTokens, 2000 * 39);
         }
     }
@@ -179,7 +189,7 @@ private Q_SLOTS:
         write(huge, "{\"usage\":\"");
         QVERIFY(QFile::resize(huge, kHuge));
 
-        ClaudeLogReader reader(m_folder->path());
+        ClaudeLogReader reader({m_folder->path()});
         QVERIFY(writeFile(u"/proc/self/clear_refs"_s, "5")); // the peak is counted from here
         const qint64 before = processFigure("status", "VmRSS:");
         QCOMPARE(reader.summary(m_now)->weekTokens, 7);
@@ -209,7 +219,7 @@ private Q_SLOTS:
             }
         });
         for (int round = 0; round < 200; ++round) {
-            ClaudeLogReader reader(m_folder->path());
+            ClaudeLogReader reader({m_folder->path()});
             QCOMPARE(reader.summary(m_now)->weekTokens, 7);
         }
     }
@@ -218,7 +228,7 @@ private Q_SLOTS:
     {
         write(path(), "");
         QVERIFY(QFile::resize(path(), qint64(1) << 42)); // hours to read
-        ClaudeLogReader reader(m_folder->path());
+        ClaudeLogReader reader({m_folder->path()});
         std::jthread summary([&] { QVERIFY(!reader.summary(QDateTime::currentDateTimeUtc())); });
         QTest::qWait(50);
         reader.cancel();

@@ -72,6 +72,91 @@ private Q_SLOTS:
         QCOMPARE(core.panel().hitArea, core.model().geometry().hitRect(false, false));
     }
 
+    void hidesOverFullScreenWindows_data() { noAndYes("without a housing", "with one"); }
+    void hidesOverFullScreenWindows()
+    {
+        const auto [housing] = fetched<bool>();
+        Fakes::StartedCore core;
+        const auto display = housing ? builtInDisplay(0) : externalDisplay(0);
+        core.displays.displays = {display};
+        Q_EMIT core.displays.changed();
+        const QPointF notch = core.panel().hitArea.center();
+        core.fullScreenWindows.set({display.name});
+        QCOMPARE(core.panel().shown, housing);
+        core.moveTo(notch, 2000);
+        QCOMPARE(core.model().expanded(), housing);
+        core.moveTo(kOutside, 2000);
+        core.controller.toggle();
+        QVERIFY(core.panel().shown && core.panel().key);
+        core.controller.toggle();
+        QVERIFY2(core.panel().shown, "it closes before it goes");
+        core.wait(2000);
+        QCOMPARE(core.panel().shown, housing);
+        core.settings.setHideOverFullScreen(false);
+        core.controller.settingsChanged();
+        QVERIFY(core.panel().shown);
+        core.settings.setHideOverFullScreen(true);
+        core.controller.settingsChanged();
+        core.fullScreenWindows.set({});
+        QVERIFY(core.panel().shown);
+        core.moveTo(notch, 2000);
+        QVERIFY(core.model().expanded());
+    }
+
+    /// Where no display is to have a notch of its own.
+    void showsOnceWhereThereIsNone_data() { noAndYes("toggled", "opened"); }
+    void showsOnceWhereThereIsNone()
+    {
+        const auto [opens] = fetched<bool>();
+        Fakes::StartedCore core({{u"notch.showWithoutNotch"_s, false}});
+        core.displays.displays = {externalDisplay(0), externalDisplay(1)};
+        Q_EMIT core.displays.changed();
+        QVERIFY(core.panels.alive.empty());
+        core.moveTo(kOutside + QPointF(1920, 0));
+        if (opens)
+            core.controller.open(NotchTool::note, true);
+        else
+            core.controller.toggle();
+        QCOMPARE(core.controller.notches().front().screen.name, externalDisplay(1).name);
+        QVERIFY(core.model().expanded() && core.panel().shown && core.panel().key);
+        core.controller.toggle();
+        QCOMPARE(core.panels.alive.size(), 1U);
+        core.wait(2000);
+        QVERIFY(core.panels.alive.empty() && core.panels.outlivedModels == 0);
+    }
+
+    /// Nothing is on screen or opens; what is pinned comes back, and shows nothing meanwhile.
+    void hidesFromTheLock()
+    {
+        Fakes::StartedCore core({{u"notch.allDisplays"_s, true}});
+        core.displays.displays = {externalDisplay(0), externalDisplay(1)};
+        Q_EMIT core.displays.changed();
+        core.controller.open(NotchTool::mirror);
+        core.model().setPinned(true);
+        NotchScreenModel &other = *core.controller.notches().back().model;
+        core.moveTo(kNotch + QPointF(1920, 0));
+        core.controller.toggle();
+        QVERIFY(other.expanded());
+
+        core.lock.set(true);
+        QVERIFY(!other.expanded() && core.model().expanded());
+        QVERIFY(!core.services.anyExpanded() && !core.services.visibleTool());
+        core.controller.open(NotchTool::note, true);
+        core.controller.toggle();
+        core.clock.advance(2s);
+        core.displays.displays.append(externalDisplay(2));
+        Q_EMIT core.displays.changed();
+        for (const auto *panel : core.panels.alive)
+            QVERIFY(!panel->shown && !panel->key);
+        QVERIFY(!other.expanded() && !core.services.anyExpanded());
+
+        core.lock.set(false);
+        QVERIFY(std::ranges::all_of(core.panels.alive, &Fakes::FakePanels::Panel::shown));
+        QVERIFY(core.services.anyExpanded() && core.services.visibleTool() == NotchTool::mirror);
+        core.clock.advance(2s);
+        QVERIFY(other.expanded());
+    }
+
     void thePointerOpensAndCloses_data()
     {
         const auto row = columns<Fakes::MemoryDefaults::Values, Steps>();

@@ -109,6 +109,109 @@ private Q_SLOTS:
         QVERIFY2(tracks.isEmpty() && players.isEmpty(), "nothing has changed");
     }
 
+    void ofTwoThatArePausedTheLastUsedShows()
+    {
+        Stage stage(u"paused A 1"_s, u"playing B 2"_s);
+        for (const auto &[music, spotify, shown] :
+             {std::tuple(u"paused A 1"_s, u"playing B 2"_s, u"Spotify B 2"_s),
+              {u"paused A 1"_s, u"paused B 2"_s, u"Spotify B 2"_s},
+              {u"playing A 1"_s, u"paused B 2"_s, u"Music A 1"_s},
+              {u"paused A 1"_s, u"paused B 2"_s, u"Music A 1"_s},
+              {u"paused A 1"_s, u"paused C 2"_s, u"Spotify C 2"_s}}) {
+            stage.say(kMusic, music);
+            stage.say(kSpotify, spotify);
+            stage.refresh();
+            QCOMPARE(stage.shown(), shown);
+        }
+    }
+
+    void playersThatTellAreNotAsked()
+    {
+        Stage stage;
+        stage.players.tells = true;
+        stage.say(kMusic, u"playing A 10"_s);
+        NowPlayingModel model(stage.settings, stage.clock, stage.players, stage.scripts, stage.http,
+                              Fakes::pictures());
+        const auto tick = [&](int seconds, std::optional<NotchTool> visible) {
+            stage.wait(1000);
+            model.tick({stage.clock.now(), seconds, visible.has_value(), visible});
+            Fakes::finishWork();
+        };
+        tick(1, {});
+        QCOMPARE(stage.looks(), 1);
+        for (int i = 2; i <= 30; ++i)
+            tick(i, {});
+        QCOMPARE(stage.looks(), 1);
+        QVERIFY(model.track());
+        tick(31, NotchTool::nowPlaying); // the position goes on by itself
+        QCOMPARE(stage.looks(), 1);
+        QVERIFY(model.track()->position > 39);
+        stage.say(kMusic, u"paused B 3"_s);
+        stage.players.changed();
+        stage.players.changed();
+        stage.wait(100);
+        Fakes::finishWork();
+        QCOMPARE(stage.looks(), 2);
+        QCOMPARE(model.track()->title, u"B"_s);
+        stage.say(kMusic, u"failed"_s); // it is too busy to answer, and tells nothing more
+        stage.players.changed();
+        stage.wait(100);
+        Fakes::finishWork();
+        stage.say(kMusic, u"playing C 1"_s);
+        stage.wait(1000);
+        Fakes::finishWork();
+        QCOMPARE(model.track()->title, u"C"_s);
+        QCOMPARE(stage.looks(), 4);
+        stage.settings.setEnabled(NotchTool::nowPlaying, false);
+        stage.players.changed();
+        tick(32, {});
+        QCOMPARE(stage.looks(), 4);
+    }
+
+    void aCoverThatComesLateIsShown()
+    {
+        Stage stage(u"playing A 1"_s);
+        const QString script = PlayerScripts::artwork(kMusic);
+        const auto say = [&](const QString &further) {
+            stage.scripts.answer(PlayerScripts::status(kMusic), u"playing\nA\nB\n9\n1"_s + further);
+        };
+        say({});
+        stage.refresh();
+        QVERIFY(stage.clock.running() == 0); // there is none to wait for
+        say(u"\ncover:named"_s);
+        stage.refresh();
+        QVERIFY(stage.model.artwork().isNull());
+        stage.scripts.answer(script, picture(11));
+        stage.wait(1000);
+        Fakes::finishWork();
+        QCOMPARE(stage.model.artwork().width(), 11);
+        QVERIFY(stage.clock.running() == 0);
+        say(u"\ncover:never"_s);
+        stage.scripts.answer(script, ScriptFailed());
+        stage.scripts.take();
+        stage.refresh();
+        for (int i = 0; i < 60; ++i) {
+            stage.wait(1000);
+            Fakes::finishWork();
+        }
+        QCOMPARE(stage.looks(), 5);
+    }
+
+    void seeks()
+    {
+        Stage stage(u"playing A 1"_s);
+        stage.refresh();
+        stage.scripts.take();
+        stage.model.seek(50); // this one cannot
+        QVERIFY(stage.scripts.take().isEmpty());
+        stage.scripts.answer(PlayerScripts::status(kMusic), u"playing\nA\nB\n100\n1\nseekable"_s);
+        stage.refresh();
+        stage.scripts.take();
+        stage.model.seek(140);
+        QCOMPARE(stage.model.track()->position, 100.0);
+        QCOMPARE(stage.scripts.take(), QStringList{PlayerScripts::seek(kMusic, 100)});
+    }
+
     void remembersARefusal()
     {
         Stage stage(u"denied"_s);

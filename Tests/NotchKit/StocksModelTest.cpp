@@ -194,6 +194,22 @@ private Q_SLOTS:
         QCOMPARE(texts, (QStringList{QString::fromUtf8(QTest::currentDataTag()), german}));
     }
 
+    void writesCurrencies()
+    {
+        const QLocale before;
+        for (const auto &[locale, currency, text] : {std::tuple(u"en_US"_s, u"USD"_s, u"$187.30"_s),
+                                                     {u"de_DE"_s, u"USD"_s, u"187,30\u00a0$"_s},
+                                                     {u"en_CA"_s, u"CAD"_s, u"$187.30"_s},
+                                                     {u"en_CA"_s, u"USD"_s, u"USD\u00a0187.30"_s},
+                                                     {u"en_GB"_s, u"GBp"_s, u"GBp\u00a0187.30"_s}}) {
+            QLocale::setDefault(QLocale(locale));
+            QCOMPARE(QuoteFormat::price(187.3, currency), text);
+        }
+        QLocale::setDefault(before);
+        const auto index = chart(R"("regularMarketPrice": 1, "currency": "USD", "instrumentType": "INDEX")");
+        QVERIFY(!parseQuote(u"^X"_s, index.body)->currency);
+    }
+
     void sparkline()
     {
         using Line = QPolygonF;

@@ -4,9 +4,17 @@
 
 constexpr double kGigabyte = 1024.0 * 1024 * 1024;
 
-static PowerSource source(std::optional<qint64> now, std::optional<qint64> full, const QString &state = {})
+static PowerSource source(std::optional<qint64> now, std::optional<qint64> full, const QString &state = {},
+                          PowerSource::Unit unit = PowerSource::Unit::energy)
 {
-    return {now, full, state};
+    return {now, full, state, unit};
+}
+
+/// Reads, and waits for what is read elsewhere.
+static void refresh(SystemModel &system)
+{
+    system.refresh();
+    Fakes::finishWork();
 }
 
 class SystemModelTest : public QObject
@@ -41,7 +49,14 @@ private Q_SLOTS:
         QTest::newRow("almost full") << QList{source(4999, 5000)} << 100 << false;
         QTest::newRow("a quarter") << QList{source(1234, 5000, mains)} << 25 << true;
         QTest::newRow("half rounds up") << QList{source(5, 1000, u"Battery Power"_s)} << 1 << false;
-        QTest::newRow("the first of two") << QList{source(30, 100, mains), source(70, 100)} << 30 << true;
+        QTest::newRow("two of a size") << QList{source(30, 100, mains), source(70, 100)} << 50 << true;
+        QTest::newRow("a large and a small one")
+            << QList{source(80, 100), source(20, 300, mains)} << 25 << true;
+        const auto charge = source(1, 10, {}, PowerSource::Unit::charge);
+        QTest::newRow("of two kinds") << QList{source(900, 1000), charge} << 50 << false;
+        const auto percent = source(10, 100, {}, PowerSource::Unit::percent);
+        QTest::newRow("per cent only")
+            << QList{percent, source(1, 2, {}, PowerSource::Unit::percent)} << 30 << false;
         QTest::newRow("maximum 0") << QList{source(50, 0, mains), source(70, 100)} << 70 << false;
         QTest::newRow("lacking one") << QList{source({}, 100), source(50, {}), source(3, 4)} << 75 << false;
     }
@@ -51,7 +66,7 @@ private Q_SLOTS:
         Fakes::Core core;
         SystemModel &system = *core.services.model<SystemModel>();
         core.host.supplies = sources;
-        system.refresh();
+        refresh(system);
         QCOMPARE(system.battery().value_or(-1), percent);
         QCOMPARE(system.charging(), charging);
         const auto lines = SystemPresentation::describe(system, QLocale::c());
@@ -59,7 +74,7 @@ private Q_SLOTS:
         if (percent >= 0)
             QCOMPARE(lines[3].symbol, charging ? u"battery.100.bolt"_s : u"battery.75"_s);
         core.host.supplies.reset();
-        system.refresh();
+        refresh(system);
         QCOMPARE(system.battery().value_or(-1), percent);
     }
 
@@ -73,7 +88,7 @@ private Q_SLOTS:
         core.host.pages = MemoryPages{1000, 200, 300, 100, 1024 * 1024};
         core.host.volume = {30 * kGigabyte, 120 * kGigabyte};
         core.host.supplies = {source(50, 100, QString::fromLatin1(PowerSource::kMains))};
-        system.refresh();
+        refresh(system);
         QCOMPARE(rows.lines()[0].value, u"0%"_s);
         QCOMPARE(rows.lines()[1].value, u"1.2 GB / 16.0 GB"_s);
         QCOMPARE(rows.lines()[2].value, u"30.0 GB free"_s);
@@ -82,11 +97,11 @@ private Q_SLOTS:
         QCOMPARE(SystemPresentation::describe(system, QLocale(QLocale::German))[2].value, u"30,0 GB free"_s);
         QSignalSpy changes(&rows, &SystemPresentation::linesChanged);
         QSignalSpy figures(&system, &SystemModel::changed);
-        system.refresh();
+        refresh(system);
         QVERIFY(changes.isEmpty() && figures.isEmpty());
         core.host.pages.reset();
         core.host.volume = {};
-        system.refresh();
+        refresh(system);
         QCOMPARE(system.memoryUsed(), 1200.0 * 1024 * 1024);
         QCOMPARE(system.diskTotal(), 0.0);
     }

@@ -115,7 +115,7 @@ private Q_SLOTS:
         QCOMPARE(stage.figures.temperature(), u"–"_s); // it was another place's
         stage.settings.setUseFahrenheit(false);
         stage.wait(1000);
-        QCOMPARE(stage.http.addresses().last(), forecastAddress(u"0.00001"_s, u"-180"_s));
+        QCOMPARE(stage.http.addresses().last(), forecastAddress(u"0"_s, u"-180"_s));
     }
 
     void failuresKeepFigures_data();
@@ -214,6 +214,9 @@ private Q_SLOTS:
         QCOMPARE(stage.model.error(), QString());
         QCOMPARE(stage.settings.weatherCity(), u"My location"_s);
         QCOMPARE(stage.http.addresses(), QStringList{forecastAddress(u"48.1"_s, u"11.6"_s)});
+        stage.locate(Coordinate{-33.868549, -0.0041});
+        QCOMPARE(stage.http.addresses().last(), forecastAddress(u"-33.87"_s, u"0"_s));
+        QCOMPARE(stage.settings.weatherLatitude(), -33.87);
 
         // What was asked for last counts.
         stage.model.useCurrentLocation();
@@ -221,7 +224,7 @@ private Q_SLOTS:
         QVERIFY(!stage.model.locating() &&
                 stage.location.questions.isGivenUp(stage.location.questions.count() - 1));
         stage.model.search(u"Rome"_s);
-        QVERIFY(stage.http.questions.isGivenUp(1) && stage.model.searching());
+        QVERIFY(stage.http.questions.isGivenUp(2) && stage.model.searching());
         stage.reply(good(R"({"results": [{"latitude": 41.9, "longitude": 12.5}]})"));
         QCOMPARE(stage.settings.weatherCity(), u"Rome"_s);
         QVERIFY(stage.http.questions.isGivenUp(0));

@@ -39,8 +39,12 @@ Platform::~Platform() = default;
 Kestrune::Platform Platform::ports(const RealPorts &real)
 {
     const auto choose = [](auto *chosen, auto &fake) -> decltype(*chosen) { return chosen ? *chosen : fake; };
-    windows.now = {&choose(real.displays, displays), &choose(real.pointer, pointer), &hotKeys, &drags,
-                   &choose(real.pasteboard, pasteboard)};
+    windows.now = {&choose(real.displays, displays),
+                   &choose(real.pointer, pointer),
+                   &hotKeys,
+                   &drags,
+                   &choose(real.pasteboard, pasteboard),
+                   &fullScreenWindows};
     return {.windows = windows,
             .clock = choose(real.clock, clock),
             .defaults = defaults,
@@ -48,6 +52,7 @@ Kestrune::Platform Platform::ports(const RealPorts &real)
             .applications = applications,
             .players = choose(real.players, players),
             .loginItem = loginItem,
+            .lock = lock,
             .sounds = sounds,
             .workspace = workspace,
             .sharing = sharing,

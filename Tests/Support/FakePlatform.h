@@ -37,6 +37,7 @@ struct Platform
     FakeApplications applications;
     FakeApplications players;
     FakeLoginItem loginItem;
+    FakeSessionLock lock;
     FakeSounds sounds;
     FakeWorkspace workspace;
     FakeSharing sharing;
@@ -53,6 +54,7 @@ struct Platform
     FakeHotKeys hotKeys;
     FakeDrags drags;
     FakePasteboard pasteboard;
+    FakeFullScreenWindows fullScreenWindows;
     FakeWindowSystem windows;
     FakePanels panels;
     QString home;

@@ -4,6 +4,7 @@
 #include "NotchKit/NotchScreenModel.h"
 #include "NotchKit/Platform/Displays.h"
 #include "NotchKit/Platform/DragPasteboard.h"
+#include "NotchKit/Platform/FullScreenWindows.h"
 #include "NotchKit/Platform/HotKeys.h"
 #include "NotchKit/Platform/Pointer.h"
 #include "NotchKit/Platform/WindowSystem.h"
@@ -128,6 +129,18 @@ struct FakeDrags : DragPasteboard
     QList<QUrl> files;
 };
 
+struct FakeFullScreenWindows : FullScreenWindows
+{
+    bool cover(const QString &display) const override { return covered.contains(display); }
+    void set(const QStringList &displays)
+    {
+        covered = displays;
+        Q_EMIT changed();
+    }
+
+    QStringList covered;
+};
+
 /// Gives what the test put there.
 struct FakeWindowSystem : WindowSystem
 {
@@ -138,6 +151,7 @@ struct FakeWindowSystem : WindowSystem
         HotKeys *hotKeys;
         DragPasteboard *drags;
         Pasteboard *pasteboard;
+        FullScreenWindows *fullScreenWindows;
     };
 
     Displays &displays() override { return *now.displays; }
@@ -145,6 +159,7 @@ struct FakeWindowSystem : WindowSystem
     HotKeys &hotKeys() override { return *now.hotKeys; }
     DragPasteboard &drags() override { return *now.drags; }
     Pasteboard &pasteboard() override { return *now.pasteboard; }
+    FullScreenWindows &fullScreenWindows() override { return *now.fullScreenWindows; }
     bool pacesFrames() const override { return false; }
     std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> /*window*/,
                                           const QRectF & /*frame*/) override

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Async/Pledge.h"
 #include "NotchKit/Platform/CalendarStore.h"
 #include "NotchKit/Platform/CameraSession.h"
 #include "NotchKit/Platform/HostStatistics.h"
@@ -52,8 +53,8 @@ struct FakeHost : HostStatistics
     std::optional<ProcessorTicks> processorTicks() override { return ++asked, ticks; }
     std::optional<MemoryPages> memoryPages() override { return pages; }
     double physicalMemory() override { return installed; }
-    std::optional<QList<PowerSource>> powerSources() override { return supplies; }
-    VolumeCapacity startupVolume() override { return volume; }
+    QFuture<std::optional<QList<PowerSource>>> powerSources() override { return answered(supplies); }
+    QFuture<VolumeCapacity> startupVolume() override { return answered(volume); }
 
     int asked = 0;
     std::optional<ProcessorTicks> ticks;

@@ -7,6 +7,7 @@
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/LoginItem.h"
 #include "NotchKit/Platform/RunningApplications.h"
+#include "NotchKit/Platform/SessionLock.h"
 #include "NotchKit/Platform/SoundPlayer.h"
 #include "NotchKit/Platform/UserDefaults.h"
 #include "NotchKit/Platform/Utc.h"
@@ -149,7 +150,15 @@ struct FakeApplications : RunningApplications
         return running.contains(bundleIdentifier);
     }
 
+    bool follow(const std::function<void()> &handler) override
+    {
+        changed = handler;
+        return tells;
+    }
+
     QSet<QString> running;
+    bool tells = false;
+    std::function<void()> changed;
 };
 
 struct FakeLoginItem : LoginItem
@@ -164,6 +173,18 @@ struct FakeLoginItem : LoginItem
 
     bool enabled = false;
     std::optional<QString> failure;
+};
+
+struct FakeSessionLock : SessionLock
+{
+    bool isLocked() const override { return locked; }
+    void set(bool now)
+    {
+        locked = now;
+        Q_EMIT changed();
+    }
+
+    bool locked = false;
 };
 
 struct FakeUpdater : Updater

@@ -3,6 +3,7 @@
 #include "Support/Lists.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -49,11 +50,12 @@ inline QImage plainImage(QSize size, const QColor &colour = Qt::blue)
     return image;
 }
 
-/// The number of that name in a file of this process in /proc, such as "VmHWM:" in "status"; -1 where there
-/// is none.
-inline qint64 processFigure(const char *file, const QByteArray &name)
+/// The number of that name in a file of a process, this one without an `id`, in /proc, such as "VmHWM:" in
+/// "status"; -1 where there is none.
+inline qint64 processFigure(const char *file, const QByteArray &name,
+                            qint64 id = QCoreApplication::applicationPid())
 {
-    const auto lines = readFile(QStringLiteral("/proc/self/") + QLatin1String(file)).split('\n');
+    const auto lines = readFile(QStringLiteral("/proc/%1/%2").arg(id).arg(QLatin1String(file))).split('\n');
     for (const QByteArray &line : lines) {
         if (line.startsWith(name))
             return line.mid(name.size()).simplified().split(' ').constFirst().toLongLong();

@@ -4,6 +4,7 @@
 
 #include <QDBusConnection>
 
+#include <chrono>
 #include <memory>
 
 namespace Kestrune {
@@ -15,12 +16,12 @@ public:
     /// What the user has set.
     struct Choice
     {
-        QString source; ///< "evolution", "folders", or else whichever there is.
+        QString source; ///< "evolution", "folders", "both", or else whichever there is.
         QString folder; ///< Of the folders; empty for the usual one.
     };
 
-    /// `helper` is the program that reads what calendars hold.
-    ChosenCalendars(const QDBusConnection &bus, const QString &helper);
+    /// `helper` is the program that reads what calendars hold; `patience` is that of EvolutionBus.
+    ChosenCalendars(const QDBusConnection &bus, const QString &helper, std::chrono::milliseconds patience);
     ~ChosenCalendars();
     Q_DISABLE_COPY_MOVE(ChosenCalendars)
 
@@ -30,8 +31,10 @@ public:
 private:
     QDBusConnection m_bus;
     QString m_helper;
+    std::chrono::milliseconds m_patience;
     std::unique_ptr<CalendarSource> m_evolution;
     std::unique_ptr<CalendarSource> m_folders;
+    std::unique_ptr<CalendarSource> m_both;
     QString m_root; ///< Of the folders.
 };
 

@@ -34,9 +34,9 @@ QStringList firstOf(const QStringList &names)
 } // namespace
 
 DesktopCalendars::DesktopCalendars(const QDBusConnection &bus, const UserDefaults &defaults,
-                                   const QString &helper)
+                                   const QString &helper, std::chrono::milliseconds patience)
     : m_defaults(defaults)
-    , m_sources([bus, helper] { return std::make_unique<ChosenCalendars>(bus, helper); })
+    , m_sources([bus, helper, patience] { return std::make_unique<ChosenCalendars>(bus, helper, patience); })
 {}
 
 DesktopCalendars::~DesktopCalendars() = default;

@@ -17,13 +17,16 @@ class UserDefaults;
 class DesktopCalendars : public CalendarStore
 {
 public:
-    /// The keys of the user defaults: "evolution" or "folders" forces the one or the other; and the folder.
+    /// The keys of the user defaults: "evolution" or "folders" forces the one or the other, "both" takes
+    /// both; and the folder.
     static QString sourceKey() { return QStringLiteral("calendarSource"); }
     static QString folderKey() { return QStringLiteral("calendarFolder"); }
 
-    /// `defaults` outlives the object; `helper` is the program that reads what calendars hold.
+    /// `defaults` outlives the object; `helper` is the program that reads what calendars hold. A calendar of
+    /// the server may take `patience` longer than the others before it is left behind.
     DesktopCalendars(const QDBusConnection &bus, const UserDefaults &defaults,
-                     const QString &helper = ReaderPool::installed());
+                     const QString &helper = ReaderPool::installed(),
+                     std::chrono::milliseconds patience = std::chrono::seconds(3));
     ~DesktopCalendars() override;
 
     QFuture<CalendarAccess> access(CalendarEntity entity) override;

@@ -1,5 +1,6 @@
 #include "EvolutionBus.h"
 
+#include "Desktop/Bus/PendingCalls.h"
 #include "Log.h"
 
 #include <QDBusArgument>
@@ -111,60 +112,108 @@ std::optional<QList<EvolutionSource>> EvolutionBus::sources() const
     return enabledSources(keyFiles(reply.arguments().value(0).value<QDBusArgument>()));
 }
 
+void EvolutionBus::awaitNew(const QList<QDBusPendingCall> &calls) const
+{
+    PendingCalls::awaitMost(calls, std::chrono::milliseconds(kTimeout), m_patience);
+}
+
 std::optional<QList<EvolutionCalendar>> EvolutionBus::open(bool taskLists)
 {
-    const auto enabled = sources();
+    auto enabled = sources();
     const QString factory = newest(prefix() + QLatin1String("Calendar"));
     if (!enabled || factory.isEmpty())
         return std::nullopt;
-    QList<EvolutionCalendar> opened;
-    std::vector<Opening> opening;
-    for (const EvolutionSource &source : *enabled) {
-        if (source.isTaskList != taskLists)
-            continue;
-        EvolutionCalendar calendar = m_open.value(source.uid);
-        calendar.source = source;
-        if (calendar.path.isEmpty())
-            opening.push_back(
-                {calendar, send(factory, QStringLiteral("/org/gnome/evolution/dataserver/CalendarFactory"),
-                                prefix() + QLatin1String("CalendarFactory"),
-                                taskLists ? QStringLiteral("OpenTaskList") : QStringLiteral("OpenCalendar"),
-                                {source.uid})});
-        else
-            opened.append(calendar);
+    enabled->removeIf([&](const EvolutionSource &source) { return source.isTaskList != taskLists; });
+    QList<QDBusPendingCall> begun;
+    for (const EvolutionSource &source : std::as_const(*enabled)) {
+        if (!m_open.contains(source.uid) && !m_opening.contains(source.uid))
+            startOpening(source, factory, begun);
     }
-    return opened + finish(std::move(opening));
+    awaitNew(begun);
+    QList<QDBusPendingCall> second;
+    for (const EvolutionSource &source : std::as_const(*enabled)) {
+        const auto opening = m_opening.find(source.uid);
+        if (opening != m_opening.end())
+            goOn(opening->second, second);
+    }
+    awaitNew(second);
+    return finish(*enabled);
 }
 
-/// All at once: one that does not answer costs the others no more than its own time.
-QList<EvolutionCalendar> EvolutionBus::finish(std::vector<Opening> opening)
+void EvolutionBus::startOpening(const EvolutionSource &source, const QString &factory,
+                                QList<QDBusPendingCall> &calls)
 {
-    for (Opening &one : opening) {
-        one.call.waitForFinished();
-        if (one.call.isError())
-            continue;
-        const QVariantList place = one.call.reply().arguments();
-        one.calendar.path = place.value(0).toString();
-        one.calendar.service = place.value(1).toString();
-        one.call = call(one.calendar, QStringLiteral("Open"), {});
-    }
+    const QString method =
+        source.isTaskList ? QStringLiteral("OpenTaskList") : QStringLiteral("OpenCalendar");
+    const auto call = send(factory, QStringLiteral("/org/gnome/evolution/dataserver/CalendarFactory"),
+                           prefix() + QLatin1String("CalendarFactory"), method, {source.uid});
+    m_opening.emplace(source.uid, Opening{{source, {}, {}}, call});
+    calls.append(call);
+}
+
+/// The factory has told where the calendar is: now that is opened.
+void EvolutionBus::goOn(Opening &opening, QList<QDBusPendingCall> &calls) const
+{
+    if (!opening.calendar.path.isEmpty() || !opening.call.isFinished() || opening.call.isError())
+        return;
+    const QVariantList place = opening.call.reply().arguments();
+    opening.calendar.path = place.value(0).toString();
+    opening.calendar.service = place.value(1).toString();
+    opening.call = call(opening.calendar, QStringLiteral("Open"), {});
+    calls.append(opening.call);
+}
+
+QList<EvolutionCalendar> EvolutionBus::finish(const QList<EvolutionSource> &sources)
+{
     QList<EvolutionCalendar> all;
-    for (Opening &one : opening) {
-        const QString &uid = one.calendar.source.uid;
-        one.call.waitForFinished();
-        if (!one.call.isError()) {
-            m_open.insert(uid, one.calendar);
-            m_reported.remove(uid);
-        } else {
-            if (!m_reported.contains(uid))
-                qCWarning(calendarLog, "the calendar %s cannot be opened: %s", qUtf8Printable(uid),
-                          qUtf8Printable(one.call.error().message()));
-            m_reported.insert(uid);
-            one.calendar.path.clear();
+    for (const EvolutionSource &source : sources) {
+        const auto opening = m_opening.find(source.uid);
+        if (opening != m_opening.end() && opening->second.call.isFinished()) {
+            finish(opening->second);
+            m_opening.erase(opening);
         }
-        all.append(one.calendar);
+        EvolutionCalendar calendar = m_open.value(source.uid);
+        calendar.source = source;
+        all.append(calendar);
     }
     return all;
+}
+
+void EvolutionBus::finish(const Opening &opening)
+{
+    const QString &uid = opening.calendar.source.uid;
+    if (!opening.call.isError()) {
+        m_open.insert(uid, opening.calendar);
+        m_reported.remove(uid);
+        return;
+    }
+    if (!m_reported.contains(uid))
+        qCWarning(calendarLog, "the calendar %s cannot be opened: %s", qUtf8Printable(uid),
+                  qUtf8Printable(opening.call.error().message()));
+    m_reported.insert(uid);
+}
+
+QHash<QString, QList<QByteArray>> EvolutionBus::objects(const QList<EvolutionCalendar> &calendars,
+                                                        const QString &question)
+{
+    QList<QDBusPendingCall> asked;
+    for (const EvolutionCalendar &calendar : calendars) {
+        if (m_waiting.contains(calendar.path))
+            continue;
+        asked.append(call(calendar, QStringLiteral("GetObjectList"), {question}));
+        m_waiting.insert(calendar.path, asked.constLast());
+    }
+    awaitNew(asked);
+    QHash<QString, QList<QByteArray>> found;
+    for (const EvolutionCalendar &calendar : calendars) {
+        const auto waiting = m_waiting.find(calendar.path);
+        if (!waiting->isFinished())
+            continue;
+        if (const auto answer = texts(calendar, *waiting))
+            found.insert(calendar.source.uid, *answer);
+        m_waiting.erase(waiting);
+    }
+    return found;
 }
 
 bool EvolutionBus::isWritable(const EvolutionCalendar &calendar) const

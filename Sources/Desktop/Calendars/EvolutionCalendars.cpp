@@ -92,13 +92,11 @@ void EvolutionCalendars::addSeries(const EvolutionCalendar &calendar, const QStr
     }
 }
 
-IcalFound EvolutionCalendars::read(const EvolutionCalendar &calendar,
-                                   const std::optional<QList<QByteArray>> &texts, const IcalRange &range)
+IcalFound EvolutionCalendars::read(const EvolutionCalendar &calendar, const QList<QByteArray> &texts,
+                                   const IcalRange &range)
 {
     m_unread.insert(calendar.source.uid, calendar.source);
-    if (!texts)
-        return {};
-    IcalTexts known{calendar.source.uid, false, *texts, {}, {}};
+    IcalTexts known{calendar.source.uid, false, texts, {}, {}};
     const auto look = [&] { return m_reader.read({known}, range).first(); };
     IcalFound found = look();
     if (!found.series.isEmpty()) {
@@ -124,20 +122,36 @@ QStringList EvolutionCalendars::unread()
     return names;
 }
 
+/// One that does not answer, or not yet, has what it had before.
+QList<IcalFound> EvolutionCalendars::readAll(const QList<EvolutionCalendar> &calendars,
+                                             const QString &question, const IcalRange &range)
+{
+    const auto texts = m_bus.objects(calendars, question);
+    QList<IcalFound> all;
+    for (const EvolutionCalendar &calendar : calendars) {
+        const QString &uid = calendar.source.uid;
+        const auto answer = texts.constFind(uid);
+        if (answer != texts.cend())
+            m_known.insert(uid, read(calendar, *answer, range));
+        else
+            m_unread.insert(uid, calendar.source);
+        all.append(m_known.value(uid));
+    }
+    return all;
+}
+
 std::optional<CalendarStore::Events> EvolutionCalendars::events(const IcalRange &range)
 {
     const auto calendars = open(false);
     if (!calendars)
         return std::nullopt;
-    std::vector<QDBusPendingCall> calls;
-    for (const EvolutionCalendar &calendar : *calendars)
-        calls.push_back(m_bus.call(calendar, QStringLiteral("GetObjectList"), {questionFor(range)}));
+    const QList<IcalFound> all = readAll(*calendars, questionFor(range), range);
     CalendarStore::Events found;
-    for (std::size_t i = 0; i < calls.size(); ++i) {
-        const EvolutionCalendar &calendar = calendars->at(static_cast<qsizetype>(i));
-        const auto texts = m_bus.texts(calendar, calls[i]);
-        for (CalendarEvent event : read(calendar, texts, range).events) {
-            event.color = calendar.source.color;
+    for (qsizetype i = 0; i < all.size(); ++i) {
+        for (CalendarEvent event : all.at(i).events) {
+            if (!range.overlaps(event.start, event.end))
+                continue;
+            event.color = calendars->at(i).source.color;
             found.append(event);
         }
     }
@@ -149,17 +163,12 @@ std::optional<CalendarStore::Tasks> EvolutionCalendars::openTasks()
     const auto lists = open(true);
     if (!lists)
         return std::nullopt;
-    std::vector<QDBusPendingCall> calls;
-    for (const EvolutionCalendar &list : *lists)
-        calls.push_back(
-            m_bus.call(list, QStringLiteral("GetObjectList"), {QStringLiteral("(not (is-completed?))")}));
     const QDateTime now = QDateTime::currentDateTimeUtc();
+    const QList<IcalFound> all = readAll(*lists, QStringLiteral("(not (is-completed?))"), {now, now});
     CalendarStore::Tasks found;
-    for (std::size_t i = 0; i < calls.size(); ++i) {
-        const EvolutionCalendar &list = lists->at(static_cast<qsizetype>(i));
-        const auto texts = m_bus.texts(list, calls[i]);
-        for (CalendarTask task : read(list, texts, {now, now}).tasks) {
-            task.color = list.source.color;
+    for (qsizetype i = 0; i < all.size(); ++i) {
+        for (CalendarTask task : all.at(i).tasks) {
+            task.color = lists->at(i).source.color;
             found.append(task);
         }
     }

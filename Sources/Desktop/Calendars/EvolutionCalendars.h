@@ -11,9 +11,9 @@ namespace Kestrune {
 class EvolutionCalendars : public CalendarSource
 {
 public:
-    /// `helper` is the program that reads what the server sends.
-    EvolutionCalendars(const QDBusConnection &bus, const QString &helper)
-        : m_bus(bus)
+    /// `helper` is the program that reads what the server sends; `patience` is that of EvolutionBus.
+    EvolutionCalendars(const QDBusConnection &bus, const QString &helper, std::chrono::milliseconds patience)
+        : m_bus(bus, patience)
         , m_reader(helper)
     {}
 
@@ -26,8 +26,9 @@ public:
 
 private:
     std::optional<QList<EvolutionCalendar>> open(bool taskLists);
-    IcalFound read(const EvolutionCalendar &calendar, const std::optional<QList<QByteArray>> &texts,
-                   const IcalRange &range);
+    QList<IcalFound> readAll(const QList<EvolutionCalendar> &calendars, const QString &question,
+                             const IcalRange &range);
+    IcalFound read(const EvolutionCalendar &calendar, const QList<QByteArray> &texts, const IcalRange &range);
     void addSeries(const EvolutionCalendar &calendar, const QStringList &uids, IcalTexts &texts);
     bool addZones(const EvolutionCalendar &calendar, const QList<QByteArray> &names, IcalTexts &texts);
 
@@ -35,6 +36,7 @@ private:
     HelperCalendars m_reader;
     QHash<QString, bool> m_reported;         ///< Calendars of which the log says that they take too much.
     QMap<QString, EvolutionSource> m_unread; ///< By uid; at the last look.
+    QHash<QString, IcalFound> m_known;       ///< What was found last in each calendar, by uid.
     bool m_failed = false;                   ///< The last attempt to reach it.
     QHash<QString, QByteArray> m_zones;      ///< Definitions by calendar and name.
 };

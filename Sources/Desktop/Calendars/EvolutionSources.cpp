@@ -1,5 +1,7 @@
 #include "EvolutionSources.h"
 
+#include "CalendarColor.h"
+
 #include <QHash>
 #include <QLocale>
 
@@ -68,7 +70,8 @@ QList<EvolutionSource> enabledSources(const QList<EvolutionKeyFile> &files)
             if (values.contains(kind) && isOn(values, kind + QStringLiteral("/Selected")) &&
                 isEnabled(file.uid))
                 sources.append({file.uid, kind == tasks,
-                                QColor(values.value(kind + QStringLiteral("/Color"))), nameIn(values)});
+                                calendarColor(values.value(kind + QStringLiteral("/Color"))),
+                                nameIn(values)});
         }
     }
     std::ranges::sort(sources, {}, &EvolutionSource::uid);

@@ -1,5 +1,6 @@
 #include "FolderCalendars.h"
 
+#include "CalendarColor.h"
 #include "Log.h"
 
 #include <QDir>
@@ -48,14 +49,11 @@ QString nameOf(const QString &folder)
     return name.isEmpty() ? QFileInfo(folder).fileName() : name;
 }
 
-/// The colour that the folder's file names; invalid without one. Some programs add the opacity.
+/// The colour that the folder's file names; invalid without one.
 QColor colorOf(const QString &folder)
 {
-    constexpr qint64 kLongest = 32;
-    QString name = QString::fromLatin1(beginOf(folder + QStringLiteral("/color"), kLongest)).trimmed();
-    if (name.startsWith(QLatin1Char('#')) && name.size() == 9)
-        name.truncate(7);
-    return QColor::isValidColorName(name) ? QColor(name) : QColor();
+    constexpr qint64 kLongest = 64;
+    return calendarColor(QString::fromLatin1(beginOf(folder + QStringLiteral("/color"), kLongest)));
 }
 
 struct Names

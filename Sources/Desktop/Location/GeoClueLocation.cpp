@@ -1,7 +1,9 @@
 #include "GeoClueLocation.h"
 
+#include <QFile>
 #include <QGeoPositionInfoSource>
 #include <QLoggingCategory>
+#include <QStandardPaths>
 
 #include <chrono>
 
@@ -46,7 +48,17 @@ public:
         m_source->requestUpdate(static_cast<int>(kLongest.count()));
     }
 
+    /// The plugin leaves the last fix, to the metre, in a file that all programs of the user share.
+    ~Fix() override
+    {
+        delete m_source;
+        QFile::remove(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                      QLatin1String("/qtposition-geoclue2"));
+    }
+
 private:
+    Q_DISABLE_COPY_MOVE(Fix)
+
     void take(const QGeoPositionInfo &info)
     {
         const QGeoCoordinate found = info.coordinate();

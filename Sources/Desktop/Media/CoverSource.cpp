@@ -3,6 +3,7 @@
 #include "Log.h"
 #include "NotchKit/Platform/PlayerScripts.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QUrl>
 
@@ -49,6 +50,13 @@ ScriptOutcome decodeData(const QString &address)
 }
 
 } // namespace
+
+QString CoverSource::identify(const QString &address)
+{
+    if (address.isEmpty())
+        return {};
+    return QString::fromLatin1(QCryptographicHash::hash(address.toUtf8(), QCryptographicHash::Sha1).toHex());
+}
 
 ScriptOutcome CoverSource::read(const QString &address)
 {

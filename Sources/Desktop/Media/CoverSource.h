@@ -12,4 +12,7 @@ constexpr qsizetype kLongestAddress = 16'384;
 /// file and for more bytes than a cover may have. Any thread; reads the file.
 ScriptOutcome read(const QString &address);
 
+/// A short text for the address; empty without one. Any thread; looks at no file.
+QString identify(const QString &address);
+
 } // namespace Kestrune::CoverSource

@@ -1,14 +1,10 @@
 #include "MprisBus.h"
 
+#include "Desktop/Bus/PendingCalls.h"
 #include "Log.h"
 #include "MprisNames.h"
 
-#include <QDBusPendingCallWatcher>
-#include <QEventLoop>
-#include <QTimer>
 #include <QUuid>
-
-#include <vector>
 
 namespace Kestrune {
 
@@ -35,24 +31,7 @@ QDBusMessage makeQuestion(const QString &busName)
     return question;
 }
 
-/// Waits until all calls have been answered or patience is at its end.
-void await(const QList<QDBusPendingCall> &calls)
-{
-    if (calls.isEmpty())
-        return;
-    QEventLoop loop;
-    qsizetype open = calls.size();
-    std::vector<std::unique_ptr<QDBusPendingCallWatcher>> watchers;
-    for (const QDBusPendingCall &call : calls) {
-        watchers.push_back(std::make_unique<QDBusPendingCallWatcher>(call));
-        QObject::connect(watchers.back().get(), &QDBusPendingCallWatcher::finished, &loop, [&] {
-            if (--open == 0)
-                loop.quit();
-        });
-    }
-    QTimer::singleShot(MprisBus::kPatience, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec();
-}
+void await(const QList<QDBusPendingCall> &calls) { PendingCalls::await(calls, MprisBus::kPatience); }
 
 } // namespace
 
@@ -89,14 +68,17 @@ QStringList MprisBus::names()
 
 QHash<QString, QDBusMessage> MprisBus::properties(const QStringList &busNames)
 {
-    m_unanswered.removeIf([](const auto &unanswered) { return unanswered.value().isFinished(); });
     QHash<QString, QDBusPendingCall> asked;
-    for (const QString &name : busNames) {
-        if (!m_unanswered.contains(name))
-            asked.insert(name, bus().asyncCall(makeQuestion(name), kBusTimeout));
-    }
-    await(asked.values());
     QHash<QString, QDBusMessage> replies;
+    for (const QString &name : busNames) {
+        const auto unanswered = m_unanswered.constFind(name);
+        if (unanswered == m_unanswered.cend())
+            asked.insert(name, bus().asyncCall(makeQuestion(name), kBusTimeout));
+        else if (unanswered->isFinished())
+            replies.insert(name, unanswered->reply());
+    }
+    m_unanswered.removeIf([](const auto &unanswered) { return unanswered.value().isFinished(); });
+    await(asked.values());
     for (auto call = asked.cbegin(); call != asked.cend(); ++call) {
         if (call->isFinished()) {
             replies.insert(call.key(), call->reply());
@@ -108,9 +90,11 @@ QHash<QString, QDBusMessage> MprisBus::properties(const QStringList &busNames)
     return replies;
 }
 
-void MprisBus::call(const QString &busName, const QString &method)
+void MprisBus::call(const QString &busName, const QString &method, const QVariantList &arguments)
 {
-    await({bus().asyncCall(makeCall(busName, "org.mpris.MediaPlayer2.Player", method), kBusTimeout)});
+    QDBusMessage call = makeCall(busName, "org.mpris.MediaPlayer2.Player", method);
+    call.setArguments(arguments);
+    await({bus().asyncCall(call, kBusTimeout)});
 }
 
 } // namespace Kestrune

@@ -12,8 +12,8 @@ namespace Kestrune {
 
 /// Calls the media players over a connection of its own, made by the first call, and waits for the answers,
 /// but for none of them longer than a moment. A player that has not answered gets no further question until
-/// it has, or until the bus has given it up, and is not waited for again. Belongs to one thread at a time,
-/// which need not be the one that made it.
+/// it has, or until the bus has given it up, and is not waited for again; what it answers late counts at the
+/// next look. Belongs to one thread at a time, which need not be the one that made it.
 class MprisBus
 {
 public:
@@ -32,8 +32,8 @@ public:
     /// each. Those that do not answer are left out.
     QHash<QString, QDBusMessage> properties(const QStringList &busNames);
 
-    /// Calls a method of a player without arguments.
-    void call(const QString &busName, const QString &method);
+    /// Calls a method of a player.
+    void call(const QString &busName, const QString &method, const QVariantList &arguments = {});
 
 private:
     QDBusConnection &bus();

@@ -12,14 +12,16 @@ constexpr auto kLongest = 3s; // Players are not waited for as long; a cover's f
 
 } // namespace
 
-MprisExecutor::MprisExecutor(const QString &address)
-    : m_scripts([address] { return std::make_unique<MprisScripts>(address); })
+MprisExecutor::MprisExecutor(const QString &address, Ignored ignored)
+    : m_ignored(std::move(ignored))
+    , m_scripts([address] { return std::make_unique<MprisScripts>(address); })
 {}
 
 QFuture<ScriptOutcome> MprisExecutor::execute(const QString &source)
 {
-    return m_worker.run(kLongest, [scripts = m_scripts, source] {
-        return scripts.use([&](MprisScripts &player) { return player.execute(source); });
+    const QStringList ignored = m_ignored ? m_ignored() : QStringList();
+    return m_worker.run(kLongest, [scripts = m_scripts, source, ignored] {
+        return scripts.use([&](MprisScripts &player) { return player.execute(source, ignored); });
     });
 }
 

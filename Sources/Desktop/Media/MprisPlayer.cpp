@@ -3,10 +3,13 @@
 #include "CoverSource.h"
 
 #include <QDBusArgument>
+#include <QDBusObjectPath>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QUrl>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Kestrune {
 
@@ -54,6 +57,16 @@ MprisState::Playback playbackOf(const QString &status)
 /// Players disagree on the type of a time.
 qint64 timeOf(const QVariant &value) { return std::max<qint64>(value.toLongLong(), 0); }
 
+/// Some tell the object's path as a text.
+QString pathOf(const QVariant &value)
+{
+    const bool isPath = value.userType() == qMetaTypeId<QDBusObjectPath>();
+    const QString path = isPath ? value.value<QDBusObjectPath>().path() : value.toString();
+    const bool isNone = path == QLatin1String("/org/mpris/MediaPlayer2/TrackList/NoTrack");
+    static const QRegularExpression form(QStringLiteral("^(/[A-Za-z0-9_]+)+$"));
+    return path.size() <= kLongestTag && form.match(path).hasMatch() && !isNone ? path : QString();
+}
+
 QString inSeconds(qint64 microseconds)
 {
     return QString::number(static_cast<double>(microseconds) / 1e6, 'f', 3);
@@ -75,18 +88,28 @@ std::optional<MprisState> MprisState::of(const QString &busName, const QDBusMess
     state.cover = song.value(QStringLiteral("mpris:artUrl")).toString();
     state.length = timeOf(song.value(QStringLiteral("mpris:length")));
     state.position = timeOf(properties.value(QStringLiteral("Position")));
+    const double rate = properties.value(QStringLiteral("Rate")).toDouble();
+    state.rate = rate > 0 && std::isfinite(rate) ? rate : 1;
+    if (state.length > 0 && properties.value(QStringLiteral("CanSeek")).toBool())
+        state.seekableTrack = pathOf(song.value(QStringLiteral("mpris:trackid")));
     return state;
 }
 
-QString MprisState::toStatus(MediaPlayer player) const
+QString MprisState::toStatus(MediaPlayer player, const QString &coverIdentity) const
 {
     if (!hasSong())
         return QString();
     const QString duration = player == MediaPlayer::spotify ? QString::number(length / 1000)
                                                             : inSeconds(length); // as each counts it
-    const QStringList lines{playback == Playback::playing ? QStringLiteral("playing")
-                                                          : QStringLiteral("paused"),
-                            title, artist, duration, inSeconds(position)};
+    namespace Line = PlayerScripts::StatusLine;
+    QStringList lines{playback == Playback::playing ? QStringLiteral("playing") : QStringLiteral("paused"),
+                      title, artist, duration, inSeconds(position)};
+    if (!coverIdentity.isEmpty())
+        lines.append(QLatin1String(Line::kCover) + coverIdentity);
+    if (rate != 1)
+        lines.append(QLatin1String(Line::kRate) + QString::number(rate));
+    if (!seekableTrack.isEmpty())
+        lines.append(QLatin1String(Line::kSeekable));
     return lines.join(QLatin1Char('\n'));
 }
 

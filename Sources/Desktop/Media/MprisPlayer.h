@@ -14,11 +14,13 @@ struct MprisState
 
     QString busName;
     Playback playback = Playback::stopped;
-    QString title;       ///< Of the song; where it has none, the name of its file or of the player.
-    QString artist;      ///< Several are listed.
-    QString cover;       ///< The address of its cover.
-    qint64 length = 0;   ///< Microseconds.
-    qint64 position = 0; ///< Microseconds.
+    QString title;         ///< Of the song; where it has none, the name of its file or of the player.
+    QString artist;        ///< Several are listed.
+    QString cover;         ///< The address of its cover.
+    qint64 length = 0;     ///< Microseconds.
+    qint64 position = 0;   ///< Microseconds.
+    double rate = 1;       ///< Seconds of the song that a second plays.
+    QString seekableTrack; ///< The object path of the song, where its position can be set.
 
     /// Whether there is a song to show.
     bool hasSong() const { return playback != Playback::stopped; }
@@ -28,8 +30,9 @@ struct MprisState
     static std::optional<MprisState> of(const QString &busName, const QDBusMessage &reply);
 
     /// As the status script tells it: a line for the state, the title, the artist, the length and the
-    /// position; empty without a song.
-    QString toStatus(MediaPlayer player) const;
+    /// position, and those of StatusLine that say something; empty without a song. `coverIdentity` is that of
+    /// its cover.
+    QString toStatus(MediaPlayer player, const QString &coverIdentity = {}) const;
 };
 
 } // namespace Kestrune

@@ -6,9 +6,12 @@
 #include "NotchKit/Platform/PlayerScripts.h"
 
 #include <QDBusError>
+#include <QDBusObjectPath>
 #include <QHash>
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace Kestrune {
 
@@ -45,6 +48,26 @@ const QHash<QString, Script> &scripts()
     return table;
 }
 
+/// The same song: one of the two may know no artist.
+bool isSameSong(const MprisState &one, const MprisState &other)
+{
+    const bool isSameArtist = one.artist == other.artist || one.artist.isEmpty() || other.artist.isEmpty();
+    return one.title == other.title && isSameArtist;
+}
+
+/// A browser's own word for what the desktop's extension tells of better.
+void removeEchoes(std::vector<MprisState> &states)
+{
+    std::vector<MprisState> better;
+    std::ranges::copy_if(states, std::back_inserter(better), [](const MprisState &state) {
+        return MprisNames::isBrowserIntegration(state.busName) && state.hasSong();
+    });
+    std::erase_if(states, [&](const MprisState &state) {
+        const auto isSame = [&](const MprisState &other) { return isSameSong(state, other); };
+        return MprisNames::isBrowser(state.busName) && std::ranges::any_of(better, isSame);
+    });
+}
+
 bool isRefusal(const QDBusMessage &reply)
 {
     return reply.type() == QDBusMessage::ErrorMessage && QDBusError(reply).type() == QDBusError::AccessDenied;
@@ -52,14 +75,18 @@ bool isRefusal(const QDBusMessage &reply)
 
 } // namespace
 
-ScriptOutcome MprisScripts::execute(const QString &source)
+ScriptOutcome MprisScripts::execute(const QString &source, const QStringList &ignored)
 {
+    if (const auto target = PlayerScripts::parseSeek(source)) {
+        seek(target->first, target->second);
+        return QString();
+    }
     const auto script = scripts().constFind(source);
     if (script == scripts().cend())
         return ScriptFailed();
     switch (script->kind) {
     case Script::Kind::status:
-        return status(script->player);
+        return status(script->player, ignored);
     case Script::Kind::artwork:
         return artwork(script->player);
     case Script::Kind::command:
@@ -69,32 +96,37 @@ ScriptOutcome MprisScripts::execute(const QString &source)
     return ScriptFailed();
 }
 
-ScriptOutcome MprisScripts::status(MediaPlayer player)
+ScriptOutcome MprisScripts::status(MediaPlayer player, const QStringList &ignored)
 {
     QStringList names = m_bus.names();
     std::erase_if(m_deeds, [&](const auto &deed) { return !names.contains(deed.first); });
-    names.removeIf([&](const QString &name) { return MprisNames::playerOf(name) != player; });
+    names.removeIf([&](const QString &name) {
+        return MprisNames::playerOf(name) != player || MprisNames::isIgnored(name, ignored);
+    });
     const QHash<QString, QDBusMessage> replies = m_bus.properties(names);
-    std::optional<MprisState> best;
-    bool answered = false;
+    std::vector<MprisState> states;
     bool refused = false;
     for (const QString &name : std::as_const(names)) {
         const QDBusMessage reply = replies.value(name);
         refused = refused || isRefusal(reply);
         const auto state = MprisState::of(name, reply);
-        if (!state)
-            continue;
-        answered = true;
-        noteDeed(*state);
-        if (state->hasSong() && (!best || isBetter(*state, *best)))
+        if (state)
+            states.push_back(*state);
+    }
+    const bool answered = !states.empty();
+    removeEchoes(states);
+    std::optional<MprisState> best;
+    for (const MprisState &state : states) {
+        noteDeed(state);
+        if (state.hasSong() && (!best || isBetter(state, *best)))
             best = state;
     }
     if (best) {
-        if (QString &chosen = m_chosen[player]; chosen != best->busName) {
-            chosen = best->busName;
-            qCInfo(playersLog, "followed: %s", qUtf8Printable(chosen));
-        }
-        return best->toStatus(player);
+        MprisState &chosen = m_chosen[player];
+        if (chosen.busName != best->busName)
+            qCInfo(playersLog, "followed: %s", qUtf8Printable(best->busName));
+        chosen = *best;
+        return best->toStatus(player, CoverSource::identify(best->cover));
     }
     if (m_chosen.erase(player) > 0)
         qCInfo(playersLog, "none followed any more");
@@ -125,8 +157,8 @@ ScriptOutcome MprisScripts::artwork(MediaPlayer player)
     const auto chosen = m_chosen.find(player);
     if (chosen == m_chosen.end())
         return ScriptFailed();
-    const auto state =
-        MprisState::of(chosen->second, m_bus.properties({chosen->second}).value(chosen->second));
+    const QString &name = chosen->second.busName;
+    const auto state = MprisState::of(name, m_bus.properties({name}).value(name));
     if (!state)
         return ScriptFailed();
     if (player == MediaPlayer::spotify)
@@ -138,7 +170,19 @@ void MprisScripts::command(MediaPlayer player, const QString &method)
 {
     const auto chosen = m_chosen.find(player);
     if (chosen != m_chosen.end())
-        m_bus.call(chosen->second, method);
+        m_bus.call(chosen->second.busName, method);
+}
+
+/// In the song that the user saw: a player passes over the path of another one.
+void MprisScripts::seek(MediaPlayer player, double position)
+{
+    const auto chosen = m_chosen.find(player);
+    if (chosen == m_chosen.end() || chosen->second.seekableTrack.isEmpty())
+        return;
+    const auto length = static_cast<double>(chosen->second.length);
+    const auto microseconds = static_cast<qint64>(std::clamp(position * 1e6, 0.0, length));
+    m_bus.call(chosen->second.busName, QStringLiteral("SetPosition"),
+               {QVariant::fromValue(QDBusObjectPath(chosen->second.seekableTrack)), microseconds});
 }
 
 } // namespace Kestrune

@@ -21,6 +21,21 @@ QString quotedForExec(QString path)
     return QLatin1Char('"') + path + QLatin1Char('"');
 }
 
+/// The program of an Exec line's value; empty where it names none.
+QString programIn(QString value)
+{
+    value.replace(QLatin1String("\\\\"), QLatin1String("\\"));
+    if (!value.startsWith(QLatin1Char('"')))
+        return value.section(QLatin1Char(' '), 0, 0, QString::SectionSkipEmpty);
+    QString program;
+    for (qsizetype i = 1; i < value.size() && value.at(i) != QLatin1Char('"'); ++i) {
+        if (value.at(i) == QLatin1Char('\\'))
+            ++i;
+        program += value.mid(i, 1);
+    }
+    return program.replace(QLatin1String("%%"), QLatin1String("%"));
+}
+
 bool switchesOff(const QString &line)
 {
     const QString compact = line.simplified().remove(QLatin1Char(' '));
@@ -46,6 +61,23 @@ bool AutostartLoginItem::isEnabled() const
             return false;
     }
     return true;
+}
+
+void AutostartLoginItem::repair()
+{
+    constexpr qint64 kLongest = 65'536; // Bytes.
+    QFile file(m_path);
+    if (!isEnabled() || !file.open(QIODevice::ReadOnly))
+        return;
+    const QString exec = QStringLiteral("Exec=");
+    for (const QString &line : QString::fromUtf8(file.read(kLongest)).split(QLatin1Char('\n'))) {
+        if (!line.startsWith(exec))
+            continue;
+        const QString program = programIn(line.mid(exec.size()).trimmed());
+        if (QStandardPaths::findExecutable(program).isEmpty())
+            setEnabled(true);
+        return;
+    }
 }
 
 std::optional<QString> AutostartLoginItem::setEnabled(bool enabled)

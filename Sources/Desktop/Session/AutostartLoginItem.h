@@ -14,6 +14,9 @@ public:
     bool isEnabled() const override;
     std::optional<QString> setEnabled(bool enabled) override;
 
+    /// Writes the entry anew where it names a program that is gone: the user moved this one.
+    void repair();
+
 private:
     QString m_executable;
     QString m_path;

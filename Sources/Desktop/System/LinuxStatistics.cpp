@@ -7,12 +7,18 @@
 #include <algorithm>
 #include <array>
 
+#include <linux/magic.h>
+#include <sys/statfs.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace Kestrune {
 
+using namespace std::chrono_literals;
+
 namespace {
+
+constexpr auto kLongest = 5s;
 
 /// Empty where the file cannot be read: some supplies are gone, or fail, between listing and reading.
 QByteArray contentOf(const QString &path)
@@ -85,6 +91,7 @@ PowerSource describe(const QString &battery, const Supplies &supplies)
             continue;
         source.currentCapacity = now;
         source.maxCapacity = full;
+        source.unit = *unit == 'c' ? PowerSource::Unit::charge : PowerSource::Unit::energy;
         break;
     }
     if (!source.maxCapacity) {
@@ -96,10 +103,51 @@ PowerSource describe(const QString &battery, const Supplies &supplies)
     return source;
 }
 
+std::optional<QList<PowerSource>> sourcesBelow(const QString &folder)
+{
+    if (!QDir(folder).exists())
+        return std::nullopt;
+    const Supplies supplies = suppliesBelow(folder);
+    QList<PowerSource> sources;
+    for (const QString &battery : supplies.batteries)
+        sources.append(describe(battery, supplies));
+    return sources;
+}
+
+/// Whether nobody keeps files there: an image, or a file system in memory or in layers over an image. For
+/// layers over a disk the user's own folder tells the same.
+bool isImage(const QByteArray &folder, const struct statvfs &volume)
+{
+    constexpr std::array<unsigned long, 6> kImages{SQUASHFS_MAGIC,       OVERLAYFS_SUPER_MAGIC,
+                                                   EROFS_SUPER_MAGIC_V1, TMPFS_MAGIC,
+                                                   RAMFS_MAGIC,          ISOFS_SUPER_MAGIC};
+    struct statfs kind
+    {};
+    if ((volume.f_flag & ST_RDONLY) != 0)
+        return true;
+    return statfs(folder.constData(), &kind) == 0 &&
+           std::ranges::find(kImages, static_cast<unsigned long>(kind.f_type)) != kImages.end();
+}
+
+VolumeCapacity capacityOf(const QByteArray &root, const QByteArray &home)
+{
+    struct statvfs volume
+    {};
+    if (statvfs(root.constData(), &volume) != 0)
+        return {};
+    struct statvfs files
+    {};
+    if (isImage(root, volume) && statvfs(home.constData(), &files) == 0)
+        volume = files;
+    const auto block = static_cast<double>(volume.f_frsize);
+    return {static_cast<double>(volume.f_bavail) * block, static_cast<double>(volume.f_blocks) * block};
+}
+
 } // namespace
 
-LinuxStatistics::LinuxStatistics(const QString &root)
+LinuxStatistics::LinuxStatistics(const QString &root, const QString &home)
     : m_root(root)
+    , m_home(home)
 {}
 
 std::optional<ProcessorTicks> LinuxStatistics::processorTicks()
@@ -133,26 +181,18 @@ std::optional<MemoryPages> LinuxStatistics::memoryPages()
 
 double LinuxStatistics::physicalMemory() { return static_cast<double>(memoryInfo(m_root)["MemTotal"]); }
 
-std::optional<QList<PowerSource>> LinuxStatistics::powerSources()
+QFuture<std::optional<QList<PowerSource>>> LinuxStatistics::powerSources()
 {
-    const QString folder = m_root + QLatin1String("/sys/class/power_supply");
-    if (!QDir(folder).exists())
-        return std::nullopt;
-    const Supplies supplies = suppliesBelow(folder);
-    QList<PowerSource> sources;
-    for (const QString &battery : supplies.batteries)
-        sources.append(describe(battery, supplies));
-    return sources;
+    return m_supplies.run(kLongest, [folder = m_root + QLatin1String("/sys/class/power_supply")] {
+        return sourcesBelow(folder);
+    });
 }
 
-VolumeCapacity LinuxStatistics::startupVolume()
+QFuture<VolumeCapacity> LinuxStatistics::startupVolume()
 {
-    struct statvfs volume
-    {};
-    if (statvfs(m_root.isEmpty() ? "/" : QFile::encodeName(m_root).constData(), &volume) != 0)
-        return {};
-    const auto block = static_cast<double>(volume.f_frsize);
-    return {static_cast<double>(volume.f_bavail) * block, static_cast<double>(volume.f_blocks) * block};
+    const QByteArray root = m_root.isEmpty() ? QByteArray("/") : QFile::encodeName(m_root);
+    return m_volumes.run(kLongest,
+                         [root, home = QFile::encodeName(m_home)] { return capacityOf(root, home); });
 }
 
 } // namespace Kestrune

@@ -5,6 +5,8 @@
 #include <QThread>
 #include <QWindow>
 
+#include <utility>
+
 namespace Kestrune {
 
 namespace {
@@ -37,7 +39,8 @@ PointerSample WaylandPointer::sample()
         m_dragging = m_down = false;
     if (m_restsAfterDrop.hasExpired())
         left(m_over);
-    return m_presses.sample({m_over ? m_seen : kOutside, m_down});
+    const bool comesPressed = std::exchange(m_comesPressed, false);
+    return m_presses.sample({m_over && !comesPressed ? m_seen : kOutside, m_down});
 }
 
 bool WaylandPointer::eventFilter(QObject *watched, QEvent *event)
@@ -53,6 +56,7 @@ bool WaylandPointer::eventFilter(QObject *watched, QEvent *event)
     case QEvent::DragEnter:
     case QEvent::DragMove:
         see(watched, static_cast<const QDropEvent &>(*event).position());
+        m_comesPressed = m_comesPressed || !m_down;
         m_down = true;
         break;
     case QEvent::Drop:

@@ -48,6 +48,7 @@ private:
     QPointF m_seen;
     const QObject *m_over = nullptr; ///< The panel that the pointer is over, or was pressed in and is held.
     bool m_down = false;             ///< The primary button.
+    bool m_comesPressed = false;     ///< By a drag that began elsewhere, as the next sample has to say.
     bool m_dragging = false;         ///< The button was taken away to a drag that began in a panel.
     /// After a drop some compositors tell of the pointer again only when it moves: until then it is taken to
     /// rest where it was, but not for ever.

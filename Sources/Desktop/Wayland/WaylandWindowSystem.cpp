@@ -4,6 +4,7 @@
 #include "Desktop/DataControl/DataControlPasteboard.h"
 #include "Desktop/Screens/ScreenDisplays.h"
 #include "Desktop/Shortcuts/MakePortalHotKeys.h"
+#include "NotchKit/Platform/FullScreenWindows.h"
 #include "NotchKit/Platform/HotKeys.h"
 #include "NotchKit/Platform/WindowSystem.h"
 #include "WaylandDragPasteboard.h"
@@ -26,6 +27,7 @@ public:
     HotKeys &hotKeys() override { return *m_hotKeys; }
     DragPasteboard &drags() override { return m_drags; }
     Pasteboard &pasteboard() override { return m_pasteboard; }
+    FullScreenWindows &fullScreenWindows() override { return m_fullScreenWindows; }
     bool pacesFrames() const override { return true; }
     std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> window, const QRectF &frame) override
     {
@@ -39,6 +41,7 @@ private:
     std::unique_ptr<HotKeys> m_hotKeys = makePortalHotKeys();
     WaylandDragPasteboard m_drags{m_pointer};
     DataControlPasteboard m_pasteboard;
+    NoFullScreenWindows m_fullScreenWindows; ///< The compositor lays them over the closed notch.
 };
 
 } // namespace

@@ -28,7 +28,7 @@ SelectionConnection::SelectionConnection(const QByteArray &display)
     if (!version)
         return;
     m_ownerEvent = static_cast<uint8_t>(extension->first_event + XCB_XFIXES_SELECTION_NOTIFY);
-    m_window = createWindow();
+    renewWindow();
 }
 
 SelectionConnection::~SelectionConnection() { xcb_disconnect(m_connection); }
@@ -36,6 +36,17 @@ SelectionConnection::~SelectionConnection() { xcb_disconnect(m_connection); }
 bool SelectionConnection::isAlive() const
 {
     return m_ownerEvent != 0 && xcb_connection_has_error(m_connection) == 0;
+}
+
+bool SelectionConnection::isLossOfWindow(const xcb_generic_event_t &event) const
+{
+    return event.response_type == XCB_DESTROY_NOTIFY &&
+           reinterpret_cast<const xcb_destroy_notify_event_t &>(event).window == m_window;
+}
+
+void SelectionConnection::renewWindow()
+{
+    m_window = createWindow(XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
 }
 
 SelectionConnection::Event SelectionConnection::nextEvent()
@@ -132,11 +143,12 @@ bool SelectionConnection::isOwn(xcb_window_t window) const
     return (window & ~setup->resource_id_mask) == setup->resource_id_base;
 }
 
-xcb_window_t SelectionConnection::createWindow()
+xcb_window_t SelectionConnection::createWindow() { return createWindow(XCB_EVENT_MASK_PROPERTY_CHANGE); }
+
+xcb_window_t SelectionConnection::createWindow(uint32_t events)
 {
     const auto *screen = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data;
     const xcb_window_t window = xcb_generate_id(m_connection);
-    const uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_create_window(m_connection, 0, window, screen->root, -1, -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
                       screen->root_visual, XCB_CW_EVENT_MASK, &events);
     return window;

@@ -27,6 +27,11 @@ public:
     xcb_connection_t *get() const { return m_connection; }
     xcb_window_t window() const { return m_window; }
 
+    /// Whether the event tells that another client destroyed the window; then there has to be a new one, and
+    /// all that hung on the old one done again.
+    bool isLossOfWindow(const xcb_generic_event_t &event) const;
+    void renewWindow();
+
     /// The next event that has arrived, or null. Of those that other clients send only the answers to
     /// questions are among them: all else is the server's to tell.
     Event nextEvent();
@@ -61,6 +66,8 @@ public:
     void abandonWindow(xcb_window_t window, xcb_atom_t property);
 
 private:
+    xcb_window_t createWindow(uint32_t events);
+
     xcb_connection_t *m_connection;
     uint8_t m_ownerEvent = 0; ///< 0 without XFixes.
     xcb_window_t m_window = XCB_WINDOW_NONE;

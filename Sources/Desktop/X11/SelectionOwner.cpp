@@ -12,13 +12,24 @@ constexpr uint32_t kMostPairs = 64; // Of a request for several targets.
 
 void SelectionOwner::offer(const QList<PasteboardTypes::Form> &forms)
 {
-    m_since = m_x.serverTime();
-    m_taken = xcb_set_selection_owner(m_x.get(), m_x.window(), m_selection, m_since).sequence;
     m_forms.clear();
-    if (m_x.ownerOf(m_selection) != m_x.window())
-        return; // Another program was quicker.
     for (const auto &form : forms)
         m_forms.push_back({m_x.atom(form.target), m_x.atom(form.type), form.data});
+    takeSelection();
+}
+
+void SelectionOwner::offerAgain()
+{
+    if (!m_forms.empty())
+        takeSelection();
+}
+
+void SelectionOwner::takeSelection()
+{
+    m_since = m_x.serverTime();
+    m_taken = xcb_set_selection_owner(m_x.get(), m_x.window(), m_selection, m_since).sequence;
+    if (m_x.ownerOf(m_selection) != m_x.window())
+        m_forms.clear(); // Another program was quicker.
 }
 
 void SelectionOwner::handle(const xcb_generic_event_t &event)

@@ -18,6 +18,9 @@ public:
     /// Takes the selection for the content in these forms.
     void offer(const QList<PasteboardTypes::Form> &forms);
 
+    /// Takes the selection with a new window where it was held when the old one went.
+    void offerAgain();
+
     void handle(const xcb_generic_event_t &event);
 
     std::optional<IncrementalTransfers::Clock::time_point> deadline() const { return m_transfers.deadline(); }
@@ -31,6 +34,7 @@ private:
         QByteArray data;
     };
 
+    void takeSelection();
     void answer(const xcb_selection_request_event_t &request);
     bool isOurs(const xcb_selection_request_event_t &request) const;
     bool give(xcb_window_t reader, xcb_atom_t target, xcb_atom_t property);

@@ -57,4 +57,21 @@ xcb_atom_t atom(const QByteArray &name)
     return value;
 }
 
+QList<uint32_t> listOf(xcb_window_t window, const QByteArray &property, xcb_atom_t type)
+{
+    constexpr uint32_t most = 4096;
+    const auto cookie = xcb_get_property(connection(), false, window, atom(property), type, 0, most);
+    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection(), cookie, nullptr));
+    if (!reply || reply->format != 32)
+        return {};
+    const auto *values = static_cast<const uint32_t *>(xcb_get_property_value(reply.get()));
+    return {values, values + xcb_get_property_value_length(reply.get()) / int(sizeof *values)};
+}
+
+bool isOwn(xcb_window_t window)
+{
+    const auto *setup = xcb_get_setup(connection());
+    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
+}
+
 } // namespace Kestrune::X11

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 
 #include <cstdlib>
 #include <memory>
@@ -28,6 +29,13 @@ xcb_window_t root();
 
 /// The atom of that name; asked of the server once and remembered.
 xcb_atom_t atom(const QByteArray &name);
+
+/// What a property of a window lists, windows or atoms; nothing for another type or without the window. No
+/// more than a few thousand.
+QList<uint32_t> listOf(xcb_window_t window, const QByteArray &property, xcb_atom_t type);
+
+/// Whether it is one of Qt's windows.
+bool isOwn(xcb_window_t window);
 
 struct FreeReply
 {

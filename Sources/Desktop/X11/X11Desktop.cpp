@@ -107,18 +107,30 @@ bool X11Desktop::nativeEventFilter(const QByteArray &, void *message, qintptr *)
 
 namespace {
 
-std::optional<xcb_window_t> topmostManagedFrame()
+/// The window that a property of the root window names.
+xcb_window_t windowNamedBy(const char *name)
 {
-    constexpr uint32_t most = 4096;
-    const auto cookie = xcb_get_property(X11::connection(), false, X11::root(),
-                                         X11::atom("_NET_CLIENT_LIST_STACKING"), XCB_ATOM_WINDOW, 0, most);
+    return X11::listOf(X11::root(), name, XCB_ATOM_WINDOW).value(0, XCB_WINDOW_NONE);
+}
+
+/// As it calls itself; empty without one.
+QByteArray windowManager()
+{
+    constexpr uint32_t most = 64;
+    const xcb_window_t window = windowNamedBy("_NET_SUPPORTING_WM_CHECK");
+    const auto cookie = xcb_get_property(X11::connection(), false, window, X11::atom("_NET_WM_NAME"),
+                                         X11::atom("UTF8_STRING"), 0, most);
     const X11::Reply<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(X11::connection(), cookie, nullptr));
-    const int count = reply ? xcb_get_property_value_length(reply.get()) / int(sizeof(xcb_window_t)) : 0;
-    if (count == 0)
-        return std::nullopt;
-    const auto *windows = static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
-    return frameOf(windows[count - 1]);
+    return reply ? QByteArray(static_cast<const char *>(xcb_get_property_value(reply.get())),
+                              xcb_get_property_value_length(reply.get()))
+                 : QByteArray();
+}
+
+std::optional<xcb_window_t> topmostManagedFrame()
+{
+    const auto windows = X11Desktop::managedWindows();
+    return windows.isEmpty() ? std::nullopt : frameOf(windows.constLast());
 }
 
 /// The root window's children from the bottom up.
@@ -128,6 +140,23 @@ std::span<const xcb_window_t> childrenOf(const xcb_query_tree_reply_t &tree)
 }
 
 } // namespace
+
+bool X11Desktop::givesKeyboard() { return !X11::isGuest() || windowManager() != "KWin"; }
+
+bool X11Desktop::hasActiveWindow()
+{
+    // Mutter names a window of its own while one of Wayland is active. What is managed has a state.
+    const xcb_window_t active = windowNamedBy("_NET_ACTIVE_WINDOW");
+    return active != XCB_WINDOW_NONE && !X11::listOf(active, "WM_STATE", X11::atom("WM_STATE")).isEmpty();
+}
+
+QList<xcb_window_t> X11Desktop::managedWindows()
+{
+    const auto all = X11::listOf(X11::root(), "_NET_CLIENT_LIST_STACKING", XCB_ATOM_WINDOW);
+    const xcb_window_t active = windowNamedBy("_NET_ACTIVE_WINDOW");
+    // Xfce's does not list the only window that there is.
+    return all.isEmpty() && active != XCB_WINDOW_NONE ? QList{active} : all;
+}
 
 std::optional<xcb_window_t> X11Desktop::managedFrameAbove(xcb_window_t window)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractNativeEventFilter>
+#include <QList>
 #include <QObject>
 #include <QRect>
 
@@ -22,6 +23,17 @@ public:
 
     /// A compositor runs, so that transparent pixels show what lies beneath.
     bool hasCompositor() const { return m_hasCompositor; }
+
+    /// Whether a window that no window manager knows gets what is typed once it has the focus. KWin, which
+    /// the program is a guest of, would send the keys to nobody.
+    static bool givesKeyboard();
+
+    /// Whether the window manager says that one of its windows is active; of a guest's it is none while a
+    /// window of Wayland is.
+    static bool hasActiveWindow();
+
+    /// What the window manager manages, from the bottom up.
+    static QList<xcb_window_t> managedWindows();
 
     /// The top-level X window that holds the topmost managed window, if it is above `window`.
     static std::optional<xcb_window_t> managedFrameAbove(xcb_window_t window);

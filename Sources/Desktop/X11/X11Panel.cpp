@@ -257,9 +257,10 @@ void X11Panel::applyOutline()
 void X11Panel::makeKey()
 {
     const xcb_window_t current = focusWindow();
-    if (current == id())
+    if (current == id() || !X11Desktop::givesKeyboard())
         return;
-    m_focusBefore = current;
+    const bool isOfX11 = !X11::isGuest() || X11Desktop::hasActiveWindow();
+    m_focusBefore = isOfX11 ? current : xcb_window_t{XCB_WINDOW_NONE};
     focus(id());
 }
 
@@ -268,6 +269,12 @@ void X11Panel::resignKey()
     const xcb_window_t before = std::exchange(m_focusBefore, XCB_WINDOW_NONE);
     if (focusWindow() != id())
         return;
+    if (before == XCB_WINDOW_NONE && X11::isGuest() && m_window->isVisible()) {
+        // Mutter gives the keyboard back to a window of Wayland once the one that has it goes.
+        m_window->hide();
+        orderFront();
+        return;
+    }
     if (before == XCB_WINDOW_NONE || !focus(before))
         focus(XCB_INPUT_FOCUS_POINTER_ROOT);
 }

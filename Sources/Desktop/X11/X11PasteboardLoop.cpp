@@ -38,6 +38,11 @@ X11PasteboardLoop::X11PasteboardLoop(const QByteArray &display, PasteboardLink &
         qCWarning(clipboardLog, "no connection to the display, or one without XFixes");
         return;
     }
+    watchOwner();
+}
+
+void X11PasteboardLoop::watchOwner()
+{
     m_x.watchOwner(m_clipboard);
     m_ownerWindow = m_x.ownerOf(m_clipboard);
     m_since = m_x.serverTime();
@@ -59,6 +64,13 @@ bool X11PasteboardLoop::handleEvent()
         return false;
     if (m_x.isOwnerEvent(*event)) {
         ownerChanged(*event);
+        return true;
+    }
+    if (m_x.isLossOfWindow(*event)) {
+        qCInfo(clipboardLog, "another program destroyed the window of the clipboard");
+        m_x.renewWindow();
+        m_owner.offerAgain();
+        watchOwner();
         return true;
     }
     if (m_reader)

@@ -139,15 +139,19 @@ PointerSample X11Pointer::query() const
     return {X11::toPoints(reply->root_x, reply->root_y), (reply->mask & XCB_BUTTON_MASK_1) != 0};
 }
 
-QPointF X11Pointer::location() { return query().location; }
+QPointF X11Pointer::location()
+{
+    m_watching = true; // Whoever asks acts on it, and the next sample must not be older.
+    return query().location;
+}
 
 void X11Pointer::observe()
 {
     if (!m_watching && ++m_cached < kMostCached)
         return;
     PointerSample now = query();
-    if (m_drag)
-        now = {*m_drag, true};
+    if (m_drag) // Its press began elsewhere, which the first sample has to say.
+        now = {m_last.primaryDown ? *m_drag : kOutside, true};
     else if (m_away)
         now = {kOutside, now.primaryDown && !m_dropped};
     m_watching = now != m_last || now.primaryDown;

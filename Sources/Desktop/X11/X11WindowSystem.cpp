@@ -8,6 +8,7 @@
 #include "X11Connection.h"
 #include "X11Desktop.h"
 #include "X11DragPasteboard.h"
+#include "X11FullScreenWindows.h"
 #include "X11HotKeys.h"
 #include "X11Monitors.h"
 #include "X11Panel.h"
@@ -38,6 +39,7 @@ class System : public WindowSystem
 public:
     explicit System(const UserDefaults &defaults)
         : m_displays(defaults)
+        , m_fullScreenWindows(m_desktop)
         , m_hotKeys(makeHotKeys())
         , m_pasteboard(makePasteboard())
     {
@@ -49,6 +51,7 @@ public:
     HotKeys &hotKeys() override { return *m_hotKeys; }
     DragPasteboard &drags() override { return m_drags; }
     Pasteboard &pasteboard() override { return *m_pasteboard; }
+    FullScreenWindows &fullScreenWindows() override { return m_fullScreenWindows; }
     bool pacesFrames() const override { return false; }
     std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> window, const QRectF &frame) override
     {
@@ -60,6 +63,7 @@ private:
     X11Monitors m_monitors;
     ScreenDisplays m_displays;
     X11Pointer m_pointer;
+    X11FullScreenWindows m_fullScreenWindows;
     std::unique_ptr<HotKeys> m_hotKeys;
     X11DragPasteboard m_drags;
     std::unique_ptr<Pasteboard> m_pasteboard;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFuture>
 #include <QList>
 #include <QString>
 
@@ -38,25 +39,29 @@ struct MemoryPages
     bool operator==(const MemoryPages &) const = default;
 };
 
-/// A battery or another supply of power. Units are the supply's own, the same for both amounts.
+/// A battery or another supply of power.
 struct PowerSource
 {
+    /// What both amounts are counted in: charge (µAh), energy (µWh) or per cent of its own.
+    enum class Unit { charge, energy, percent };
+
     std::optional<qint64> currentCapacity;
     std::optional<qint64> maxCapacity;
     QString state; ///< kMains, or anything else.
+    Unit unit = Unit::percent;
 
     static constexpr auto kMains = "AC Power";
 };
 
-/// Bytes of the volume that the system starts from; nothing where it cannot be told.
+/// Bytes of a volume; nothing where it cannot be told.
 struct VolumeCapacity
 {
     std::optional<double> available; ///< To ordinary users.
     std::optional<double> total;
 };
 
-/// Figures of the machine. Main thread only; each costs a few microseconds, and is nothing where it cannot be
-/// read.
+/// Figures of the machine. Main thread only. What is answered at once costs a few microseconds; supplies and
+/// volumes can take their time, and are read elsewhere. Each is nothing where it cannot be read.
 class HostStatistics
 {
 public:
@@ -69,9 +74,11 @@ public:
     virtual double physicalMemory() = 0;
 
     /// The supplies that feed the machine itself, in their names' order.
-    virtual std::optional<QList<PowerSource>> powerSources() = 0;
+    virtual QFuture<std::optional<QList<PowerSource>>> powerSources() = 0;
 
-    virtual VolumeCapacity startupVolume() = 0;
+    /// The volume that the system starts from; where that is an image that nobody writes to, the one that
+    /// holds the user's files.
+    virtual QFuture<VolumeCapacity> startupVolume() = 0;
 };
 
 } // namespace Kestrune

@@ -19,6 +19,7 @@ class PictureReader;
 class RunningApplications;
 class ScreenCaptureQuery;
 class ScriptExecutor;
+class SessionLock;
 class SoundPlayer;
 class Thumbnails;
 class UserDefaults;
@@ -36,6 +37,7 @@ struct Platform
     RunningApplications &applications; ///< Knows the companion suite.
     RunningApplications &players;      ///< Knows the media players.
     LoginItem &loginItem;
+    SessionLock &lock;
     SoundPlayer &sounds;
     Workspace &workspace;
     FileSharing &sharing;
@@ -49,6 +51,7 @@ struct Platform
     CameraSession &camera;
     CalendarStore &calendars;
     QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
+    QString claudeConfig = {};       ///< Further folders of Claude Code's, parted by commas.
 };
 
 } // namespace Kestrune

@@ -17,6 +17,12 @@ QString verb(PlayerCommand command)
     return {};
 }
 
+QString seekTo(MediaPlayer player, const QString &position)
+{
+    return QStringLiteral(R"(tell application "%1" to set player position to %2)")
+        .arg(playerName(player), position);
+}
+
 } // namespace
 
 QString playerName(MediaPlayer player)
@@ -52,6 +58,23 @@ QString PlayerScripts::artwork(MediaPlayer player)
 QString PlayerScripts::command(PlayerCommand command, MediaPlayer player)
 {
     return QStringLiteral(R"(tell application "%1" to %2)").arg(playerName(player), verb(command));
+}
+
+QString PlayerScripts::seek(MediaPlayer player, double position)
+{
+    return seekTo(player, QString::number(position, 'f', 3));
+}
+
+std::optional<std::pair<MediaPlayer, double>> PlayerScripts::parseSeek(const QString &script)
+{
+    for (const MediaPlayer player : kMediaPlayers) {
+        const QString begin = seekTo(player, QString());
+        bool isNumber = false;
+        const double position = script.mid(begin.size()).toDouble(&isNumber);
+        if (script.startsWith(begin) && isNumber && script == seek(player, position))
+            return std::pair(player, position);
+    }
+    return std::nullopt;
 }
 
 } // namespace Kestrune

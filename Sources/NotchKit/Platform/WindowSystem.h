@@ -10,6 +10,7 @@ namespace Kestrune {
 
 class Displays;
 class DragPasteboard;
+class FullScreenWindows;
 class HotKeys;
 class Pasteboard;
 class Pointer;
@@ -26,6 +27,7 @@ public:
     virtual HotKeys &hotKeys() = 0;
     virtual DragPasteboard &drags() = 0;
     virtual Pasteboard &pasteboard() = 0;
+    virtual FullScreenWindows &fullScreenWindows() = 0;
 
     /// Whether a window is asked to draw once its display is ready for the next frame, and not before.
     virtual bool pacesFrames() const = 0;

@@ -74,6 +74,13 @@ Column {
             on: view.settings.showWithoutNotch
             onModified: on => view.settings.showWithoutNotch = on
         }
+        SwitchRow {
+            //: The closed notch; displays with a camera housing keep theirs.
+            title: qsTranslate("notch", "Hide over full-screen windows")
+            visible: view.controller.knowsFullScreenWindows
+            on: view.settings.hideOverFullScreen
+            onModified: on => view.settings.hideOverFullScreen = on
+        }
     }
     FormSection {
         width: view.width

@@ -6,6 +6,8 @@
 #include "Support/Fakes.h"
 #include "Support/TestRegistry.h"
 
+#include <chrono>
+
 /// What a test asks of a program that keeps calendars, whichever it is: calendars with items in them, the
 /// adapter that reads them, and a look at them with another program's eyes.
 struct CalendarStage
@@ -149,5 +151,6 @@ private:
     ChildProcess m_client{m_environment};
     int m_count = 0;
     Fakes::MemoryDefaults m_defaults;
-    DesktopCalendars m_store{m_bus.connection(), m_defaults, QStringLiteral(KESTRUNE_READER)};
+    DesktopCalendars m_store{m_bus.connection(), m_defaults, QStringLiteral(KESTRUNE_READER),
+                             std::chrono::minutes(1)};
 };

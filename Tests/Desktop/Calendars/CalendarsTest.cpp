@@ -1,4 +1,5 @@
 #include "Desktop/Calendars/CalendarStage.h"
+#include "Desktop/Calendars/SlowServer.h"
 #include "NotchKit/NotchSettings.h"
 #include "NotchKit/Tools/Calendar/CalendarModel.h"
 
@@ -100,6 +101,26 @@ private Q_SLOTS:
         QVERIFY2(ids(readEvents(*stage)) == ids(found), "an occurrence keeps its id");
     }
 
+    void colours_data() { adapters(); }
+    void colours()
+    {
+        const auto [evolution] = fetched<bool>();
+        const auto stage = makeStage(evolution);
+        QMap<QString, QColor> forms{{u"#f80"_s, 0xff8800},        {u"#11223344"_s, 0x112233},
+                                    {u"#f808"_s, 0xff8800},       {u"tomato"_s, 0xff6347},
+                                    {u"rgb(1, 2,3)"_s, 0x010203}, {u"rgba(100%, 0%, 20%, 0.5)"_s, 0xff0033},
+                                    {u"nonsense"_s, {}},          {u"rgb(1)"_s, {}}};
+        if (evolution) // The same reads both; it takes the server seconds to make a calendar.
+            forms.removeIf([](const auto &form) { return !form.key().startsWith(u"rgb"_s); });
+        for (auto form = forms.cbegin(); form != forms.cend(); ++form)
+            stage->create(u"Calendar"_s, vevent(form.key().toLatin1().toHex(), "DTSTART:20260328T120000Z"),
+                          form.key());
+        QMap<QString, QColor> found;
+        for (const CalendarEvent &event : readEvents(*stage))
+            found.insert(QString::fromLatin1(QByteArray::fromHex(event.title.toLatin1())), event.color);
+        QCOMPARE(found, forms);
+    }
+
     void tasks_data() { adapters(); }
     void tasks()
     {
@@ -198,6 +219,34 @@ private Q_SLOTS:
         switchOff(off, u"Data Source"_s);
         QTRY_COMPARE(readEvents(stage).size(), 0);
         QTRY_COMPARE(names(), QStringList());
+    }
+
+    void aSlowCalendarHoldsNobodyUp_data()
+    {
+        const auto row = columns<QString>();
+        for (const char *held : {"OpenCalendar", "Open", "GetObjectList"})
+            row(held, held);
+    }
+    void aSlowCalendarHoldsNobodyUp()
+    {
+        const auto [held] = fetched<QString>();
+        SlowServer server(held);
+        Fakes::MemoryDefaults defaults;
+        defaults.setObject(DesktopCalendars::sourceKey(), u"evolution"_s);
+        DesktopCalendars store(server.bus.connection(), defaults, QStringLiteral(KESTRUNE_READER), 50ms);
+        const auto titles = [&] {
+            const QDateTime from = utc(u"2026-03-28T10:00:00"_s);
+            const auto found = CalendarStage::wait(store.events(from, from.addDays(1)));
+            return each(found.value_or(CalendarStore::Events()), &CalendarEvent::title).join(u' ');
+        };
+        for (int i = 0; i < 3; ++i) {
+            QTRY_COMPARE(titles(), u"quick"_s);
+            QCOMPARE(CalendarStage::wait(store.unread()), QStringList{u"slow"_s});
+        }
+        QCOMPARE(server.waiting.size(), 1); // nothing piles up
+        server.letGo();
+        QTRY_COMPARE(titles(), u"quick slow"_s);
+        QCOMPARE(CalendarStage::wait(store.unread()), QStringList());
     }
 
     void damagedFilesAreSkipped()
@@ -360,6 +409,13 @@ private Q_SLOTS:
         QCOMPARE(names(), QStringList());
         defaults.setObject(DesktopCalendars::sourceKey(), u"folders"_s);
         QCOMPARE(names(), QStringList{u"file 28T12:00 28T12:00"_s});
+        stage.create(u"Calendar"_s, vevent("server", "DTSTART:20260328T130000Z"), u"red"_s);
+        const QString list = stage.create(u"Task List"_s, vtodo("task", "PRIORITY:1"), u"red"_s);
+        defaults.setObject(DesktopCalendars::sourceKey(), u"both"_s);
+        QCOMPARE(names(), (QStringList{u"file 28T12:00 28T12:00"_s, u"server 28T13:00 28T13:00"_s}));
+        const auto tasks = CalendarStage::wait(store.incompleteReminders()).value_or(CalendarStore::Tasks());
+        QVERIFY(tasks.size() == 1 && CalendarStage::wait(store.complete(tasks.first().id)));
+        QVERIFY(stage.texts(list).contains("STATUS:COMPLETED"));
     }
 
 private:

@@ -3,6 +3,7 @@
 #include "Desktop/BusStandIn.h"
 
 #include <QDBusObjectPath>
+#include <QStandardPaths>
 
 /// A value of a property, as a reply to the question for it.
 static QDBusMessage valueReply(const QDBusMessage &call, const QVariant &value)
@@ -53,6 +54,8 @@ private Q_SLOTS:
             QCOMPARE(fix.result(), found ? std::optional(Coordinate{52.5, -13.25}) : std::nullopt);
         }
         QVERIFY(destroyed(location));
+        const QString left = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+        QVERIFY2(!QFile::exists(left + u"/qtposition-geoclue2"_s), "the plugin's copy of the place is left");
     }
 
     void aSilentServiceIsGivenUp()

@@ -4,6 +4,8 @@
 #include "Desktop/Media/MprisExecutor.h"
 #include "NotchKit/Platform/PlayerScripts.h"
 
+#include <QDBusObjectPath>
+
 #include <deque>
 
 #include <sys/stat.h>
@@ -28,14 +30,17 @@ struct Player : ServiceStandIn
                 return call.createErrorReply(QDBusError::AccessDenied, u"no"_s);
             if (call.member() != "GetAll"_L1)
                 return call.createReply();
-            return call.createReply(
-                QVariantMap{{u"PlaybackStatus"_s, state}, {u"Metadata"_s, song}, {u"Position"_s, position}});
+            return call.createReply(QVariantMap{{u"PlaybackStatus"_s, state},
+                                                {u"Metadata"_s, song},
+                                                {u"Position"_s, position},
+                                                {u"CanSeek"_s, seeks}});
         });
     }
 
     QVariant state = u"Playing"_s;
     QVariant position = 2'500'000LL;
     QVariantMap song;
+    bool seeks = false;
     bool hangs = false;
     bool refuses = false;
 };
@@ -43,7 +48,8 @@ struct Player : ServiceStandIn
 /// A bus with players and the executor, which runs on another thread as it does in the program.
 struct Stage : StandInBus
 {
-    MprisExecutor executor{bus.address()};
+    QStringList ignored;
+    MprisExecutor executor{bus.address(), [this] { return ignored; }};
     std::deque<Player> players;
     qint64 milliseconds = 0; ///< Of the last script.
 
@@ -155,6 +161,47 @@ private Q_SLOTS:
         vlc.state = u"Stopped"_s;
         QCOMPARE(stage.status(kMusic), u""_s);
         QCOMPARE(stage.status(kSpotify), u"playing|spotify song||1500|2.500"_s);
+    }
+
+    void aBrowserAndItsExtensionAreOne()
+    {
+        Stage stage;
+        Player &browser = stage.add(u"firefox.instance_1_2"_s);
+        Player &extension = stage.add(u"plasma-browser-integration"_s);
+        browser.song = {{u"xesam:title"_s, u"page"_s}};
+        extension.song = {{u"xesam:title"_s, u"page"_s}, {u"xesam:artist"_s, u"Band"_s}};
+        QCOMPARE(stage.status(kMusic), u"playing|page|Band|0.000|2.500"_s);
+        extension.state = u"Paused"_s;
+        QCOMPARE(stage.status(kMusic), u"paused|page|Band|0.000|2.500"_s);
+        browser.song.insert(u"xesam:title"_s, u"another tab"_s);
+        QCOMPARE(stage.title(kMusic), u"another tab"_s);
+        stage.ignored = {u"FireFox"_s, u" "_s};
+        QCOMPARE(stage.title(kMusic), u"page"_s);
+        stage.ignored.append(u"plasma"_s);
+        QCOMPARE(stage.status(kMusic), u"failed"_s);
+    }
+
+    void seeksInTheSongThatShows()
+    {
+        Stage stage;
+        Player &vlc = stage.add(u"vlc"_s);
+        vlc.song.insert(u"mpris:length"_s, 9'000'000LL);
+        vlc.song.insert(u"mpris:trackid"_s, QVariant::fromValue(QDBusObjectPath(u"/song/7"_s)));
+        QCOMPARE(stage.status(kMusic), u"playing|vlc song||9.000|2.500"_s);
+        vlc.seeks = true;
+        QCOMPARE(stage.status(kMusic), u"playing|vlc song||9.000|2.500|seekable"_s);
+        stage.execute(PlayerScripts::seek(kMusic, 4.5));
+        const QDBusMessage call = vlc.calls.constLast();
+        QCOMPARE(call.member(), u"SetPosition"_s);
+        QCOMPARE(call.signature(), u"ox"_s);
+        QCOMPARE(call.arguments().value(0).value<QDBusObjectPath>().path(), u"/song/7"_s);
+        QCOMPARE(call.arguments().value(1).toLongLong(), 4'500'000LL);
+        QSet<QString> known{stage.status(kMusic)};
+        for (const QString &cover : {u"file:///one"_s, u"file:///two"_s}) { // for the same song
+            vlc.song.insert(u"mpris:artUrl"_s, cover);
+            known.insert(stage.status(kMusic));
+        }
+        QCOMPARE(known.size(), 3);
     }
 
     void aHangingPlayerHoldsNobodyUp()
@@ -287,7 +334,9 @@ private Q_SLOTS:
         Stage stage;
         stage.add(u"mpv"_s);
         stage.add(u"playerctld"_s);
-        const MprisApplications applications(stage.bus.connection());
+        MprisApplications applications(stage.bus.connection());
+        int told = 0;
+        QVERIFY(applications.follow([&] { ++told; }));
         const auto runs = [&](MediaPlayer player) {
             return applications.isRunning(bundleIdentifier(player));
         };
@@ -295,8 +344,18 @@ private Q_SLOTS:
         QVERIFY(!runs(kSpotify));
         stage.add(u"spotify"_s);
         QTRY_VERIFY(runs(kSpotify));
+        told = 0;
+        const QString player = u"org.mpris.MediaPlayer2.Player"_s;
+        const auto say = [&](const QString &interface, const QString &member, const QVariantList &what) {
+            stage.players.front().signal(u"/org/mpris/MediaPlayer2"_s, interface, member, what);
+        };
+        for (const QString &changed : {u"org.mpris.MediaPlayer2.TrackList"_s, player})
+            say(u"org.freedesktop.DBus.Properties"_s, u"PropertiesChanged"_s,
+                {changed, QVariantMap(), QStringList()});
+        say(player, u"Seeked"_s, {7LL});
         stage.players.pop_front();
         QTRY_VERIFY(!runs(kMusic));
+        QCOMPARE(told, 3); // of a change, a jump and the end
         QVERIFY(runs(kSpotify) && !applications.isRunning(u"org.mpris.MediaPlayer2.spotify"_s));
         QVERIFY(!MprisApplications(QDBusConnection(QString())).isRunning(bundleIdentifier(kMusic)));
     }

@@ -19,7 +19,16 @@ private Q_SLOTS:
         QVERIFY(writeFile(entry, text + "Hidden = true\n"));
         QVERIFY2(!item.isEnabled(), "the desktop's own settings switched it off");
         QVERIFY(!item.setEnabled(true) && item.isEnabled());
+        for (const char *program :
+             {"true", "/bin/sh", "\"/opt/gone/kestrune\"", "/opt/gone/kestrune --open"}) {
+            const QByteArray other = "[Desktop Entry]\nExec=" + QByteArray(program) + '\n';
+            QVERIFY(writeFile(entry, other));
+            item.repair();
+            QCOMPARE(readFile(entry), QByteArray(program).contains("gone") ? text : other);
+        }
         QVERIFY(!item.setEnabled(false) && !item.isEnabled() && !item.setEnabled(false));
+        item.repair();
+        QVERIFY(!item.isEnabled());
         QVERIFY(QDir(config.path()).rmdir(u"autostart"_s));
         QVERIFY(writeFile(config.filePath(u"autostart"_s)));
         QVERIFY2(item.setEnabled(true).has_value(), "a folder that cannot be made is told");

@@ -2,6 +2,7 @@
 #include "Support/TestRegistry.h"
 
 #include <QProcess>
+#include <QStorageInfo>
 
 /// The kernel's own figures, and power supplies of a made-up tree.
 class LinuxStatisticsTest : public QObject
@@ -51,8 +52,21 @@ private Q_SLOTS:
         QVERIFY2(std::abs(sum - used) < 0.02 * statistics.physicalMemory(),
                  qPrintable(QString::number(sum - used)));
         QCOMPARE(statistics.physicalMemory(), other(u"/^MemTotal/{printf \"%.0f\", $2*1024}"_s));
-        const auto volume = statistics.startupVolume();
+        const auto volume = statistics.startupVolume().result();
         QVERIFY(volume.total.value_or(0) > 0 && *volume.available <= *volume.total);
+    }
+
+    void theUsersFilesCountWhereTheRootKeepsNothing()
+    {
+        const QString home = QCoreApplication::applicationDirPath();
+        const auto totalOf = [&](const QString &root, const QString &files) {
+            return LinuxStatistics(root, files).startupVolume().result().total.value_or(0);
+        };
+        const auto memory = static_cast<double>(QStorageInfo(u"/dev/shm"_s).bytesTotal());
+        const auto disk = static_cast<double>(QStorageInfo(home).bytesTotal());
+        QVERIFY(memory > 0 && disk > 0 && memory != disk);
+        QCOMPARE(totalOf(u"/dev/shm"_s, u"/nowhere"_s), memory);
+        QCOMPARE(totalOf(u"/dev/shm"_s, home), disk);
     }
 
     void powerSupplies_data()
@@ -79,12 +93,13 @@ private Q_SLOTS:
     {
         const auto [files, sources] = fetched<QString, QStringList>();
         const QTemporaryDir root;
-        QCOMPARE(LinuxStatistics(root.path()).powerSources().has_value(), false);
+        LinuxStatistics statistics(root.path());
+        QCOMPARE(statistics.powerSources().result().has_value(), false);
         for (const QString &file : files.split(u' ', Qt::SkipEmptyParts)) {
             const QString path = root.path() + u"/sys/class/power_supply/"_s + file.section(u'=', 0, 0);
             QVERIFY(writeFile(path, file.section(u'=', 1).toUtf8() + '\n'));
         }
-        const auto found = LinuxStatistics(root.path()).powerSources();
+        const auto found = statistics.powerSources().result();
         QVERIFY(found);
         const auto number = [](const std::optional<qint64> &value) {
             return value ? QString::number(*value) : u"-"_s;

@@ -1,5 +1,6 @@
 #include "EndToEnd/Wayland/Compositor.h"
 
+#include "EndToEnd/Session.h"
 #include "EndToEnd/Waiting.h"
 #include "EndToEnd/Wayland/WaylandInput.h"
 #include "Support/TestRegistry.h"
@@ -10,21 +11,26 @@
 #include <unistd.h>
 
 constexpr auto swayConfiguration = R"(
-output * mode 1280x800
+output * mode %1 scale %2
 output HEADLESS-1 pos 0 0
 output * bg #7090b0 solid_color
 default_border none
-)";
+)"_L1;
 
 // Displays come and go by key alone.
 constexpr auto labwcConfiguration = R"(<labwc_config><keyboard>
   <keybind key="W-F1"><action name="VirtualOutputAdd" output_name="SIDE"/></keybind>
   <keybind key="W-F2"><action name="VirtualOutputRemove" output_name="SIDE"/></keybind>
+  <keybind key="C-A-W-n"><action name="Execute" command="%1"/></keybind>
 </keyboard></labwc_config>
-)";
+)"_L1;
 
-Compositor::Compositor(Kind kind, bool guests, QProcessEnvironment &environment)
+/// What a user of sway or labwc binds a key to.
+QString toggling() { return Session::executable() + u" toggle"_s; }
+
+Compositor::Compositor(Kind kind, bool guests, int scale, QProcessEnvironment &environment)
     : m_kind(kind)
+    , m_scale(scale)
     , m_guests(guests)
     , m_environment(environment)
     , m_process([&] {
@@ -78,11 +84,15 @@ std::unique_ptr<InputDevices> Compositor::plugInDevices(const QDBusConnection &b
     }
 }
 
+QString Compositor::mode() const { return u"%1x%2"_s.arg(1280 * m_scale).arg(800 * m_scale); }
+
 void Compositor::startSway()
 {
     const QString configuration = m_folder.filePath(u"sway"_s);
-    const QString guests = m_guests ? u"exec %1\n"_s.arg(tellDisplay()) : u"xwayland disable\n"_s;
-    if (writeFile(configuration, swayConfiguration + guests.toUtf8()) &&
+    const QString guests = m_guests
+                               ? u"exec %1\n"_s.arg(tellDisplay())
+                               : u"xwayland disable\nbindsym Control+Mod1+Mod4+n exec %1\n"_s.arg(toggling());
+    if (writeFile(configuration, (swayConfiguration.arg(mode()).arg(m_scale) + guests).toUtf8()) &&
         launchUnprivileged(u"sway"_s, {u"-c"_s, configuration}))
         awaitSocket(u"wayland-1"_s);
     QStringList ipc; // It comes after the other one.
@@ -98,16 +108,23 @@ void Compositor::startLabwc()
     QStringList arguments{u"-C"_s, m_folder.path()};
     if (m_guests)
         arguments += {u"-s"_s, tellDisplay()};
-    if (writeFile(m_folder.filePath(u"rc.xml"_s), labwcConfiguration) &&
+    if (writeFile(m_folder.filePath(u"rc.xml"_s), labwcConfiguration.arg(toggling()).toUtf8()) &&
         m_process.launch(u"labwc"_s, arguments) && awaitSocket(u"wayland-0"_s))
-        run(u"wlr-randr"_s, {u"--output"_s, outputs().value(0), u"--custom-mode"_s, u"1280x800"_s});
+        setScale(0, m_scale);
 }
 
 void Compositor::startKWin()
 {
-    QStringList arguments{u"--virtual"_s, u"--width"_s,        u"1280"_s, u"--height"_s,
-                          u"800"_s,       u"--output-count"_s, u"2"_s,    u"--no-lockscreen"_s,
-                          u"--socket"_s,  u"wayland-0"_s};
+    // Else the pointer is held up where displays meet, and in their corners does not get to the next one at
+    // all.
+    writeFile(m_environment.value(u"XDG_CONFIG_HOME"_s) + u"/kwinrc"_s,
+              "[EdgeBarrier]\nEdgeBarrier=0\nCornerBarrier=false\n");
+    QStringList arguments =
+        u"--virtual --width %1 --height %2 --scale %3 --output-count 2 --no-lockscreen --socket wayland-0"_s
+            .arg(1280 * m_scale)
+            .arg(800 * m_scale)
+            .arg(m_scale)
+            .split(u' ');
     if (m_guests)
         arguments += {u"--xwayland"_s, tellDisplay()};
     if (m_process.launch(u"kwin_wayland"_s, arguments) && awaitSocket(u"wayland-0"_s))
@@ -120,8 +137,8 @@ void Compositor::startMutter()
     m_process.setStandardErrorFile(log);
     if (!m_pipeWire.launch(u"pipewire"_s) || !awaitFile(m_pipeWire, u"pipewire-0"_s) ||
         !m_process.launch(u"mutter"_s,
-                          {u"--headless"_s, u"--virtual-monitor"_s, u"1280x800"_s, u"--virtual-monitor"_s,
-                           u"1280x800"_s, u"--wayland-display"_s, u"wayland-0"_s}))
+                          {u"--headless"_s, u"--virtual-monitor"_s, mode(), u"--virtual-monitor"_s, mode(),
+                           u"--wayland-display"_s, u"wayland-0"_s}))
         return;
     static const QRegularExpression told(u"public X11 display (:\\d+)"_s);
     if (!waitUntil([&] { return told.match(QString::fromUtf8(readFile(log))).hasMatch(); }) ||
@@ -134,11 +151,11 @@ void Compositor::startMutter()
     for (const auto &service : {u"DisplayConfig"_s, u"RemoteDesktop"_s, u"ScreenCast"_s})
         run(u"gdbus"_s,
             {u"wait"_s, u"--session"_s, u"--timeout"_s, u"60"_s, u"org.gnome.Mutter."_s + service});
-    arrangeMutter(false);
+    arrangeMutter(1);
 }
 
-/// The first of its displays, and the second right of it where that is wanted.
-bool Compositor::arrangeMutter(bool second, double secondScale)
+/// The first `count` of its displays, side by side.
+bool Compositor::arrangeMutter(qsizetype count)
 {
     const auto ask = [this](const QString &method, const QStringList &arguments) {
         const QString service = u"org.gnome.Mutter.DisplayConfig"_s;
@@ -149,14 +166,13 @@ bool Compositor::arrangeMutter(bool second, double secondScale)
     };
     static const QRegularExpression firstNumber(u"uint32 (\\d+)"_s);
     const QString state = QString::fromUtf8(ask(u"GetCurrentState"_s, {}));
-    const auto display = [](int x, double scale, const char *primary, const char *name) {
-        return u"(%1, 0, %2, 0, %3, [('%4', '1280x800@60.000', {})])"_s.arg(x)
-            .arg(scale, 0, 'f', 2)
-            .arg(QLatin1String(primary), QLatin1String(name));
-    };
-    QStringList displays{display(0, 1, "true", "Meta-0")};
-    if (second)
-        displays.append(display(1280, secondScale, "false", "Meta-1"));
+    QStringList displays;
+    for (qsizetype index = 0; index < count; ++index)
+        displays.append(u"(%1, 0, %2.0, 0, %3, [('Meta-%4', '%5@60.000', {})])"_s.arg(1280 * index)
+                            .arg(m_scale)
+                            .arg(index == 0 ? "true"_L1 : "false"_L1)
+                            .arg(index)
+                            .arg(mode()));
     constexpr auto once = "1"; // Neither tried nor remembered.
     return !ask(u"ApplyMonitorsConfig"_s, {firstNumber.match(state).captured(1), QString::fromLatin1(once),
                                            u'[' + displays.join(u", "_s) + u']', u"{}"_s})
@@ -178,6 +194,8 @@ bool Compositor::launchUnprivileged(const QString &program, const QStringList &a
     return ::chown(QFile::encodeName(m_folder.path()).constData(), nobody, nobody) == 0 &&
            m_process.launch(u"setpriv"_s, words + arguments);
 }
+
+bool Compositor::mayCallProgram() const { return m_kind != Kind::Sway || m_guests || ::geteuid() != 0; }
 
 /// Which `process` makes in the folder.
 bool Compositor::awaitFile(const ChildProcess &process, const QString &name) const
@@ -248,7 +266,7 @@ bool Compositor::plugSecond(bool plugged, WaylandInput &input)
 {
     const qsizetype count = plugged ? 2 : 1;
     if (m_kind == Kind::Mutter)
-        return arrangeMutter(plugged);
+        return arrangeMutter(count);
     if (m_kind == Kind::KWin) {
         run(u"kscreen-doctor"_s, {plugged ? u"output.Virtual-1.enable"_s : u"output.Virtual-1.disable"_s});
         return true;
@@ -264,21 +282,21 @@ bool Compositor::plugSecond(bool plugged, WaylandInput &input)
     return waitUntil([&] { return outputs().size() == count; });
 }
 
-bool Compositor::setScale(int index, double scale)
+void Compositor::setScale(int index, double scale) const
 {
-    if (m_kind == Kind::Mutter)
-        return index == 1 && arrangeMutter(true, scale);
     const QString output = outputs().value(index);
     if (m_kind == Kind::KWin)
         run(u"kscreen-doctor"_s, {u"output.%1.scale.%2"_s.arg(output).arg(scale)});
     else
         run(u"wlr-randr"_s,
-            {u"--output"_s, output, u"--custom-mode"_s, u"1280x800"_s, u"--scale"_s, QString::number(scale)});
-    return true;
+            {u"--output"_s, output, u"--custom-mode"_s, mode(), u"--scale"_s, QString::number(scale)});
 }
 
-QImage Compositor::picture(int index) const
+QImage Compositor::picture([[maybe_unused]] int index) const
 {
+#ifndef KESTRUNE_WAYLAND
+    return {}; // There the tools for it are not installed.
+#endif
     if (m_kind == Kind::KWin || m_kind == Kind::Mutter)
         return {};
     const QString file = m_folder.filePath(u"picture.png"_s);

@@ -8,7 +8,12 @@ class WaylandContentsTest : public WaylandStageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void everyContentComesBackByteForByte_data() { compositors(); }
+    void everyContentComesBackByteForByte_data()
+    {
+        compositors();
+        QTest::newRow("guest of sway") << WaylandStage::Desktop{Compositor::Kind::Sway, true};
+        QTest::newRow("guest of KWin") << WaylandStage::Desktop{Compositor::Kind::KWin, true};
+    }
     void everyContentComesBackByteForByte()
     {
         QVERIFY(stage().run());

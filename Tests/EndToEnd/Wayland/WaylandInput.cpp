@@ -2,6 +2,10 @@
 
 #include "EndToEnd/Waiting.h"
 
+#include <array>
+
+#include <linux/input-event-codes.h>
+
 void WaylandInput::put(QPoint place)
 {
     m_devices->move(place, m_extent);
@@ -47,4 +51,14 @@ void WaylandInput::tap(int code)
     key(code, true);
     QTest::qWait(30);
     key(code, false);
+}
+
+void WaylandInput::hotKey()
+{
+    constexpr std::array modifiers{KEY_LEFTCTRL, KEY_LEFTALT, KEY_LEFTMETA};
+    for (const int code : modifiers)
+        key(code, true);
+    tap(KEY_N);
+    for (const int code : modifiers)
+        key(code, false);
 }

@@ -37,6 +37,8 @@ public:
     /// Keys are the kernel's, KEY_ESC and the like.
     void key(int code, bool down) { m_devices->key(code, down); }
     void tap(int code);
+    /// The combination that opens and closes the notch.
+    void hotKey();
 
 private:
     std::unique_ptr<InputDevices> m_devices;

@@ -1,7 +1,9 @@
 #include "EndToEnd/Wayland/WaylandStage.h"
 
+#include <QDBusMessage>
+
 WaylandStage::WaylandStage(Desktop desktop, const QStringList &otherProgram)
-    : compositor(desktop.kind, desktop.guest || desktop.otherIsGuest, session.environment())
+    : compositor(desktop.kind, desktop.guest || desktop.otherIsGuest, desktop.scale, session.environment())
     , input(compositor.plugInDevices(session.bus()))
     , other(session.environment(), desktop.otherIsGuest ? u"xcb"_s : u"wayland"_s, otherProgram)
 {
@@ -65,6 +67,23 @@ bool WaylandStage::waitVisited(int display) const
 bool WaylandStage::waitClosed(int display) const
 {
     return waitUntil([&] { return !session.isOpen(display); });
+}
+
+bool WaylandStage::looksOpen() const
+{
+    const QImage picture = compositor.picture();
+    return picture.isNull() || picture.pixelColor(Place::panelEdge) == QColor(Qt::black);
+}
+
+bool WaylandStage::hasHotKey() const
+{
+    if (compositor.kind() != Compositor::Kind::KWin)
+        return true;
+    const QString service = u"org.kde.kglobalaccel"_s;
+    auto call =
+        QDBusMessage::createMethodCall(service, u"/kglobalaccel"_s, u"org.kde.KGlobalAccel"_s, u"action"_s);
+    call << QKeyCombination(Qt::CTRL | Qt::ALT | Qt::META, Qt::Key_N).toCombined();
+    return session.bus().call(call).arguments().value(0).toStringList().contains(Session::busName());
 }
 
 bool WaylandStage::clickReachesOther(QPoint place)

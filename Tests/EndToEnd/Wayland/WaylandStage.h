@@ -62,6 +62,7 @@ struct WaylandStage
         Compositor::Kind kind;
         bool guest = false;
         bool otherIsGuest = false;
+        int scale = 1;
     };
 
     WaylandStage(Desktop desktop, const QStringList &otherProgram);
@@ -78,6 +79,12 @@ struct WaylandStage
     /// Until it is open and has seen the pointer inside: one that did not does not close when that leaves.
     bool waitVisited(int display = 0) const;
     bool waitClosed(int display = 0) const;
+
+    /// Whether its picture shows the open notch; yes where nobody can look.
+    bool looksOpen() const;
+
+    /// Whether the desktop has given the program its hot key, where it is one that gives keys.
+    bool hasHotKey() const;
 
     /// Clicks there and says whether the other program got it.
     bool clickReachesOther(QPoint place);

@@ -57,7 +57,12 @@ private Q_SLOTS:
         input().releaseButton();
     }
 
-    void clicksBesideReachTheOtherProgram_data() { desktops(); }
+    void clicksBesideReachTheOtherProgram_data()
+    {
+        desktops();
+        QTest::newRow("guest of sway, twice as large")
+            << WaylandStage::Desktop{.kind = Compositor::Kind::Sway, .guest = true, .scale = 2};
+    }
     void clicksBesideReachTheOtherProgram()
     {
         QVERIFY(stage().run({{"hoverDelay", "0"}}));
@@ -74,11 +79,11 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return stage().other.count(u"press"_s) == pressed; }, 500));
     }
 
-#ifdef KESTRUNE_WAYLAND
     void theKeyboardIsTakenAndGivenBack_data()
     {
         compositors();
-        QTest::newRow("guest of Mutter") << WaylandStage::Desktop{Compositor::Kind::Mutter, true, true};
+        QTest::newRow("guest of Mutter, X11") << WaylandStage::Desktop{Compositor::Kind::Mutter, true, true};
+        QTest::newRow("guest of Mutter, Wayland") << WaylandStage::Desktop{Compositor::Kind::Mutter, true};
     }
     void theKeyboardIsTakenAndGivenBack()
     {
@@ -98,6 +103,7 @@ private Q_SLOTS:
         QCOMPARE(stage().other.count(u"key a"_s), 0);
     }
 
+#ifdef KESTRUNE_WAYLAND
     void aFullScreenWindowCoversIt_data() { compositors(); }
     void aFullScreenWindowCoversIt()
     {
@@ -109,7 +115,7 @@ private Q_SLOTS:
             QCOMPARE(session().command({u"open"_s, u"note"_s}).status, 0);
             QVERIFY(stage().waitOpen());
             QTRY_VERIFY(!stage().other.hasFocus());
-            QTRY_VERIFY(looksOpen());
+            QTRY_VERIFY(stage().looksOpen());
             QTest::qWait(300);
             input().tap(KEY_ESC);
             QVERIFY(stage().waitClosed());
@@ -118,6 +124,35 @@ private Q_SLOTS:
         QVERIFY(stage().clickReachesOther(Place::notch));
     }
 #endif
+
+    void theHotKeyCallsItAboveAFullScreenWindow_data()
+    {
+        compositors();
+        using enum Compositor::Kind;
+        QTest::newRow("guest of sway") << WaylandStage::Desktop{Sway, true, true};
+#ifdef KESTRUNE_WAYLAND
+        QTest::newRow("guest of KWin") << WaylandStage::Desktop{KWin, true, true};
+#endif
+    }
+    void theHotKeyCallsItAboveAFullScreenWindow()
+    {
+        if (!stage().compositor.mayCallProgram())
+            QSKIP("sway refuses to be root, and of root's programs it calls none");
+        setStage({u"full"_s});
+        QVERIFY(stage().run());
+        QTRY_VERIFY(stage().hasHotKey());
+        const bool takesKeyboard = !desktop().guest;
+        for (int round = 0; round < 2; ++round) {
+            input().hotKey();
+            QVERIFY(stage().waitOpen());
+            QTRY_VERIFY(stage().looksOpen());
+            QTRY_COMPARE(stage().other.hasFocus(), !takesKeyboard);
+            input().hotKey();
+            QVERIFY(stage().waitClosed());
+            QTRY_VERIFY(stage().other.hasFocus());
+        }
+        QCOMPARE(stage().other.count(u"key n"_s), 0);
+    }
 
     void filesAreDraggedInAndOut_data()
     {
@@ -185,7 +220,12 @@ private Q_SLOTS:
     void displaysComeAndGo_data()
     {
         compositors();
-        QTest::newRow("guest of Mutter") << WaylandStage::Desktop{Compositor::Kind::Mutter, true};
+        using enum Compositor::Kind;
+        QTest::newRow("guest of Mutter") << WaylandStage::Desktop{Mutter, true};
+#ifdef KESTRUNE_WAYLAND
+        QTest::newRow("guest of sway") << WaylandStage::Desktop{Sway, true};
+        QTest::newRow("guest of KWin") << WaylandStage::Desktop{KWin, true};
+#endif
     }
     void displaysComeAndGo()
     {
@@ -194,20 +234,24 @@ private Q_SLOTS:
         QTRY_COMPARE(session().displays().size(), 2);
         // How guests are scaled is each compositor's own affair.
         const int width = desktop().guest ? 1280 : 1024;
-        QVERIFY(desktop().guest || stage().compositor.setScale(1, 1.25));
+        if (!desktop().guest)
+            stage().compositor.setScale(1, 1.25);
         QTRY_COMPARE(session().display(1).value("frame"_L1).toObject().value("width"_L1).toInt(), width);
         input().setExtent({1280 + width, 800});
-        // KWin without a screen moves the test's pointer no more once it has a second display, and loses
-        // displays that come and go at once.
-        const bool isKWin = desktop().kind == Compositor::Kind::KWin;
-        if (!isKWin)
-            input().move({1280 + width / 2, 10});
-        QVERIFY(isKWin || (stage().waitOpen(1) && !session().isOpen(0)));
+        input().move({1280 + width / 2, 10});
+        QVERIFY(stage().waitOpen(1) && !session().isOpen(0));
+        // A guest of Mutter at times loses the pointer on the second display as the notch opens under it.
+        if (desktop().kind != Compositor::Kind::Mutter) {
+            QVERIFY(stage().waitVisited(1));
+            input().move(Place::away);
+            QVERIFY(stage().waitClosed(1));
+        }
         QVERIFY(stage().compositor.plugSecond(false, input()));
         input().setExtent({1280, 800});
         QTRY_COMPARE(session().displays().size(), 1);
 
-        if (isKWin || desktop().guest)
+        // KWin without a screen loses displays that come and go at once.
+        if (desktop().kind == Compositor::Kind::KWin || desktop().guest)
             return;
 
         qint64 memory = 0;
@@ -229,13 +273,6 @@ private Q_SLOTS:
     }
 
 private:
-    /// Also where nobody can look.
-    bool looksOpen()
-    {
-        const QImage picture = stage().compositor.picture();
-        return picture.isNull() || picture.pixelColor(Place::panelEdge) == QColor(Qt::black);
-    }
-
     void copy(const QString &text)
     {
         ChildProcess client(session().environment());

@@ -4,6 +4,8 @@
 #include "CodexReader.h"
 #include "NotchKit/NotchSettings.h"
 
+#include <QDir>
+
 namespace Kestrune {
 
 using namespace std::chrono_literals;
@@ -44,9 +46,16 @@ struct AIUsageModel::Found
     std::optional<Claude> claude;
 };
 
-AIUsageHomes AIUsageHomes::below(const QString &home)
+AIUsageHomes AIUsageHomes::below(const QString &home, const QString &claudeConfig)
 {
-    return {home + QLatin1String("/.codex"), home + QLatin1String("/.claude/projects")};
+    AIUsageHomes homes{
+        home + QLatin1String("/.codex"),
+        {home + QLatin1String("/.claude/projects"), home + QLatin1String("/.config/claude/projects")}};
+    for (const QString &folder : claudeConfig.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        if (QDir::isAbsolutePath(folder.trimmed()))
+            homes.claude.append(folder.trimmed() + QLatin1String("/projects"));
+    }
+    return homes;
 }
 
 AIUsageModel::AIUsageModel(NotchSettings &settings, Clock &clock, const AIUsageHomes &homes, QObject *parent)

@@ -18,11 +18,12 @@ class NotchSettings;
 /// Where the two assistants keep their files.
 struct AIUsageHomes
 {
-    QString codex;  ///< Codex CLI's own folder.
-    QString claude; ///< The folder of Claude Code's session logs.
+    QString codex;      ///< Codex CLI's own folder.
+    QStringList claude; ///< The folders of Claude Code's session logs; one may be there twice.
 
-    /// Their places below a user's home folder.
-    static AIUsageHomes below(const QString &home);
+    /// Their places below a user's home folder, and in the folders of `claudeConfig`, which are parted by
+    /// commas (as CLAUDE_CONFIG_DIR has them).
+    static AIUsageHomes below(const QString &home, const QString &claudeConfig = QString());
 };
 
 /// How much of their plans' limits the user has used in two coding assistants, read from the logs that they

@@ -98,11 +98,12 @@ void AIUsagePresentation::addCodex(Shown &shown) const
         if (codex->primary)
             shown.codexWindows.append(
                 //: The name of a limit that holds for five hours.
-                line(notchStrings(QT_TRANSLATE_NOOP("notch", "5-hour window")), *codex->primary));
+                line(notchStrings(QT_TRANSLATE_NOOP("notch", "5-hour window")), *codex->primary,
+                     codex->updated));
         if (codex->secondary)
             shown.codexWindows.append(
                 //: The name of a limit that holds for a week.
-                line(notchStrings(QT_TRANSLATE_NOOP("notch", "Weekly")), *codex->secondary));
+                line(notchStrings(QT_TRANSLATE_NOOP("notch", "Weekly")), *codex->secondary, codex->updated));
     }
 }
 
@@ -122,10 +123,16 @@ void AIUsagePresentation::addClaude(Shown &shown) const
     }
 }
 
-UsageLine AIUsagePresentation::line(const QString &title, const UsageWindow &window) const
+UsageLine AIUsagePresentation::line(const QString &title, const UsageWindow &window,
+                                    const QDateTime &updated) const
 {
-    const QString left = leftText(window.usedPercent);
-    return {title, left, left, window.usedPercent / 100, resetText(window.resetsAt)};
+    const QDateTime now = m_surroundings->now();
+    const double used = window.asOf(now).usedPercent;
+    //: A limit has begun anew since it was read; %1 is when that was, such as “14:05” or “Mon 14:05”.
+    constexpr auto kRenewed = QT_TRANSLATE_NOOP("notch", "Renewed; figures of %1");
+    const QString resets =
+        window.isRenewed(now) ? notchStrings(kRenewed).arg(timeText(updated)) : resetText(window.resetsAt);
+    return {title, leftText(used), leftText(used), used / 100, resets, window.isRenewed(now)};
 }
 
 UsageLine AIUsagePresentation::blockLine(const AIUsageModel::Claude &claude) const
@@ -143,8 +150,10 @@ UsageLine AIUsagePresentation::blockLine(const AIUsageModel::Claude &claude) con
         end = claude.blockStart->addSecs(AIUsageModel::Claude::kBlockSeconds);
     return {notchStrings(QT_TRANSLATE_NOOP("notch", "This 5-hour block")),
             notchStrings(hasBudget ? kOfBudget : kOfBusiest).arg(wholePercent(fraction)),
-            notchStrings(QT_TRANSLATE_NOOP("notch", "%1%")).arg(wholePercent(fraction)), fraction,
-            resetText(end)};
+            notchStrings(QT_TRANSLATE_NOOP("notch", "%1%")).arg(wholePercent(fraction)),
+            fraction,
+            resetText(end),
+            false};
 }
 
 QList<UsageDay> AIUsagePresentation::dayBars(const AIUsageModel::Claude &claude) const

@@ -20,13 +20,15 @@ struct UsageLine
     Q_PROPERTY(QString brief MEMBER brief)
     Q_PROPERTY(double fraction MEMBER fraction)
     Q_PROPERTY(QString resets MEMBER resets)
+    Q_PROPERTY(bool renewed MEMBER renewed)
 
 public:
     QString title;
     QString text;
-    QString brief;       ///< The text where there is little room.
-    double fraction = 0; ///< Of the limit; may be more than 1.
-    QString resets;      ///< Empty when it is not known.
+    QString brief;        ///< The text where there is little room.
+    double fraction = 0;  ///< Of the limit; may be more than 1.
+    QString resets;       ///< Empty when it is not known.
+    bool renewed = false; ///< It has begun anew since its figures, of which `resets` tells the age.
 
     bool operator==(const UsageLine &) const = default;
 };
@@ -119,7 +121,7 @@ private:
     void update();
     void addCodex(Shown &shown) const;
     void addClaude(Shown &shown) const;
-    UsageLine line(const QString &title, const UsageWindow &window) const;
+    UsageLine line(const QString &title, const UsageWindow &window, const QDateTime &updated) const;
     UsageLine blockLine(const AIUsageModel::Claude &claude) const;
     QList<UsageDay> dayBars(const AIUsageModel::Claude &claude) const;
     QString resetText(const std::optional<QDateTime> &time) const;

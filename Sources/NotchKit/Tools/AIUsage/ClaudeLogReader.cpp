@@ -3,6 +3,9 @@
 #include <QFile>
 
 #include <algorithm>
+#include <cstdlib>
+#include <iterator>
+#include <memory>
 #include <thread>
 
 namespace Kestrune {
@@ -18,15 +21,32 @@ constexpr unsigned kMostThreads = 4;
 
 } // namespace
 
-ClaudeLogReader::ClaudeLogReader(const QString &root)
-    : m_root(QFile::encodeName(root).toStdString())
-{}
+ClaudeLogReader::ClaudeLogReader(const QStringList &roots)
+{
+    for (const QString &root : roots)
+        m_roots.push_back(QFile::encodeName(root).toStdString());
+}
+
+/// By path, each once.
+std::vector<LogFile> ClaudeLogReader::findAllLogs() const
+{
+    std::vector<LogFile> all;
+    for (const std::string &root : m_roots) {
+        const std::unique_ptr<char, decltype(&std::free)> path(realpath(root.c_str(), nullptr), &std::free);
+        if (path)
+            std::ranges::move(findLogs(path.get(), m_stop), std::back_inserter(all));
+    }
+    std::ranges::sort(all, {}, &LogFile::path);
+    const auto isSame = [](const LogFile &one, const LogFile &other) { return one.path == other.path; };
+    all.erase(std::unique(all.begin(), all.end(), isSame), all.end());
+    return all;
+}
 
 std::optional<ClaudeUsage> ClaudeLogReader::summary(const QDateTime &now)
 {
     const std::scoped_lock locked(m_lock);
     const qint64 time = now.toMSecsSinceEpoch();
-    const std::vector<LogFile> logs = findLogs(m_root, m_stop);
+    const std::vector<LogFile> logs = findAllLogs();
     std::vector<Job> jobs = findJobs(logs, time);
     run(jobs);
     if (m_stop)

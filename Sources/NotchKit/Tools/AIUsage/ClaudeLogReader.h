@@ -9,15 +9,15 @@
 
 namespace Kestrune {
 
-/// Adds up the tokens that Claude Code logs as JSON lines below a folder. Each look reads only what was
+/// Adds up the tokens that Claude Code logs as JSON lines below some folders. Each look reads only what was
 /// appended since the last; a file that was cut or replaced is read again from its start. A response that
 /// is logged several times counts once: the line read last decides, and among lines read in one go, the
 /// last one of the file whose path sorts last. Any thread; one summary at a time.
 class ClaudeLogReader
 {
 public:
-    /// `root` need not exist yet.
-    explicit ClaudeLogReader(const QString &root);
+    /// The folders need not exist yet. One that several of them lead to is read once.
+    explicit ClaudeLogReader(const QStringList &roots);
 
     /// The figures at `now`; nothing when no response of the last seven days is logged. Costs as much as
     /// reading what was appended; one look at each file's state when nothing was.
@@ -40,11 +40,12 @@ private:
         quint32 rank;
     };
 
+    std::vector<LogFile> findAllLogs() const;
     std::vector<Job> findJobs(const std::vector<LogFile> &logs, qint64 now);
     void run(std::vector<Job> &jobs);
     void read(const Job &job, UsageLines &lines, ClaudeLogLine &parser);
 
-    std::string m_root;
+    std::vector<std::string> m_roots;
     StopFlag m_stop = false;
     std::mutex m_lock;
     std::unordered_map<std::string, Known> m_files;

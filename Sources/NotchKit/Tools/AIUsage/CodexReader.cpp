@@ -45,8 +45,15 @@ int wholeMinutes(const QJsonValue &value)
     return std::abs(minutes) <= std::numeric_limits<int>::max() ? static_cast<int>(minutes) : 0;
 }
 
+/// The limits in one line; null where it has none.
+QJsonValue limitsIn(const QJsonDocument &line)
+{
+    const QJsonValue whole = line.isArray() ? QJsonValue(line.array()) : QJsonValue(line.object());
+    return CodexReader::find(QLatin1String(kKey), whole);
+}
+
 /// A line is complete when a line feed follows it, or when nothing is missing in it.
-QJsonDocument lastLineWithLimits(const QByteArray &tail)
+QJsonValue lastLimits(const QByteArray &tail)
 {
     qsizetype end = tail.size();
     for (;;) {
@@ -55,10 +62,11 @@ QJsonDocument lastLineWithLimits(const QByteArray &tail)
             return {};
         const qsizetype start = tail.lastIndexOf('\n', key) + 1;
         const qsizetype feed = tail.indexOf('\n', key);
-        const QByteArray line = tail.mid(start, feed < 0 ? -1 : feed - start);
-        const QJsonDocument document = QJsonDocument::fromJson(line);
-        if (feed >= 0 || !document.isNull())
-            return document;
+        const QJsonDocument line = QJsonDocument::fromJson(tail.mid(start, feed < 0 ? -1 : feed - start));
+        const QJsonValue limits = limitsIn(line);
+        const bool isUnfinished = feed < 0 && line.isNull();
+        if (!isUnfinished && !limits.isNull())
+            return limits;
         end = start;
     }
 }
@@ -96,9 +104,7 @@ std::optional<UsageWindow> CodexReader::window(const QJsonValue &value, const QD
 
 std::optional<CodexReader::Windows> CodexReader::lastRateLimits(const QByteArray &tail, const QDateTime &now)
 {
-    const QJsonDocument line = lastLineWithLimits(tail);
-    const QJsonValue whole = line.isArray() ? QJsonValue(line.array()) : QJsonValue(line.object());
-    const QJsonValue limits = find(QLatin1String(kKey), whole);
+    const QJsonValue limits = lastLimits(tail);
     if (!limits.isObject())
         return std::nullopt;
     return Windows{window(limits[QLatin1String("primary")], now),

@@ -20,7 +20,7 @@ using Windows = std::pair<std::optional<UsageWindow>, std::optional<UsageWindow>
 std::optional<CodexUsage> readCodex(const QString &home, const QDateTime &now, const StopFlag &stop);
 
 /// The primary and the secondary window in the last line with rate limits among a log's last 512 KiB. A
-/// last line that is still being written does not count.
+/// last line that is still being written does not count, nor does one that says there are none (null).
 std::optional<Windows> lastRateLimits(const OpenFile &file, const QDateTime &now);
 std::optional<Windows> lastRateLimits(const QByteArray &tail, const QDateTime &now);
 

@@ -73,6 +73,15 @@ Column {
                 width: parent.width
                 fraction: line.modelData.fraction
             }
+            PlainText {
+                width: parent.width
+                visible: line.modelData.renewed
+                text: line.modelData.resets
+                font.pixelSize: Theme.smallFontSize
+                color: Theme.dim
+                horizontalAlignment: Text.AlignLeft
+                elide: Text.ElideRight
+            }
         }
     }
 }

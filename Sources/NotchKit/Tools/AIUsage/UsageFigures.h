@@ -31,6 +31,15 @@ struct UsageWindow
     int minutes = 0;                   ///< The window's length; 0 when it is not known.
     std::optional<QDateTime> resetsAt; ///< UTC.
 
+    /// It has begun anew since it was logged.
+    bool isRenewed(const QDateTime &now) const { return resetsAt && *resetsAt <= now; }
+
+    /// As far as is known at `now`: nothing is used of one that has begun anew.
+    UsageWindow asOf(const QDateTime &now) const
+    {
+        return {isRenewed(now) ? 0 : usedPercent, minutes, resetsAt};
+    }
+
     bool operator==(const UsageWindow &) const = default;
 };
 

@@ -24,18 +24,35 @@ float luminance(const QColor &color)
            0.0722F * linear(color.blueF());
 }
 
+/// A day that is over: its name, or where that could be any week's, its date.
+QString pastDay(const QDate &day, const QDate &today)
+{
+    constexpr int kFarDays = 6;
+    const QLocale locale;
+    return day.daysTo(today) <= kFarDays ? locale.dayName(day.dayOfWeek(), QLocale::ShortFormat)
+                                         : locale.toString(day, QLocale::ShortFormat);
+}
+
 bool isWholeDay(const QDateTime &local) { return local.time() == QTime(0, 0); }
 
 } // namespace
 
 QString CalendarFormat::when(const QDateTime &start, bool allDay, const QDateTime &now)
 {
+    const QDateTime local = start.toLocalTime();
+    const QDate date = now.toLocalTime().date();
+    const bool isOld = local.date() < date;
+    if (allDay && isOld)
+        //: In the place of an appointment’s time; %1 is the day before today when it began, such as “Mon”.
+        return notchStrings(QT_TRANSLATE_NOOP("notch", "All day, since %1")).arg(pastDay(local.date(), date));
     if (allDay)
         //: In the place of an appointment’s time.
         return notchStrings(QT_TRANSLATE_NOOP("notch", "All day"));
-    const QDateTime local = start.toLocalTime();
-    const QString day = local.date() == now.toLocalTime().date() ? today() : tomorrow();
-    return day + QLatin1Char(' ') + shortTime(local);
+    if (isOld)
+        //: When an appointment began; %1 is a day before today and a time, such as “Mon 14:05”.
+        return notchStrings(QT_TRANSLATE_NOOP("notch", "Since %1"))
+            .arg(pastDay(local.date(), date) + QLatin1Char(' ') + shortTime(local));
+    return (local.date() == date ? today() : tomorrow()) + QLatin1Char(' ') + shortTime(local);
 }
 
 QString CalendarFormat::due(const QDateTime &due, const QDateTime &now)

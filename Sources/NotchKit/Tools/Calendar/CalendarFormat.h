@@ -18,7 +18,8 @@ class CalendarFormat : public QObject
 public:
     using QObject::QObject;
 
-    /// When an event begins: "All day", or the day and the time, "Today 15:00".
+    /// When an event begins: "All day", or the day and the time, "Today 15:00"; or that it began before
+    /// today: "All day, since Fri", "Since Fri 22:00".
     Q_INVOKABLE static QString when(const QDateTime &start, bool allDay, const QDateTime &now);
 
     /// When a reminder is due: the time today, a day's name around it, else the date. Midnight stands for

@@ -123,7 +123,8 @@ QByteArray ClipboardEncoder::encode(const ClipboardItems &items)
         QByteArray entry = m_entries.value(item.id);
         if (entry.isEmpty())
             entry = QJsonDocument(Kestrune::encode(item)).toJson(QJsonDocument::Compact);
-        entries.insert(item.id, entry);
+        // A store that another program has written may name two items alike, of which neither is remembered.
+        entries.insert(item.id, entries.contains(item.id) ? QByteArray() : entry);
         list.append(entry);
     }
     m_entries = std::move(entries);

@@ -8,6 +8,7 @@
 #include <QVariant>
 
 #include <list>
+#include <map>
 #include <memory>
 
 namespace Kestrune {
@@ -16,8 +17,9 @@ class NotchSettings;
 class RunningApplications;
 
 /// The song that one of the media players plays or has paused, its cover, and what can be done with it. A
-/// player that is not running is never asked. Looks every two seconds while the song shows anywhere, else
-/// every five, and not at all while the tool is off. Main thread only.
+/// player that is not running is never asked. Looks when the players tell of a change; where they do not,
+/// every two seconds while the song shows anywhere, else every five. Not at all while the tool is off. Main
+/// thread only.
 class NowPlayingModel : public ToolModel
 {
     Q_OBJECT
@@ -43,7 +45,8 @@ public:
     QVariant trackForViews() const;
     QVariant artworkForViews() const;
 
-    /// Asks every running player. A playing one is preferred to a paused one, then the first to the second.
+    /// Asks every running player. A playing one is preferred to a paused one, then of two that are paused the
+    /// one that was used last, then the first to the second.
     void refresh() { m_looks.start(&NowPlayingModel::look, this); }
 
     /// Sends a command to the player that is shown, if any, and looks a quarter of a second later.
@@ -51,6 +54,9 @@ public:
     Q_INVOKABLE void playPause() { send(ScriptBridge::Command::playPause); }
     Q_INVOKABLE void next() { send(ScriptBridge::Command::next); }
     Q_INVOKABLE void previous() { send(ScriptBridge::Command::previous); }
+
+    /// Sets the position in the song, in seconds, where its player can.
+    Q_INVOKABLE void seek(double position);
 
     /// Forgets the song; not whether it may be asked for.
     void clear();
@@ -68,20 +74,43 @@ Q_SIGNALS:
 private:
     using Found = std::optional<std::pair<Player, Track>>;
 
+    /// What a player did last, as far as it was seen.
+    struct Use
+    {
+        QString title;
+        bool playing = false;
+        int number = 0; ///< Counts all uses.
+    };
+
     QList<Player> runningPlayers() const;
     bool isEnabled() const;
     bool isShown(NotchTool visible) const;
     void followSetting();
+    void noticed();
+    void advance();
+    void noteUse(Player player, const Track &track);
+    bool isBetter(Player player, const Track &track, const Found &best) const;
     void consider(Player player, const ScriptBridge::Result &result, Found &best);
+    void setTrack(const Track &track);
+    void lookLater();
     QCoro::Task<> look();
     QCoro::Task<> show(Player player, Track track);
-    QCoro::Task<> carryOut(ScriptBridge::Command command, Player player);
+    QCoro::Task<> carryOut(QFuture<ScriptOutcome> done);
 
     NotchSettings &m_settings;
     Clock &m_clock;
     RunningApplications &m_applications;
     std::list<std::unique_ptr<RunningTimer>> m_sleeps; ///< Between a command and its refresh, in their order.
-    QString m_artworkKey;                              ///< Of the song whose cover is held.
+    std::unique_ptr<RunningTimer> m_soon;              ///< A look at what was told.
+    std::unique_ptr<RunningTimer> m_late;              ///< A look for what was not there yet.
+    bool m_follows = false;                            ///< The players tell of changes.
+    std::map<Player, Use> m_uses;
+    int m_useCount = 0;
+    std::chrono::nanoseconds m_heard{}; ///< When the position was `m_heardPosition`.
+    double m_heardPosition = 0;
+    QString m_song;       ///< Which song it is.
+    QString m_artworkKey; ///< The same and its cover, which is held.
+    int m_lateLooks = 0;  ///< So many in a row.
     ScriptBridge m_bridge;
     Scope m_looks;
     Scope m_commands;

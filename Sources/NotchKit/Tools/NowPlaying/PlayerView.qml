@@ -71,6 +71,7 @@ Row {
             height: view.compact ? 6 : 30
             timed: !view.compact
             track: view.track
+            onSeek: position => view.model.seek(position)
         }
         Row {
             readonly property real overhang: (skip.width - 17) / 2

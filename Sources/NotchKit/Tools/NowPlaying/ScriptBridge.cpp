@@ -81,4 +81,9 @@ QFuture<ScriptOutcome> ScriptBridge::run(Command command, Player player)
     return m_executor.execute(PlayerScripts::command(command, player));
 }
 
+QFuture<ScriptOutcome> ScriptBridge::seek(Player player, double position)
+{
+    return m_executor.execute(PlayerScripts::seek(player, position));
+}
+
 } // namespace Kestrune

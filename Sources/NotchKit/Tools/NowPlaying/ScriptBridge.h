@@ -52,6 +52,9 @@ public:
     /// Carries a command out; how that ends is not told.
     QFuture<ScriptOutcome> run(Command command, Player player);
 
+    /// Sets the position in the current song, in seconds.
+    QFuture<ScriptOutcome> seek(Player player, double position);
+
 private:
     ScriptExecutor &m_executor;
     HttpClient &m_http;

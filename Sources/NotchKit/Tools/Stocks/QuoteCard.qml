@@ -9,7 +9,7 @@ Tile {
     readonly property bool tall: height >= 76
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: quote.symbol + ", " + quote.name + ": " + price.text + " " + quote.currency + ", " + change.text
+    Accessible.name: quote.symbol + ", " + quote.name + ": " + price.text + ", " + change.text
 
     Column {
         id: names
@@ -51,7 +51,7 @@ Tile {
             id: price
 
             width: parent.width
-            text: QuoteFormat.price(card.quote.price)
+            text: QuoteFormat.price(card.quote.price, card.quote.currency)
             font.pixelSize: Theme.largeFontSize
             color: Theme.text
             horizontalAlignment: Text.AlignRight

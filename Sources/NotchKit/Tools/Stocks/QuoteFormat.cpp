@@ -2,6 +2,7 @@
 
 #include "NotchKit/NotchStrings.h"
 
+#include <QHash>
 #include <QLocale>
 
 #include <algorithm>
@@ -35,9 +36,36 @@ int decimals(double price)
     return count;
 }
 
+/// The sign of a currency where everybody knows it and it is not that of the locale's own one, else its code.
+QString signOf(const QString &currency, const QLocale &locale)
+{
+    static const QHash<QString, QString> signs{
+        {QStringLiteral("USD"), QStringLiteral("$")}, {QStringLiteral("EUR"), QStringLiteral("€")},
+        {QStringLiteral("GBP"), QStringLiteral("£")}, {QStringLiteral("JPY"), QStringLiteral("¥")},
+        {QStringLiteral("KRW"), QStringLiteral("₩")}, {QStringLiteral("INR"), QStringLiteral("₹")},
+    };
+    if (locale.currencySymbol(QLocale::CurrencyIsoCode) == currency)
+        return locale.currencySymbol();
+    const QString sign = signs.value(currency);
+    return sign.isEmpty() || sign == locale.currencySymbol() ? currency : sign;
+}
+
 } // namespace
 
-QString QuoteFormat::price(double price) { return QLocale().toString(price, 'f', decimals(price)); }
+QString QuoteFormat::price(double price, const QString &currency)
+{
+    const QLocale locale;
+    const int count = decimals(price);
+    if (currency.isEmpty())
+        return locale.toString(price, 'f', count);
+    const QString sign = signOf(currency, locale);
+    QString text = locale.toCurrencyString(price, sign, count);
+    // Locales are made for signs: they write a code before the number without a gap.
+    const qsizetype end = text.indexOf(sign) + sign.size();
+    if (sign.back().isLetter() && end < text.size() && text.at(end).isDigit())
+        text.insert(end, QChar::Nbsp);
+    return text;
+}
 
 QString QuoteFormat::change(double fraction)
 {

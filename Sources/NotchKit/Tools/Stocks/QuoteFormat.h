@@ -15,8 +15,9 @@ class QuoteFormat : public QObject
 public:
     using QObject::QObject;
 
-    /// With the digits that suit its size: "1,234,568", "187.30", "1.0842", "0.00001234".
-    Q_INVOKABLE static QString price(double price);
+    /// With the digits that suit its size: "1,234,568", "187.30", "1.0842", "0.00001234"; and in the currency
+    /// that the service names, if any: "$187.30", "CHF 187.30".
+    Q_INVOKABLE static QString price(double price, const QString &currency = QString());
 
     /// A fraction as a signed percentage with two decimals: "+1.24%"; no sign where it rounds to zero.
     Q_INVOKABLE static QString change(double fraction);

@@ -11,6 +11,8 @@ namespace Kestrune {
 
 namespace {
 
+constexpr qsizetype kLongestCurrency = 5; // Characters; a code has three.
+
 /// The first object of a list, empty for anything else.
 QJsonObject first(const QJsonValue &list) { return list.toArray().at(0).toObject(); }
 
@@ -42,8 +44,9 @@ std::optional<StockQuote> parseQuote(const QString &symbol, const QByteArray &bo
     quote.name = firstText(meta, {QLatin1String("shortName"), QLatin1String("longName")});
     if (quote.name.isEmpty())
         quote.name = symbol;
-    if (const QJsonValue currency = meta.value(QLatin1String("currency")); currency.isString())
-        quote.currency = currency.toString();
+    const bool isIndex = meta.value(QLatin1String("instrumentType")).toString() == QLatin1String("INDEX");
+    if (const QJsonValue currency = meta.value(QLatin1String("currency")); currency.isString() && !isIndex)
+        quote.currency = currency.toString().left(kLongestCurrency).simplified();
     const QJsonObject prices = first(result.value(QLatin1String("indicators"))[QLatin1String("quote")]);
     for (const QJsonValue point : prices.value(QLatin1String("close")).toArray()) {
         if (const auto known = number(point))

@@ -25,7 +25,7 @@ public:
     QString name;
     double price = 0;
     double previousClose = 0;        ///< 0 where it is not known.
-    std::optional<QString> currency; ///< As the service names it: "USD".
+    std::optional<QString> currency; ///< As the service names it: "USD". An index has none: it counts points.
     QList<double> points;            ///< The day's prices, oldest first.
 
     /// Against the previous close, as a fraction: 0.01 is one per cent up.

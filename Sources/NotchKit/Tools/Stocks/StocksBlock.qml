@@ -46,7 +46,7 @@ HomeBlock {
                 height: 18
 
                 PlainText {
-                    anchors { left: parent.left; right: line.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
+                    anchors { left: parent.left; right: line.left; rightMargin: 4; verticalCenter: parent.verticalCenter }
                     text: row.modelData.symbol
                     font.pixelSize: Theme.fontSize
                     font.weight: Font.DemiBold
@@ -57,8 +57,8 @@ HomeBlock {
                 Sparkline {
                     id: line
 
-                    anchors { right: price.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
-                    width: 24
+                    anchors { right: price.left; rightMargin: 4; verticalCenter: parent.verticalCenter }
+                    width: 16
                     height: 14
                     points: row.modelData.points
                     up: row.modelData.change >= 0
@@ -66,9 +66,9 @@ HomeBlock {
                 PlainText {
                     id: price
 
-                    anchors { right: change.left; rightMargin: 6; verticalCenter: parent.verticalCenter }
+                    anchors { right: change.left; rightMargin: 4; verticalCenter: parent.verticalCenter }
                     width: Math.max(implicitWidth, 56)
-                    text: QuoteFormat.price(row.modelData.price)
+                    text: QuoteFormat.price(row.modelData.price, row.modelData.currency)
                     horizontalAlignment: Text.AlignRight
                     font.pixelSize: Theme.fontSize
                     color: Theme.text

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace Kestrune {
 
@@ -10,6 +11,27 @@ namespace {
 bool isUsable(const PowerSource &source)
 {
     return source.currentCapacity && source.maxCapacity && *source.maxCapacity >= 1;
+}
+
+double chargeOf(const PowerSource &source)
+{
+    return static_cast<double>(*source.currentCapacity) / static_cast<double>(*source.maxCapacity);
+}
+
+/// From 0 to 1. Amounts of one kind are added up, so that a large battery counts for more; otherwise the mean
+/// is the best that can be told.
+double chargeOf(const QList<PowerSource> &sources)
+{
+    PowerSource sum{0, 0, {}, sources.constFirst().unit};
+    double charges = 0;
+    bool canBeAdded = sum.unit != PowerSource::Unit::percent;
+    for (const PowerSource &source : sources) {
+        canBeAdded = canBeAdded && source.unit == sum.unit;
+        *sum.currentCapacity += *source.currentCapacity;
+        *sum.maxCapacity += *source.maxCapacity;
+        charges += chargeOf(source);
+    }
+    return canBeAdded ? chargeOf(sum) : charges / static_cast<double>(sources.size());
 }
 
 } // namespace
@@ -25,8 +47,10 @@ void SystemModel::refresh()
 {
     readCPU();
     readMemory();
-    readBattery();
-    readDisk();
+    if (!m_batteryReading.isWaiting())
+        m_batteryReading.start(&SystemModel::readBattery, this);
+    if (!m_diskReading.isWaiting())
+        m_diskReading.start(&SystemModel::readDisk, this);
 }
 
 void SystemModel::readCPU()
@@ -54,23 +78,24 @@ void SystemModel::readMemory()
     m_memoryUsed = used * static_cast<double>(pages->pageSize);
 }
 
-void SystemModel::readBattery()
+QCoro::Task<> SystemModel::readBattery()
 {
-    const auto sources = m_host.powerSources();
-    if (!sources)
-        return;
-    const auto source = std::ranges::find_if(*sources, isUsable);
-    if (source == sources->end())
-        return;
-    const double charge =
-        static_cast<double>(*source->currentCapacity) / static_cast<double>(*source->maxCapacity);
-    m_battery = static_cast<int>(std::lround(charge * 100));
-    m_charging = source->state == QLatin1String(PowerSource::kMains);
+    const auto asked = m_host.powerSources();
+    const auto sources = co_await until(asked);
+    QList<PowerSource> usable;
+    if (sources)
+        std::ranges::copy_if(*sources, std::back_inserter(usable), isUsable);
+    if (usable.isEmpty())
+        co_return;
+    m_battery = static_cast<int>(std::lround(chargeOf(usable) * 100));
+    m_charging = std::ranges::any_of(
+        usable, [](const auto &source) { return source.state == QLatin1String(PowerSource::kMains); });
 }
 
-void SystemModel::readDisk()
+QCoro::Task<> SystemModel::readDisk()
 {
-    const VolumeCapacity volume = m_host.startupVolume();
+    const auto asked = m_host.startupVolume();
+    const VolumeCapacity volume = co_await until(asked);
     m_diskFree = volume.available.value_or(0);
     m_diskTotal = volume.total.value_or(0);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Async/Scope.h"
 #include "NotchKit/NotchSettings.h"
 #include "NotchKit/Platform/HostStatistics.h"
 #include "NotchKit/ToolModel.h"
@@ -28,15 +29,15 @@ public:
     double memoryUsed() const { return m_memoryUsed; }
     double memoryTotal() const { return m_memoryTotal; }
 
-    /// Per cent; nothing without a battery.
+    /// Per cent of what all batteries hold together; nothing without a battery.
     std::optional<int> battery() const { return m_battery; }
 
-    /// On mains power, as the battery's source tells.
+    /// On mains power, as one of the batteries' sources tells.
     bool charging() const { return m_charging; }
     double diskFree() const { return m_diskFree; }
     double diskTotal() const { return m_diskTotal; }
 
-    /// Reads all four. What cannot be read stays as it was.
+    /// Reads all four, battery and disk a little later. What cannot be read stays as it was.
     void refresh();
 
     void visibleToolChanged(std::optional<NotchTool> visible) override;
@@ -56,8 +57,8 @@ private:
     bool isShown(std::optional<NotchTool> visible) const;
     void readCPU();
     void readMemory();
-    void readBattery();
-    void readDisk();
+    QCoro::Task<> readBattery();
+    QCoro::Task<> readDisk();
 
     NotchSettings &m_settings;
     HostStatistics &m_host;
@@ -69,6 +70,8 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SystemModel, bool, m_charging, false, &SystemModel::changed)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SystemModel, double, m_diskFree, 0, &SystemModel::changed)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(SystemModel, double, m_diskTotal, 0, &SystemModel::changed)
+    Scope m_batteryReading; ///< Two, so that a disk that hangs does not hold the battery up.
+    Scope m_diskReading;
 };
 
 } // namespace Kestrune

@@ -29,6 +29,12 @@ HttpRequest get(const char *host, const QByteArray &target)
             kMostForecastBytes};
 }
 
+/// To about a kilometre, which is all that a forecast needs to know.
+double nearby(double degrees)
+{
+    return std::round(degrees * 100) / 100 + 0.0; // No negative zero.
+}
+
 /// The shortest form that reads back as the same number.
 QByteArray degrees(double value) { return QByteArray::number(value, 'f', QLocale::FloatingPointShortest); }
 
@@ -74,7 +80,8 @@ std::optional<Coordinate> WeatherModel::place() const
 {
     const auto latitude = m_settings.weatherLatitude();
     const auto longitude = m_settings.weatherLongitude();
-    return latitude && longitude ? std::optional(Coordinate{*latitude, *longitude}) : std::nullopt;
+    return latitude && longitude ? std::optional(Coordinate{nearby(*latitude), nearby(*longitude)})
+                                 : std::nullopt;
 }
 
 bool WeatherModel::hasPlace() const { return place().has_value(); }
@@ -188,8 +195,8 @@ void WeatherModel::takeFix(const std::optional<Coordinate> &fix)
 void WeatherModel::setPlace(const QString &name, const Coordinate &place)
 {
     m_settings.setWeatherCity(name);
-    m_settings.setWeatherLatitude(place.latitude);
-    m_settings.setWeatherLongitude(place.longitude);
+    m_settings.setWeatherLatitude(nearby(place.latitude));
+    m_settings.setWeatherLongitude(nearby(place.longitude));
     m_error = QString();
     Q_EMIT placeFound();
     refresh(true);
