@@ -12,12 +12,11 @@ namespace {
 
 StatusMenuEntry text(const char *english) { return {notchStrings(english), {}, false}; }
 
-/// The Super key stands where other keyboards have a command key, as in the notch's hot key.
-QStringList superAnd(const QString &key) { return {QStringLiteral("Super"), key}; }
-
-QStringList hotKey()
+/// Where it is held. Others, which the desktop has chosen, it tells in words of its own.
+QStringList hotKey(AppState &app)
 {
-    return {QStringLiteral("Control"), QStringLiteral("Alt"), QStringLiteral("Super"), QStringLiteral("n")};
+    const bool isHeld = app.controller().hotKeyBinding().state == HotKeyBinding::State::asked;
+    return isHeld ? app.settings().hotKeys().menuWords() : QStringList();
 }
 
 } // namespace
@@ -29,6 +28,8 @@ AppMenu::AppMenu(AppState &app, Updater &updater, StatusItem &item, QObject *par
     , m_item(item)
 {
     connect(&app, &AppState::yieldingToFennivarChanged, this, &AppMenu::update);
+    connect(&app.settings(), &NotchSettings::shortcutChanged, this, &AppMenu::update);
+    connect(&app.controller(), &NotchController::hotKeyBindingChanged, this, &AppMenu::update);
     connect(&updater, &Updater::changed, this, &AppMenu::update);
     update();
 }
@@ -45,16 +46,16 @@ QList<StatusMenuEntry> AppMenu::entries() const
                 << StatusMenuEntry();
     }
     entries << StatusMenuEntry{notchStrings(QT_TRANSLATE_NOOP("notch", "Open Notch")),
-                               [this] { m_app.toggle(); }, !paused, hotKey()};
+                               [this] { m_app.toggle(); }, !paused, hotKey(m_app)};
     entries << StatusMenuEntry{notchStrings(QT_TRANSLATE_NOOP("notch", "Settings…")),
-                               [this] { m_app.openSettings(); }, true, superAnd(QStringLiteral("comma"))};
+                               [this] { m_app.openSettings(); }};
     entries << StatusMenuEntry{notchStrings(QT_TRANSLATE_NOOP("notch", "Check for Updates…")),
                                [this] { m_updater.checkForUpdates(); }, m_updater.canCheckForUpdates()};
     entries << StatusMenuEntry{notchStrings(QT_TRANSLATE_NOOP("notch", "Get more tools: Fennivar ↗")),
                                [this] { m_app.openSuitePage(); }};
     entries << StatusMenuEntry();
     entries << StatusMenuEntry{notchStrings(QT_TRANSLATE_NOOP("notch", "Quit Kestrune")),
-                               [] { QCoreApplication::quit(); }, true, superAnd(QStringLiteral("q"))};
+                               [] { QCoreApplication::quit(); }};
     return entries;
 }
 

@@ -46,9 +46,9 @@ AppState::~AppState() = default;
 
 void AppState::followSettings()
 {
-    for (const auto changed :
-         {&NotchSettings::allDisplaysChanged, &NotchSettings::showWithoutNotchChanged,
-          &NotchSettings::hideOverFullScreenChanged, &NotchSettings::shortcutEnabledChanged})
+    for (const auto changed : {&NotchSettings::allDisplaysChanged, &NotchSettings::showWithoutNotchChanged,
+                               &NotchSettings::hideOverFullScreenChanged, &NotchSettings::placementChanged,
+                               &NotchSettings::shortcutEnabledChanged, &NotchSettings::shortcutChanged})
         connect(&m_settings, changed, &m_controller, &NotchController::settingsChanged);
 }
 

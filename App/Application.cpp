@@ -6,6 +6,8 @@
 #include "TrayIcon.h"
 #include "Updates.h"
 
+#include <QTimer>
+
 namespace Kestrune {
 
 Application::Application(const QDBusConnection &bus, const WindowSystemChoice &windows,
@@ -44,6 +46,8 @@ void Application::run(const LaunchRequest &request)
     m_keys = std::make_unique<SettingsKeys>(makeKeys());
     m_memory = std::make_unique<IdleMemory>(m_state->services());
     m_control.serve({*m_state, *m_keys, m_windows});
+    constexpr auto kAfterTheStart = std::chrono::seconds(5);
+    QTimer::singleShot(kAfterTheStart, m_state.get(), [this] { m_desktop.tidyUp(); });
 }
 
 SettingsKeys Application::makeKeys()

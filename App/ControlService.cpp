@@ -69,7 +69,7 @@ void ControlService::Reopen(const QString &tool)
     if (!fits(tool, kLongestName))
         return;
     answer([tool](const Program &program) {
-        program.app.showNotch(fromRawValue<NotchTool>(tool).value_or(NotchTool::home));
+        program.app.showNotch(fromRawValue<NotchTool>(tool));
         return Answer();
     });
 }
@@ -95,7 +95,13 @@ void ControlService::SetSetting(const QString &key, const QString &text)
 {
     if (!fits(key, kLongestName) || !fits(text, kLongestText))
         return;
-    answer([key, text](const Program &program) { return Answer{{}, program.settings.set(key, text)}; });
+    answer([key, text](const Program &program) {
+        auto wrong = program.settings.set(key, text);
+        const bool taken = program.app.controller().hotKeyBinding().state == HotKeyBinding::State::taken;
+        if (!wrong && taken && key == QLatin1String("shortcut"))
+            wrong = QStringLiteral("kept, but another program has these keys");
+        return Answer{{}, wrong};
+    });
 }
 
 void ControlService::ResetSetting(const QString &key)

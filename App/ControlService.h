@@ -55,7 +55,7 @@ public Q_SLOTS:
     /// Shows the settings window.
     Q_SCRIPTABLE void OpenSettings();
     Q_SCRIPTABLE void Quit();
-    /// The program was started again, with "--open" and a tool or without.
+    /// The program was started again, to be opened on the tool of that raw value, or on what it showed last.
     Q_SCRIPTABLE void Reopen(const QString &tool);
     /// The state as JSON, with nothing of what the user keeps in the tools.
     Q_SCRIPTABLE QString Status();

@@ -33,9 +33,7 @@ DesktopPlatform::DesktopPlatform(const QDBusConnection &bus, const WindowSystemC
     , m_camera(bus)
     , m_calendars(bus, m_defaults)
     , m_platform(makePlatform())
-{
-    m_loginItem.repair();
-}
+{}
 
 Platform DesktopPlatform::makePlatform()
 {

@@ -37,6 +37,9 @@ public:
     /// Calls `ready` once it is known which other applications run.
     void whenReady(std::function<void()> ready) { m_applications.whenReady(std::move(ready)); }
 
+    /// What a start owes the desktop and nobody waits for; it reads a file of the user's.
+    void tidyUp() { m_loginItem.repair(); }
+
 private:
     Platform makePlatform();
 

@@ -140,7 +140,8 @@ int runProgram(int argc, char *argv[], const LaunchRequest &request)
         }
         if (outcome == SingleInstance::Outcome::second) {
             qCInfo(appLog, "one is running already: it is handed the request");
-            const QString tool = request.tool ? rawValue(*request.tool) : QString();
+            const bool asBefore = request.open && !request.tool;
+            const QString tool = asBefore ? QString() : rawValue(request.tool.value_or(NotchTool::home));
             instance.handOver(tool, [](bool taken) {
                 if (!taken)
                     std::fputs("Kestrune: it is running already, but does not answer\n", stderr);

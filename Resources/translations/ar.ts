@@ -277,11 +277,11 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
-        <translation>تُقرأ حدود الاشتراك التي يحفظها Codex CLI في ‎~/.codex على هذا الـ Mac.</translation>
+        <translation>تُقرأ حدود الاشتراك التي يحفظها Codex CLI في ‎~/.codex على هذا الحاسوب.</translation>
     </message>
     <message>
         <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
-        <translation>تُجمع الرموز المميزة التي يسجلها Claude Code في ‎~/.claude على هذا الـ Mac. لا تخزّن Anthropic حدّك المتبقي محليًا.</translation>
+        <translation>تُجمع الرموز المميزة التي يسجلها Claude Code في ‎~/.claude على هذا الحاسوب. لا تخزّن Anthropic حدّك المتبقي محليًا.</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -289,7 +289,7 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
-        <translation>لا شيء يغادر جهاز Mac لديك.</translation>
+        <translation>لا شيء يغادر حاسوبك.</translation>
     </message>
     <message>
         <source>Read again</source>
@@ -380,19 +380,19 @@ Turn it on in Settings.</source>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>أفلت الملفات هنا لتبقى في متناولك.
-اسحبها إلى أي مكان أو أرسلها عبر AirDrop.</translation>
+اسحبها إلى أي مكان أو أرسلها إلى جهاز.</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>اسمح لـ %1 بقراءة مجلد لقطات الشاشة من
-إعدادات النظام › الخصوصية والأمن › الملفات والمجلدات.</translation>
+        <translation>اسمح لـ %1 بقراءة مجلد لقطات الشاشة:
+أذونات المجلد لا تسمح بذلك.</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>التقط صورة للشاشة (‎⇧⌘4‎) لتظهر هنا.
+        <translation>التقط صورة للشاشة (Print Screen) لتظهر هنا.
 اسحبها إلى أي تطبيق، أو انقر بالزر الأيمن للمزيد.</translation>
     </message>
     <message>
@@ -402,7 +402,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>انقر للفتح · اسحب إلى أي تطبيق · الزر الأيمن: نسخ أو AirDrop أو الرف</translation>
+        <translation>انقر للفتح · اسحب إلى أي تطبيق · الزر الأيمن: نسخ أو إرسال أو الرف</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -410,7 +410,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>إرسال إلى جهاز</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -548,13 +548,13 @@ Drag it into any app, or right-click for more.</source>
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>اسمح لـ %1 بالتحكم في Music أو Spotify من
-إعدادات النظام › الخصوصية والأمن › الأتمتة.</translation>
+        <translation>اسمح لـ %1 بالتحكم في مشغلات الوسائط
+من إعدادات الخصوصية في سطح المكتب.</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>شغّل شيئًا في Music أو Spotify
+        <translation>شغّل شيئًا في أي مشغل وسائط
 ليظهر هنا.</translation>
     </message>
     <message>
@@ -604,7 +604,7 @@ and it shows up here.</source>
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>اسمح لـ %1 باستخدام الكاميرا من
-إعدادات النظام › الخصوصية والأمن › الكاميرا.</translation>
+إعدادات الخصوصية في سطح المكتب.</translation>
     </message>
     <message>
         <source>Events</source>
@@ -669,7 +669,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>تطبيق Kestrune جزء من Fennivar، التطبيق الشامل الذي يجعل جهاز Mac لديك يعمل كما ينبغي.</translation>
+        <translation>تطبيق Kestrune جزء من Fennivar، التطبيق الشامل الذي يجعل حاسوبك يعمل كما ينبغي.</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -708,7 +708,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>الفتح والإغلاق باستخدام ‎⌃⌥⌘N</translation>
+        <translation>الفتح والإغلاق باستخدام ‎Ctrl+Alt+Super+N</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -737,7 +737,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>يبقى كل شيء على هذا الـ Mac. يطلب «الطقس» من Open-Meteo توقعات مدينتك وتطلب «الأسهم» من Yahoo Finance الأسعار؛ ولا شيء غير ذلك يتصل بالإنترنت.</translation>
+        <translation>يبقى كل شيء على هذا الحاسوب. يطلب «الطقس» من Open-Meteo توقعات مدينتك وتطلب «الأسهم» من Yahoo Finance الأسعار؛ ولا شيء غير ذلك يتصل بالإنترنت.</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -967,6 +967,44 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>الإخفاء فوق نوافذ ملء الشاشة</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>أشرطة الحافة العلوية</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>تلقائي</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>النتوء فوقها</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>النتوء تحتها</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>اضغط المفاتيح…</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>المفاتيح التي تفتح النتوء وتغلقه: %1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>المفاتيح</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>الفتح والإغلاق باستخدام ‎%1</translation>
     </message>
 </context>
 </TS>

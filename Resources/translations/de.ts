@@ -368,19 +368,19 @@ Schalte ihn in den Einstellungen ein.</translation>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>Dateien hierher ziehen, um sie griffbereit zu haben.
-Von hier lassen sie sich überallhin ziehen oder mit AirDrop senden.</translation>
+Von hier lassen sie sich überallhin ziehen oder an ein Gerät senden.</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>%1 braucht Zugriff auf den Ordner mit den Bildschirmfotos:
-Systemeinstellungen › Datenschutz &amp; Sicherheit › Dateien und Ordner.</translation>
+Die Rechte des Ordners erlauben ihn nicht.</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>Nimm ein Bildschirmfoto auf (⇧⌘4), und es erscheint hier.
+        <translation>Nimm ein Bildschirmfoto auf (Druck-Taste), und es erscheint hier.
 Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
     </message>
     <message>
@@ -390,7 +390,7 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>Klick öffnet · in ein Programm ziehen · Rechtsklick: kopieren, AirDrop oder Ablage</translation>
+        <translation>Klick öffnet · in ein Programm ziehen · Rechtsklick: kopieren, senden oder Ablage</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -398,7 +398,7 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>An Gerät senden</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -536,13 +536,13 @@ Zieh es in ein Programm; die rechte Maustaste bietet mehr.</translation>
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Erlaube %1 die Steuerung von Musik oder Spotify in
-Systemeinstellungen › Datenschutz &amp; Sicherheit › Automation.</translation>
+        <translation>Erlaube %1 die Steuerung von Medienspielern
+in den Datenschutz-Einstellungen der Arbeitsumgebung.</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>Spiel etwas in Musik oder Spotify,
+        <translation>Spiel etwas in einem Medienspieler,
 und es erscheint hier.</translation>
     </message>
     <message>
@@ -591,8 +591,8 @@ und es erscheint hier.</translation>
         <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Erlaube %1 den Zugriff auf die Kamera in
-Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
+        <translation>Erlaube %1 den Zugriff auf die Kamera in den
+Datenschutz-Einstellungen der Arbeitsumgebung.</translation>
     </message>
     <message>
         <source>Events</source>
@@ -657,7 +657,7 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>Kestrune ist ein Teil von Fennivar, der Rundum-App, mit der dein Mac so arbeitet, wie er soll.</translation>
+        <translation>Kestrune ist ein Teil von Fennivar, der Rundum-App, mit der dein Rechner so arbeitet, wie er soll.</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -696,7 +696,7 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>Mit ⌃⌥⌘N öffnen und schließen</translation>
+        <translation>Mit Strg+Alt+Super+N öffnen und schließen</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -725,7 +725,7 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>Alles bleibt auf diesem Mac. Wetter fragt Open-Meteo nach der Vorhersage für deine Stadt und Aktien fragt Yahoo Finance nach Kursen; sonst geht nichts ins Netz.</translation>
+        <translation>Alles bleibt auf diesem Rechner. Wetter fragt Open-Meteo nach der Vorhersage für deine Stadt und Aktien fragt Yahoo Finance nach Kursen; sonst geht nichts ins Netz.</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -955,6 +955,44 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Über Vollbildfenstern ausblenden</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>Leisten am oberen Rand</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>Notch darüber</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>Notch darunter</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>Tasten drücken …</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>Tasten, die den Notch öffnen und schließen: %1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Mit %1 öffnen und schließen</translation>
     </message>
 </context>
 </TS>

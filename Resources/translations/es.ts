@@ -273,11 +273,11 @@ Actívalo en Ajustes.</translation>
     </message>
     <message>
         <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
-        <translation>Lee los límites de tu plan que Codex CLI guarda en ~/.codex en este Mac.</translation>
+        <translation>Lee los límites de tu plan que Codex CLI guarda en ~/.codex en este equipo.</translation>
     </message>
     <message>
         <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
-        <translation>Suma los tokens que Claude Code registra en ~/.claude en este Mac. Anthropic no guarda en local el límite que te queda.</translation>
+        <translation>Suma los tokens que Claude Code registra en ~/.claude en este equipo. Anthropic no guarda en local el límite que te queda.</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -285,7 +285,7 @@ Actívalo en Ajustes.</translation>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
-        <translation>Nada sale de tu Mac.</translation>
+        <translation>Nada sale de tu equipo.</translation>
     </message>
     <message>
         <source>Read again</source>
@@ -368,19 +368,19 @@ Actívalo en Ajustes.</translation>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>Suelta archivos aquí para tenerlos a mano.
-Arrástralos adonde quieras o envíalos con AirDrop.</translation>
+Arrástralos adonde quieras o envíalos a un dispositivo.</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Permite que %1 lea tu carpeta de capturas en
-Ajustes del sistema › Privacidad y seguridad › Archivos y carpetas.</translation>
+        <translation>Permite que %1 lea tu carpeta de capturas:
+los permisos de la carpeta no lo dejan.</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>Haz una captura de pantalla (⇧⌘4) y aparecerá aquí.
+        <translation>Haz una captura de pantalla (Impr Pant) y aparecerá aquí.
 Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
     </message>
     <message>
@@ -390,7 +390,7 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>Clic: abrir · arrastrar a una app · clic derecho: copiar, AirDrop o Estante</translation>
+        <translation>Clic: abrir · arrastrar a una app · clic derecho: copiar, enviar o Estante</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -398,7 +398,7 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>Enviar a un dispositivo</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -536,13 +536,13 @@ Arrástrala a cualquier app o haz clic derecho para ver más.</translation>
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Permite que %1 controle Music o Spotify en
-Ajustes del sistema › Privacidad y seguridad › Automatización.</translation>
+        <translation>Permite que %1 controle los reproductores en
+los ajustes de privacidad del escritorio.</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>Reproduce algo en Music o Spotify
+        <translation>Reproduce algo en cualquier reproductor
 y aparecerá aquí.</translation>
     </message>
     <message>
@@ -592,7 +592,7 @@ y aparecerá aquí.</translation>
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>Permite que %1 use la cámara en
-Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
+los ajustes de privacidad del escritorio.</translation>
     </message>
     <message>
         <source>Events</source>
@@ -657,7 +657,7 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>Kestrune es una parte de Fennivar, la app todo en uno que hace que tu Mac funcione como debe.</translation>
+        <translation>Kestrune es una parte de Fennivar, la app todo en uno que hace que tu equipo funcione como debe.</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -696,7 +696,7 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>Abrir y cerrar con ⌃⌥⌘N</translation>
+        <translation>Abrir y cerrar con Ctrl+Alt+Super+N</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -725,7 +725,7 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>Todo se queda en este Mac. Tiempo pide a Open-Meteo la previsión de tu ciudad y Bolsa pide las cotizaciones a Yahoo Finance; nada más sale a internet.</translation>
+        <translation>Todo se queda en este equipo. Tiempo pide a Open-Meteo la previsión de tu ciudad y Bolsa pide las cotizaciones a Yahoo Finance; nada más sale a internet.</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -955,6 +955,44 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Ocultar sobre ventanas a pantalla completa</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>Paneles en el borde superior</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>Muesca encima</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>Muesca debajo</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>Pulsa las teclas…</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>Teclas que abren y cierran la muesca: %1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Abrir y cerrar con %1</translation>
     </message>
 </context>
 </TS>

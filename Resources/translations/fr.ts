@@ -273,11 +273,11 @@ Activez-le dans les paramètres.</translation>
     </message>
     <message>
         <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
-        <translation>Lit les limites de votre forfait que Codex CLI enregistre dans ~/.codex sur ce Mac.</translation>
+        <translation>Lit les limites de votre forfait que Codex CLI enregistre dans ~/.codex sur cet ordinateur.</translation>
     </message>
     <message>
         <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
-        <translation>Additionne les tokens que Claude Code consigne dans ~/.claude sur ce Mac. Anthropic n’enregistre pas en local ce qu’il vous reste.</translation>
+        <translation>Additionne les tokens que Claude Code consigne dans ~/.claude sur cet ordinateur. Anthropic n’enregistre pas en local ce qu’il vous reste.</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -285,7 +285,7 @@ Activez-le dans les paramètres.</translation>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
-        <translation>Rien ne quitte votre Mac.</translation>
+        <translation>Rien ne quitte votre ordinateur.</translation>
     </message>
     <message>
         <source>Read again</source>
@@ -368,19 +368,19 @@ Activez-le dans les paramètres.</translation>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>Déposez des fichiers ici pour les garder sous la main.
-Glissez-les où vous voulez ou envoyez-les avec AirDrop.</translation>
+Glissez-les où vous voulez ou envoyez-les à un appareil.</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Autorisez %1 à lire votre dossier de captures d’écran dans
-Paramètres système › Confidentialité et sécurité › Fichiers et dossiers.</translation>
+        <translation>Autorisez %1 à lire votre dossier de captures d’écran&#x202f;:
+les droits du dossier l’en empêchent.</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>Prenez une capture d’écran (⇧⌘4) et elle apparaît ici.
+        <translation>Prenez une capture d’écran (Impr. écran) et elle apparaît ici.
 Glissez-la dans une app ou faites un clic droit pour plus d’options.</translation>
     </message>
     <message>
@@ -390,7 +390,7 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>Clic&#x202f;: ouvrir · glisser dans une app · clic droit&#x202f;: copier, AirDrop ou Étagère</translation>
+        <translation>Clic&#x202f;: ouvrir · glisser dans une app · clic droit&#x202f;: copier, envoyer ou Étagère</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -398,7 +398,7 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>Envoyer à un appareil</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -536,13 +536,13 @@ Glissez-la dans une app ou faites un clic droit pour plus d’options.</translat
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Autorisez %1 à contrôler Music ou Spotify dans
-Paramètres système › Confidentialité et sécurité › Automatisation.</translation>
+        <translation>Autorisez %1 à contrôler les lecteurs dans
+les réglages de confidentialité du bureau.</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>Lancez un titre dans Music ou Spotify
+        <translation>Lancez un titre dans un lecteur multimédia
 et il apparaît ici.</translation>
     </message>
     <message>
@@ -592,7 +592,7 @@ et il apparaît ici.</translation>
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>Autorisez %1 à utiliser la caméra dans
-Paramètres système › Confidentialité et sécurité › Caméra.</translation>
+les réglages de confidentialité du bureau.</translation>
     </message>
     <message>
         <source>Events</source>
@@ -657,7 +657,7 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>Kestrune est un élément de Fennivar, l’app tout-en-un qui fait fonctionner votre Mac comme il se doit.</translation>
+        <translation>Kestrune est un élément de Fennivar, l’app tout-en-un qui fait fonctionner votre ordinateur comme il se doit.</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -696,7 +696,7 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>Ouvrir et fermer avec ⌃⌥⌘N</translation>
+        <translation>Ouvrir et fermer avec Ctrl+Alt+Super+N</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -725,7 +725,7 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>Tout reste sur ce Mac. Météo demande à Open-Meteo les prévisions pour votre ville et Bourse demande les cours à Yahoo Finance&#x202f;; rien d’autre ne part en ligne.</translation>
+        <translation>Tout reste sur cet ordinateur. Météo demande à Open-Meteo les prévisions pour votre ville et Bourse demande les cours à Yahoo Finance&#x202f;; rien d’autre ne part en ligne.</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -955,6 +955,44 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Masquer au-dessus des fenêtres en plein écran</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>Panneaux au bord supérieur</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>L’encoche par-dessus</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>L’encoche en dessous</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>Appuyez sur les touches…</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>Touches qui ouvrent et ferment l’encoche : %1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Ouvrir et fermer avec %1</translation>
     </message>
 </context>
 </TS>

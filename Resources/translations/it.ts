@@ -273,11 +273,11 @@ Attivala in Impostazioni.</translation>
     </message>
     <message>
         <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
-        <translation>Legge i limiti del tuo piano che Codex CLI salva in ~/.codex su questo Mac.</translation>
+        <translation>Legge i limiti del tuo piano che Codex CLI salva in ~/.codex su questo computer.</translation>
     </message>
     <message>
         <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
-        <translation>Somma i token che Claude Code registra in ~/.claude su questo Mac. Anthropic non salva in locale il limite che ti resta.</translation>
+        <translation>Somma i token che Claude Code registra in ~/.claude su questo computer. Anthropic non salva in locale il limite che ti resta.</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -285,7 +285,7 @@ Attivala in Impostazioni.</translation>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
-        <translation>Nulla lascia il tuo Mac.</translation>
+        <translation>Nulla lascia il tuo computer.</translation>
     </message>
     <message>
         <source>Read again</source>
@@ -368,19 +368,19 @@ Attivala in Impostazioni.</translation>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>Trascina qui i file per averli a portata di mano.
-Poi trascinali dove vuoi o inviali con AirDrop.</translation>
+Poi trascinali dove vuoi o inviali a un dispositivo.</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Consenti a %1 di leggere la cartella degli screenshot in
-Impostazioni di sistema › Privacy e sicurezza › File e cartelle.</translation>
+        <translation>Consenti a %1 di leggere la cartella degli screenshot:
+i permessi della cartella lo impediscono.</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>Fai uno screenshot (⇧⌘4) e apparirà qui.
+        <translation>Fai uno screenshot (Stamp) e apparirà qui.
 Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
     </message>
     <message>
@@ -390,7 +390,7 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>Clic: apri · trascina in un’app · clic destro: copia, AirDrop o Mensola</translation>
+        <translation>Clic: apri · trascina in un’app · clic destro: copia, invia o Mensola</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -398,7 +398,7 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>Invia a un dispositivo</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -536,13 +536,13 @@ Trascinalo in un’app o usa il tasto destro per altre opzioni.</translation>
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Consenti a %1 di controllare Music o Spotify in
-Impostazioni di sistema › Privacy e sicurezza › Automazione.</translation>
+        <translation>Consenti a %1 di controllare i lettori nelle
+impostazioni di privacy del desktop.</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>Riproduci qualcosa in Music o Spotify
+        <translation>Riproduci qualcosa in un lettore multimediale
 e apparirà qui.</translation>
     </message>
     <message>
@@ -591,8 +591,8 @@ e apparirà qui.</translation>
         <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Consenti a %1 di usare la fotocamera in
-Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
+        <translation>Consenti a %1 di usare la fotocamera nelle
+impostazioni di privacy del desktop.</translation>
     </message>
     <message>
         <source>Events</source>
@@ -657,7 +657,7 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>Kestrune è una parte di Fennivar, l’app tutto in uno che fa funzionare il tuo Mac come dovrebbe.</translation>
+        <translation>Kestrune è una parte di Fennivar, l’app tutto in uno che fa funzionare il tuo computer come dovrebbe.</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -696,7 +696,7 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>Apri e chiudi con ⌃⌥⌘N</translation>
+        <translation>Apri e chiudi con Ctrl+Alt+Super+N</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -725,7 +725,7 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>Tutto resta su questo Mac. Meteo chiede a Open-Meteo le previsioni per la tua città e Borsa chiede le quotazioni a Yahoo Finance; nient’altro va online.</translation>
+        <translation>Tutto resta su questo computer. Meteo chiede a Open-Meteo le previsioni per la tua città e Borsa chiede le quotazioni a Yahoo Finance; nient’altro va online.</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -955,6 +955,44 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Nascondi sopra le finestre a schermo intero</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>Pannelli al bordo superiore</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>Automatico</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>Notch sopra</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>Notch sotto</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>Premi i tasti…</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>Tasti che aprono e chiudono il notch: %1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>Tasti</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Apri e chiudi con %1</translation>
     </message>
 </context>
 </TS>

@@ -272,11 +272,11 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
-        <translation>Codex CLIがこのMacの~/.codexに保存するプランの利用枠を読み取ります。</translation>
+        <translation>Codex CLIがこのコンピュータの~/.codexに保存するプランの利用枠を読み取ります。</translation>
     </message>
     <message>
         <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
-        <translation>Claude CodeがこのMacの~/.claudeに記録するトークンを合計します。Anthropicは残りの利用枠をローカルに保存しません。</translation>
+        <translation>Claude Codeがこのコンピュータの~/.claudeに記録するトークンを合計します。Anthropicは残りの利用枠をローカルに保存しません。</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -284,7 +284,7 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
-        <translation>Macの外には何も送信されません。</translation>
+        <translation>このコンピュータの外には何も送信されません。</translation>
     </message>
     <message>
         <source>Read again</source>
@@ -365,19 +365,19 @@ Turn it on in Settings.</source>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>ファイルをここにドロップすると、すぐに使えます。
-ここからどこへでもドラッグでき、AirDropでも送れます。</translation>
+ここからどこへでもドラッグでき、デバイスにも送れます。</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>%1にスクリーンショットのフォルダの読み取りを許可してください：
-システム設定 › プライバシーとセキュリティ › ファイルとフォルダ</translation>
+フォルダのアクセス権が許していません。</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>スクリーンショットを撮ると（⇧⌘4）、ここに表示されます。
+        <translation>スクリーンショットを撮ると（Print Screen）、ここに表示されます。
 アプリへドラッグできます。右クリックでその他の操作。</translation>
     </message>
     <message>
@@ -387,7 +387,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>クリックで開く · アプリへドラッグ · 右クリック：コピー、AirDrop、シェルフ</translation>
+        <translation>クリックで開く · アプリへドラッグ · 右クリック：コピー、送信、シェルフ</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -395,7 +395,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>デバイスに送信</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -533,13 +533,13 @@ Drag it into any app, or right-click for more.</source>
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>%1にMusicまたはSpotifyの操作を許可してください：
-システム設定 › プライバシーとセキュリティ › オートメーション</translation>
+        <translation>%1にメディアプレーヤーの操作を許可してください：
+デスクトップのプライバシー設定</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>MusicかSpotifyで何か再生すると、
+        <translation>メディアプレーヤーで何か再生すると、
 ここに表示されます。</translation>
     </message>
     <message>
@@ -589,7 +589,7 @@ and it shows up here.</source>
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>%1にカメラの使用を許可してください：
-システム設定 › プライバシーとセキュリティ › カメラ</translation>
+デスクトップのプライバシー設定</translation>
     </message>
     <message>
         <source>Events</source>
@@ -654,7 +654,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>Kestruneは、Macを本来あるべき姿で使えるようにするオールインワンアプリFennivarの一部です。</translation>
+        <translation>Kestruneは、コンピュータを本来あるべき姿で使えるようにするオールインワンアプリFennivarの一部です。</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -693,7 +693,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>⌃⌥⌘Nで開閉する</translation>
+        <translation>Ctrl+Alt+Super+Nで開閉する</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -722,7 +722,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>すべてこのMacに留まります。「天気」はOpen-Meteoに都市の予報を、「株価」はYahoo Financeに株価を問い合わせます。それ以外はネットに接続しません。</translation>
+        <translation>すべてこのコンピュータに留まります。「天気」はOpen-Meteoに都市の予報を、「株価」はYahoo Financeに株価を問い合わせます。それ以外はネットに接続しません。</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -952,6 +952,44 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>フルスクリーンウインドウの上では隠す</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>上端のパネル</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>ノッチを重ねる</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>ノッチを下に置く</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>キーを押してください…</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>ノッチを開閉するキー：%1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>%1で開閉する</translation>
     </message>
 </context>
 </TS>

@@ -272,11 +272,11 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
-        <translation>Codex CLI가 이 Mac의 ~/.codex에 저장하는 요금제 한도를 읽습니다.</translation>
+        <translation>Codex CLI가 이 컴퓨터의 ~/.codex에 저장하는 요금제 한도를 읽습니다.</translation>
     </message>
     <message>
         <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
-        <translation>Claude Code가 이 Mac의 ~/.claude에 기록하는 토큰을 합산합니다. Anthropic은 남은 한도를 로컬에 저장하지 않습니다.</translation>
+        <translation>Claude Code가 이 컴퓨터의 ~/.claude에 기록하는 토큰을 합산합니다. Anthropic은 남은 한도를 로컬에 저장하지 않습니다.</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -284,7 +284,7 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
-        <translation>데이터가 Mac을 떠나지 않습니다.</translation>
+        <translation>데이터가 컴퓨터를 떠나지 않습니다.</translation>
     </message>
     <message>
         <source>Read again</source>
@@ -365,19 +365,19 @@ Turn it on in Settings.</source>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>파일을 여기에 놓아두면 바로 쓸 수 있습니다.
-어디로든 드래그하거나 AirDrop으로 보내세요.</translation>
+어디로든 드래그하거나 기기로 보내세요.</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>%1에 스크린샷 폴더 읽기를 허용하세요:
-시스템 설정 › 개인정보 보호 및 보안 › 파일 및 폴더.</translation>
+폴더의 권한이 막고 있습니다.</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>스크린샷을 찍으면(⇧⌘4) 여기에 표시됩니다.
+        <translation>스크린샷을 찍으면(Print Screen) 여기에 표시됩니다.
 앱으로 드래그하거나 오른쪽 클릭으로 더 많은 작업을 하세요.</translation>
     </message>
     <message>
@@ -387,7 +387,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>클릭하면 열기 · 앱으로 드래그 · 오른쪽 클릭: 복사, AirDrop, 선반</translation>
+        <translation>클릭하면 열기 · 앱으로 드래그 · 오른쪽 클릭: 복사, 보내기, 선반</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -395,7 +395,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>기기로 보내기</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -533,13 +533,13 @@ Drag it into any app, or right-click for more.</source>
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>%1에 Music 또는 Spotify 제어를 허용하세요:
-시스템 설정 › 개인정보 보호 및 보안 › 자동화.</translation>
+        <translation>%1에 미디어 플레이어 제어를 허용하세요:
+데스크톱의 개인정보 보호 설정.</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>Music 또는 Spotify에서 재생하면
+        <translation>미디어 플레이어에서 재생하면
 여기에 표시됩니다.</translation>
     </message>
     <message>
@@ -589,7 +589,7 @@ and it shows up here.</source>
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>%1에 카메라 사용을 허용하세요:
-시스템 설정 › 개인정보 보호 및 보안 › 카메라.</translation>
+데스크톱의 개인정보 보호 설정.</translation>
     </message>
     <message>
         <source>Events</source>
@@ -654,7 +654,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>Kestrune은 Mac을 제대로 쓸 수 있게 해 주는 올인원 앱 Fennivar의 일부입니다.</translation>
+        <translation>Kestrune은 컴퓨터를 제대로 쓸 수 있게 해 주는 올인원 앱 Fennivar의 일부입니다.</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -693,7 +693,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>⌃⌥⌘N으로 열고 닫기</translation>
+        <translation>Ctrl+Alt+Super+N으로 열고 닫기</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -722,7 +722,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>모든 것은 이 Mac에 남습니다. ‘날씨’는 Open-Meteo에서 도시의 예보를, ‘주식’은 Yahoo Finance에서 시세를 가져오며 그 외에는 인터넷에 연결하지 않습니다.</translation>
+        <translation>모든 것은 이 컴퓨터에 남습니다. ‘날씨’는 Open-Meteo에서 도시의 예보를, ‘주식’은 Yahoo Finance에서 시세를 가져오며 그 외에는 인터넷에 연결하지 않습니다.</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -952,6 +952,44 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>전체 화면 창 위에서 숨기기</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>위쪽 가장자리의 패널</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>자동</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>노치를 위에 겹치기</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>노치를 아래에 두기</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>키를 누르세요…</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>노치를 열고 닫는 키: %1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>키</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>%1(으)로 열고 닫기</translation>
     </message>
 </context>
 </TS>

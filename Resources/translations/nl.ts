@@ -273,11 +273,11 @@ Zet die aan bij Instellingen.</translation>
     </message>
     <message>
         <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
-        <translation>Leest de limieten van je abonnement die Codex CLI op deze Mac in ~/.codex bewaart.</translation>
+        <translation>Leest de limieten van je abonnement die Codex CLI op deze computer in ~/.codex bewaart.</translation>
     </message>
     <message>
         <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
-        <translation>Telt de tokens op die Claude Code op deze Mac in ~/.claude vastlegt. Anthropic bewaart niet lokaal wat er van je limiet over is.</translation>
+        <translation>Telt de tokens op die Claude Code op deze computer in ~/.claude vastlegt. Anthropic bewaart niet lokaal wat er van je limiet over is.</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -285,7 +285,7 @@ Zet die aan bij Instellingen.</translation>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
-        <translation>Niets verlaat je Mac.</translation>
+        <translation>Niets verlaat je computer.</translation>
     </message>
     <message>
         <source>Read again</source>
@@ -368,19 +368,19 @@ Zet die aan bij Instellingen.</translation>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>Zet hier bestanden neer om ze bij de hand te houden.
-Sleep ze overal naartoe of verstuur ze met AirDrop.</translation>
+Sleep ze overal naartoe of stuur ze naar een apparaat.</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Geef %1 toegang tot je map met screenshots bij
-Systeeminstellingen › Privacy en beveiliging › Bestanden en mappen.</translation>
+        <translation>Geef %1 toegang tot je map met screenshots:
+de rechten van de map staan het niet toe.</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>Maak een screenshot (⇧⌘4) en die verschijnt hier.
+        <translation>Maak een screenshot (Print Screen) en die verschijnt hier.
 Sleep hem naar een app of klik met de rechtermuisknop voor meer.</translation>
     </message>
     <message>
@@ -390,7 +390,7 @@ Sleep hem naar een app of klik met de rechtermuisknop voor meer.</translation>
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>Klik: openen · sleep naar een app · rechtsklik: kopiëren, AirDrop of Plank</translation>
+        <translation>Klik: openen · sleep naar een app · rechtsklik: kopiëren, versturen of Plank</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -398,7 +398,7 @@ Sleep hem naar een app of klik met de rechtermuisknop voor meer.</translation>
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>Naar apparaat sturen</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -536,13 +536,13 @@ Sleep hem naar een app of klik met de rechtermuisknop voor meer.</translation>
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Laat %1 Music of Spotify bedienen bij
-Systeeminstellingen › Privacy en beveiliging › Automatisering.</translation>
+        <translation>Laat %1 mediaspelers bedienen in
+de privacy-instellingen van het bureaublad.</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>Speel iets af in Music of Spotify
+        <translation>Speel iets af in een mediaspeler
 en het verschijnt hier.</translation>
     </message>
     <message>
@@ -591,8 +591,8 @@ en het verschijnt hier.</translation>
         <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Geef %1 toegang tot de camera bij
-Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
+        <translation>Geef %1 toegang tot de camera in
+de privacy-instellingen van het bureaublad.</translation>
     </message>
     <message>
         <source>Events</source>
@@ -657,7 +657,7 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>Kestrune is een onderdeel van Fennivar, de alles-in-één-app die je Mac laat werken zoals het hoort.</translation>
+        <translation>Kestrune is een onderdeel van Fennivar, de alles-in-één-app die je computer laat werken zoals het hoort.</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -696,7 +696,7 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>Openen en sluiten met ⌃⌥⌘N</translation>
+        <translation>Openen en sluiten met Ctrl+Alt+Super+N</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -725,7 +725,7 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>Alles blijft op deze Mac. Weer vraagt Open-Meteo om de voorspelling voor je stad en Aandelen vraagt Yahoo Finance om koersen; verder gaat er niets online.</translation>
+        <translation>Alles blijft op deze computer. Weer vraagt Open-Meteo om de voorspelling voor je stad en Aandelen vraagt Yahoo Finance om koersen; verder gaat er niets online.</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -955,6 +955,44 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Verbergen boven vensters op volledig scherm</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>Panelen aan de bovenrand</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>Notch eroverheen</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>Notch eronder</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>Druk op de toetsen…</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>Toetsen die de notch openen en sluiten: %1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>Toetsen</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Openen en sluiten met %1</translation>
     </message>
 </context>
 </TS>

@@ -274,11 +274,11 @@ Włącz ją w ustawieniach.</translation>
     </message>
     <message>
         <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
-        <translation>Odczytuje limity planu, które Codex CLI zapisuje w ~/.codex na tym komputerze Mac.</translation>
+        <translation>Odczytuje limity planu, które Codex CLI zapisuje w ~/.codex na tym komputerze.</translation>
     </message>
     <message>
         <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
-        <translation>Sumuje tokeny, które Claude Code zapisuje w ~/.claude na tym komputerze Mac. Anthropic nie przechowuje lokalnie pozostałego limitu.</translation>
+        <translation>Sumuje tokeny, które Claude Code zapisuje w ~/.claude na tym komputerze. Anthropic nie przechowuje lokalnie pozostałego limitu.</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -286,7 +286,7 @@ Włącz ją w ustawieniach.</translation>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
-        <translation>Nic nie opuszcza komputera Mac.</translation>
+        <translation>Nic nie opuszcza komputera.</translation>
     </message>
     <message>
         <source>Read again</source>
@@ -371,19 +371,19 @@ Włącz ją w ustawieniach.</translation>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>Upuść tu pliki, aby mieć je pod ręką.
-Przeciągnij je stąd dokądkolwiek lub wyślij przez AirDrop.</translation>
+Przeciągnij je stąd dokądkolwiek lub wyślij do urządzenia.</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>Zezwól %1 na odczyt folderu zrzutów ekranu:
-Ustawienia systemowe › Prywatność i ochrona › Pliki i foldery.</translation>
+nie pozwalają na to uprawnienia folderu.</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>Zrób zrzut ekranu (⇧⌘4), a pojawi się tutaj.
+        <translation>Zrób zrzut ekranu (Print Screen), a pojawi się tutaj.
 Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation>
     </message>
     <message>
@@ -393,7 +393,7 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>Kliknięcie otwiera · przeciągnij do aplikacji · prawy przycisk: kopiuj, AirDrop, Półka</translation>
+        <translation>Kliknięcie otwiera · przeciągnij do aplikacji · prawy przycisk: kopiuj, wyślij, Półka</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -401,7 +401,7 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>Wyślij do urządzenia</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -539,13 +539,13 @@ Przeciągnij go do aplikacji; prawy przycisk myszy oferuje więcej.</translation
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Zezwól %1 na sterowanie Music lub Spotify:
-Ustawienia systemowe › Prywatność i ochrona › Automatyzacja.</translation>
+        <translation>Zezwól %1 na sterowanie odtwarzaczami:
+ustawienia prywatności pulpitu.</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>Odtwórz coś w Music lub Spotify,
+        <translation>Odtwórz coś w dowolnym odtwarzaczu,
 a pojawi się tutaj.</translation>
     </message>
     <message>
@@ -595,7 +595,7 @@ a pojawi się tutaj.</translation>
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>Zezwól %1 na dostęp do kamery:
-Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
+ustawienia prywatności pulpitu.</translation>
     </message>
     <message>
         <source>Events</source>
@@ -660,7 +660,7 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>Kestrune to część Fennivar, aplikacji „wszystko w jednym”, z którą twój Mac działa tak, jak powinien.</translation>
+        <translation>Kestrune to część Fennivar, aplikacji „wszystko w jednym”, z którą twój komputer działa tak, jak powinien.</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -699,7 +699,7 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>Otwieraj i zamykaj skrótem ⌃⌥⌘N</translation>
+        <translation>Otwieraj i zamykaj skrótem Ctrl+Alt+Super+N</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -728,7 +728,7 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>Wszystko pozostaje na tym komputerze Mac. Pogoda pyta Open-Meteo o prognozę dla twojego miasta, a Giełda pyta Yahoo Finance o notowania; nic innego nie trafia do sieci.</translation>
+        <translation>Wszystko pozostaje na tym komputerze. Pogoda pyta Open-Meteo o prognozę dla twojego miasta, a Giełda pyta Yahoo Finance o notowania; nic innego nie trafia do sieci.</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -958,6 +958,44 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Ukrywaj nad oknami pełnoekranowymi</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>Panele przy górnej krawędzi</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>Automatycznie</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>Notch nad nimi</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>Notch pod nimi</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>Naciśnij klawisze…</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>Klawisze, które otwierają i zamykają notch: %1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>Klawisze</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Otwieraj i zamykaj skrótem %1</translation>
     </message>
 </context>
 </TS>

@@ -273,11 +273,11 @@ Ative-o em Configurações.</translation>
     </message>
     <message>
         <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
-        <translation>Lê os limites do seu plano que o Codex CLI salva em ~/.codex neste Mac.</translation>
+        <translation>Lê os limites do seu plano que o Codex CLI salva em ~/.codex neste computador.</translation>
     </message>
     <message>
         <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
-        <translation>Soma os tokens que o Claude Code registra em ~/.claude neste Mac. A Anthropic não guarda localmente o que resta do seu limite.</translation>
+        <translation>Soma os tokens que o Claude Code registra em ~/.claude neste computador. A Anthropic não guarda localmente o que resta do seu limite.</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -285,7 +285,7 @@ Ative-o em Configurações.</translation>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
-        <translation>Nada sai do seu Mac.</translation>
+        <translation>Nada sai do seu computador.</translation>
     </message>
     <message>
         <source>Read again</source>
@@ -368,19 +368,19 @@ Ative-o em Configurações.</translation>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>Solte arquivos aqui para tê-los à mão.
-Arraste-os para onde quiser ou envie-os com AirDrop.</translation>
+Arraste-os para onde quiser ou envie-os a um dispositivo.</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Permita que %1 leia sua pasta de capturas de tela em
-Configurações do sistema › Privacidade e segurança › Arquivos e pastas.</translation>
+        <translation>Permita que %1 leia sua pasta de capturas de tela:
+as permissões da pasta não deixam.</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>Faça uma captura de tela (⇧⌘4) e ela aparecerá aqui.
+        <translation>Faça uma captura de tela (Print Screen) e ela aparecerá aqui.
 Arraste-a para qualquer app ou clique com o botão direito para mais opções.</translation>
     </message>
     <message>
@@ -390,7 +390,7 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>Clique: abrir · arraste para um app · clique direito: copiar, AirDrop ou Prateleira</translation>
+        <translation>Clique: abrir · arraste para um app · clique direito: copiar, enviar ou Prateleira</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -398,7 +398,7 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>Enviar a um dispositivo</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -536,13 +536,13 @@ Arraste-a para qualquer app ou clique com o botão direito para mais opções.</
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Permita que %1 controle o Music ou o Spotify em
-Configurações do sistema › Privacidade e segurança › Automação.</translation>
+        <translation>Permita que %1 controle os reprodutores nas
+configurações de privacidade do ambiente.</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>Reproduza algo no Music ou no Spotify
+        <translation>Reproduza algo em qualquer reprodutor
 e aparecerá aqui.</translation>
     </message>
     <message>
@@ -591,8 +591,8 @@ e aparecerá aqui.</translation>
         <source>Allow %1 to use the camera in
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>Permita que %1 use a câmera em
-Configurações do sistema › Privacidade e segurança › Câmera.</translation>
+        <translation>Permita que %1 use a câmera nas
+configurações de privacidade do ambiente.</translation>
     </message>
     <message>
         <source>Events</source>
@@ -657,7 +657,7 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>O Kestrune é uma parte do Fennivar, o app completo que faz seu Mac funcionar como deveria.</translation>
+        <translation>O Kestrune é uma parte do Fennivar, o app completo que faz seu computador funcionar como deveria.</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -696,7 +696,7 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>Abrir e fechar com ⌃⌥⌘N</translation>
+        <translation>Abrir e fechar com Ctrl+Alt+Super+N</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -725,7 +725,7 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>Tudo fica neste Mac. Clima pede ao Open-Meteo a previsão da sua cidade e Bolsa pede as cotações ao Yahoo Finance; nada mais vai para a internet.</translation>
+        <translation>Tudo fica neste computador. Clima pede ao Open-Meteo a previsão da sua cidade e Bolsa pede as cotações ao Yahoo Finance; nada mais vai para a internet.</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -955,6 +955,44 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Ocultar sobre janelas em tela cheia</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>Painéis na borda superior</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>Notch por cima</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>Notch por baixo</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>Pressione as teclas…</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>Teclas que abrem e fecham o notch: %1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>Abrir e fechar com %1</translation>
     </message>
 </context>
 </TS>

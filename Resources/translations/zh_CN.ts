@@ -272,11 +272,11 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Reads the plan limits that Codex CLI saves in ~/.codex on this Mac.</source>
-        <translation>读取 Codex CLI 保存在此 Mac 上 ~/.codex 中的套餐限额。</translation>
+        <translation>读取 Codex CLI 保存在此电脑上 ~/.codex 中的套餐限额。</translation>
     </message>
     <message>
         <source>Adds up the tokens that Claude Code logs in ~/.claude on this Mac. Anthropic does not store your remaining limit locally.</source>
-        <translation>汇总 Claude Code 记录在此 Mac 上 ~/.claude 中的 token。Anthropic 不会在本地存储你的剩余限额。</translation>
+        <translation>汇总 Claude Code 记录在此电脑上 ~/.claude 中的 token。Anthropic 不会在本地存储你的剩余限额。</translation>
     </message>
     <message>
         <source>Last 7 days</source>
@@ -284,7 +284,7 @@ Turn it on in Settings.</source>
     </message>
     <message>
         <source>Nothing leaves your Mac.</source>
-        <translation>任何内容都不会离开你的 Mac。</translation>
+        <translation>任何内容都不会离开你的电脑。</translation>
     </message>
     <message>
         <source>Read again</source>
@@ -365,19 +365,19 @@ Turn it on in Settings.</source>
         <source>Drop files here to keep them handy.
 Drag them out anywhere, or AirDrop them.</source>
         <translation>将文件拖到这里，方便随时取用。
-可将其拖到任意位置，或用 AirDrop 发送。</translation>
+可将其拖到任意位置，或发送到设备。</translation>
     </message>
     <message>
         <source>Allow %1 to read your screenshots folder in
 System Settings › Privacy &amp; Security › Files and Folders.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>请允许 %1 读取截图文件夹：
-系统设置 › 隐私与安全性 › 文件与文件夹。</translation>
+文件夹的权限不允许。</translation>
     </message>
     <message>
         <source>Take a screenshot (⇧⌘4) and it appears here.
 Drag it into any app, or right-click for more.</source>
-        <translation>截图（⇧⌘4）后会显示在这里。
+        <translation>截图（Print Screen）后会显示在这里。
 可拖入任意应用，或右键点击查看更多操作。</translation>
     </message>
     <message>
@@ -387,7 +387,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.</source>
-        <translation>点击打开 · 拖入任意应用 · 右键：复制、AirDrop 或中转站</translation>
+        <translation>点击打开 · 拖入任意应用 · 右键：复制、发送或中转站</translation>
     </message>
     <message>
         <source>Show in Finder</source>
@@ -395,7 +395,7 @@ Drag it into any app, or right-click for more.</source>
     </message>
     <message>
         <source>AirDrop</source>
-        <translation>AirDrop</translation>
+        <translation>发送到设备</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -533,13 +533,13 @@ Drag it into any app, or right-click for more.</source>
         <source>Allow %1 to control Music or Spotify in
 System Settings › Privacy &amp; Security › Automation.</source>
         <extracomment>%1 is the name of the program.</extracomment>
-        <translation>请允许 %1 控制 Music 或 Spotify：
-系统设置 › 隐私与安全性 › 自动化。</translation>
+        <translation>请允许 %1 控制媒体播放器：
+桌面的隐私设置。</translation>
     </message>
     <message>
         <source>Play something in Music or Spotify
 and it shows up here.</source>
-        <translation>在 Music 或 Spotify 中播放内容，
+        <translation>在任意媒体播放器中播放内容，
 即会显示在这里。</translation>
     </message>
     <message>
@@ -589,7 +589,7 @@ and it shows up here.</source>
 System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is the name of the program.</extracomment>
         <translation>请允许 %1 使用摄像头：
-系统设置 › 隐私与安全性 › 摄像头。</translation>
+桌面的隐私设置。</translation>
     </message>
     <message>
         <source>Events</source>
@@ -654,7 +654,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Kestrune is one piece of Fennivar, the all-in-one app that makes your Mac work the way it should.</source>
-        <translation>Kestrune 是 Fennivar 的一部分，这款全能应用让你的 Mac 按应有的方式运作。</translation>
+        <translation>Kestrune 是 Fennivar 的一部分，这款全能应用让你的电脑 按应有的方式运作。</translation>
     </message>
     <message>
         <source>Snap windows into place with a key or a drag</source>
@@ -693,7 +693,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Open and close with ⌃⌥⌘N</source>
-        <translation>使用 ⌃⌥⌘N 打开和关闭</translation>
+        <translation>使用 Ctrl+Alt+Super+N 打开和关闭</translation>
     </message>
     <message>
         <source>Show the song or timer beside the closed notch</source>
@@ -722,7 +722,7 @@ System Settings › Privacy &amp; Security › Camera.</source>
     </message>
     <message>
         <source>Everything stays on this Mac. Weather asks Open-Meteo for your city&apos;s forecast and Stocks asks Yahoo Finance for quotes; nothing else goes online.</source>
-        <translation>所有内容都留在此 Mac 上。“天气”向 Open-Meteo 查询你所在城市的预报，“股票”向 Yahoo Finance 查询行情；除此之外不会联网。</translation>
+        <translation>所有内容都留在此电脑上。“天气”向 Open-Meteo 查询你所在城市的预报，“股票”向 Yahoo Finance 查询行情；除此之外不会联网。</translation>
     </message>
     <message>
         <source>Keep a clipboard history</source>
@@ -952,6 +952,44 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Hide over full-screen windows</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>在全屏窗口上方隐藏</translation>
+    </message>
+    <message>
+        <source>Panels at the top edge</source>
+        <extracomment>Other programs&apos; bars along the top of the screen; followed by a choice of where the notch is.</extracomment>
+        <translation>顶部边缘的面板</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <extracomment>Completes “Panels at the top edge”: below them, but around a camera.</extracomment>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>Notch over them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch lies over them.</extracomment>
+        <translation>刘海盖在上面</translation>
+    </message>
+    <message>
+        <source>Notch below them</source>
+        <extracomment>Completes “Panels at the top edge”: the notch hangs below them.</extracomment>
+        <translation>刘海在其下方</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>请按下按键…</translation>
+    </message>
+    <message>
+        <source>Keys that open and close the notch: %1</source>
+        <translation>打开和关闭刘海的按键：%1</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <extracomment>Beside a button that shows the keys of the hot key.</extracomment>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Open and close with %1</source>
+        <extracomment>%1 is a combination of keys.</extracomment>
+        <translation>使用 %1 打开和关闭</translation>
     </message>
 </context>
 </TS>

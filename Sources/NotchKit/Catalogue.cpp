@@ -212,10 +212,20 @@ constexpr std::array kOpenModes{
     CatalogueEntry{"click", QT_TRANSLATE_NOOP("notch", "On click")},
 };
 
+constexpr std::array kPlacements{
+    //: Completes “Panels at the top edge”: below them, but around a camera.
+    CatalogueEntry{"automatic", QT_TRANSLATE_NOOP("notch", "Automatic")},
+    //: Completes “Panels at the top edge”: the notch lies over them.
+    CatalogueEntry{"over", QT_TRANSLATE_NOOP("notch", "Notch over them")},
+    //: Completes “Panels at the top edge”: the notch hangs below them.
+    CatalogueEntry{"below", QT_TRANSLATE_NOOP("notch", "Notch below them")},
+};
+
 static_assert(kTools.size() == static_cast<std::size_t>(NotchTool::system) + 1);
 static_assert(kWidgets.size() == static_cast<std::size_t>(HomeWidget::note) + 1);
 static_assert(kColumns.size() == static_cast<std::size_t>(HomeColumn::right) + 1);
 static_assert(kOpenModes.size() == static_cast<std::size_t>(NotchOpenMode::click) + 1);
+static_assert(kPlacements.size() == static_cast<std::size_t>(NotchPlacement::below) + 1);
 
 } // namespace
 
@@ -241,6 +251,12 @@ template <>
 std::span<const CatalogueEntry> catalogue<NotchOpenMode>()
 {
     return kOpenModes;
+}
+
+template <>
+std::span<const CatalogueEntry> catalogue<NotchPlacement>()
+{
+    return kPlacements;
 }
 
 QList<NotchTool> toolsWithWings()

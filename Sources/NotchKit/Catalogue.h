@@ -55,6 +55,11 @@ Q_ENUM_NS(HomeColumn)
 enum class NotchOpenMode { hover, click };
 Q_ENUM_NS(NotchOpenMode)
 
+/// Where the notch is on a display whose top edge another panel keeps for itself: by itself it is below, but
+/// around a camera housing.
+enum class NotchPlacement { automatic, over, below };
+Q_ENUM_NS(NotchPlacement)
+
 class AirDrop;
 class NotchSettings;
 class ToolModel;
@@ -84,7 +89,7 @@ struct CatalogueEntry
 
 template <typename Case>
 concept CatalogueCase = std::same_as<Case, NotchTool> || std::same_as<Case, HomeWidget> ||
-    std::same_as<Case, HomeColumn> || std::same_as<Case, NotchOpenMode>;
+    std::same_as<Case, HomeColumn> || std::same_as<Case, NotchOpenMode> || std::same_as<Case, NotchPlacement>;
 
 /// The entries of an enumeration, one per case, in declaration order.
 template <CatalogueCase Case>

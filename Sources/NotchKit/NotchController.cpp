@@ -18,9 +18,7 @@ namespace {
 
 constexpr auto kPollInterval = 33ms; // 1/30 s
 constexpr auto kLeaveDelay = 250ms;
-constexpr auto kClosing = 1s;                             // Its motion is over by then.
-constexpr quint32 kShortcutKey = 45;                      // N
-constexpr quint32 kShortcutModifiers = 256 + 2048 + 4096; // command, option, control
+constexpr auto kClosing = 1s; // Its motion is over by then.
 
 /// Unlike QRectF::contains, the upper edges do not count, so that neighbouring displays never both match.
 bool holds(const QRectF &rect, const QPointF &point)
@@ -151,8 +149,9 @@ void NotchController::applyShortcut()
         return;
     }
     HotKeys &keys = m_windows.hotKeys();
+    const KeyCombination wanted = m_services.settings()->hotKeys();
     m_hotkey = GlobalHotkey::make(
-        keys, kShortcutKey, kShortcutModifiers, [this] { toggle(); },
+        keys, wanted.keyCode, wanted.modifiers, [this] { toggle(); },
         [this](const HotKeyBinding &binding) { setHotKeyBinding(binding); });
     const HotKeyBinding binding = m_hotkey ? keys.firstBinding() : HotKeyBinding{HotKeyBinding::State::taken};
     if (binding.state != HotKeyBinding::State::pending)
@@ -211,7 +210,8 @@ void NotchController::rebuildPanels()
 void NotchController::updateNotch(Notch &notch, const Display &screen)
 {
     notch.screen = screen;
-    notch.model->setGeometry(NotchGeometry(screen));
+    notch.model->setGeometry(geometryOn(screen));
+    notch.panel->setBelowPanels(isBelowPanels(screen));
     notch.panel->setFrame(notch.model->geometry().panelFrame());
     notch.hitArea = {};
     updateHitArea(notch);
@@ -219,9 +219,10 @@ void NotchController::updateNotch(Notch &notch, const Display &screen)
 
 void NotchController::addNotch(const Display &screen)
 {
-    auto model = std::make_unique<NotchScreenModel>(NotchGeometry(screen));
+    auto model = std::make_unique<NotchScreenModel>(geometryOn(screen));
     model->setSelected(firstTool());
     auto panel = m_panels.create(model->geometry().panelFrame(), *model, m_services);
+    panel->setBelowPanels(isBelowPanels(screen));
     connect(model.get(), &NotchScreenModel::keyboardWanted, this,
             [panel = panel.get()] { panel->makeKey(); });
     connect(model.get(), &NotchScreenModel::closeWanted, this, [this, name = screen.name] {
@@ -231,6 +232,20 @@ void NotchController::addNotch(const Display &screen)
     m_notches.push_back({screen, std::move(model), std::move(panel), {}});
     updateHitArea(m_notches.back());
     showOrHide(m_notches.back());
+}
+
+bool NotchController::isBelowPanels(const Display &screen) const
+{
+    const NotchPlacement placement = m_services.settings()->placement();
+    return placement == NotchPlacement::below ||
+           (placement == NotchPlacement::automatic && screen.safeAreaTop <= 0);
+}
+
+NotchGeometry NotchController::geometryOn(const Display &screen) const
+{
+    NotchGeometry geometry(screen);
+    geometry.topInset = isBelowPanels(screen) ? screen.panelsTop : 0;
+    return geometry;
 }
 
 NotchTool NotchController::firstTool() const

@@ -88,6 +88,8 @@ private:
     void rebuildPanels();
     void addNotch(const Display &screen);
     void updateNotch(Notch &notch, const Display &screen);
+    bool isBelowPanels(const Display &screen) const;
+    NotchGeometry geometryOn(const Display &screen) const;
     NotchTool firstTool() const;
     Notch *find(const QString &name);
     Notch *mainNotch();

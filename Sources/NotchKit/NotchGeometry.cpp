@@ -5,7 +5,10 @@ namespace Kestrune {
 namespace {
 
 double midX(const QRectF &frame) { return frame.x() + frame.width() / 2; }
-double topEdge(const QRectF &frame) { return frame.y() + frame.height(); }
+double topEdge(const NotchGeometry &notch)
+{
+    return notch.screenFrame.y() + notch.screenFrame.height() - notch.topInset;
+}
 
 } // namespace
 
@@ -22,15 +25,15 @@ NotchGeometry::NotchGeometry(const Display &display)
 
 QRectF NotchGeometry::panelFrame() const
 {
-    return {midX(screenFrame) - panelSize.width() / 2, topEdge(screenFrame) - panelSize.height(),
-            panelSize.width(), panelSize.height()};
+    return {midX(screenFrame) - panelSize.width() / 2, topEdge(*this) - panelSize.height(), panelSize.width(),
+            panelSize.height()};
 }
 
 QRectF NotchGeometry::hitRect(bool expanded, bool activity) const
 {
     const QSizeF size = shapeSize(expanded, activity);
     const double margin = expanded ? 8 : 6;
-    return {midX(screenFrame) - size.width() / 2 - margin, topEdge(screenFrame) - size.height() - margin,
+    return {midX(screenFrame) - size.width() / 2 - margin, topEdge(*this) - size.height() - margin,
             size.width() + 2 * margin, size.height() + margin + 1};
 }
 

@@ -25,6 +25,7 @@ public:
     QRectF screenFrame;            ///< The display's whole frame.
     QSizeF notchSize;              ///< The closed notch.
     bool hasHardwareNotch = false; ///< The size was measured from a camera housing.
+    double topInset = 0;           ///< How far below the display's top edge the edge is that it hangs from.
 
     NotchGeometry() = default;
     NotchGeometry(const QRectF &screen, const QSizeF &notch, bool hardware)
@@ -36,11 +37,11 @@ public:
     /// Measures the housing when the display reports both areas beside it, else takes the fallback size.
     explicit NotchGeometry(const Display &display);
 
-    /// Where the host panel goes: centred, its top edge on the display's.
+    /// Where the host panel goes: centred, its top edge on the one that the notch hangs from.
     QRectF panelFrame() const;
 
     /// The area in which the pointer counts as over the notch: the shape with a margin left, right and
-    /// below, and one point beyond the display's top edge.
+    /// below, and one point above the edge that it hangs from.
     QRectF hitRect(bool expanded, bool activity) const;
 
     /// The size in which the notch is drawn.

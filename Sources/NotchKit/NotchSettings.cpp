@@ -134,6 +134,17 @@ SettingRule listOf(const QStringList &cases)
             }};
 }
 
+SettingRule keys()
+{
+    return {QStringLiteral(
+                "keys such as Ctrl+Alt+Super+N: a letter, a digit, Space or F1 to F12, the first three with "
+                "Ctrl, Alt or Super"),
+            [](const DefaultsValue &value) -> std::optional<QString> {
+                const QString words = convertDefaultsValue<QString>(value).value_or(QString());
+                return KeyCombination::parse(words) ? std::nullopt : std::optional(words);
+            }};
+}
+
 SettingRule mapFrom(const QStringList &keys, const QStringList &cases)
 {
     return {QStringLiteral("a JSON map from %1 to %2").arg(alternatives(keys), alternatives(cases)),
@@ -167,6 +178,7 @@ const QMap<QString, SettingRule> &rulesByName()
 {
     static const QMap<QString, SettingRule> rules{
         {QStringLiteral("hoverDelay"), inRange({})},
+        {QStringLiteral("shortcut"), keys()},
         {QStringLiteral("claudeBlockBudget"), inRange({}, QStringLiteral("a whole number"))},
         {QStringLiteral("weatherLatitude"), inRange({-90, 90})},
         {QStringLiteral("weatherLongitude"), inRange({-180, 180})},

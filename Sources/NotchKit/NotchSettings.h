@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Catalogue.h"
+#include "NotchKit/Platform/KeyCombination.h"
 #include "NotchKit/Platform/UserDefaults.h"
 
 #include <QObject>
@@ -44,7 +45,9 @@ struct SettingRule
     SETTING(bool, allDisplays, AllDisplays, false)                                                           \
     SETTING(bool, showWithoutNotch, ShowWithoutNotch, true)                                                  \
     SETTING(bool, hideOverFullScreen, HideOverFullScreen, true)                                              \
+    SETTING(NotchPlacement, placement, Placement, NotchPlacement::automatic)                                 \
     SETTING(bool, shortcutEnabled, ShortcutEnabled, true)                                                    \
+    SETTING(QString, shortcut, Shortcut, KeyCombination().words())                                           \
     SETTING(bool, liveActivities, LiveActivities, true)                                                      \
     SETTING(QStringList, ignoredPlayers, IgnoredPlayers, QStringList())                                      \
     SETTING(QString, note, Note, QString())                                                                  \
@@ -124,6 +127,9 @@ public:
 
     /// Access to the setting `name`; null for an unknown name.
     static const Access *access(const QString &name);
+
+    /// The keys of `shortcut`; the default ones where it holds none.
+    KeyCombination hotKeys() const { return KeyCombination::parse(shortcut()).value_or(KeyCombination()); }
 
     bool isEnabled(NotchTool tool) const;
 

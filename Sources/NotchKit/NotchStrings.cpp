@@ -56,10 +56,12 @@ private:
 
 QStringList availableLocalizations()
 {
-    QStringList languages{QStringLiteral("en")};
+    QStringList languages;
     const auto files = QDir(QString::fromLatin1(kTranslations)).entryList({QStringLiteral("*.qm")});
     for (const QString &file : files)
         languages.append(file.chopped(3).replace(QLatin1Char('_'), QLatin1Char('-')));
+    if (!languages.contains(QStringLiteral("en")))
+        languages.prepend(QStringLiteral("en")); // The code's own.
     return languages;
 }
 

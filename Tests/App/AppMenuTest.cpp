@@ -72,16 +72,19 @@ private Q_SLOTS:
     {
         Stage stage;
         QVERIFY(stage.watch());
-        const QStringList rest{u"Settings… Super+comma"_s, u"Check for Updates… off"_s,
-                               u"Get more tools: Fennivar ↗"_s, u"separator"_s, u"Quit Kestrune Super+q"_s};
+        const QStringList rest{u"Settings…"_s, u"Check for Updates… off"_s, u"Get more tools: Fennivar ↗"_s,
+                               u"separator"_s, u"Quit Kestrune"_s};
         const QStringList running = QStringList{u"Open Notch Control+Alt+Super+n"_s} + rest;
         QCOMPARE(stage.lines(), running);
         stage.pause(true);
         QCOMPARE(stage.lines(), QStringList({u"Fennivar’s notch is on, so Kestrune is paused. off"_s,
                                              u"Turn off Notch in Fennivar to use Kestrune. off"_s,
-                                             u"separator"_s, u"Open Notch off Control+Alt+Super+n"_s}) +
+                                             u"separator"_s, u"Open Notch off"_s}) +
                                     rest);
         stage.pause(false);
+        QCOMPARE(stage.lines(), running);
+        stage.app->settings().setShortcutEnabled(false);
+        QCOMPARE(stage.lines().value(0), u"Open Notch"_s);
         stage.updater.setCanCheck(true);
         QCOMPARE(stage.lines().value(2), u"Check for Updates…"_s);
     }

@@ -42,18 +42,6 @@ private Q_SLOTS:
 private:
     static constexpr QPoint onlyTile{640, 120};
 
-    void drag(QPoint from, QPoint to)
-    {
-        input().move(from);
-        QTest::qWait(100);
-        input().pressButton();
-        for (int step = 1; step <= 12; ++step) {
-            input().move(from + (to - from) * step / 12);
-            QTest::qWait(25);
-        }
-        QTest::qWait(300);
-    }
-
     /// Whether the window's file is over the open notch now; the window may not be there yet.
     bool dragToNotch(const QString &manager)
     {
@@ -61,7 +49,7 @@ private:
         return std::ranges::any_of(places, [this](QPoint place) {
             input().move(FileManager::empty); // Or a release on the notch would open it.
             input().releaseButton();
-            drag(place, Place::notch);
+            input().drag(place, Place::notch);
             return waitUntil([&] { return session().isOpen(); }, 1000);
         });
     }
@@ -71,7 +59,7 @@ private:
         input().click(Place::notch);
         if (!waitUntil([&] { return session().isOpen(); }))
             return false;
-        drag(onlyTile, FileManager::empty);
+        input().drag(onlyTile, FileManager::empty);
         input().releaseButton();
         QTest::qWait(300);
         input().click(FileManager::copyHere);

@@ -32,6 +32,18 @@ private Q_SLOTS:
         QVERIFY(stage().beneath.keys() <= 3);
     }
 
+    void followsTheLayout()
+    {
+        QVERIFY(stage().run());
+        QCOMPARE(QProcess::execute(u"setxkbmap"_s, {u"-display"_s, stage().display.name(), u"dvorak"_s}), 0);
+        const auto former = input().code(XK_n);
+        QTRY_VERIFY((input().readLayout(), input().code(XK_n) != former));
+        QVERIFY(waitUntil([&] {
+            input().hotKey();
+            return waitUntil([&] { return stage().looksOpen(); }, 1000);
+        }));
+    }
+
     void heldDownItTogglesOnce()
     {
         QVERIFY(stage().run());
@@ -77,6 +89,19 @@ private Q_SLOTS:
         QVERIFY(stage().openByHover() && stage().leave());
         QCOMPARE(session().command({u"toggle"_s}).status, 0);
         QTRY_VERIFY(stage().looksOpen());
+        QVERIFY(stage().close());
+
+        const auto choose = [&](const QString &keys) {
+            return session().command({u"settings"_s, u"set"_s, u"shortcut"_s, keys});
+        };
+        QCOMPARE(choose(u"Ctrl+F8"_s).status, 0);
+        input().pressKey(XK_Control_L);
+        input().tap(XK_F8);
+        input().releaseKey(XK_Control_L);
+        QTRY_VERIFY(stage().looksOpen());
+        const Session::Result taken = choose(u"Ctrl+Alt+Super+N"_s);
+        QCOMPARE(taken.status, 2);
+        QVERIFY(taken.errors.contains(u"another program has these keys"_s));
     }
 
 private:

@@ -28,6 +28,20 @@ struct Input
         releaseButton();
     }
 
+    /// Presses there and moves to `to` as a hand does, without letting go.
+    void drag(QPoint from, QPoint to)
+    {
+        move(from);
+        QTest::qWait(100);
+        pressButton();
+        constexpr int kSteps = 12;
+        for (int step = 1; step <= kSteps; ++step) {
+            move(from + (to - from) * step / kSteps);
+            QTest::qWait(25);
+        }
+        QTest::qWait(300);
+    }
+
     void pressKey(xcb_keysym_t key) { fake(XCB_KEY_PRESS, code(key)); }
     void releaseKey(xcb_keysym_t key) { fake(XCB_KEY_RELEASE, code(key)); }
     void tap(xcb_keysym_t key)
@@ -67,6 +81,13 @@ struct Input
         const auto cookie = xcb_query_pointer(m_x.connection(), m_x.root());
         const auto reply = owned(xcb_query_pointer_reply(m_x.connection(), cookie, nullptr));
         return reply ? reply->mask : quint16{0};
+    }
+
+    /// The keys of `code` follow a new layout from now on.
+    void readLayout()
+    {
+        xcb_key_symbols_free(m_symbols);
+        m_symbols = xcb_key_symbols_alloc(m_x.connection());
     }
 
     xcb_keycode_t code(xcb_keysym_t key) const

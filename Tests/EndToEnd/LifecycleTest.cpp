@@ -42,6 +42,7 @@ private Q_SLOTS:
     {
         columns<QStringList, QString>();
         QTest::newRow("plain") << QStringList{} << u"home"_s;
+        QTest::newRow("opened as it was") << QStringList{u"--open"_s} << u"note"_s;
         QTest::newRow("with a tool") << QStringList{u"--open"_s, u"timer"_s} << u"timer"_s;
     }
 

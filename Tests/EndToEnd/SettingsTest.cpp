@@ -38,7 +38,7 @@ private Q_SLOTS:
         input().tap(XK_space);
         QTRY_COMPARE(session().setting(u"shortcutEnabled"_s), u"false"_s);
 
-        constexpr int kToFirstColumn = 10; // The switches in between, and the column of Home's first block.
+        constexpr int kToFirstColumn = 11; // The switches in between, and the column of Home's first block.
         const QImage top = stage().x.grab(area());
         for (int i = 0; i < kToFirstColumn; ++i)
             input().tap(XK_Tab);
@@ -67,12 +67,25 @@ private Q_SLOTS:
         QTRY_VERIFY(looksOn());
         input().click(place(sliderMiddle));
         QTRY_COMPARE(session().setting(u"hoverDelay"_s), u"0.4"_s);
-        for (const auto *name : {"shortcutEnabled", "liveActivities", "announceScreenshots", "allDisplays",
-                                 "showWithoutNotch", "hideOverFullScreen", "clipboardHistory",
-                                 "readCodexUsage", "readClaudeUsage", "useFahrenheit"}) {
-            QCOMPARE(changedBy({XK_Tab, XK_space}), QStringList(QLatin1String(name)));
-            QCOMPARE(changedBy({XK_space}), QStringList(QLatin1String(name)));
-        }
+        const auto switches = [&](const QStringList &names) {
+            return std::ranges::all_of(names, [&](const QString &name) {
+                return changedBy({XK_Tab, XK_space}) == QStringList(name) &&
+                       changedBy({XK_space}) == QStringList(name);
+            });
+        };
+        QVERIFY(switches({u"shortcutEnabled"_s}));
+        input().tap(XK_Tab);
+        input().tap(XK_space);
+        QCOMPARE(changedBy({XK_k}), QStringList()); // For typing.
+        input().pressKey(XK_Control_L);
+        QCOMPARE(changedBy({XK_k}), QStringList(u"shortcut"_s));
+        input().releaseKey(XK_Control_L);
+        QCOMPARE(session().setting(u"shortcut"_s), u"Ctrl+K"_s);
+        QVERIFY(switches({u"liveActivities"_s, u"announceScreenshots"_s, u"allDisplays"_s,
+                          u"showWithoutNotch"_s, u"hideOverFullScreen"_s}));
+        QCOMPARE(changedBy({XK_Tab, XK_Down}), QStringList(u"placement"_s));
+        QVERIFY(
+            switches({u"clipboardHistory"_s, u"readCodexUsage"_s, u"readClaudeUsage"_s, u"useFahrenheit"_s}));
         const QString order = session().setting(u"homeOrder"_s);
         const QString columns = session().setting(u"homeColumns"_s);
         for (int row = 0; row < 12; ++row) {

@@ -30,7 +30,7 @@ private Q_SLOTS:
         const QPoint to = placeWindow() + QPoint(400, 350);
         QVERIFY(stage().openByHover());
         const auto dragOut = [&] {
-            drag(firstOfThree, to);
+            input().drag(firstOfThree, to);
             input().releaseButton();
             return waitUntil([&] { return QFile::exists(path(u"to/"_s + files[0])); }, 2000);
         };
@@ -146,18 +146,6 @@ private:
         return place.topLeft();
     }
 
-    void drag(QPoint from, QPoint to)
-    {
-        input().move(from);
-        QTest::qWait(100);
-        input().pressButton();
-        for (int step = 1; step <= 12; ++step) {
-            input().move(from + (to - from) * step / 12);
-            QTest::qWait(25);
-        }
-        QTest::qWait(300);
-    }
-
     void dragAllToNotch(QPoint window)
     {
         input().releaseButton();
@@ -165,7 +153,7 @@ private:
         input().pressKey(XK_Control_L);
         input().tap(XK_a);
         input().releaseKey(XK_Control_L);
-        drag(window + QPoint(204, 79), Place::notch);
+        input().drag(window + QPoint(204, 79), Place::notch);
     }
 
     /// Presses elsewhere, moves onto the notch and tells its window.

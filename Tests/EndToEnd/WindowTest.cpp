@@ -93,7 +93,7 @@ private Q_SLOTS:
     {
         auto [windowManager, kind, geometry] = fetched<QString, TestWindow::Kind, QRect>();
         setStage({.windowManager = windowManager});
-        QVERIFY(stage().run({{"hideOverFullScreen", "false"}}));
+        QVERIFY(stage().run({{"hideOverFullScreen", "false"}, {"placement", "over"}}));
         TestWindow other(stage().display.name(), kind, geometry, 0xff8040c0);
         const auto shown = [&](QPoint place) { return stage().x.pixel(place) != other.colour(); };
         QTRY_VERIFY(shown(Place::notch));
@@ -112,6 +112,38 @@ private Q_SLOTS:
         QVERIFY(session().start());
         QTRY_VERIFY(shown(Place::notch));
         QVERIFY(shown({640, 0}));
+    }
+
+    void hangsBelowPanels_data() { windowManagers(); }
+    void hangsBelowPanels()
+    {
+        setWindowManager();
+        QVERIFY(stage().run({{"hoverDelay", "0"}}));
+        constexpr QPoint down(0, 30);
+        constexpr QPoint onThePanel(640, 15);
+        std::optional<TestWindow> panel(std::in_place, stage().display.name(), TestWindow::Kind::Dock,
+                                        QRect(0, 0, 1280, down.y()), 0xff8040c0);
+        const auto shown = [&](QPoint place) {
+            return stage().covered(place) && stage().x.pixel(place) != panel->colour();
+        };
+        QTRY_VERIFY(!shown(onThePanel) && shown(Place::notch + down));
+        input().click(onThePanel);
+        QTRY_COMPARE(panel->clicks(), 1);
+        QVERIFY(!session().isOpen() && stage().clickIsKept(Place::notch + down));
+
+        input().move(Place::away);
+        QTRY_VERIFY(!session().isOpen());
+        input().move(Place::notch + down);
+        QTRY_VERIFY(shown(Place::panelEdge + down) && !shown(onThePanel));
+        input().move(Place::away);
+        QTRY_VERIFY(!session().isOpen() && !shown(Place::panel));
+
+        QVERIFY(session().set(u"placement"_s, u"over"_s));
+        QTRY_VERIFY(shown(onThePanel) && !stage().covered(Place::notch + down));
+        QVERIFY(session().set(u"placement"_s, u"below"_s));
+        QTRY_VERIFY(!shown(onThePanel) && shown(Place::notch + down));
+        panel.reset();
+        QTRY_VERIFY(stage().covered(onThePanel) && !stage().covered(Place::notch + down));
     }
 
     void hidesOverFullScreenWindows_data() { windowManagers(); }

@@ -72,6 +72,33 @@ private Q_SLOTS:
         QCOMPARE(core.panel().hitArea, core.model().geometry().hitRect(false, false));
     }
 
+    void hangsBelowPanels_data()
+    {
+        columns<bool, NotchPlacement, double>();
+        QTest::newRow("by itself") << false << NotchPlacement::automatic << 30.0;
+        QTest::newRow("by itself, with a housing") << true << NotchPlacement::automatic << 0.0;
+        QTest::newRow("over") << false << NotchPlacement::over << 0.0;
+        QTest::newRow("below, with a housing") << true << NotchPlacement::below << 30.0;
+    }
+
+    void hangsBelowPanels()
+    {
+        const auto [housing, placement, down] = fetched<bool, NotchPlacement, double>();
+        Fakes::Core core;
+        auto display = housing ? builtInDisplay(0) : externalDisplay(0);
+        core.displays.displays = {display};
+        core.settings.setPlacement(placement);
+        core.controller.start();
+        const QRectF atTheEdge = core.panel().frame;
+        const QRectF hitArea = core.panel().hitArea;
+        display.panelsTop = 30;
+        core.displays.displays = {display};
+        Q_EMIT core.displays.changed();
+        QCOMPARE(core.panel().frame, atTheEdge.translated(0, -down));
+        QCOMPARE(core.panel().hitArea, hitArea.translated(0, -down));
+        QCOMPARE(core.panel().below, down > 0);
+    }
+
     void hidesOverFullScreenWindows_data() { noAndYes("without a housing", "with one"); }
     void hidesOverFullScreenWindows()
     {

@@ -12,6 +12,34 @@ class NotchSettingsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void keysAreNamed_data()
+    {
+        columns<QString, QString, QString, int>();
+        QTest::newRow("a letter") << u"ctrl+alt + super+n"_s << u"Ctrl+Alt+Super+N"_s << u"CTRL+ALT+LOGO+n"_s
+                                  << int((Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier).toInt() |
+                                         Qt::Key_N);
+        QTest::newRow("a digit") << u"Shift+Super+0"_s << u"Shift+Super+0"_s << u"SHIFT+LOGO+0"_s
+                                 << int((Qt::ShiftModifier | Qt::MetaModifier).toInt() | Qt::Key_0);
+        QTest::newRow("Space") << u"ALT+space"_s << u"Alt+Space"_s << u"ALT+space"_s
+                               << int(int(Qt::AltModifier) | Qt::Key_Space);
+        QTest::newRow("a function key alone") << u"F11"_s << u"F11"_s << u"F11"_s << int(Qt::Key_F11);
+        for (const char *words :
+             {"", "n", "Shift+N", "Ctrl", "Ctrl+", "Ctrl+Ä", "Hyper+N", "Ctrl+F13", "Ctrl+NN"})
+            QTest::newRow(words) << QString::fromUtf8(words) << QString() << QString() << 0;
+    }
+
+    void keysAreNamed()
+    {
+        const auto [words, normal, trigger, qtKey] = fetched<QString, QString, QString, int>();
+        const auto keys = Kestrune::KeyCombination::parse(words);
+        QCOMPARE(keys.has_value(), !normal.isEmpty());
+        QCOMPARE(keys ? keys->words() : QString(), normal);
+        QCOMPARE(keys ? keys->trigger() : QString(), trigger);
+        QCOMPARE(keys ? keys->qtKey() : 0, qtKey);
+        if (keys)
+            QCOMPARE(Kestrune::KeyCombination::ofPress(qtKey & ~Qt::KeyboardModifierMask, qtKey), keys);
+    }
+
     void firstStart()
     {
         Fakes::MemoryDefaults defaults;
@@ -183,7 +211,7 @@ private Q_SLOTS:
     {
         Fakes::MemoryDefaults defaults;
         NotchSettings settings(defaults);
-        QCOMPARE(NotchSettings::names().size(), 26);
+        QCOMPARE(NotchSettings::names().size(), 28);
         QVERIFY(!NotchSettings::access(u"sundial"_s));
         const auto *mode = NotchSettings::access(u"openMode"_s);
         QVERIFY(!mode->assign(settings, u"sideways"_s) && mode->assign(settings, u"click"_s));

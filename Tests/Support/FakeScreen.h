@@ -62,6 +62,7 @@ struct FakePanels : NotchPanels
         Q_DISABLE_COPY_MOVE(Panel)
 
         void setFrame(const QRectF &place) override { frame = place; }
+        void setBelowPanels(bool yes) override { below = yes; }
         void orderFront() override { shown = true; }
         void orderOut() override { shown = false; }
         void setHitArea(const QRectF &area) override { hitArea = area; }
@@ -74,6 +75,7 @@ struct FakePanels : NotchPanels
         QPointer<NotchScreenModel> model;
         QRectF frame;
         QRectF hitArea;
+        bool below = true;
         bool shown = false;
         bool key = false;
     };

@@ -51,6 +51,12 @@ QRect geometryOf(const QScreen &screen)
             (QSizeF(pixels.size()) / scale).toSize()}; // Only the size is divided by the scale.
 }
 
+QRect pixelsOf(const QScreen &screen)
+{
+    const QRect place = geometryOf(screen);
+    return {place.topLeft(), place.size() * screen.devicePixelRatio()}; // As above.
+}
+
 QRectF frameOf(const QScreen &screen) { return turned(geometryOf(screen)); }
 
 QRectF toQt(const QRectF &points) { return turned(points); }

@@ -20,6 +20,9 @@ bool setPlaces(const Places &places);
 /// Where a screen is in Qt's own coordinates.
 QRect geometryOf(const QScreen &screen);
 
+/// Where a screen is in device pixels.
+QRect pixelsOf(const QScreen &screen);
+
 /// A screen's frame in points, y growing upwards.
 QRectF frameOf(const QScreen &screen);
 

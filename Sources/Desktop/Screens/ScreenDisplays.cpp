@@ -66,7 +66,15 @@ std::optional<Display> ScreenDisplays::main() const
 
 Display ScreenDisplays::describe(const QScreen &screen) const
 {
-    return m_housings.describe(screen.name(), Points::frameOf(screen));
+    Display display = m_housings.describe(screen.name(), Points::frameOf(screen));
+    display.panelsTop = m_panels.value(screen.name());
+    return display;
+}
+
+void ScreenDisplays::setPanels(const QHash<QString, double> &heights)
+{
+    if (std::exchange(m_panels, heights) != heights)
+        m_settle.start();
 }
 
 void ScreenDisplays::housingsChanged()

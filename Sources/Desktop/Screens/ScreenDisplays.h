@@ -2,6 +2,7 @@
 
 #include "NotchKit/Platform/CameraHousings.h"
 
+#include <QHash>
 #include <QTimer>
 
 class QScreen;
@@ -20,6 +21,10 @@ public:
     std::optional<Display> main() const override;
     void housingsChanged() override;
 
+    /// The heights of the desktop's panels at the middle of the top edges, in points, by the names of
+    /// displays.
+    void setPanels(const QHash<QString, double> &heights);
+
     /// Points were told of other places.
     void placesChanged() { m_settle.start(); }
 
@@ -28,6 +33,7 @@ private:
     void watch(const QScreen *screen);
 
     CameraHousings m_housings;
+    QHash<QString, double> m_panels;
     QTimer m_settle; ///< A change of displays comes as a burst of events; one report follows it.
 };
 

@@ -81,7 +81,7 @@ QCoro::Task<> AccelShortcut::bind()
     const QDBusMessage found = co_await until(finding);
     listen(registered.service(), found.arguments().value(0).value<QDBusObjectPath>().path());
 
-    const int key = ShortcutTrigger::forQt(m_wanted.keyCode, m_wanted.modifiers).value_or(0);
+    const int key = m_wanted.keys.qtKey();
     const QVariantList arguments{action(), QVariant::fromValue(QList<int>{key}), kSetPresent};
     const QFuture<QDBusMessage> setting = ask(QStringLiteral("setShortcut"), arguments);
     const QDBusMessage set = co_await until(setting);

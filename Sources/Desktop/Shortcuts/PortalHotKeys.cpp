@@ -64,7 +64,8 @@ PortalHotKeys::~PortalHotKeys() = default;
 bool PortalHotKeys::registerHotKey(quint32 keyCode, quint32 modifiers, HotKeyIdentity identity)
 {
     const WantedShortcut wanted{QStringLiteral("example.kestrune.Kestrune"),
-                                QCoreApplication::translate("notch", "Open Notch"), keyCode, modifiers};
+                                QCoreApplication::translate("notch", "Open Notch"),
+                                {keyCode, modifiers}};
     Registration &registration = m_registrations.emplace_back(Registration{identity, wanted, nullptr});
     if (!m_bus.isConnected()) // Calls would stay without an answer.
         QMetaObject::invokeMethod(

@@ -81,9 +81,8 @@ QFuture<PortalAnswer> PortalShortcut::createSession()
 
 QFuture<PortalAnswer> PortalShortcut::bindKey()
 {
-    QVariantMap properties{{QStringLiteral("description"), m_wanted.description}};
-    if (const auto trigger = ShortcutTrigger::forPortal(m_wanted.keyCode, m_wanted.modifiers))
-        properties.insert(QStringLiteral("preferred_trigger"), *trigger);
+    const QVariantMap properties{{QStringLiteral("description"), m_wanted.description},
+                                 {QStringLiteral("preferred_trigger"), m_wanted.keys.trigger()}};
     const QList<PortalKey> keys{{WantedShortcut::action(), properties}};
     auto *request = new PortalRequest(m_bus, m_portal, this);
     return request->send(

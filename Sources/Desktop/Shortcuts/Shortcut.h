@@ -1,6 +1,7 @@
 #pragma once
 
 #include "NotchKit/Platform/HotKeys.h"
+#include "NotchKit/Platform/KeyCombination.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -12,8 +13,7 @@ struct WantedShortcut
 {
     QString program;     ///< The id of the application, which is the name of its desktop file.
     QString description; ///< What it does, for the desktop's own settings.
-    quint32 keyCode = 0; ///< Both as in HotKeys::registerHotKey.
-    quint32 modifiers = 0;
+    KeyCombination keys;
 
     /// The name of the one shortcut that there is.
     static QString action() { return QStringLiteral("toggle"); }

@@ -35,7 +35,6 @@ WaylandPanel::WaylandPanel(std::unique_ptr<QWindow> window, WaylandPointer &poin
 {
     m_window->setFlags(Qt::FramelessWindowHint);
     m_surface->setAnchors(Window::AnchorTop); // In its middle, as the frames are.
-    m_surface->setExclusiveZone(-1);          // Not below the panels that keep windows away from the edge.
     m_surface->setLayer(Window::LayerTop);
     m_surface->setKeyboardInteractivity(Window::KeyboardInteractivityNone);
     m_surface->setScope(QStringLiteral("kestrune"));
@@ -72,6 +71,14 @@ void WaylandPanel::place()
     m_window->setGeometry(QRect(rounded(frame).topLeft(), frame.size().toSize()));
     m_pointer.watch(*m_window, m_frame);
     applyHitArea();
+}
+
+void WaylandPanel::setBelowPanels(bool below)
+{
+    constexpr int outOfTheirWay = 0;
+    constexpr int wholeOutput = -1;
+    m_surface->setExclusiveZone(below ? outOfTheirWay : wholeOutput);
+    m_window->requestUpdate();
 }
 
 void WaylandPanel::orderFront()

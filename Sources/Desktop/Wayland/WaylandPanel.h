@@ -16,9 +16,9 @@ namespace Kestrune {
 
 class WaylandPointer;
 
-/// A notch's host panel: a layer surface at the top edge of one output, over other desktops' panels. Closed
-/// or opened by the pointer it is on the layer that full-screen windows cover; called by key it is above
-/// them.
+/// A notch's host panel: a layer surface at the top edge of one output, over or below the desktop's panels.
+/// Closed or opened by the pointer it is on the layer that full-screen windows cover; called by key it is
+/// above them.
 ///
 /// What is set here reaches the compositor with the next frame, so one is asked for each time.
 class WaylandPanel final : public QObject, public NotchPanel
@@ -34,6 +34,7 @@ public:
     void orderFront() override;
     void orderOut() override;
     void setHitArea(const QRectF &area) override;
+    void setBelowPanels(bool below) override;
     void setOutline(const QPainterPath &) override {} // The compositor blends what is drawn.
     void announceFrame() override;
     void makeKey() override;

@@ -63,13 +63,6 @@ QList<Seen> windowsSeen(const QList<xcb_window_t> &fromTop)
     return seen;
 }
 
-/// In pixels.
-QRect placeOf(const QScreen &screen)
-{
-    const QRect place = Points::geometryOf(screen);
-    return {place.topLeft(), place.size() * screen.devicePixelRatio()};
-}
-
 } // namespace
 
 X11FullScreenWindows::X11FullScreenWindows(const X11Desktop &desktop)
@@ -106,7 +99,7 @@ void X11FullScreenWindows::read()
     const QList<Seen> seen = windowsSeen(windows);
     QSet<QString> covered;
     for (const QScreen *screen : QGuiApplication::screens()) {
-        const QRect place = placeOf(*screen);
+        const QRect place = Points::pixelsOf(*screen);
         const QPoint notch(place.center().x(), place.top());
         const auto top =
             std::ranges::find_if(seen, [&](const Seen &window) { return window.place.contains(notch); });

@@ -1,5 +1,6 @@
 #include "X11HotKeys.h"
 
+#include "NotchKit/Platform/KeyCombination.h"
 #include "X11Connection.h"
 
 #include <QCoreApplication>
@@ -7,6 +8,8 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
+#include <string_view>
 
 #include <xcb/xcb_keysyms.h>
 
@@ -23,16 +26,7 @@ constexpr quint32 kControl = 4096;
 constexpr xcb_keysym_t kNumLock = 0xff7f;
 constexpr xcb_keysym_t kScrollLock = 0xff14;
 constexpr uint16_t kAllModifiers = 0xff;
-
-/// A virtual key code with its key on other keyboards: the key that types the symbol, else the one that
-/// sits in its place on every PC keyboard (evdev code + 8).
-struct KeyPlace
-{
-    quint32 keyCode;
-    xcb_keysym_t keysym;
-    xcb_keycode_t place;
-};
-constexpr std::array kKeys{KeyPlace{45, 'n', 57}};
+constexpr auto kLayoutSettling = std::chrono::milliseconds(50);
 
 struct FreeSymbols
 {
@@ -48,11 +42,11 @@ xcb_keycode_t keycodeFor(xcb_key_symbols_t *symbols, xcb_keysym_t keysym)
 
 xcb_keycode_t resolve(quint32 keyCode)
 {
-    const auto key = std::ranges::find(kKeys, keyCode, &KeyPlace::keyCode);
-    if (key == kKeys.end())
+    const auto key = KeyCombination::placeOf(keyCode);
+    if (!key)
         return 0;
     const Symbols symbols(xcb_key_symbols_alloc(X11::connection()));
-    const xcb_keycode_t code = keycodeFor(symbols.get(), key->keysym);
+    const xcb_keycode_t code = keycodeFor(symbols.get(), key->symbol);
     return code != XCB_NO_SYMBOL ? code : key->place;
 }
 
@@ -104,11 +98,35 @@ std::vector<uint16_t> lockCombinations()
     return combinations;
 }
 
+/// Qt asks for the events of the keyboard extension, and whoever does is not told of new mappings otherwise.
+uint8_t keyboardEvent()
+{
+    constexpr std::string_view name = "XKEYBOARD";
+    const auto cookie = xcb_query_extension(X11::connection(), name.size(), name.data());
+    const X11::Reply<xcb_query_extension_reply_t> reply(
+        xcb_query_extension_reply(X11::connection(), cookie, nullptr));
+    return reply && reply->present ? reply->first_event : uint8_t{0};
+}
+
+/// By the kind of an event of the keyboard extension (XKBproto): NewKeyboardNotify or MapNotify.
+bool isNewLayout(uint8_t kind)
+{
+    constexpr uint8_t newest = 1;
+    return kind <= newest;
+}
+
 uint16_t lockMask() { return lockCombinations().back(); }
 
 } // namespace
 
-X11HotKeys::X11HotKeys() { QCoreApplication::instance()->installNativeEventFilter(this); }
+X11HotKeys::X11HotKeys()
+    : m_keyboardEvent(keyboardEvent())
+{
+    m_settle.setSingleShot(true);
+    m_settle.setInterval(kLayoutSettling);
+    m_settle.callOnTimeout([this] { regrabAll(); });
+    QCoreApplication::instance()->installNativeEventFilter(this);
+}
 
 X11HotKeys::~X11HotKeys()
 {
@@ -188,9 +206,11 @@ bool X11HotKeys::nativeEventFilter(const QByteArray &, void *message, qintptr *)
         return handleKey(*reinterpret_cast<const xcb_key_press_event_t *>(event),
                          event->response_type == XCB_KEY_PRESS);
     case XCB_MAPPING_NOTIFY:
-        regrabAll();
+        m_settle.start();
         break;
     default:
+        if (m_keyboardEvent != 0 && event->response_type == m_keyboardEvent && isNewLayout(event->pad0))
+            m_settle.start();
         break;
     }
     return false;

@@ -3,6 +3,7 @@
 #include "NotchKit/Platform/HotKeys.h"
 
 #include <QAbstractNativeEventFilter>
+#include <QTimer>
 
 #include <vector>
 
@@ -10,7 +11,8 @@
 
 namespace Kestrune {
 
-/// Hot keys as passive key grabs on the root window, one for each state of the lock keys.
+/// Hot keys as passive key grabs on the root window, one for each state of the lock keys. They follow the
+/// layout of the keyboard.
 class X11HotKeys : public HotKeys, private QAbstractNativeEventFilter
 {
 public:
@@ -40,6 +42,8 @@ private:
 
     Handler m_handler;
     std::vector<Grab> m_grabs;
+    uint8_t m_keyboardEvent = 0; ///< Of the keyboard extension; 0 without it.
+    QTimer m_settle;             ///< A new layout comes as a burst of events.
 };
 
 } // namespace Kestrune

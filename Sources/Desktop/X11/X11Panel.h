@@ -33,6 +33,7 @@ public:
     void setHitArea(const QRectF &area) override;
     void makeKey() override;
     void resignKey() override;
+    void setBelowPanels(bool) override {} // The frame says it.
     void setOutline(const QPainterPath &outline) override;
 
     /// Tells the compositor of the frame that is about to be put on the screen, as one rectangle. Qt puts it

@@ -14,6 +14,7 @@
 #include "X11Panel.h"
 #include "X11Pasteboard.h"
 #include "X11Pointer.h"
+#include "X11TopPanels.h"
 
 namespace Kestrune {
 
@@ -44,6 +45,9 @@ public:
         , m_pasteboard(makePasteboard())
     {
         QObject::connect(&m_monitors, &X11Monitors::changed, &m_displays, &ScreenDisplays::placesChanged);
+        QObject::connect(&m_monitors, &X11Monitors::changed, &m_topPanels, &X11TopPanels::readSoon);
+        QObject::connect(&m_topPanels, &X11TopPanels::changed, &m_displays, &ScreenDisplays::setPanels);
+        m_displays.setPanels(m_topPanels.heights());
     }
 
     Displays &displays() override { return m_displays; }
@@ -61,6 +65,7 @@ public:
 private:
     X11Desktop m_desktop;
     X11Monitors m_monitors;
+    X11TopPanels m_topPanels;
     ScreenDisplays m_displays;
     X11Pointer m_pointer;
     X11FullScreenWindows m_fullScreenWindows;

@@ -18,6 +18,8 @@ struct Display
     double safeAreaTop = 0; ///< Height of the camera housing, 0 without one.
     std::optional<QRectF> auxiliaryTopLeft;  ///< Usable area left of the housing.
     std::optional<QRectF> auxiliaryTopRight; ///< Usable area right of the housing.
+    double panelsTop =
+        0; ///< Height of the desktop's own panels at the middle of the top edge, as far as told.
 
     bool operator==(const Display &) const = default;
 };
@@ -40,7 +42,8 @@ public:
     virtual void housingsChanged() = 0;
 
 Q_SIGNALS:
-    /// A display came, went, moved, or changed its size, scale or camera housing.
+    /// A display came, went, moved, or changed its size, scale or camera housing, or a panel
+    /// at its top edge did.
     void changed();
 };
 

@@ -16,6 +16,10 @@ public:
     /// Places the panel. Screen coordinates in points, y growing upwards.
     virtual void setFrame(const QRectF &frame) = 0;
 
+    /// Whether it leaves the desktop's own panels the edge that they keep for themselves, on a window system
+    /// that places panels itself; on others its frame does. It does until told otherwise.
+    virtual void setBelowPanels(bool below) = 0;
+
     /// Shows the panel above all windows.
     virtual void orderFront() = 0;
 

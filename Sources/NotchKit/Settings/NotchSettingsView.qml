@@ -42,10 +42,20 @@ Column {
             onModified: seconds => view.presentation.setHoverDelay(seconds)
         }
         SwitchRow {
-            title: qsTranslate("notch", "Open and close with ⌃⌥⌘N")
+            title: view.presentation.hotKeyTitle
             note: view.presentation.hotKeyText
             on: view.settings.shortcutEnabled
             onModified: on => view.settings.shortcutEnabled = on
+        }
+        FormRow {
+            //: Beside a button that shows the keys of the hot key.
+            title: qsTranslate("notch", "Keys")
+            visible: view.presentation.choosesHotKeys
+
+            KeyRecorder {
+                keys: view.presentation.hotKeys
+                record: (key, modifiers) => view.presentation.chooseHotKeys(key, modifiers)
+            }
         }
         SwitchRow {
             title: qsTranslate("notch", "Show the song or timer beside the closed notch")
@@ -80,6 +90,17 @@ Column {
             visible: view.controller.knowsFullScreenWindows
             on: view.settings.hideOverFullScreen
             onModified: on => view.settings.hideOverFullScreen = on
+        }
+        FormRow {
+            //: Other programs' bars along the top of the screen; followed by a choice of where the notch is.
+            title: qsTranslate("notch", "Panels at the top edge")
+
+            Picker {
+                name: qsTranslate("notch", "Panels at the top edge")
+                model: view.presentation.placementTitles
+                chosen: view.presentation.placement
+                onModified: index => view.presentation.placement = index
+            }
         }
     }
     FormSection {

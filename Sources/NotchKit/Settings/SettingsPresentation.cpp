@@ -31,13 +31,15 @@ void SettingsPresentation::setSettings(NotchSettings *settings)
     using Self = SettingsPresentation;
     using Settings = NotchSettings;
     connect(settings, &Settings::openModeChanged, this, &Self::openModeChanged);
+    connect(settings, &Settings::placementChanged, this, &Self::placementChanged);
+    connect(settings, &Settings::shortcutChanged, this, &Self::hotKeyTextChanged);
     connect(settings, &Settings::hoverDelayChanged, this, &Self::hoverDelayChanged);
     connect(settings, &Settings::claudeBlockBudgetChanged, this, &Self::budgetChanged);
     connect(settings, &Settings::homeOrderChanged, this, &Self::homeRowsChanged);
     connect(settings, &Settings::homeColumnsChanged, this, &Self::homeRowsChanged);
     connect(settings, &Settings::toolsChanged, this, &Self::toolsChanged);
-    for (const auto changed : {&Self::openModeChanged, &Self::hoverDelayChanged, &Self::budgetChanged,
-                               &Self::homeRowsChanged, &Self::toolsChanged})
+    for (const auto changed : {&Self::openModeChanged, &Self::placementChanged, &Self::hoverDelayChanged,
+                               &Self::budgetChanged, &Self::homeRowsChanged, &Self::toolsChanged})
         Q_EMIT(this->*changed)();
 }
 
@@ -59,6 +61,18 @@ int SettingsPresentation::openMode() const
 void SettingsPresentation::setOpenMode(int mode)
 {
     m_settings->setOpenMode(static_cast<NotchOpenMode>(mode));
+}
+
+QStringList SettingsPresentation::placementTitles() { return titles<NotchPlacement>(); }
+
+int SettingsPresentation::placement() const
+{
+    return m_settings ? static_cast<int>(m_settings->placement()) : 0;
+}
+
+void SettingsPresentation::setPlacement(int placement)
+{
+    m_settings->setPlacement(static_cast<NotchPlacement>(placement));
 }
 
 QString SettingsPresentation::hoverDelayText() const
@@ -98,6 +112,33 @@ QString SettingsPresentation::hotKeyText() const
             .arg(command);
     }
     return {};
+}
+
+QString SettingsPresentation::hotKeyTitle() const
+{
+    if (!m_settings || m_settings->hotKeys() == KeyCombination())
+        return notchStrings(QT_TRANSLATE_NOOP("notch", "Open and close with ⌃⌥⌘N"));
+    //: %1 is a combination of keys.
+    return notchStrings(QT_TRANSLATE_NOOP("notch", "Open and close with %1")).arg(hotKeys());
+}
+
+QString SettingsPresentation::hotKeys() const
+{
+    return m_settings ? m_settings->hotKeys().words() : QString();
+}
+
+bool SettingsPresentation::choosesHotKeys() const
+{
+    const auto state = m_controller ? m_controller->hotKeyBinding().state : HotKeyBinding::State::pending;
+    return state == HotKeyBinding::State::asked || state == HotKeyBinding::State::taken;
+}
+
+bool SettingsPresentation::chooseHotKeys(int key, int modifiers)
+{
+    const auto keys = KeyCombination::ofPress(key, modifiers);
+    if (keys)
+        m_settings->setShortcut(keys->words());
+    return keys.has_value();
 }
 
 QString SettingsPresentation::budgetText() const

@@ -55,10 +55,18 @@ class SettingsPresentation : public QObject
     Q_PROPERTY(QStringList openModeTitles READ openModeTitles CONSTANT)
     /// The place of the chosen mode among the titles.
     Q_PROPERTY(int openMode READ openMode WRITE setOpenMode NOTIFY openModeChanged)
+    Q_PROPERTY(QStringList placementTitles READ placementTitles CONSTANT)
+    Q_PROPERTY(int placement READ placement WRITE setPlacement NOTIFY placementChanged)
     /// The hover delay in whole milliseconds: "120 ms".
     Q_PROPERTY(QString hoverDelayText READ hoverDelayText NOTIFY hoverDelayChanged)
     /// What came of the hot key, where it is not simply held as asked.
     Q_PROPERTY(QString hotKeyText READ hotKeyText NOTIFY hotKeyTextChanged)
+    /// What the switch of the hot key says.
+    Q_PROPERTY(QString hotKeyTitle READ hotKeyTitle NOTIFY hotKeyTextChanged)
+    /// Its keys, "Ctrl+Alt+Super+N".
+    Q_PROPERTY(QString hotKeys READ hotKeys NOTIFY hotKeyTextChanged)
+    /// They are chosen here, and not in the desktop's own settings.
+    Q_PROPERTY(bool choosesHotKeys READ choosesHotKeys NOTIFY hotKeyTextChanged)
     Q_PROPERTY(QString budgetText READ budgetText NOTIFY budgetChanged)
     Q_PROPERTY(QStringList columnTitles READ columnTitles CONSTANT)
     /// Every block of Home, in its order.
@@ -79,11 +87,21 @@ public:
     int openMode() const;
     void setOpenMode(int mode);
 
+    static QStringList placementTitles();
+    int placement() const;
+    void setPlacement(int placement);
+
     QString hoverDelayText() const;
     /// Takes a slider's value, in seconds, rounded to its steps of 0.05.
     Q_INVOKABLE void setHoverDelay(double seconds);
 
     QString hotKeyText() const;
+
+    QString hotKeyTitle() const;
+    QString hotKeys() const;
+    bool choosesHotKeys() const;
+    /// Takes keys as they are pressed; whether they can be a hot key.
+    Q_INVOKABLE bool chooseHotKeys(int key, int modifiers);
 
     QString budgetText() const;
     /// Takes what is typed: no digit at all is 0, and what is no number changes nothing.
@@ -100,6 +118,7 @@ public:
 
 Q_SIGNALS:
     void openModeChanged();
+    void placementChanged();
     void hoverDelayChanged();
     void hotKeyTextChanged();
     void budgetChanged();

@@ -11,8 +11,11 @@ DesktopWindow {
     required property Updater updater
     required property QtObject app // `launchAtLogin`, `openSuitePage()`
 
+    /// For the desktop's panels and the window's own title, which a small display must show as well.
+    readonly property int roomForOthers: 84
+
     width: 560
-    height: 760
+    height: Math.min(760, Screen.height - roomForOthers)
     minimumWidth: width
     maximumWidth: width
     minimumHeight: height

@@ -16,13 +16,7 @@ private Q_SLOTS:
         const QString file = u"/etc/passwd"_s;
         setStage({u"maximized"_s, file});
         QVERIFY(stage().run({{"openMode", "click"}}));
-        input().move(Place::away);
-        input().pressButton();
-        input().glide(Place::away, Place::notch);
-        QVERIFY(stage().waitOpen());
-        QCOMPARE(session().selected(), u"shelf"_s);
-        input().glide(Place::notch, Place::panel);
-        input().releaseButton();
+        QVERIFY(stage().dragOntoShelf());
         QTRY_COMPARE(session().setting(u"shelfPaths"_s), u"[\"/etc/passwd\"]"_s);
     }
 

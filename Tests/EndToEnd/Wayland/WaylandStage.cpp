@@ -69,6 +69,18 @@ bool WaylandStage::waitClosed(int display) const
     return waitUntil([&] { return !session.isOpen(display); });
 }
 
+bool WaylandStage::dragOntoShelf()
+{
+    input.move(Place::away);
+    input.pressButton();
+    input.glide(Place::away, Place::notch);
+    if (!waitOpen() || session.selected() != u"shelf"_s)
+        return false;
+    input.glide(Place::notch, Place::panel);
+    input.releaseButton();
+    return true;
+}
+
 bool WaylandStage::looksOpen() const
 {
     const QImage picture = compositor.picture();

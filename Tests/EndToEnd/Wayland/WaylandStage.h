@@ -80,6 +80,9 @@ struct WaylandStage
     bool waitVisited(int display = 0) const;
     bool waitClosed(int display = 0) const;
 
+    /// Drags the other program's file onto the closed notch, and lets go of it over the shelf.
+    bool dragOntoShelf();
+
     /// Whether its picture shows the open notch; yes where nobody can look.
     bool looksOpen() const;
 

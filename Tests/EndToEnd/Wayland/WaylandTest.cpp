@@ -170,13 +170,7 @@ private Q_SLOTS:
         QVERIFY(writeFile(file, "text"));
         setStage({u"maximized"_s, file});
         QVERIFY(stage().run());
-        input().move(Place::away);
-        input().pressButton();
-        input().glide(Place::away, Place::notch);
-        QVERIFY(stage().waitOpen());
-        QCOMPARE(session().selected(), u"shelf"_s);
-        input().glide(Place::notch, Place::panel);
-        input().releaseButton();
+        QVERIFY(stage().dragOntoShelf());
         QTRY_COMPARE(session().setting(u"shelfPaths"_s), u"[\"%1\"]"_s.arg(file));
 
         input().glide(Place::panel, Place::onlyTile);

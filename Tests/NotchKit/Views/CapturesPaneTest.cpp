@@ -23,7 +23,7 @@ private Q_SLOTS:
         const auto choose = [&](int entry) {
             const bool opened = click(u"CaptureThumb"_s, 1, Qt::RightButton) && QTest::qWaitFor([&] {
                                     const auto *focused = stage.window->activeFocusItem();
-                                    return focused && focused->property("text") == "Show in Finder"_L1;
+                                    return focused && focused->property("text") == "Show in File Manager"_L1;
                                 });
             for (int i = 0; i < entry; ++i)
                 stage.key(Qt::Key_Down);
