@@ -956,5 +956,15 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Über Vollbildfenstern ausblenden</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Anheften</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Angeheftet</translation>
+    </message>
 </context>
 </TS>

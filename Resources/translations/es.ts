@@ -956,5 +956,15 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Ocultar sobre ventanas a pantalla completa</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Anclar</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Anclado</translation>
+    </message>
 </context>
 </TS>

@@ -956,5 +956,15 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Masquer au-dessus des fenêtres en plein écran</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Épingler</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Épinglé</translation>
+    </message>
 </context>
 </TS>

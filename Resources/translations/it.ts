@@ -956,5 +956,15 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Nascondi sopra le finestre a schermo intero</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Fissa</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Fissato</translation>
+    </message>
 </context>
 </TS>

@@ -953,5 +953,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>전체 화면 창 위에서 숨기기</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>고정</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>고정됨</translation>
+    </message>
 </context>
 </TS>

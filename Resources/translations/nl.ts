@@ -956,5 +956,15 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Verbergen boven vensters op volledig scherm</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Vastmaken</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Vastgemaakt</translation>
+    </message>
 </context>
 </TS>

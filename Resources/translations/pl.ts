@@ -959,5 +959,15 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Ukrywaj nad oknami pełnoekranowymi</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Przypnij</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Przypięte</translation>
+    </message>
 </context>
 </TS>

@@ -956,5 +956,15 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Ocultar sobre janelas em tela cheia</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Afixar</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Afixado</translation>
+    </message>
 </context>
 </TS>
