@@ -91,7 +91,7 @@ QJsonObject encode(const ClipboardItem &item)
     return object;
 }
 
-std::optional<ClipboardItem> decode(const QJsonValue &value)
+std::optional<ClipboardItem> decode(const QJsonValue &value, bool pinned)
 {
     const auto id = idOf(value[QStringLiteral("id")]);
     const auto kind = kindOf(value[QStringLiteral("kind")]);
@@ -101,7 +101,8 @@ std::optional<ClipboardItem> decode(const QJsonValue &value)
     if (!id || !kind || !text.isString() || !paths || !date)
         return std::nullopt;
     ClipboardItem item{*id, *kind, text.toString(), *paths, *date, {}};
-    if (const QString whole = value[kWhole].toString(); !whole.isEmpty())
+    item.pinned = pinned;
+    if (const QString whole = value[kWhole].toString(); pinned && !whole.isEmpty())
         item.original.wrappedValue = ClipboardOriginal{whole, {}};
     return item;
 }
@@ -152,14 +153,14 @@ QByteArray ClipboardEncoder::encode(const ClipboardItems &items)
     return '[' + list.join(',') + ']';
 }
 
-std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored)
+std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored, bool pinned)
 {
     const QJsonDocument document = QJsonDocument::fromJson(stored);
     if (!document.isArray())
         return std::nullopt;
     ClipboardItems items;
     for (const auto &value : document.array()) {
-        const auto item = decode(value);
+        const auto item = decode(value, pinned);
         if (!item)
             return std::nullopt;
         items.append(*item);

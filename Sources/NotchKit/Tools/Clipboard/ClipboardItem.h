@@ -90,8 +90,8 @@ public:
 using ClipboardItems = QList<ClipboardItem>;
 
 /// The stored form: a JSON array, UTF-8. Pictures are left out; dates are seconds since 2001-01-01 UTC. A
-/// pinned item has its whole text beside the one shown, up to a million UTF-16 units. Who reads it knows
-/// which items are pinned.
+/// pinned item has its whole text beside the one shown, up to a million UTF-16 units. Which ones are
+/// pinned is not in it.
 QByteArray encodeClipboardItems(const ClipboardItems &items);
 
 /// Gives that form of a list that changes by an item at a time: each item, which stays as it is, is encoded
@@ -105,7 +105,7 @@ private:
     QHash<QUuid, QByteArray> m_entries; ///< Of the items of the last list.
 };
 
-/// Nothing when `stored` is not, as a whole, such an array.
-std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored);
+/// Nothing when `stored` is not, as a whole, such an array. `pinned`: of pinned items.
+std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored, bool pinned = false);
 
 } // namespace Kestrune

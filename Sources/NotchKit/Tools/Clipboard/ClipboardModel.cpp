@@ -130,10 +130,9 @@ QStringList ClipboardModel::filterTitles()
 
 void ClipboardModel::load()
 {
-    Items items = stored(kStoreKey);
-    Items pinned = stored(kPinnedKey);
-    for (Item &item : pinned) {
-        item.pinned = true;
+    Items items = stored(kStoreKey, false);
+    const Items pinned = stored(kPinnedKey, true);
+    for (const Item &item : pinned) {
         items.removeIf([&](const Item &other) { return other.id == item.id; }); // Of a write cut in two.
         const auto after =
             std::ranges::find_if(items, [&](const Item &other) { return other.date < item.date; });
@@ -143,11 +142,11 @@ void ClipboardModel::load()
     m_items = items;
 }
 
-ClipboardItems ClipboardModel::stored(const QString &key) const
+ClipboardItems ClipboardModel::stored(const QString &key, bool pinned) const
 {
     const auto stored = m_defaults.object(key);
     const auto *data = stored ? std::get_if<QByteArray>(&*stored) : nullptr;
-    return data ? decodeClipboardItems(*data).value_or(Items()) : Items();
+    return data ? decodeClipboardItems(*data, pinned).value_or(Items()) : Items();
 }
 
 void ClipboardModel::persist()
@@ -158,12 +157,17 @@ void ClipboardModel::persist()
         if (isStored(item))
             (item.pinned ? pinned : history).append(item);
     }
-    // What is pinned first: one that is in neither would be lost.
     const QByteArray encoded = m_pinnedEncoder.encode(pinned);
-    if (encoded != m_pinnedStored)
-        m_defaults.setObject(kPinnedKey, encoded);
-    m_pinnedStored = encoded;
+    const auto storePinned = [&] {
+        if (encoded != m_pinnedStored)
+            m_defaults.setObject(kPinnedKey, encoded);
+        m_pinnedStored = encoded;
+    };
+    // One that moves from the one to the other is at no moment in neither.
+    if (encoded.size() > m_pinnedStored.size())
+        storePinned();
     m_defaults.setObject(kStoreKey, m_encoder.encode(history));
+    storePinned();
 }
 
 ClipboardItems ClipboardModel::computeVisible() const

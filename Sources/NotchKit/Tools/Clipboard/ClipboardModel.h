@@ -83,7 +83,7 @@ Q_SIGNALS:
 private:
     bool isWanted() const;
     void load();
-    Items stored(const QString &key) const;
+    Items stored(const QString &key, bool pinned) const;
     void offerOrphan();
     void persist();
     QCoro::Task<> read(QDateTime date);
