@@ -31,7 +31,7 @@ using namespace std::chrono_literals;
 
 constexpr auto kLongestEnd = 1500ms;
 constexpr auto kLongestWait =
-    500ms; // For other threads: one that hangs must not be there when the rest is taken down.
+    1000ms; // For other threads: one that hangs must not be there when the rest is taken down.
 
 /// Environment variables that are set for a while only: programs that this one starts do not inherit them.
 class TemporaryEnvironment

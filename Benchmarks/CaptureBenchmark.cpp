@@ -173,7 +173,8 @@ int main(int argc, char *argv[])
     HubParts parts(clock);
     FolderCaptureQuery query(parts.defaults);
     SharedThumbnails thumbnails(std::make_shared<HelperPictures>(QStringLiteral(KESTRUNE_READER)));
-    CapturesModel model(parts.settings, clock, query, thumbnails, parts.pasteboard, parts.workspace);
+    CapturesModel model(parts.settings, clock, query, thumbnails, parts.pasteboard, parts.workspace,
+                        Fakes::pictures());
     Table table;
     measureStart(table, model);
     measureWatch(table);

@@ -1006,5 +1006,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>الفتح والإغلاق باستخدام ‎%1</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>تثبيت</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>مثبّت</translation>
+    </message>
 </context>
 </TS>

@@ -994,5 +994,15 @@ Datenschutz-Einstellungen der Arbeitsumgebung.</translation>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>Mit %1 öffnen und schließen</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Anheften</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Angeheftet</translation>
+    </message>
 </context>
 </TS>

@@ -994,5 +994,15 @@ los ajustes de privacidad del escritorio.</translation>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>Abrir y cerrar con %1</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Anclar</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Anclado</translation>
+    </message>
 </context>
 </TS>

@@ -994,5 +994,15 @@ les réglages de confidentialité du bureau.</translation>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>Ouvrir et fermer avec %1</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Épingler</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Épinglé</translation>
+    </message>
 </context>
 </TS>

@@ -994,5 +994,15 @@ impostazioni di privacy del desktop.</translation>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>Apri e chiudi con %1</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Fissa</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Fissato</translation>
+    </message>
 </context>
 </TS>

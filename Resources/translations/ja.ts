@@ -991,5 +991,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>%1で開閉する</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>固定</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>固定済み</translation>
+    </message>
 </context>
 </TS>

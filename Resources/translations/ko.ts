@@ -991,5 +991,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>%1(으)로 열고 닫기</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>고정</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>고정됨</translation>
+    </message>
 </context>
 </TS>

@@ -994,5 +994,15 @@ de privacy-instellingen van het bureaublad.</translation>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>Openen en sluiten met %1</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Vastmaken</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Vastgemaakt</translation>
+    </message>
 </context>
 </TS>

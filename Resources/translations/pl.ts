@@ -997,5 +997,15 @@ ustawienia prywatności pulpitu.</translation>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>Otwieraj i zamykaj skrótem %1</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Przypnij</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Przypięte</translation>
+    </message>
 </context>
 </TS>

@@ -994,5 +994,15 @@ configurações de privacidade do ambiente.</translation>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>Abrir e fechar com %1</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>Afixar</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>Afixado</translation>
+    </message>
 </context>
 </TS>

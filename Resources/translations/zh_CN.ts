@@ -991,5 +991,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>%1 is a combination of keys.</extracomment>
         <translation>使用 %1 打开和关闭</translation>
     </message>
+    <message>
+        <source>Pin</source>
+        <extracomment>In the menu of an entry of the clipboard history: keep it until it is deleted.</extracomment>
+        <translation>固定</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
+        <translation>已固定</translation>
+    </message>
 </context>
 </TS>

@@ -67,7 +67,7 @@ constexpr std::array kTools{
                        [](Context c) {
                            return made<CapturesModel>(c.settings, c.platform.clock, c.platform.captures,
                                                       c.platform.thumbnails, c.platform.windows.pasteboard(),
-                                                      c.platform.workspace);
+                                                      c.platform.workspace, c.platform.pictures);
                        },
                    .wings = "CapturesActivity",
                    .wingsRank = 1},

@@ -50,6 +50,7 @@ struct SettingRule
     SETTING(QString, shortcut, Shortcut, KeyCombination().words())                                           \
     SETTING(bool, liveActivities, LiveActivities, true)                                                      \
     SETTING(QStringList, ignoredPlayers, IgnoredPlayers, QStringList())                                      \
+    SETTING(QStringList, ignoredClipboardPrograms, IgnoredClipboardPrograms, QStringList())                  \
     SETTING(QString, note, Note, QString())                                                                  \
     SETTING(QStringList, shelfPaths, ShelfPaths, QStringList())                                              \
     SETTING(bool, clipboardHistory, ClipboardHistory, true)                                                  \

@@ -35,10 +35,18 @@ ReadPicture read(const ReaderWire::PictureQuestion &question, Tasks::Files &file
     return PictureDecoder::decode(file, wish);
 }
 
-bool put(const QImage &image, int side, int memory)
+bool isPossible(const ReaderWire::PictureQuestion &question)
 {
-    const auto pixels = static_cast<std::size_t>(side) * static_cast<std::size_t>(side);
-    const Shared shared(memory, pixels * ReaderWire::kPixelBytes);
+    if (question.fit == static_cast<std::int32_t>(PictureWish::Fit::whole))
+        return question.pixels > 0 && question.pixels <= ReaderWire::kMostWhole &&
+               question.mostPixels <= question.pixels;
+    return question.side > 0 && question.side <= ReaderWire::kMostSide &&
+           question.pixels == question.side * question.side;
+}
+
+bool put(const QImage &image, int pixels, int memory)
+{
+    const Shared shared(memory, static_cast<std::size_t>(pixels) * ReaderWire::kPixelBytes);
     const auto row = static_cast<std::size_t>(image.width()) * ReaderWire::kPixelBytes;
     for (int y = 0; shared.data() && y < image.height(); ++y)
         std::memcpy(shared.data() + static_cast<std::size_t>(y) * row, image.constScanLine(y), row);
@@ -65,12 +73,12 @@ int readPictures()
         return 1;
     ReaderWire::PictureQuestion question{};
     while (const auto files = Tasks::next(&question, sizeof question)) {
-        if (question.side <= 0 || question.side > ReaderWire::kMostSide)
+        if (!isPossible(question))
             return 1;
         Tasks::beginTime();
         const ReadPicture picture = read(question, *files);
         ReaderWire::PictureAnswer answer{};
-        if (!picture.image.isNull() && put(picture.image, question.side, files->memory.get()))
+        if (!picture.image.isNull() && put(picture.image, question.pixels, files->memory.get()))
             answer = answerFor(picture);
         Tasks::endTime();
         Tasks::answer(&answer, sizeof answer);

@@ -8,6 +8,8 @@
 #include <QFuture>
 #include <QRandomGenerator>
 
+#include <atomic>
+
 constexpr int kMegabyte = 1024 * 1024;
 inline const QString kText =
     u"Zwölf Boxkämpfer · עברית · العربية · 漢字 · 👩‍👩‍👧‍👦\nnext line\t"_s;
@@ -142,6 +144,32 @@ protected:
         m_stage->programs.clear(); // Nobody else can answer.
         QVERIFY(m_stage->paste(type, client) == bytes);
         QVERIFY(isText ? string().toUtf8() == bytes : picture() == bytes); // Its own takes the same way.
+    }
+
+    /// What was written is given in each form, which is made when it is wanted and not twice.
+    void givesEveryForm()
+    {
+        std::atomic<int> made = 0;
+        PasteboardContent content(fileUrls({u"/tmp/a b.jpg"_s}));
+        content.html = "<b>x</b>";
+        content.pictures = {{u"image/jpeg"_s, [] { return "as it came"_ba; }},
+                            {u"image/png"_s, [&] { return "made "_ba + QByteArray::number(++made); }},
+                            {u"image/tiff"_s, [] { return QByteArray(); }}};
+        m_stage->write(content);
+        QCOMPARE(types(), (QStringList{u"image/jpeg"_s, u"image/png"_s, u"image/tiff"_s, u"text/uri-list"_s,
+                                       u"text/plain"_s, u"text/html"_s}));
+        QCOMPARE(made, 0);
+        for (const auto &[type, bytes] :
+             QList<std::pair<QString, QByteArray>>{{u"image/png"_s, "made 1"},
+                                                   {u"image/png"_s, "made 1"},
+                                                   {u"image/jpeg"_s, "as it came"},
+                                                   {u"image/tiff"_s, ""},
+                                                   {u"text/uri-list"_s, "file:///tmp/a%20b.jpg\r\n"},
+                                                   {u"text/plain"_s, "/tmp/a b.jpg"},
+                                                   {u"text/html"_s, "<b>x</b>"}})
+            QCOMPARE(m_stage->paste(type), bytes);
+        QCOMPARE(wait(m_stage->pasteboard->html()), "<b>x</b>"_ba);
+        m_stage->write(u"nothing beside"_s); // What was made for stays no longer than this.
     }
 
     /// The counter stands at `count`, and a rogue may copy again.

@@ -34,6 +34,46 @@ private Q_SLOTS:
         QTRY_COMPARE(session().copiedTexts().first(), u"plan b.pdf"_s);
     }
 
+    /// A picture file as a picture, as a file and as its path; a long text whole.
+    void everythingIsGivenBack()
+    {
+        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"clipboard"_s));
+        const QTemporaryDir folder;
+        const QString file = folder.filePath(u"photo.jpg"_s);
+        QVERIFY(writeFile(file, encoded(plainImage({40, 30}), "jpg")));
+        const QByteArray list = QUrl::fromLocalFile(file).toEncoded() + "\r\n";
+        const QByteArray code = "    " + QByteArray(6000, 'x') + '\n';
+        QVERIFY(copied(u"UTF8_STRING"_s, code) && copied(u"text/uri-list"_s, list));
+        QVERIFY(copied(u"UTF8_STRING"_s, "hay"));
+        QVERIFY(stage().openByHotKey());
+        input().type("jpg");
+        QTRY_COMPARE(QImage::fromData(chosen(u"image/png"_s)).size(), QSize(40, 30));
+        QCOMPARE(pasted(u"image/jpeg"_s), readFile(file));
+        QCOMPARE(pasted(u"text/uri-list"_s), list);
+        QCOMPARE(pasted(u"UTF8_STRING"_s), file.toUtf8());
+        for (int i = 0; i < 3; ++i)
+            input().tap(XK_BackSpace);
+        input().type("xxx");
+        QTRY_COMPARE(chosen(u"UTF8_STRING"_s), code);
+    }
+
+    void copiesOutliveTheirPrograms()
+    {
+        QVERIFY(stage().run({{"hoverDelay", "60"}}));
+        ChildProcess editor(session().environment());
+        editor.launch(QStringLiteral(KESTRUNE_ROGUE_OWNER), {u"honest"_s, u"UTF8_STRING"_s});
+        QTRY_COMPARE(session().copiedTexts(), QStringList{u"public"_s});
+        editor.killNow();
+        QTRY_COMPARE(pasted(u"UTF8_STRING"_s), "public"_ba);
+
+        ChildProcess manager(session().environment());
+        manager.launch(QStringLiteral(KESTRUNE_ROGUE_OWNER), {u"keep"_s, u"UTF8_STRING"_s});
+        QTRY_VERIFY(manager.canReadLine());
+        QCOMPARE(session().command({u"quit"_s}).status, 0);
+        QTRY_VERIFY(!session().isRunning());
+        QCOMPARE(pasted(u"UTF8_STRING"_s), "public"_ba);
+    }
+
     void secretsLeaveNoTrace()
     {
         QVERIFY(stage().run());
@@ -70,6 +110,12 @@ private:
     {
         input().tap(XK_Return);
         QTest::qWait(100);
+        return pasted(type);
+    }
+
+    /// What another program pastes.
+    QByteArray pasted(const QString &type)
+    {
         ChildProcess client(session().environment());
         client.launch(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-t"_s, type, u"-o"_s});
         client.waitForFinished();

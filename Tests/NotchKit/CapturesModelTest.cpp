@@ -202,8 +202,23 @@ private Q_SLOTS:
         }
         QCOMPARE(stage.workspace.opened, QList<QUrl>{url});
         QCOMPARE(stage.workspace.revealed.value(0), QList<QUrl>{url});
-        QCOMPARE(std::get<QList<QUrl>>(stage.pasteboard.written), QList<QUrl>{url});
+        Fakes::finishWork();
+        QCOMPARE(stage.pasteboard.written.files, QList<QUrl>{url});
+        QVERIFY(stage.pasteboard.written.pictures.isEmpty()); // There is no such file.
         QCOMPARE(stage.pasteboard.count, 2);
+
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"shot.jpg"_s);
+        const QByteArray bytes = encoded(plainImage({40, 30}), "jpg");
+        QVERIFY(writeFile(path, bytes));
+        stage.captures.found[0].path = path;
+        stage.captures.handler();
+        stage.model.copy(path);
+        Fakes::finishWork();
+        QCOMPARE(stage.pasteboard.written.files, QList<QUrl>{QUrl::fromLocalFile(path)});
+        const auto pictures = stage.pasteboard.writtenPictures();
+        QCOMPARE(pictures.value(0), (EncodedPicture{bytes, u"image/jpeg"_s}));
+        QCOMPARE(QImage::fromData(pictures.value(1).data, "png").size(), QSize(40, 30));
     }
 };
 

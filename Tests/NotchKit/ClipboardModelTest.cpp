@@ -120,8 +120,120 @@ private Q_SLOTS:
         QCOMPARE(stage.texts().last(), u"0"_s);
         stage.userCopies(png(4, 3, 0xffff0000));
         stage.userCopies(png(4, 3, 0xff00ff00));
-        QCOMPARE(stage.texts().first(), u"Image 4×3"_s);
-        QCOMPARE(stage.texts().at(1), u"59"_s);
+        stage.userCopies(png(4, 3, 0xff00ff00));
+        QCOMPARE(stage.texts().first(3), QStringList({u"Image 4×3"_s, u"Image 4×3"_s, u"59"_s}));
+    }
+
+    /// What is longer than its row, or marked up, is given back as it came as long as the program runs.
+    void originalsAreGivenBack()
+    {
+        Stage stage;
+        const QString code = u"    "_s + QString(5000, u'x') + u'\n';
+        stage.pasteboard.offer(code);
+        stage.pasteboard.offered.append(u"text/html"_s);
+        stage.pasteboard.markup = "<b>x</b>";
+        stage.settle();
+        stage.userCopies(QString(code).replace(4500, 1, u'y')); // Another text with the same row.
+        QCOMPARE(stage.texts(), QStringList(2, QString(4000, u'x')));
+        stage.clipboard.copy(stage.clipboard.items().last().idText());
+        QCOMPARE(stage.pasteboard.written.text, code);
+        QCOMPARE(stage.pasteboard.written.html, "<b>x</b>"_ba);
+        QVERIFY(!stage.stored().contains("<b>") && stage.stored().size() < 10'000);
+
+        const auto kept = [&] {
+            return std::ranges::count_if(stage.clipboard.items(), [](const ClipboardItem &item) {
+                return item.wholeText().size() > 4'000;
+            });
+        };
+        QCOMPARE(kept(), 2);
+        for (int i = 0; i < 5; ++i) // Of seven megabytes each, which take fourteen.
+            stage.userCopies(QString(7'000'000, QChar(u'a' + i)));
+        QCOMPARE(kept(), 4);
+        QCOMPARE(stage.clipboard.items().size(), 7);
+    }
+
+    void pinnedItemsStay()
+    {
+        Stage stage;
+        const QString code = u"\t"_s + QString(5000, u'x');
+        stage.userCopies(code);
+        stage.userCopies("old");
+        const auto pin = [&](const char *text, bool pinned) {
+            const auto item = std::ranges::find(stage.clipboard.items(), QLatin1String(text),
+                                                [](const ClipboardItem &one) { return one.text.left(3); });
+            stage.clipboard.setPinned(item->idText(), pinned);
+        };
+        pin("xxx", true);
+        pin("old", true);
+        for (int i = 0; i < 61; ++i)
+            stage.userCopies(QString::number(i));
+        QCOMPARE(stage.clipboard.items().size(), 62);
+        QCOMPARE(stage.texts().first(3), QStringList({u"old"_s, QString(4000, u'x'), u"60"_s}));
+
+        NotchSettings settings(stage.defaults);
+        const auto restarted = [&] {
+            return std::make_unique<ClipboardModel>(settings, stage.defaults, stage.clock, stage.pasteboard,
+                                                    Fakes::pictures());
+        };
+        QCOMPARE(each(restarted()->visible(), &ClipboardItem::text), stage.texts());
+        stage.clipboard.clear();
+        QCOMPARE(stage.stored(), QByteArray("[]"));
+        const auto again = restarted();
+        QCOMPARE(each(again->items(), &ClipboardItem::wholeText), QStringList({u"old"_s, code}));
+        QVERIFY(again->items().first().pinned);
+
+        pin("old", false);
+        stage.clipboard.clear();
+        stage.clipboard.remove(stage.clipboard.items().first());
+        QVERIFY(restarted()->items().isEmpty());
+    }
+
+    void ignoredPrograms_data()
+    {
+        const auto row = columns<QStringList, QStringList, int>();
+        row("by a part, in any case", {u"Secrets"_s, u""_s}, {u"org.example.secrets"_s}, 0);
+        row("another", {u"secrets"_s}, {u"editor"_s, u"Editor"_s}, 1);
+        row("unknown", {u"secrets"_s}, {}, 1);
+    }
+
+    void ignoredPrograms()
+    {
+        const auto [ignored, programs, recorded] = fetched<QStringList, QStringList, int>();
+        Stage stage;
+        stage.settings.setIgnoredClipboardPrograms(ignored);
+        stage.pasteboard.programs = programs;
+        stage.userCopies("text");
+        QCOMPARE(stage.clipboard.items().size(), recorded);
+        QCOMPARE(stage.pasteboard.asked.contains(u"string"_s), recorded == 1);
+    }
+
+    /// What was copied last is offered on when the program that it is of ends, unless it is not to be kept.
+    void orphansAreOfferedOn()
+    {
+        Stage stage;
+        const auto isOfferedOn = [&] {
+            const qint64 before = stage.pasteboard.count;
+            stage.pasteboard.orphaned = true;
+            stage.settle();
+            const bool offered = !stage.pasteboard.orphaned;
+            return offered && stage.pasteboard.count == before + 1;
+        };
+        QVERIFY(!isOfferedOn()); // It was there before the history.
+        stage.userCopies("\ttext");
+        QVERIFY(isOfferedOn());
+        QCOMPARE(stage.pasteboard.written.text, u"\ttext"_s);
+        QCOMPARE(stage.texts(), QStringList{u"text"_s});
+
+        stage.pasteboard.replace(
+            {QString::fromLatin1(Pasteboard::kString), u"org.nspasteboard.ConcealedType"_s});
+        stage.settle();
+        QVERIFY(!isOfferedOn());
+        stage.userCopies("deleted");
+        stage.clipboard.remove(stage.clipboard.items().first());
+        QVERIFY(!isOfferedOn());
+        stage.userCopies("switched off");
+        stage.settings.setClipboardHistory(false);
+        QVERIFY(!isOfferedOn());
     }
 
     void secretsAreNotAskedFor_data() { texts({"ConcealedType", "TransientType", "AutoGeneratedType"}); }
@@ -172,7 +284,11 @@ private Q_SLOTS:
                 item.thumbnail().height() <= ClipboardPicture::kThumbnailSide);
         QCOMPARE(stage.stored(), QByteArray("[]"));
         stage.clipboard.copy(item);
-        QCOMPARE(std::get<EncodedPicture>(stage.pasteboard.written), picture);
+        const auto written = stage.pasteboard.writtenPictures();
+        QCOMPARE(written.first(), picture);
+        QCOMPARE(written.last().type, QString::fromLatin1(Pasteboard::kPng));
+        QCOMPARE(QImage::fromData(written.last().data).convertToFormat(QImage::Format_RGB32),
+                 QImage::fromData(picture.data).convertToFormat(QImage::Format_RGB32));
     }
 
     void pictureFilesAreShownAndGivenBack()
@@ -189,8 +305,10 @@ private Q_SLOTS:
         const ClipboardItem shown = stage.clipboard.items().first();
         QCOMPARE(shown.thumbnail().size(), QSize(40, 30));
         stage.clipboard.copy(shown);
-        QCOMPARE(std::get<EncodedPicture>(stage.pasteboard.written),
-                 (EncodedPicture{bytes, u"image/jpeg"_s}));
+        const auto written = stage.pasteboard.writtenPictures();
+        QCOMPARE(written.first(), (EncodedPicture{bytes, u"image/jpeg"_s}));
+        QCOMPARE(QImage::fromData(written.at(1).data, "png").size(), QSize(40, 30));
+        QCOMPARE(stage.pasteboard.written.files, fileUrls({path, fifo}));
 
         stage.userCopies(fileUrls({fifo}));
         QVERIFY(stage.clipboard.items().first().thumbnail().isNull());
@@ -200,7 +318,7 @@ private Q_SLOTS:
         const ClipboardItem reread = restarted.items().at(1);
         QVERIFY(reread.thumbnail().isNull());
         restarted.copy(reread);
-        QCOMPARE(std::get<QList<QUrl>>(stage.pasteboard.written), fileUrls({path, fifo}));
+        QCOMPARE(stage.pasteboard.written.files, fileUrls({path, fifo}));
     }
 
     void picturesStayWithinTheirBudget()
@@ -290,7 +408,7 @@ private Q_SLOTS:
             stage.userCopies(text);
         const ClipboardItem oldest = stage.clipboard.items().last();
         stage.clipboard.copy(oldest.idText());
-        QCOMPARE(std::get<QString>(stage.pasteboard.written), u"A"_s);
+        QCOMPARE(stage.pasteboard.written.text, u"A"_s);
         QCOMPARE(stage.clipboard.items().first(), oldest);
         const QByteArray stored = stage.stored();
         stage.settle();

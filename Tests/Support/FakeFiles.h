@@ -20,6 +20,7 @@ namespace Kestrune::Fakes {
 struct FakePasteboard : Pasteboard
 {
     qint64 changeCount() const override { return count; }
+    bool isOrphaned() const override { return orphaned; }
     QFuture<QStringList> types() override { return answer(offered, QStringLiteral("types")); }
     QFuture<QList<QUrl>> fileUrls() override { return answer(urls, QStringLiteral("urls")); }
     QFuture<std::optional<EncodedPicture>> picture() override
@@ -27,8 +28,11 @@ struct FakePasteboard : Pasteboard
         return answer(encoded, QStringLiteral("picture"));
     }
     QFuture<std::optional<QString>> string() override { return answer(text, QStringLiteral("string")); }
+    QFuture<QByteArray> html() override { return answer(markup, QStringLiteral("html")); }
+    QFuture<QStringList> owners() override { return answer(programs, QStringLiteral("owners")); }
     qint64 write(const PasteboardContent &content) override
     {
+        orphaned = false;
         written = content;
         return ++count;
     }
@@ -44,7 +48,18 @@ struct FakePasteboard : Pasteboard
         urls.clear();
         encoded.reset();
         text.reset();
+        markup.clear();
+        orphaned = false;
         return *this;
+    }
+
+    /// The types and bytes of the pictures that were written.
+    QList<EncodedPicture> writtenPictures() const
+    {
+        QList<EncodedPicture> pictures;
+        for (const OfferedPicture &picture : written.pictures)
+            pictures.append({picture.data(), picture.type});
+        return pictures;
     }
 
     void release()
@@ -59,6 +74,9 @@ struct FakePasteboard : Pasteboard
     QList<QUrl> urls;
     std::optional<EncodedPicture> encoded;
     std::optional<QString> text;
+    QByteArray markup;
+    QStringList programs; ///< The owner's names.
+    bool orphaned = false;
     PasteboardContent written;
     QStringList asked;
     bool held = false;

@@ -69,7 +69,8 @@ void DataControlLoop::contentChanged()
     if (m_reader)
         m_reader->overtaken(!content);
     const bool isOurs = content && content->has(m_mark);
-    contentReplaced(content && !isOurs && m_state == State::Watching);
+    const bool isCopy = content && !isOurs && m_state == State::Watching;
+    contentReplaced(isCopy ? Change::copied : content ? Change::ours : Change::gone);
 }
 
 bool DataControlLoop::handleEvents()
@@ -92,7 +93,7 @@ void DataControlLoop::finished()
     m_source.reset();
     if (m_reader)
         m_reader->overtaken(true);
-    contentReplaced(false);
+    contentReplaced(Change::gone);
 }
 
 void DataControlLoop::expire()

@@ -26,7 +26,7 @@ void DataControlSource::send(void *self, ext_data_control_source_v1 *, const cha
     Descriptor reader(descriptor);
     auto &source = *static_cast<DataControlSource *>(self);
     const auto form = std::ranges::find(source.m_forms, QByteArrayView(type), &PasteboardTypes::Form::target);
-    if (form != source.m_forms.end())
+    if (form != source.m_forms.end() && form->prepare())
         source.m_writers.add(std::move(reader), form->data);
 }
 

@@ -49,7 +49,17 @@ QList<Form> fileForms(const QList<QUrl> &urls)
 {
     QList<Form> forms{{Pasteboard::kFileUrls, Pasteboard::kFileUrls, UriLists::uriList(urls)},
                       {UriLists::kCopiedFiles, UriLists::kCopiedFiles, UriLists::copiedFiles(urls)}};
-    return forms + textForms(UriLists::paths(urls)); // Terminals paste the paths.
+    return forms;
+}
+
+QList<Form> pictureForms(const QList<OfferedPicture> &pictures)
+{
+    QList<Form> forms;
+    for (const OfferedPicture &picture : pictures) {
+        const QByteArray type = picture.type.toLatin1();
+        forms.append({type, type, {}, picture.data});
+    }
+    return forms;
 }
 
 } // namespace
@@ -83,6 +93,12 @@ const QList<QByteArray> &pictureTargets()
     return targets;
 }
 
+const QList<QByteArray> &htmlTargets()
+{
+    static const QList<QByteArray> targets{Pasteboard::kHtml};
+    return targets;
+}
+
 std::optional<QString> text(QByteArrayView data, const QByteArray &type)
 {
     while (data.endsWith('\0'))
@@ -99,13 +115,16 @@ std::optional<QString> text(QByteArrayView data, const QByteArray &type)
 
 QList<Form> forms(const PasteboardContent &content)
 {
-    if (const auto *string = std::get_if<QString>(&content))
-        return textForms(*string);
-    if (const auto *urls = std::get_if<QList<QUrl>>(&content))
-        return fileForms(*urls);
-    const auto &picture = std::get<EncodedPicture>(content);
-    const QByteArray type = picture.type.toLatin1();
-    return {{type, type, picture.data}};
+    QList<Form> forms = pictureForms(content.pictures);
+    if (!content.files.isEmpty())
+        forms += fileForms(content.files);
+    if (content.text)
+        forms += textForms(*content.text);
+    else if (!content.files.isEmpty())
+        forms += textForms(UriLists::paths(content.files)); // Terminals paste the paths.
+    if (!content.html.isEmpty())
+        forms.append({Pasteboard::kHtml, Pasteboard::kHtml, content.html});
+    return forms;
 }
 
 } // namespace Kestrune::PasteboardTypes

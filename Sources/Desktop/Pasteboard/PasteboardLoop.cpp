@@ -16,6 +16,7 @@ constexpr qsizetype kMostTypes = kMegabyte / 16;
 constexpr qsizetype kMostFiles = 8 * kMegabyte;
 constexpr qsizetype kMostText = 16 * kMegabyte;
 constexpr qsizetype kMostPicture = 64 * kMegabyte;
+constexpr qsizetype kMostHtml = 8 * kMegabyte;
 
 } // namespace
 
@@ -28,10 +29,13 @@ void PasteboardLoop::run()
         if (!hadEvent && !hadCommand && !hadQuestion && isAlive())
             sleep();
     }
-    if (m_link.commands.isClosed())
+    if (m_link.commands.isClosed()) {
+        if (isAlive())
+            handOver();
         qCDebug(clipboardLog, "ended");
-    else
+    } else {
         qCInfo(clipboardLog, "the connection is gone, and what is copied is not seen any more");
+    }
 }
 
 int PasteboardLoop::timeoutUntil(const std::optional<Clock::time_point> &deadline)
@@ -42,10 +46,11 @@ int PasteboardLoop::timeoutUntil(const std::optional<Clock::time_point> &deadlin
     return std::max(0, static_cast<int>(left.count()));
 }
 
-void PasteboardLoop::contentReplaced(bool copied)
+void PasteboardLoop::contentReplaced(Change change)
 {
     ++m_content;
-    if (copied)
+    m_link.orphaned = change == Change::orphaned;
+    if (change == Change::copied)
         ++m_link.changeCount;
 }
 
@@ -111,6 +116,23 @@ void PasteboardLoop::picture(Done<EncodedPicture> done)
     };
     m_questions.emplace_back(
         [this, read] { askForFirst(PasteboardTypes::pictureTargets(), kMostPicture, read); });
+}
+
+void PasteboardLoop::html(Done<QByteArray> done)
+{
+    const auto read = [done = std::move(done)](const Form &form) {
+        if (form.type == form.target)
+            done(form.data);
+    };
+    m_questions.emplace_back([this, read] { askForFirst(PasteboardTypes::htmlTargets(), kMostHtml, read); });
+}
+
+void PasteboardLoop::owners(Done<QStringList> done)
+{
+    m_questions.emplace_back([this, done = std::move(done)] {
+        if (m_describedContent == m_content)
+            done(ownerNames());
+    });
 }
 
 void PasteboardLoop::string(Done<QString> done)

@@ -18,6 +18,7 @@ using PasteboardCommand = std::function<void(PasteboardLoop &)>;
 struct PasteboardLink
 {
     std::atomic<qint64> changeCount = 0; ///< Raised by the loop with every copy by another program.
+    std::atomic<bool> orphaned = false;  ///< See Pasteboard::isOrphaned.
     Mailbox<PasteboardCommand> commands;
 };
 
@@ -40,7 +41,8 @@ public:
     virtual ~PasteboardLoop() = default;
     Q_DISABLE_COPY_MOVE(PasteboardLoop)
 
-    /// Returns when the queue is closed or the connection to the window system breaks.
+    /// Returns when the queue is closed, once the desktop has been left what is copied, or when the
+    /// connection to the window system breaks.
     void run();
 
     virtual void offer(const PasteboardContent &content) = 0;
@@ -48,6 +50,8 @@ public:
     void fileUrls(Done<QList<QUrl>> done);
     void picture(Done<EncodedPicture> done);
     void string(Done<QString> done);
+    void html(Done<QByteArray> done);
+    void owners(Done<QStringList> done);
 
     /// Milliseconds until then, as poll wants them: -1 for ever.
     static int timeoutUntil(const std::optional<Clock::time_point> &deadline);
@@ -55,8 +59,15 @@ public:
 protected:
     using Form = PasteboardTypes::Form;
 
-    /// The content is another one from now on; `copied`: by another program.
-    void contentReplaced(bool copied);
+    enum class Change {
+        copied,   ///< By another program.
+        ours,     ///< By this one.
+        gone,     ///< Nothing is offered any more.
+        orphaned, ///< As `gone`, because the other program that had copied it ended.
+    };
+
+    /// The content is another one from now on.
+    void contentReplaced(Change change);
 
     /// Readable while the main thread has something.
     int commandDescriptor() const { return m_link.commands.descriptor(); }
@@ -78,6 +89,12 @@ private:
 
     /// Asks it for the content in that form, `limit` bytes at most.
     virtual void askForTarget(const QByteArray &target, qsizetype limit, Done<Form> done) = 0;
+
+    /// The names of the program that the content is of.
+    virtual QStringList ownerNames() { return {}; }
+
+    /// The last that is done: leaves to the desktop what this program has copied. A second at most.
+    virtual void handOver() {}
 
     bool runCommand();
     bool startQuestion();

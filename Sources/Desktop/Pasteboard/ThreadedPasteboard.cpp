@@ -37,6 +37,8 @@ ThreadedPasteboard::~ThreadedPasteboard() { m_link->commands.close(); }
 
 qint64 ThreadedPasteboard::changeCount() const { return m_link->changeCount; }
 
+bool ThreadedPasteboard::isOrphaned() const { return m_link->orphaned; }
+
 template <typename Answer, typename Question>
 QFuture<Answer> ThreadedPasteboard::ask(Question question)
 {
@@ -61,8 +63,13 @@ QFuture<std::optional<QString>> ThreadedPasteboard::string()
     return ask<std::optional<QString>>(&PasteboardLoop::string);
 }
 
+QFuture<QByteArray> ThreadedPasteboard::html() { return ask<QByteArray>(&PasteboardLoop::html); }
+
+QFuture<QStringList> ThreadedPasteboard::owners() { return ask<QStringList>(&PasteboardLoop::owners); }
+
 qint64 ThreadedPasteboard::write(const PasteboardContent &content)
 {
+    m_link->orphaned = false;
     m_link->commands.post([content](PasteboardLoop &loop) { loop.offer(content); });
     return ++m_link->changeCount;
 }

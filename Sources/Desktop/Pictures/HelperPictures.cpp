@@ -4,6 +4,8 @@
 #include "Desktop/Reader/MemoryFile.h"
 #include "Desktop/Reader/ReaderWire.h"
 
+#include <algorithm>
+
 namespace Kestrune {
 
 namespace {
@@ -18,10 +20,21 @@ QImage imageOf(const QByteArray &pixels, const ReaderWire::PictureAnswer &answer
         .copy();
 }
 
+bool isWhole(const PictureWish &wish) { return wish.fit == PictureWish::Fit::whole; }
+
+/// What the answer has room for.
+qint64 pixelsFor(const PictureWish &wish)
+{
+    return isWhole(wish) ? std::min<qint64>(wish.mostPixels, ReaderWire::kMostWhole)
+                         : qint64{wish.side} * wish.side;
+}
+
 bool isPossible(const ReaderWire::PictureAnswer &answer, const PictureWish &wish)
 {
-    return answer.width > 0 && answer.height > 0 && answer.width <= wish.side && answer.height <= wish.side &&
-           answer.wholeWidth > 0 && answer.wholeHeight > 0;
+    const int side = isWhole(wish) ? ReaderWire::kMostWhole : wish.side;
+    return answer.width > 0 && answer.height > 0 && answer.width <= side && answer.height <= side &&
+           qint64{answer.width} * answer.height <= pixelsFor(wish) && answer.wholeWidth > 0 &&
+           answer.wholeHeight > 0;
 }
 
 } // namespace
@@ -38,13 +51,13 @@ ReadPicture HelperPictures::read(const QByteArray &encoded, const PictureWish &w
 
 ReadPicture HelperPictures::readFile(int descriptor, const PictureWish &wish)
 {
-    const std::size_t side = static_cast<std::size_t>(wish.side);
-    const MemoryFile memory("pixels");
-    if (!memory.reserve(side * side * ReaderWire::kPixelBytes))
+    const qint64 room = pixelsFor(wish);
+    const MemoryFile memory("pixels"); // Takes no more than is written to it.
+    if (!memory.reserve(static_cast<std::size_t>(room) * ReaderWire::kPixelBytes))
         return {};
-    const ReaderWire::PictureQuestion question{static_cast<std::int32_t>(wish.fit),
-                                               static_cast<std::int32_t>(wish.formats), wish.side, 0,
-                                               wish.mostPixels};
+    const ReaderWire::PictureQuestion question{
+        static_cast<std::int32_t>(wish.fit), static_cast<std::int32_t>(wish.formats), wish.side,
+        static_cast<std::int32_t>(room), isWhole(wish) ? room : wish.mostPixels};
     const auto outcome = m_readers.ask<ReaderWire::PictureAnswer>(question, descriptor, memory.descriptor());
     const auto *const answer = std::get_if<ReaderWire::PictureAnswer>(&outcome);
     if (!answer)

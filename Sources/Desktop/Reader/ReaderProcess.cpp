@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 
 #include <fcntl.h>
@@ -19,6 +20,35 @@ namespace {
 
 constexpr int kLongestAnswer = (ReaderWire::kLongest + 5) * 1000; // ms; it is to end by itself before.
 
+/// The signals that end a reader which takes too long must reach it, whatever the thread that starts it
+/// blocks.
+class SignalsUnblocked
+{
+public:
+    SignalsUnblocked()
+    {
+        if (::posix_spawnattr_init(&m_attributes) != 0)
+            return;
+        m_made = true;
+        sigset_t none;
+        ::sigemptyset(&none);
+        ::posix_spawnattr_setsigmask(&m_attributes, &none);
+        ::posix_spawnattr_setflags(&m_attributes, POSIX_SPAWN_SETSIGMASK);
+    }
+    ~SignalsUnblocked()
+    {
+        if (m_made)
+            ::posix_spawnattr_destroy(&m_attributes);
+    }
+    Q_DISABLE_COPY_MOVE(SignalsUnblocked)
+
+    const posix_spawnattr_t *get() const { return m_made ? &m_attributes : nullptr; }
+
+private:
+    posix_spawnattr_t m_attributes{};
+    bool m_made = false;
+};
+
 /// Starts it with the socket alone: what the libraries say of damaged pictures is of no use to anybody, and
 /// would be a way out. Whether the process that did so ended well.
 bool spawn(const QByteArray &program, const char *kind, int socket)
@@ -29,6 +59,7 @@ bool spawn(const QByteArray &program, const char *kind, int socket)
     std::array<char *, 3> arguments{const_cast<char *>(program.constData()), const_cast<char *>(kind),
                                     nullptr};
     pid_t process = 0;
+    const SignalsUnblocked attributes;
     const auto leadNowhere = [&](int stream) {
         return ::posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", O_RDWR, 0) == 0;
     };
@@ -36,7 +67,8 @@ bool spawn(const QByteArray &program, const char *kind, int socket)
         leadNowhere(STDIN_FILENO) && leadNowhere(STDOUT_FILENO) && leadNowhere(STDERR_FILENO) &&
         ::posix_spawn_file_actions_adddup2(&actions, socket, ReaderWire::kSocket) == 0 &&
         ::posix_spawn_file_actions_addclosefrom_np(&actions, ReaderWire::kSocket + 1) == 0 &&
-        ::posix_spawn(&process, program.constData(), &actions, nullptr, arguments.data(), environ) == 0;
+        ::posix_spawn(&process, program.constData(), &actions, attributes.get(), arguments.data(), environ) ==
+            0;
     ::posix_spawn_file_actions_destroy(&actions);
     if (!started)
         return false;

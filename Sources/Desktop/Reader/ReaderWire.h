@@ -20,7 +20,8 @@ constexpr int kLongestIdle = 15; ///< Seconds without a question, after which th
 
 constexpr int kPixelBytes = 4; ///< Premultiplied ARGB.
 constexpr int kDigestBytes = 16;
-constexpr int kMostSide = 1024; ///< Pixels.
+constexpr int kMostSide = 1024;        ///< Pixels.
+constexpr int kMostWhole = 32'000'000; ///< Pixels of a picture that is given as it is.
 
 /// Bytes of what was found in calendars.
 constexpr std::uint32_t kMostFound = std::uint32_t{32} << 20;
@@ -29,8 +30,8 @@ struct PictureQuestion
 {
     std::int32_t fit;
     std::int32_t formats;
-    std::int32_t side; ///< The memory has as many pixels each way.
-    std::int32_t unused;
+    std::int32_t side;   ///< Of no meaning for a whole picture.
+    std::int32_t pixels; ///< The memory has room for as many.
     std::int64_t mostPixels;
 };
 

@@ -1,6 +1,7 @@
 #include "SelectionOwner.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Kestrune {
 
@@ -14,7 +15,7 @@ void SelectionOwner::offer(const QList<PasteboardTypes::Form> &forms)
 {
     m_forms.clear();
     for (const auto &form : forms)
-        m_forms.push_back({m_x.atom(form.target), m_x.atom(form.type), form.data});
+        m_forms.push_back({m_x.atom(form.target), m_x.atom(form.type), form});
     takeSelection();
 }
 
@@ -22,6 +23,18 @@ void SelectionOwner::offerAgain()
 {
     if (!m_forms.empty())
         takeSelection();
+}
+
+std::vector<xcb_atom_t> SelectionOwner::kept() const
+{
+    std::vector<xcb_atom_t> targets;
+    bool isMade = false;
+    for (const Form &form : m_forms) {
+        if (form.content.make && std::exchange(isMade, true))
+            continue;
+        targets.push_back(form.target);
+    }
+    return targets;
 }
 
 void SelectionOwner::takeSelection()
@@ -91,19 +104,31 @@ bool SelectionOwner::give(xcb_window_t reader, xcb_atom_t target, xcb_atom_t pro
                             &m_since);
         return true;
     }
+    if (target == m_x.atom("SAVE_TARGETS")) { // Told to be known; there is nothing to do.
+        xcb_change_property(m_x.get(), XCB_PROP_MODE_REPLACE, reader, property, m_x.atom("NULL"), 32, 0,
+                            nullptr);
+        return true;
+    }
     const auto form = std::ranges::find(m_forms, target, &Form::target);
-    if (form == m_forms.end())
+    return form != m_forms.end() && giveForm(*form, reader, property);
+}
+
+bool SelectionOwner::giveForm(Form &form, xcb_window_t reader, xcb_atom_t property)
+{
+    if (!form.content.prepare())
         return false;
-    if (form->data.size() > IncrementalTransfers::kPiece)
-        return m_transfers.start(reader, property, form->type, form->data);
-    xcb_change_property(m_x.get(), XCB_PROP_MODE_REPLACE, reader, property, form->type, 8,
-                        static_cast<uint32_t>(form->data.size()), form->data.constData());
+    const QByteArray &data = form.content.data;
+    if (data.size() > IncrementalTransfers::kPiece)
+        return m_transfers.start(reader, property, form.type, data);
+    xcb_change_property(m_x.get(), XCB_PROP_MODE_REPLACE, reader, property, form.type, 8,
+                        static_cast<uint32_t>(data.size()), data.constData());
     return true;
 }
 
 void SelectionOwner::giveTargets(xcb_window_t reader, xcb_atom_t property)
 {
-    std::vector<xcb_atom_t> targets{m_x.atom("TARGETS"), m_x.atom("TIMESTAMP"), m_x.atom("MULTIPLE")};
+    std::vector<xcb_atom_t> targets{m_x.atom("TARGETS"), m_x.atom("TIMESTAMP"), m_x.atom("MULTIPLE"),
+                                    m_x.atom("SAVE_TARGETS")};
     for (const Form &form : m_forms)
         targets.push_back(form.target);
     xcb_change_property(m_x.get(), XCB_PROP_MODE_REPLACE, reader, property, XCB_ATOM_ATOM, 32,

@@ -23,6 +23,10 @@ public:
 
     void handle(const xcb_generic_event_t &event);
 
+    /// The targets in which another program should keep the content when this one ends; empty while the
+    /// selection is another's. Of what has to be made there is but the first.
+    std::vector<xcb_atom_t> kept() const;
+
     std::optional<IncrementalTransfers::Clock::time_point> deadline() const { return m_transfers.deadline(); }
     void expire(IncrementalTransfers::Clock::time_point now) { m_transfers.expire(now); }
 
@@ -31,13 +35,14 @@ private:
     {
         xcb_atom_t target;
         xcb_atom_t type;
-        QByteArray data;
+        PasteboardTypes::Form content;
     };
 
     void takeSelection();
     void answer(const xcb_selection_request_event_t &request);
     bool isOurs(const xcb_selection_request_event_t &request) const;
     bool give(xcb_window_t reader, xcb_atom_t target, xcb_atom_t property);
+    bool giveForm(Form &form, xcb_window_t reader, xcb_atom_t property);
     bool giveMultiple(xcb_window_t reader, xcb_atom_t property);
     void giveTargets(xcb_window_t reader, xcb_atom_t property);
 

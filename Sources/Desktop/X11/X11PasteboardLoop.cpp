@@ -1,6 +1,8 @@
 #include "X11PasteboardLoop.h"
 
+#include "ClipboardKeeper.h"
 #include "Desktop/Pasteboard/Log.h"
+#include "WindowClasses.h"
 
 #include <QtEndian>
 
@@ -84,9 +86,23 @@ void X11PasteboardLoop::ownerChanged(const xcb_generic_event_t &event)
     const auto &change = reinterpret_cast<const xcb_xfixes_selection_notify_event_t &>(event);
     if (m_reader)
         m_reader->ownerChanged(SelectionConnection::sequenceOf(event), change.owner == XCB_WINDOW_NONE);
+    const bool wasOurs = m_ownerWindow == m_x.window();
     m_ownerWindow = change.owner;
     m_since = change.selection_timestamp;
-    contentReplaced(change.owner != XCB_WINDOW_NONE && change.owner != m_x.window());
+    if (change.owner != XCB_WINDOW_NONE)
+        contentReplaced(change.owner == m_x.window() ? Change::ours : Change::copied);
+    else // A program that takes its copy back does so as the owner that it is.
+        contentReplaced(change.subtype == XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER || wasOurs
+                            ? Change::gone
+                            : Change::orphaned);
+}
+
+QStringList X11PasteboardLoop::ownerNames() { return WindowClasses::ofClient(m_x, m_ownerWindow); }
+
+void X11PasteboardLoop::handOver()
+{
+    if (const auto targets = m_owner.kept(); !targets.empty())
+        ClipboardKeeper(m_x, m_owner).keep(targets);
 }
 
 void X11PasteboardLoop::expire()

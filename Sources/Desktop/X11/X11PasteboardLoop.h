@@ -22,6 +22,9 @@ private:
     void askForTargets(qsizetype limit, Done<QList<QByteArray>> done) override;
     void askForTarget(const QByteArray &target, qsizetype limit, Done<Form> done) override;
 
+    QStringList ownerNames() override;
+    void handOver() override;
+
     void watchOwner();
     bool handleEvent();
     void ownerChanged(const xcb_generic_event_t &event);

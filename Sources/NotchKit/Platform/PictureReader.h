@@ -13,6 +13,7 @@ struct PictureWish
         inside, ///< The longer side fits.
         middle, ///< The shorter side fits; what stands over at both ends of the other is cut off.
         square, ///< As `middle`, and of a smaller picture the square in its middle.
+        whole,  ///< As it is, whatever the side.
     };
     /// Which encodings are read. Others are no pictures.
     enum class Formats {

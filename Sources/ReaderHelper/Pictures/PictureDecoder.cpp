@@ -84,13 +84,15 @@ ReadPicture PictureDecoder::decode(QIODevice &device, const PictureWish &wish)
     if (size.isEmpty() || qint64{size.width()} * size.height() > wish.mostPixels)
         return {};
     reader.setAutoTransform(true);
-    reader.setScaledSize(fitted(size, wish));
+    const bool isWhole = wish.fit == PictureWish::Fit::whole;
+    if (!isWhole)
+        reader.setScaledSize(fitted(size, wish));
     const QImage image = reader.read();
     if (image.isNull())
         return {};
     const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     return {
-        cut(image, wish).convertToFormat(QImage::Format_ARGB32_Premultiplied),
+        (isWhole ? image : cut(image, wish)).convertToFormat(QImage::Format_ARGB32_Premultiplied),
         turned ? size.transposed() : size,
         QCryptographicHash::hash(image.text(QStringLiteral("Thumb::URI")).toUtf8(), QCryptographicHash::Md5),
         image.text(QStringLiteral("Thumb::MTime")).toLongLong()};

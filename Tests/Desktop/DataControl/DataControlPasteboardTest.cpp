@@ -61,6 +61,8 @@ private Q_SLOTS:
         exchange(type, bytes);
     }
 
+    void everyForm() { givesEveryForm(); }
+
     void files()
     {
         const QList<QUrl> urls = fileUrls({u"/tmp/Über #1 100%.txt"_s, u"/tmp/b"_s});

@@ -27,6 +27,8 @@ private Q_SLOTS:
         row("WebP", "webp", {80, 60}, {inside, web, 40, 1'000'000}, {40, 30});
         row("BMP", "bmp", {80, 60}, {inside, clipboard, 40, 1'000'000}, {40, 30});
         row("TIFF", "tiff", {80, 60}, {inside, clipboard, 40, 1'000'000}, {40, 30});
+        row("whole", "tiff", {1500, 60}, {whole, clipboard, 40, 90'000}, {1500, 60});
+        row("whole, but too large", "png", {800, 600}, {whole, web, 40, 479'999}, {0, 0});
         row("not on the web", "bmp", {80, 60}, {inside, web, 40, 1'000'000}, {0, 0});
         row("of no named kind", "ppm", {80, 60}, {inside, clipboard, 40, 1'000'000}, {0, 0});
         row("too large", "png", {800, 600}, {inside, web, 40, 479'999}, {0, 0});

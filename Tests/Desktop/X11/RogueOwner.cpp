@@ -31,7 +31,8 @@ template <typename T>
 using Owned = std::unique_ptr<T, Free>;
 
 /// A program on the clipboard that offers `targets`, says on standard output which of them it is asked for,
-/// and answers as its mode has it.
+/// and answers as its mode has it. With "keep" it is the desktop's clipboard manager, and keeps short texts
+/// that it is left; with "keepNothing" one that never answers.
 struct Owner
 {
     Owner(std::string mode, std::vector<std::string> targets, std::string text)
@@ -47,9 +48,12 @@ struct Owner
 
     int descriptor() const { return xcb_get_file_descriptor(m_x); }
 
-    void own()
+    void own(bool owns = true)
     {
-        xcb_set_selection_owner(m_x, m_window, atom("CLIPBOARD"), XCB_CURRENT_TIME);
+        const xcb_window_t none = XCB_WINDOW_NONE;
+        const bool keeps = m_mode == "keep" || m_mode == "keepNothing";
+        xcb_set_selection_owner(m_x, owns ? m_window : none, atom(keeps ? "CLIPBOARD_MANAGER" : "CLIPBOARD"),
+                                XCB_CURRENT_TIME);
         sync();
     }
 
@@ -61,6 +65,8 @@ struct Owner
             const int type = event->response_type & 0x7f;
             if (type == XCB_SELECTION_REQUEST)
                 answer(reinterpret_cast<const xcb_selection_request_event_t &>(*event));
+            else if (type == XCB_SELECTION_NOTIFY)
+                keep();
             else if (type == XCB_PROPERTY_NOTIFY)
                 continueWith(reinterpret_cast<const xcb_property_notify_event_t &>(*event));
         }
@@ -120,7 +126,12 @@ private:
         const std::string target = name(request.target);
         std::printf("%s\n", target.c_str());
         std::fflush(stdout);
-        if (target == "TARGETS")
+        if (m_mode == "keep")
+            xcb_convert_selection(m_x, m_window, atom("CLIPBOARD"), atom("UTF8_STRING"), atom("KEPT"),
+                                  XCB_CURRENT_TIME);
+        else if (m_mode == "keepNothing")
+            return;
+        else if (target == "TARGETS")
             answerTypes();
         else if (m_mode == "honest")
             put(request.target, 8, m_text.size(), m_text.data()), notify();
@@ -132,6 +143,19 @@ private:
             putHuge(), notify();
         else
             announce();
+    }
+
+    /// The clipboard manager has the text that it asked for: from now on the clipboard is its own.
+    void keep()
+    {
+        const auto cookie =
+            xcb_get_property(m_x, 0, m_window, atom("KEPT"), XCB_GET_PROPERTY_TYPE_ANY, 0, kPiece);
+        const Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_x, cookie, nullptr));
+        m_text.assign(static_cast<const char *>(xcb_get_property_value(reply.get())),
+                      size_t(xcb_get_property_value_length(reply.get())));
+        m_mode = "honest";
+        own();
+        notify();
     }
 
     void answerTypes()
@@ -183,7 +207,7 @@ private:
     size_t m_sent = 0;
 };
 
-/// Takes the clipboard anew with every line of standard input.
+/// Takes the clipboard anew with every line of standard input, or takes its copy back at "release".
 int serve(Owner &owner)
 {
     owner.own();
@@ -195,9 +219,10 @@ int serve(Owner &owner)
         poll(sources, 2, -1);
         char line[64];
         if (sources[1].revents != 0) {
-            if (read(STDIN_FILENO, line, sizeof line) <= 0)
+            const auto size = read(STDIN_FILENO, line, sizeof line);
+            if (size <= 0)
                 return 0;
-            owner.own();
+            owner.own(std::string_view(line, size_t(size)) != "release\n");
         }
     }
 }

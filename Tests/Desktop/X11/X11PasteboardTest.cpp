@@ -1,3 +1,4 @@
+#include "Async/Threads.h"
 #include "Desktop/X11/ClipboardStage.h"
 
 static QByteArray png()
@@ -49,6 +50,45 @@ private Q_SLOTS:
     {
         const auto [client, type, bytes] = fetched<QString, QString, QByteArray>();
         exchange(type, bytes, client);
+    }
+
+    void everyForm() { givesEveryForm(); }
+
+    /// What is gone with its program is told from what was taken back.
+    void orphans()
+    {
+        QVERIFY(m_stage->startRogue({u"honest"_s, u"UTF8_STRING"_s}));
+        QCOMPARE(string(), QString()); // Nobody asked for the types.
+        QVERIFY(!m_stage->pasteboard->isOrphaned());
+        m_stage->programs.back()->write("release\n");
+        QTRY_COMPARE(types(), QStringList());
+        QVERIFY(!m_stage->pasteboard->isOrphaned());
+        m_stage->programs.back()->write("again\n");
+        QTRY_COMPARE(m_stage->pasteboard->changeCount(), 2);
+        m_stage->programs.back()->killNow();
+        QTRY_VERIFY(m_stage->pasteboard->isOrphaned());
+        m_stage->write(kText);
+        QVERIFY(!m_stage->pasteboard->isOrphaned());
+        QCOMPARE(m_stage->pasteboard->changeCount(), 3);
+    }
+
+    /// The desktop's clipboard manager is left what is offered at the end, and is not waited for when it
+    /// hangs.
+    void keptAtTheEnd_data() { noAndYes("kept", "hangs"); }
+
+    void keptAtTheEnd()
+    {
+        const auto [hangs] = fetched<bool>();
+        QVERIFY(m_stage->start(m_stage->beside(u"RogueOwner"_s),
+                               {hangs ? u"keepNothing"_s : u"keep"_s, u"UTF8_STRING"_s}));
+        QTRY_VERIFY(m_stage->programs.back()->canReadLine());
+        PasteboardContent content(kText);
+        content.pictures = {{u"image/jpeg"_s, [] { return "jpeg"_ba; }},
+                            {u"image/png"_s, [] { return QByteArray(); }}};
+        m_stage->write(content);
+        m_stage->pasteboard.reset();
+        QVERIFY(Threads::waitForAll(std::chrono::seconds(60)));
+        QCOMPARE(m_stage->paste(u"text/plain"_s), hangs ? QByteArray() : kText.toUtf8());
     }
 
     void secretsAreNotAskedFor_data()
@@ -262,6 +302,7 @@ void X11PasteboardTest::fileManager()
     QTRY_VERIFY_WITH_TIMEOUT(m_stage->copied(copyAll, 3000), 120000);
     QVERIFY(types().contains(u"text/uri-list"_s));
     QCOMPARE(wait(m_stage->pasteboard->fileUrls()), urls);
+    QVERIFY(wait(m_stage->pasteboard->owners()).contains(u"pcmanfm"_s, Qt::CaseInsensitive));
 
     m_stage->write(urls);
     QCOMPARE(m_stage->paste(u"text/plain"_s), urls[0].toLocalFile().toUtf8());

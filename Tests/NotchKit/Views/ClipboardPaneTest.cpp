@@ -61,7 +61,7 @@ private Q_SLOTS:
         stage.key(Qt::Key_Down);
         stage.key(Qt::Key_Down);
         stage.key(Qt::Key_Return);
-        QCOMPARE(std::get<QString>(stage.core.pasteboard.written), u"three"_s);
+        QCOMPARE(stage.core.pasteboard.written.text, u"three"_s);
         QTRY_COMPARE(stage.rows(), QStringList({u"three"_s, u"one"_s, u"two"_s}));
         stage.key(Qt::Key_T);
         QTRY_COMPARE(stage.rows(), QStringList({u"three"_s, u"two"_s}));
@@ -71,6 +71,8 @@ private Q_SLOTS:
         stage.key(Qt::Key_Home);
         stage.key(Qt::Key_Delete);
         QTRY_COMPARE(stage.rows(), QStringList({u"three"_s, u"one"_s}));
+        QTest::keyClick(stage.window.get(), Qt::Key_P, Qt::ControlModifier);
+        QVERIFY(stage.clipboard.items().first().pinned);
         stage.key(Qt::Key_Escape);
         QVERIFY(!stage.core.model().expanded());
     }
@@ -90,9 +92,19 @@ private Q_SLOTS:
         QTest::qWait(300);
 
         const auto written = stage.core.pasteboard.count;
-        stage.click(row("one"), Qt::RightButton);
-        QTRY_VERIFY(stage.window->activeFocusItem()->inherits("QQuickAbstractButton"));
-        stage.key(Qt::Key_Return);
+        const auto choose = [&](const char *text, const QList<Qt::Key> &keys) {
+            stage.click(row(text), Qt::RightButton);
+            QVERIFY(QTest::qWaitFor(
+                [&] { return stage.window->activeFocusItem()->inherits("QQuickAbstractButton"); }));
+            for (const Qt::Key key : keys)
+                stage.key(key);
+        };
+        choose("three", {Qt::Key_Return});
+        QTRY_COMPARE(stage.rows(), QStringList({u"three"_s, u"two"_s, u"one"_s}));
+        QVERIFY(stage.clipboard.visible().first().pinned);
+        choose("three", {Qt::Key_Return});
+        QTRY_COMPARE(stage.rows(), QStringList({u"two"_s, u"one"_s, u"three"_s}));
+        choose("one", {Qt::Key_Down, Qt::Key_Return});
         QTRY_COMPARE(stage.rows(), QStringList({u"two"_s, u"three"_s}));
         QCOMPARE(stage.core.pasteboard.count, written);
         stage.key(Qt::Key_H);

@@ -1,14 +1,30 @@
 #include "CapturesModel.h"
 
-#include "NotchKit/Platform/Pasteboard.h"
+#include "NotchKit/Platform/OfferedPictures.h"
 #include "NotchKit/Platform/Thumbnails.h"
 #include "NotchKit/Platform/Workspace.h"
+
+#include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
 namespace Kestrune {
 
+using namespace std::chrono_literals;
+
 namespace {
+
+constexpr auto kLongestReading = 2s;
+constexpr qint64 kMostBytes = qint64{64} * 1024 * 1024; // Of a picture; a larger one is copied as a file.
+
+QByteArray contentsOf(const QString &path)
+{
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || file.size() > kMostBytes || !file.open(QIODevice::ReadOnly))
+        return {};
+    return file.read(kMostBytes);
+}
 
 /// The newest of them, newest first.
 QList<ScreenCapture> newest(QList<ScreenCapture> captures)
@@ -33,7 +49,7 @@ CapturesModel::Items itemsOf(const QList<ScreenCapture> &captures)
 
 CapturesModel::CapturesModel(NotchSettings &settings, Clock &clock, ScreenCaptureQuery &query,
                              Thumbnails &thumbnails, Pasteboard &pasteboard, Workspace &workspace,
-                             QObject *parent)
+                             std::shared_ptr<PictureReader> pictures, QObject *parent)
     : ToolModel(NotchTool::captures, parent)
     , m_settings(settings)
     , m_clock(clock)
@@ -41,6 +57,7 @@ CapturesModel::CapturesModel(NotchSettings &settings, Clock &clock, ScreenCaptur
     , m_maker(thumbnails)
     , m_pasteboard(pasteboard)
     , m_workspace(workspace)
+    , m_pictures(std::move(pictures))
 {
     m_query.installHandler([this] { reload(); });
     connect(&settings, &NotchSettings::toolsChanged, this, &CapturesModel::followSetting);
@@ -208,7 +225,19 @@ void CapturesModel::open(const QString &id)
 void CapturesModel::copy(const QString &id)
 {
     if (const QUrl url = find(id); !url.isEmpty())
-        m_pasteboard.write(QList<QUrl>{url});
+        m_copying.restart(&CapturesModel::copyFile, this, url);
+}
+
+QCoro::Task<> CapturesModel::copyFile(QUrl url)
+{
+    const QString path = url.toLocalFile();
+    const auto read = [path] { return contentsOf(path); };
+    const QFuture<QByteArray> reading = m_files.run(kLongestReading, read);
+    const QByteArray bytes = co_await until(reading);
+    PasteboardContent content(QList<QUrl>{url});
+    if (!bytes.isEmpty())
+        content.pictures = offeredPictures({pictureTypeOf(path), [bytes] { return bytes; }}, m_pictures);
+    m_pasteboard.write(content);
 }
 
 void CapturesModel::reveal(const QString &id)

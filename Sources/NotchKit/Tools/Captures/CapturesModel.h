@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Async/Scope.h"
+#include "Async/Worker.h"
 #include "NotchKit/NotchSettings.h"
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/ScreenCaptureQuery.h"
@@ -12,10 +13,12 @@
 #include <QVariantMap>
 
 #include <map>
+#include <memory>
 
 namespace Kestrune {
 
 class Pasteboard;
+class PictureReader;
 class Thumbnails;
 class Workspace;
 
@@ -61,7 +64,8 @@ public:
     static constexpr int kFreshSeconds = 6;
 
     CapturesModel(NotchSettings &settings, Clock &clock, ScreenCaptureQuery &query, Thumbnails &thumbnails,
-                  Pasteboard &pasteboard, Workspace &workspace, QObject *parent = nullptr);
+                  Pasteboard &pasteboard, Workspace &workspace, std::shared_ptr<PictureReader> pictures,
+                  QObject *parent = nullptr);
     ~CapturesModel() override;
 
     /// Newest first.
@@ -83,7 +87,7 @@ public:
 
     /// What can be done with the item of that id; unknown ids are ignored.
     Q_INVOKABLE void open(const QString &id);   ///< In its default application.
-    Q_INVOKABLE void copy(const QString &id);   ///< The file, onto the pasteboard.
+    Q_INVOKABLE void copy(const QString &id);   ///< The picture and the file, onto the pasteboard.
     Q_INVOKABLE void reveal(const QString &id); ///< In the file manager.
 
     Activity activity() const override;
@@ -113,6 +117,7 @@ private:
     QCoro::Task<> makeThumbnail(QString id);
     void forget(const Items &kept);
     void receive(const QString &id, const QImage &image);
+    QCoro::Task<> copyFile(QUrl url);
     QUrl find(const QString &id) const;
 
     NotchSettings &m_settings;
@@ -121,10 +126,13 @@ private:
     Thumbnails &m_maker;
     Pasteboard &m_pasteboard;
     Workspace &m_workspace;
+    std::shared_ptr<PictureReader> m_pictures;
     bool m_hubRuns = false;
     bool m_runs = false;
     bool m_gathered = false; ///< Since the start.
     QDateTime m_freshUntil;
+    Worker m_files{"screenshots"};         ///< What looks into files, which may hang.
+    Scope m_copying;                       ///< One at a time.
     std::map<QString, Request> m_requests; ///< By id, for every item whose thumbnail is made or under way.
     Q_OBJECT_BINDABLE_PROPERTY(CapturesModel, Items, m_items, &CapturesModel::itemsChanged)
     Q_OBJECT_BINDABLE_PROPERTY(CapturesModel, QVariantMap, m_thumbnails, &CapturesModel::thumbnailsChanged)

@@ -3,7 +3,7 @@ import Kestrune.Views
 
 /// One item of the clipboard history.
 ///
-///   | picture or symbol | text                    age |
+///   | picture or symbol | text               pin  age |
 ButtonBase {
     id: row
 
@@ -18,6 +18,8 @@ ButtonBase {
 
     help: item.preview
     text: item.preview
+    //: Said of an entry of the clipboard history that is kept until the user deletes it.
+    Accessible.description: item.pinned ? qsTranslate("notch", "Pinned") : ""
     plain: true
     focusPolicy: Qt.NoFocus
     implicitHeight: 42
@@ -57,7 +59,7 @@ ButtonBase {
         anchors {
             left: square.right
             leftMargin: 10
-            right: age.left
+            right: pin.visible ? pin.left : age.left
             rightMargin: 12
             verticalCenter: parent.verticalCenter
         }
@@ -69,6 +71,15 @@ ButtonBase {
         maximumLineCount: 2
         elide: Text.ElideRight
         Accessible.ignored: true
+    }
+    Symbol {
+        id: pin
+
+        anchors { right: age.left; rightMargin: age.text === "" ? 0 : 6; verticalCenter: parent.verticalCenter }
+        visible: row.item.pinned
+        name: "pin.fill"
+        size: 12
+        color: Theme.dim
     }
     PlainText {
         id: age

@@ -31,6 +31,8 @@ constexpr qint64 kReferenceDate = 978'307'200; // 2001-01-01 00:00:00 UTC, secon
 constexpr double kFarthest = 1e11;             // Seconds; about three thousand years either way.
 constexpr qsizetype kIdLength = 36;
 constexpr qsizetype kPreviewLength = 300;
+constexpr qsizetype kMostWhole = 1'000'000; // UTF-16 units of a pinned text.
+const QString kWhole = QStringLiteral("whole");
 
 const KindEntry &entry(ClipboardItem::Kind kind) { return kKinds.at(static_cast<std::size_t>(kind)); }
 
@@ -77,15 +79,19 @@ std::optional<QDateTime> dateOf(const QJsonValue &value)
 QJsonObject encode(const ClipboardItem &item)
 {
     const double date = static_cast<double>(item.date.toMSecsSinceEpoch() - kReferenceDate * 1000) / 1000;
-    return {{QStringLiteral("id"), item.idText()},
-            {QStringLiteral("kind"), QString::fromLatin1(entry(item.kind).rawValue)},
-            {QStringLiteral("text"), item.text},
-            {QStringLiteral("paths"), QJsonArray::fromStringList(item.paths)},
-            {QStringLiteral("date"), date},
-            {QStringLiteral("image"), QJsonObject()}};
+    QJsonObject object{{QStringLiteral("id"), item.idText()},
+                       {QStringLiteral("kind"), QString::fromLatin1(entry(item.kind).rawValue)},
+                       {QStringLiteral("text"), item.text},
+                       {QStringLiteral("paths"), QJsonArray::fromStringList(item.paths)},
+                       {QStringLiteral("date"), date},
+                       {QStringLiteral("image"), QJsonObject()}};
+    const QString whole = item.original.wrappedValue ? item.original.wrappedValue->text : QString();
+    if (item.pinned && !whole.isEmpty() && whole.size() <= kMostWhole)
+        object.insert(kWhole, whole);
+    return object;
 }
 
-std::optional<ClipboardItem> decode(const QJsonValue &value)
+std::optional<ClipboardItem> decode(const QJsonValue &value, bool pinned)
 {
     const auto id = idOf(value[QStringLiteral("id")]);
     const auto kind = kindOf(value[QStringLiteral("kind")]);
@@ -94,7 +100,11 @@ std::optional<ClipboardItem> decode(const QJsonValue &value)
     const auto date = dateOf(value[QStringLiteral("date")]);
     if (!id || !kind || !text.isString() || !paths || !date)
         return std::nullopt;
-    return ClipboardItem{*id, *kind, text.toString(), *paths, *date, {}};
+    ClipboardItem item{*id, *kind, text.toString(), *paths, *date, {}};
+    item.pinned = pinned;
+    if (const QString whole = value[kWhole].toString(); pinned && !whole.isEmpty())
+        item.original.wrappedValue = ClipboardOriginal{whole, {}};
+    return item;
 }
 
 } // namespace
@@ -110,7 +120,19 @@ QImage ClipboardItem::thumbnail() const
 
 bool ClipboardItem::sameContent(const ClipboardItem &other) const
 {
-    return kind == other.kind && text == other.text && paths == other.paths;
+    if (kind != other.kind || text != other.text || paths != other.paths)
+        return false;
+    const auto &picture = image.wrappedValue;
+    const auto &othersPicture = other.image.wrappedValue;
+    if (paths.isEmpty() && picture && othersPicture)
+        return picture->isSameAs(*othersPicture);
+    return QStringView(wholeText()).trimmed() == QStringView(other.wholeText()).trimmed();
+}
+
+QString ClipboardItem::wholeText() const
+{
+    return original.wrappedValue && !original.wrappedValue->text.isNull() ? original.wrappedValue->text
+                                                                          : text;
 }
 
 QByteArray encodeClipboardItems(const ClipboardItems &items) { return ClipboardEncoder().encode(items); }
@@ -131,14 +153,14 @@ QByteArray ClipboardEncoder::encode(const ClipboardItems &items)
     return '[' + list.join(',') + ']';
 }
 
-std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored)
+std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored, bool pinned)
 {
     const QJsonDocument document = QJsonDocument::fromJson(stored);
     if (!document.isArray())
         return std::nullopt;
     ClipboardItems items;
     for (const auto &value : document.array()) {
-        const auto item = decode(value);
+        const auto item = decode(value, pinned);
         if (!item)
             return std::nullopt;
         items.append(*item);

@@ -21,6 +21,22 @@ struct CodableIgnored
     bool operator==(const CodableIgnored &) const = default;
 };
 
+/// What came with a copy that its entry does not show. In memory only, but for the text of a pinned entry.
+/// Copies share their data; equal means the same data in memory.
+struct ClipboardOriginal
+{
+    QString text;    ///< Whole, blanks at its ends and all; null where the entry has it so.
+    QByteArray html; ///< The same as its owner marked it up; often empty.
+
+    /// What it takes in memory, in bytes.
+    qint64 cost() const { return qint64{2} * text.size() + html.size(); }
+
+    bool operator==(const ClipboardOriginal &other) const
+    {
+        return text.constData() == other.text.constData() && html.constData() == other.html.constData();
+    }
+};
+
 /// One entry of the clipboard history.
 class ClipboardItem
 {
@@ -30,6 +46,7 @@ class ClipboardItem
     Q_PROPERTY(QString preview READ preview)
     Q_PROPERTY(bool isLink READ isLink)
     Q_PROPERTY(QDateTime date MEMBER date)
+    Q_PROPERTY(bool pinned MEMBER pinned)
     Q_PROPERTY(bool hasThumbnail READ hasThumbnail)
     Q_PROPERTY(QImage thumbnail READ thumbnail)
 
@@ -42,6 +59,8 @@ public:
     QStringList paths; ///< Absolute paths of copied files.
     QDateTime date;    ///< Of the capture, UTC.
     CodableIgnored<ClipboardPicture> image;
+    CodableIgnored<ClipboardOriginal> original = {};
+    bool pinned = false; ///< Kept until the user deletes it.
 
     QString idText() const { return id.toString(QUuid::WithoutBraces).toUpper(); }
 
@@ -58,7 +77,11 @@ public:
     /// A null image for an item without a picture.
     QImage thumbnail() const;
 
-    /// Whether copying it again would be the same to the user: same kind, text and files.
+    /// The text to copy again: whole while it is known.
+    QString wholeText() const;
+
+    /// Whether copying it again would be the same to the user: same kind, text and files, and the same
+    /// picture where it has no file.
     bool sameContent(const ClipboardItem &other) const;
 
     bool operator==(const ClipboardItem &other) const = default;
@@ -66,7 +89,9 @@ public:
 
 using ClipboardItems = QList<ClipboardItem>;
 
-/// The stored form: a JSON array, UTF-8. Pictures are left out; dates are seconds since 2001-01-01 UTC.
+/// The stored form: a JSON array, UTF-8. Pictures are left out; dates are seconds since 2001-01-01 UTC. A
+/// pinned item has its whole text beside the one shown, up to a million UTF-16 units. Which ones are
+/// pinned is not in it.
 QByteArray encodeClipboardItems(const ClipboardItems &items);
 
 /// Gives that form of a list that changes by an item at a time: each item, which stays as it is, is encoded
@@ -80,7 +105,7 @@ private:
     QHash<QUuid, QByteArray> m_entries; ///< Of the items of the last list.
 };
 
-/// Nothing when `stored` is not, as a whole, such an array.
-std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored);
+/// Nothing when `stored` is not, as a whole, such an array. `pinned`: of pinned items.
+std::optional<ClipboardItems> decodeClipboardItems(const QByteArray &stored, bool pinned = false);
 
 } // namespace Kestrune

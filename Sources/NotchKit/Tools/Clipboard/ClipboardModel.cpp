@@ -1,6 +1,7 @@
 #include "ClipboardModel.h"
 
 #include "NotchKit/NotchStrings.h"
+#include "NotchKit/Platform/OfferedPictures.h"
 
 #include <algorithm>
 #include <array>
@@ -28,6 +29,7 @@ constexpr std::array kFilters{
 
 constexpr int kTicksPerPoll = 10; // Fast ticks: twice a second.
 const QString kStoreKey = QStringLiteral("notch.clipboardItems");
+const QString kPinnedKey = QStringLiteral("notch.clipboardPinned");
 
 const FilterEntry &entry(ClipboardModel::Filter filter)
 {
@@ -51,29 +53,50 @@ bool isStored(const ClipboardItem &item)
     return item.kind != ClipboardItem::Kind::image || !item.paths.isEmpty();
 }
 
-PasteboardContent contentOf(const ClipboardItem &item)
+PasteboardContent contentOf(const ClipboardItem &item, const std::shared_ptr<PictureReader> &pictures)
 {
+    PasteboardContent content;
     if (item.kind == ClipboardItem::Kind::text || item.kind == ClipboardItem::Kind::link)
-        return item.text;
-    if (item.image.wrappedValue)
-        return item.image.wrappedValue->encoded();
-    QList<QUrl> urls;
+        content.text = item.wholeText();
+    if (item.original.wrappedValue)
+        content.html = item.original.wrappedValue->html;
     for (const QString &path : item.paths)
-        urls.append(QUrl::fromLocalFile(path));
-    return urls;
+        content.files.append(QUrl::fromLocalFile(path));
+    if (const auto &picture = item.image.wrappedValue)
+        content.pictures =
+            offeredPictures({picture->type(), [kept = *picture] { return kept.encoded().data; }}, pictures);
+    return content;
 }
 
-/// Drops the oldest pictures until the rest fits the budget.
-void fitPictures(ClipboardItems &items)
+/// Drops what the oldest items have of a kind until the rest fits the budget. Those that are pinned keep it.
+template <typename Part>
+void fit(ClipboardItems &items, CodableIgnored<Part> ClipboardItem::*part, qint64 budget)
 {
-    qint64 left = ClipboardModel::kPictureBudget;
-    for (ClipboardItem &item : items) {
-        auto &picture = item.image.wrappedValue;
-        left -= picture ? picture->cost() : 0;
-        if (left < 0)
-            picture.reset();
+    for (const bool pinned : {true, false}) {
+        for (ClipboardItem &item : items) {
+            auto &value = (item.*part).wrappedValue;
+            if (!value || item.pinned != pinned)
+                continue;
+            budget -= value->cost();
+            if (budget < 0 && !pinned)
+                value.reset();
+        }
     }
+}
+
+void fitMemory(ClipboardItems &items)
+{
+    fit(items, &ClipboardItem::image, ClipboardModel::kPictureBudget);
+    fit(items, &ClipboardItem::original, ClipboardModel::kOriginalBudget);
     items.removeIf([](const ClipboardItem &item) { return !isStored(item) && !item.image.wrappedValue; });
+}
+
+/// Drops the oldest of those that are not pinned.
+void fitCount(ClipboardItems &items)
+{
+    int kept = 0;
+    items.removeIf(
+        [&](const ClipboardItem &item) { return !item.pinned && ++kept > ClipboardModel::kMostItems; });
 }
 
 } // namespace
@@ -107,19 +130,44 @@ QStringList ClipboardModel::filterTitles()
 
 void ClipboardModel::load()
 {
-    const auto stored = m_defaults.object(kStoreKey);
+    Items items = stored(kStoreKey, false);
+    const Items pinned = stored(kPinnedKey, true);
+    for (const Item &item : pinned) {
+        items.removeIf([&](const Item &other) { return other.id == item.id; }); // Of a write cut in two.
+        const auto after =
+            std::ranges::find_if(items, [&](const Item &other) { return other.date < item.date; });
+        items.insert(after, item);
+    }
+    m_pinnedStored = m_pinnedEncoder.encode(pinned);
+    m_items = items;
+}
+
+ClipboardItems ClipboardModel::stored(const QString &key, bool pinned) const
+{
+    const auto stored = m_defaults.object(key);
     const auto *data = stored ? std::get_if<QByteArray>(&*stored) : nullptr;
-    if (!data)
-        return;
-    if (const auto items = decodeClipboardItems(*data))
-        m_items = *items;
+    return data ? decodeClipboardItems(*data, pinned).value_or(Items()) : Items();
 }
 
 void ClipboardModel::persist()
 {
-    Items stored;
-    std::ranges::copy_if(items(), std::back_inserter(stored), isStored);
-    m_defaults.setObject(kStoreKey, m_encoder.encode(stored));
+    Items history;
+    Items pinned;
+    for (const Item &item : items()) {
+        if (isStored(item))
+            (item.pinned ? pinned : history).append(item);
+    }
+    const QByteArray encoded = m_pinnedEncoder.encode(pinned);
+    const auto storePinned = [&] {
+        if (encoded != m_pinnedStored)
+            m_defaults.setObject(kPinnedKey, encoded);
+        m_pinnedStored = encoded;
+    };
+    // One that moves from the one to the other is at no moment in neither.
+    if (encoded.size() > m_pinnedStored.size())
+        storePinned();
+    m_defaults.setObject(kStoreKey, m_encoder.encode(history));
+    storePinned();
 }
 
 ClipboardItems ClipboardModel::computeVisible() const
@@ -131,6 +179,7 @@ ClipboardItems ClipboardModel::computeVisible() const
         return (!admitted || item.kind == *admitted) &&
                (wanted.isEmpty() || item.text.toLower().contains(wanted));
     });
+    std::stable_partition(visible.begin(), visible.end(), [](const Item &item) { return item.pinned; });
     return visible;
 }
 
@@ -148,19 +197,23 @@ bool ClipboardModel::isWanted() const
 void ClipboardModel::poll()
 {
     const qint64 change = m_pasteboard.changeCount();
-    if (change == m_lastChange)
+    if (change == m_lastChange) {
+        offerOrphan();
         return;
+    }
     const bool wanted = isWanted();
     if (wanted && m_reads.isWaiting())
         return;
     m_lastChange = change;
+    m_current = QUuid();
     if (wanted)
         m_reads.start(&ClipboardModel::read, this, m_clock.now());
 }
 
 QCoro::Task<> ClipboardModel::read(QDateTime date)
 {
-    std::optional<Item> item = co_await readPasteboard(m_pasteboard, m_workers);
+    std::optional<Item> item =
+        co_await readPasteboard(m_pasteboard, m_workers, m_settings.ignoredClipboardPrograms());
     if (!item || !isWanted())
         co_return;
     item->date = date;
@@ -170,19 +223,34 @@ QCoro::Task<> ClipboardModel::read(QDateTime date)
 void ClipboardModel::record(Item item)
 {
     Items recorded = items();
-    if (!recorded.isEmpty() && recorded.first().sameContent(item))
-        return;
-    recorded.prepend(std::move(item));
-    if (recorded.size() > kMostItems)
-        recorded.resize(kMostItems);
-    fitPictures(recorded);
+    const bool isSame = !recorded.isEmpty() && recorded.first().sameContent(item);
+    if (isSame) { // But for what is beside it, or in a file that has changed.
+        recorded.first().image = item.image;
+        recorded.first().original = item.original;
+    } else {
+        recorded.prepend(std::move(item));
+    }
+    fitCount(recorded);
+    fitMemory(recorded);
     m_items = recorded;
-    persist();
+    m_current = recorded.isEmpty() ? QUuid() : recorded.first().id;
+    if (!isSame)
+        persist();
+}
+
+void ClipboardModel::offerOrphan()
+{
+    if (!m_pasteboard.isOrphaned() || m_current.isNull() || m_reads.isWaiting() || !isWanted())
+        return;
+    const auto item = std::ranges::find(items(), m_current, &Item::id);
+    if (item != items().end())
+        m_lastChange = m_pasteboard.write(contentOf(*item, m_workers.pictures));
 }
 
 void ClipboardModel::copy(const Item &item)
 {
-    m_lastChange = m_pasteboard.write(contentOf(item));
+    m_lastChange = m_pasteboard.write(contentOf(item, m_workers.pictures));
+    m_current = item.id;
     Items moved = items();
     moved.removeIf([&](const Item &other) { return other.id == item.id; });
     moved.prepend(item);
@@ -216,9 +284,22 @@ void ClipboardModel::remove(const QString &id)
         remove(*item);
 }
 
+void ClipboardModel::setPinned(const QString &id, bool pinned)
+{
+    Items changed = items();
+    const auto found = std::ranges::find(changed, id, &Item::idText);
+    if (found == changed.end())
+        return;
+    found->pinned = pinned;
+    m_items = changed;
+    persist();
+}
+
 void ClipboardModel::clear()
 {
-    m_items = Items();
+    Items left = items();
+    left.removeIf([](const Item &item) { return !item.pinned; });
+    m_items = left;
     persist();
     m_defaults.removeDamagedCopies(); // In which the history would live on.
 }

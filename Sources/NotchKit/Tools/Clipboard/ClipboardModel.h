@@ -10,12 +10,13 @@
 
 namespace Kestrune {
 
-/// The history of what the user copied, newest first, at most 60 items; kept in the defaults under
-/// "notch.clipboardItems", without the pictures that came from no file. Main thread only.
+/// The history of what the user copied, newest first, at most 60 items and those that are pinned; kept in the
+/// defaults under "notch.clipboardItems" and "notch.clipboardPinned", without the pictures that came from no
+/// file. What the newest copy was is offered on when the program that it is of ends. Main thread only.
 class ClipboardModel : public ToolModel
 {
     Q_OBJECT
-    /// The items that pass the filter and the query.
+    /// The items that pass the filter and the query, the pinned ones before the others.
     Q_PROPERTY(QList<Kestrune::ClipboardItem> visible READ visible NOTIFY visibleChanged)
     Q_PROPERTY(QList<Kestrune::ClipboardItem> items READ items NOTIFY itemsChanged)
     Q_PROPERTY(QStringList filterTitles READ filterTitles CONSTANT)
@@ -33,6 +34,8 @@ public:
     /// What all kept pictures may take in memory together, in bytes. Beyond it the oldest go: one that came
     /// from a file is dropped from its item, another goes with its item.
     static constexpr qint64 kPictureBudget = qint64{256} * 1024 * 1024;
+    /// The same of what texts are beyond what their items show. The oldest are then what they show.
+    static constexpr qint64 kOriginalBudget = qint64{64} * 1024 * 1024;
 
     ClipboardModel(NotchSettings &settings, UserDefaults &defaults, Clock &clock, Pasteboard &pasteboard,
                    std::shared_ptr<PictureReader> pictures, QObject *parent = nullptr);
@@ -53,7 +56,7 @@ public:
     /// recorded. One content is read at a time; a copy made meanwhile is found by a later look.
     void poll();
 
-    /// Puts the item back on the pasteboard and moves it to the top.
+    /// Puts the item back on the pasteboard, in every form that it came in, and moves it to the top.
     void copy(const Item &item);
 
     /// Deletes every item with that id.
@@ -63,6 +66,10 @@ public:
     Q_INVOKABLE void copy(const QString &id);
     Q_INVOKABLE void remove(const QString &id);
 
+    /// A pinned item stays beyond the 60 and when the history is cleared. Unknown ids are ignored.
+    Q_INVOKABLE void setPinned(const QString &id, bool pinned);
+
+    /// Deletes all but the pinned items.
     Q_INVOKABLE void clear();
 
     void fastTick(qint64 count) override;
@@ -76,6 +83,8 @@ Q_SIGNALS:
 private:
     bool isWanted() const;
     void load();
+    Items stored(const QString &key, bool pinned) const;
+    void offerOrphan();
     void persist();
     QCoro::Task<> read(QDateTime date);
     void record(Item item);
@@ -87,9 +96,12 @@ private:
     Clock &m_clock;
     Pasteboard &m_pasteboard;
     qint64 m_lastChange;
+    QUuid m_current; ///< The item of what is on the pasteboard, as far as it was read.
     ClipboardWorkers m_workers;
     ClipboardEncoder m_encoder;
-    Scope m_reads; ///< One at a time.
+    ClipboardEncoder m_pinnedEncoder;
+    QByteArray m_pinnedStored; ///< As last written or read.
+    Scope m_reads;             ///< One at a time.
     Q_OBJECT_BINDABLE_PROPERTY(ClipboardModel, Items, m_items, &ClipboardModel::itemsChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(ClipboardModel, Filter, m_filter, Filter::all,
                                          &ClipboardModel::filterChanged)

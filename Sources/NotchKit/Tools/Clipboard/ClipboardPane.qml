@@ -2,8 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Kestrune.Views
 
-/// The clipboard history: filters, search, clear; below, the items. With the keyboard, typing searches, the
-/// arrows choose, Return copies and Delete removes.
+/// The clipboard history: filters, search, clear; below, the items, the pinned ones first. With the keyboard,
+/// typing searches, the arrows choose, Return copies, Control+P pins and Delete removes.
 Pane {
     id: pane
 
@@ -57,6 +57,11 @@ Pane {
                     list.currentIndex = 0
                 }
 
+                field.Keys.onPressed: event => {
+                    event.accepted = event.key === Qt.Key_P && event.modifiers === Qt.ControlModifier
+                    if (event.accepted)
+                        list.pinCurrent()
+                }
                 field.Keys.onUpPressed: list.decrementCurrentIndex()
                 field.Keys.onDownPressed: list.incrementCurrentIndex()
                 field.Keys.onReturnPressed: list.copyCurrent()
@@ -107,6 +112,12 @@ Pane {
                 pane.clipboard.remove(item.id)
         }
 
+        function pinCurrent() {
+            const item = current()
+            if (item)
+                pane.clipboard.setPinned(item.id, !item.pinned)
+        }
+
         anchors { fill: parent; topMargin: header.height + 4 }
         visible: pane.historyOn && rows.count > 0
         clip: true
@@ -139,6 +150,7 @@ Pane {
             onMenuWanted: (x, y) => {
                 const at = mapToItem(pane, x, y)
                 menu.item = item.id
+                menu.pinned = item.pinned
                 menu.openAt(at.x, at.y)
             }
         }
@@ -150,10 +162,21 @@ Pane {
         id: menu
 
         property string item
+        property bool pinned
 
-        //: In the menu of an entry: delete it from the history.
-        entries: [qsTranslate("notch", "Delete")]
-        onChosen: pane.clipboard.remove(item)
+        entries: [
+            pinned ? qsTranslate("notch", "Unpin")
+                //: In the menu of an entry of the clipboard history: keep it until it is deleted.
+                : qsTranslate("notch", "Pin"),
+            //: In the menu of an entry: delete it from the history.
+            qsTranslate("notch", "Delete")
+        ]
+        onChosen: index => {
+            if (index === 0)
+                pane.clipboard.setPinned(item, !pinned)
+            else
+                pane.clipboard.remove(item)
+        }
         onClosed: search.field.forceActiveFocus()
     }
 }

@@ -1,10 +1,11 @@
 #include "ClipboardPicture.h"
 
+#include "NotchKit/Platform/OfferedPictures.h"
 #include "NotchKit/Platform/PictureReader.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
-#include <QMimeDatabase>
 
 namespace Kestrune {
 
@@ -35,7 +36,8 @@ std::optional<ClipboardPicture> ClipboardPicture::fromEncoded(const EncodedPictu
     const bool compress = isUnpacked(encoded.type);
     QByteArray bytes = compress ? qCompress(encoded.data, 1) : encoded.data;
     bytes.squeeze();
-    return ClipboardPicture({bytes, compress, encoded.type, picture.size, picture.image});
+    return ClipboardPicture({bytes, compress, encoded.type, picture.size, picture.image,
+                             QCryptographicHash::hash(encoded.data, QCryptographicHash::Sha256)});
 }
 
 std::optional<ClipboardPicture> ClipboardPicture::fromFile(const QString &path, PictureReader &pictures)
@@ -43,8 +45,7 @@ std::optional<ClipboardPicture> ClipboardPicture::fromFile(const QString &path, 
     QFile file(path);
     if (!QFileInfo(path).isFile() || file.size() > kMostBytes || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
-    const QString type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension).name();
-    return fromEncoded({file.read(kMostBytes), type}, pictures);
+    return fromEncoded({file.read(kMostBytes), pictureTypeOf(path)}, pictures);
 }
 
 EncodedPicture ClipboardPicture::encoded() const

@@ -12,7 +12,7 @@ namespace Kestrune {
 class PictureReader;
 
 /// A copied picture: the bytes as they were received, its size, and a small image of it for the list. It is
-/// decoded only to make that image. Copies share their data; equal means the same data.
+/// decoded only to make that image. Copies share their data; equal means the same data in memory.
 class ClipboardPicture
 {
 public:
@@ -28,8 +28,13 @@ public:
     /// The picture in a file; nothing also for what is no regular file. Any thread; reads and decodes.
     static std::optional<ClipboardPicture> fromFile(const QString &path, PictureReader &pictures);
 
-    /// As it was received.
+    /// As it was received. May take a while, on any thread.
     EncodedPicture encoded() const;
+
+    QString type() const { return m_data->type; }
+
+    /// Whether it was received as the same bytes.
+    bool isSameAs(const ClipboardPicture &other) const { return m_data->digest == other.m_data->digest; }
 
     QSize size() const { return m_data->size; }
     const QImage &thumbnail() const { return m_data->thumbnail; }
@@ -47,6 +52,7 @@ private:
         QString type;
         QSize size;
         QImage thumbnail;
+        QByteArray digest; ///< Of what was received.
     };
 
     explicit ClipboardPicture(Data data);

@@ -139,6 +139,66 @@ QCoro::Task<std::optional<ClipboardItem>> readFiles(QList<QUrl> urls, ClipboardW
     co_return item;
 }
 
+bool offers(const QStringList &types, const char *type) { return types.contains(QLatin1String(type)); }
+
+bool isIgnored(const QStringList &owners, const QStringList &ignored)
+{
+    return std::ranges::any_of(ignored, [&](const QString &part) {
+        return !part.isEmpty() && std::ranges::any_of(owners, [&](const QString &owner) {
+            return owner.contains(part, Qt::CaseInsensitive);
+        });
+    });
+}
+
+QCoro::Task<std::optional<ClipboardItem>> readPicture(Pasteboard &pasteboard, ClipboardWorkers &workers)
+{
+    const QFuture<std::optional<EncodedPicture>> asked = pasteboard.picture();
+    const std::optional<EncodedPicture> encoded = co_await until(asked);
+    std::optional<ClipboardItem> item;
+    if (encoded) {
+        const auto decode = [picture = *encoded, pictures = workers.pictures] {
+            return itemOfPicture(picture, *pictures);
+        };
+        const QFuture<std::optional<ClipboardItem>> decoding = workers.contents.run(kLongestReading, decode);
+        item = co_await until(decoding);
+    }
+    co_return item;
+}
+
+QCoro::Task<std::optional<ClipboardItem>> readText(Pasteboard &pasteboard, ClipboardWorkers &workers)
+{
+    const QFuture<std::optional<QString>> asked = pasteboard.string();
+    const std::optional<QString> text = co_await until(asked);
+    std::optional<ClipboardItem> item;
+    if (text) {
+        const auto look = [copied = *text] { return clipboardItemOfText(copied); };
+        const QFuture<std::optional<ClipboardItem>> looking = workers.contents.run(kLongestReading, look);
+        item = co_await until(looking);
+    }
+    co_return item;
+}
+
+/// Of the three, the first that is there.
+QCoro::Task<std::optional<ClipboardItem>> readContent(QStringList types, Pasteboard &pasteboard,
+                                                      ClipboardWorkers &workers)
+{
+    std::optional<ClipboardItem> item;
+    if (offers(types, Pasteboard::kFileUrls)) {
+        const QFuture<QList<QUrl>> asked = pasteboard.fileUrls();
+        const QList<QUrl> urls = co_await until(asked);
+        if (!urls.isEmpty()) {
+            item = co_await readFiles(urls, workers);
+            co_return item;
+        }
+    }
+    // Text wins over a picture beside it.
+    if (offers(types, Pasteboard::kString))
+        item = co_await readText(pasteboard, workers);
+    else if (offers(types, Pasteboard::kPng) || offers(types, Pasteboard::kTiff))
+        item = co_await readPicture(pasteboard, workers);
+    co_return item;
+}
+
 } // namespace
 
 std::optional<ClipboardItem> clipboardItemOfText(const QString &text)
@@ -149,48 +209,33 @@ std::optional<ClipboardItem> clipboardItemOfText(const QString &text)
     ClipboardItem item;
     item.kind = isLink(trimmed) ? ClipboardItem::Kind::link : ClipboardItem::Kind::text;
     item.text = item.isLink() ? trimmed : firstCharacters(trimmed);
+    if (item.text != text)
+        item.original.wrappedValue = ClipboardOriginal{text, {}};
     return item;
 }
 
-QCoro::Task<std::optional<ClipboardItem>> readPasteboard(Pasteboard &pasteboard, ClipboardWorkers &workers)
+QCoro::Task<std::optional<ClipboardItem>> readPasteboard(Pasteboard &pasteboard, ClipboardWorkers &workers,
+                                                         QStringList ignored)
 {
     std::optional<ClipboardItem> item;
     const QFuture<QStringList> typesAsked = pasteboard.types();
     const QStringList types = co_await until(typesAsked);
     if (!mayBeRecorded(types))
         co_return item;
-    const auto offers = [&](const char *type) { return types.contains(QLatin1String(type)); };
-
-    if (offers(Pasteboard::kFileUrls)) {
-        const QFuture<QList<QUrl>> asked = pasteboard.fileUrls();
-        const QList<QUrl> urls = co_await until(asked);
-        if (!urls.isEmpty()) {
-            item = co_await readFiles(urls, workers);
+    if (!ignored.isEmpty()) {
+        const QFuture<QStringList> ownersAsked = pasteboard.owners();
+        const QStringList owners = co_await until(ownersAsked);
+        if (isIgnored(owners, ignored))
             co_return item;
-        }
     }
-    const bool offersPicture = offers(Pasteboard::kPng) || offers(Pasteboard::kTiff);
-    if (offersPicture && !offers(Pasteboard::kString)) {
-        const QFuture<std::optional<EncodedPicture>> asked = pasteboard.picture();
-        const std::optional<EncodedPicture> encoded = co_await until(asked);
-        if (encoded) {
-            const auto decode = [picture = *encoded, pictures = workers.pictures] {
-                return itemOfPicture(picture, *pictures);
-            };
-            const QFuture<std::optional<ClipboardItem>> decoding =
-                workers.contents.run(kLongestReading, decode);
-            item = co_await until(decoding);
-            co_return item;
-        }
-    }
-    if (!offers(Pasteboard::kString))
+    item = co_await readContent(types, pasteboard, workers);
+    if (!item || !offers(types, Pasteboard::kHtml))
         co_return item;
-    const QFuture<std::optional<QString>> asked = pasteboard.string();
-    const std::optional<QString> text = co_await until(asked);
-    if (text) {
-        const auto look = [copied = *text] { return clipboardItemOfText(copied); };
-        const QFuture<std::optional<ClipboardItem>> looking = workers.contents.run(kLongestReading, look);
-        item = co_await until(looking);
+    const QFuture<QByteArray> asked = pasteboard.html();
+    const QByteArray html = co_await until(asked);
+    if (!html.isEmpty()) {
+        item->original.wrappedValue = item->original.wrappedValue.value_or(ClipboardOriginal());
+        item->original.wrappedValue->html = html;
     }
     co_return item;
 }
