@@ -18,6 +18,7 @@ namespace {
 
 constexpr auto kPollInterval = 33ms; // 1/30 s
 constexpr auto kLeaveDelay = 250ms;
+constexpr auto kTypingRest = 1s;                          // Who pauses longer has typed the last key.
 constexpr auto kClosing = 1s;                             // Its motion is over by then.
 constexpr quint32 kShortcutKey = 45;                      // N
 constexpr quint32 kShortcutModifiers = 256 + 2048 + 4096; // command, option, control
@@ -228,6 +229,10 @@ void NotchController::addNotch(const Display &screen)
         if (Notch *notch = find(name))
             set(*notch, false);
     });
+    connect(model.get(), &NotchScreenModel::typed, this, [this, name = screen.name] {
+        if (Notch *notch = find(name))
+            notch->typed = m_clock.uptime();
+    });
     m_notches.push_back({screen, std::move(model), std::move(panel), {}});
     updateHitArea(m_notches.back());
     showOrHide(m_notches.back());
@@ -396,6 +401,11 @@ void NotchController::poll()
     }
 }
 
+bool NotchController::isTyping(const Notch &notch, Moment now)
+{
+    return notch.typed && now - *notch.typed < kTypingRest;
+}
+
 void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress)
 {
     NotchScreenModel &model = *notch.model;
@@ -417,7 +427,7 @@ void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool fre
     const auto left = m_leaveStart.constFind(key);
     if (left == m_leaveStart.cend()) {
         m_leaveStart.insert(key, now);
-    } else if (now - *left > kLeaveDelay) {
+    } else if (now - *left > kLeaveDelay && !isTyping(notch, now)) {
         m_leaveStart.remove(key);
         set(notch, false);
     }
