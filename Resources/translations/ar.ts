@@ -968,5 +968,18 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>الإخفاء فوق نوافذ ملء الشاشة</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>قص</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>لصق</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>تحديد الكل</translation>
+    </message>
 </context>
 </TS>

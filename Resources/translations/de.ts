@@ -956,5 +956,18 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Über Vollbildfenstern ausblenden</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
 </context>
 </TS>

@@ -956,5 +956,18 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Ocultar sobre ventanas a pantalla completa</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
 </context>
 </TS>

@@ -956,5 +956,18 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Masquer au-dessus des fenêtres en plein écran</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
 </context>
 </TS>

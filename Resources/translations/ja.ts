@@ -953,5 +953,18 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>フルスクリーンウインドウの上では隠す</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>カット</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>ペースト</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべてを選択</translation>
+    </message>
 </context>
 </TS>

@@ -953,5 +953,18 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>전체 화면 창 위에서 숨기기</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>오려두기</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>붙여넣기</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>전체 선택</translation>
+    </message>
 </context>
 </TS>

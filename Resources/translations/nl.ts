@@ -956,5 +956,18 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Verbergen boven vensters op volledig scherm</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>Knip</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Plak</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecteer alles</translation>
+    </message>
 </context>
 </TS>

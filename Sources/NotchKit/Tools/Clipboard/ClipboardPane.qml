@@ -17,6 +17,13 @@ Pane {
         copied = id
     }
 
+    first: search.field
+    Keys.onMenuPressed: if (list.visible) list.openCurrent()
+    onPresented: {
+        copied = ""
+        list.showNewest()
+    }
+
     Item {
         id: header
 
@@ -51,14 +58,15 @@ Pane {
                 anchors.verticalCenter: parent.verticalCenter
                 screenModel: pane.screenModel
                 field.focus: true
+                field.takesMenuKey: !list.visible
                 text: pane.clipboard.query
                 onTextChanged: {
                     pane.clipboard.query = text
-                    list.currentIndex = 0
+                    list.showNewest()
                 }
 
-                field.Keys.onUpPressed: list.decrementCurrentIndex()
-                field.Keys.onDownPressed: list.incrementCurrentIndex()
+                field.Keys.onUpPressed: list.step(() => list.decrementCurrentIndex())
+                field.Keys.onDownPressed: list.step(() => list.incrementCurrentIndex())
                 field.Keys.onReturnPressed: list.copyCurrent()
                 field.Keys.onEnterPressed: list.copyCurrent()
                 field.Keys.onDeletePressed: event => {
@@ -101,11 +109,36 @@ Pane {
                 pane.copy(item.id)
         }
 
+        function step(move) {
+            chosen = true
+            move()
+        }
+
+        function showNewest() {
+            chosen = false
+            currentIndex = 0
+            positionViewAtBeginning()
+        }
+
+        function openMenu(item, row, x, y, byKey) {
+            const at = row.mapToItem(pane, x, y)
+            menu.item = item.id
+            menu.openAt(at.x, at.y, byKey)
+        }
+
+        function openCurrent() {
+            positionViewAtIndex(currentIndex, ListView.Contain)
+            if (currentItem)
+                openMenu(current(), currentItem, currentItem.width / 2, currentItem.height / 2, true)
+        }
+
         function removeCurrent() {
             const item = current()
             if (item)
                 pane.clipboard.remove(item.id)
         }
+
+        property bool chosen: false // The keys chose the current row; else it is the newest.
 
         anchors { fill: parent; topMargin: header.height + 4 }
         visible: pane.historyOn && rows.count > 0
@@ -114,6 +147,7 @@ Pane {
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
         keyNavigationEnabled: false
+        onCountChanged: if (!chosen) showNewest()
         T.ScrollBar.vertical: ScrollBar {}
         Accessible.role: Accessible.List
         Accessible.name: qsTranslate("notch", "Clipboard")
@@ -136,11 +170,7 @@ Pane {
             copied: item.id === pane.copied
             current: search.field.activeFocus && index === list.currentIndex
             onClicked: pane.copy(item.id)
-            onMenuWanted: (x, y) => {
-                const at = mapToItem(pane, x, y)
-                menu.item = item.id
-                menu.openAt(at.x, at.y)
-            }
+            onMenuWanted: (x, y) => list.openMenu(item, this, x, y, false)
         }
         move: Transition { NumberAnimation { properties: "y"; duration: 160; easing.type: Easing.OutCubic } }
         displaced: move
@@ -151,9 +181,9 @@ Pane {
 
         property string item
 
+        screenModel: pane.screenModel
         //: In the menu of an entry: delete it from the history.
         entries: [qsTranslate("notch", "Delete")]
         onChosen: pane.clipboard.remove(item)
-        onClosed: search.field.forceActiveFocus()
     }
 }
