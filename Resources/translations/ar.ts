@@ -1016,5 +1016,18 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
         <translation>مثبّت</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>قص</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>لصق</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>تحديد الكل</translation>
+    </message>
 </context>
 </TS>

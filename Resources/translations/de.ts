@@ -1004,5 +1004,18 @@ Datenschutz-Einstellungen der Arbeitsumgebung.</translation>
         <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
         <translation>Angeheftet</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
 </context>
 </TS>

@@ -1004,5 +1004,18 @@ los ajustes de privacidad del escritorio.</translation>
         <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
         <translation>Anclado</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleccionar todo</translation>
+    </message>
 </context>
 </TS>

@@ -1004,5 +1004,18 @@ les réglages de confidentialité du bureau.</translation>
         <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
         <translation>Épinglé</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Tout sélectionner</translation>
+    </message>
 </context>
 </TS>

@@ -1004,5 +1004,18 @@ impostazioni di privacy del desktop.</translation>
         <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
         <translation>Fissato</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>Taglia</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Incolla</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Seleziona tutto</translation>
+    </message>
 </context>
 </TS>

@@ -1004,5 +1004,18 @@ de privacy-instellingen van het bureaublad.</translation>
         <extracomment>Said of an entry of the clipboard history that is kept until the user deletes it.</extracomment>
         <translation>Vastgemaakt</translation>
     </message>
+    <message>
+        <source>Cut</source>
+        <extracomment>In the menu of a text field, as “Copy”, “Paste” and “Select All”.</extracomment>
+        <translation>Knip</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Plak</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Selecteer alles</translation>
+    </message>
 </context>
 </TS>

@@ -18,7 +18,8 @@ namespace {
 
 constexpr auto kPollInterval = 33ms; // 1/30 s
 constexpr auto kLeaveDelay = 250ms;
-constexpr auto kClosing = 1s; // Its motion is over by then.
+constexpr auto kTypingRest = 1s; // Who pauses longer has typed the last key.
+constexpr auto kClosing = 1s;    // Its motion is over by then.
 
 /// Unlike QRectF::contains, the upper edges do not count, so that neighbouring displays never both match.
 bool holds(const QRectF &rect, const QPointF &point)
@@ -229,6 +230,10 @@ void NotchController::addNotch(const Display &screen)
         if (Notch *notch = find(name))
             set(*notch, false);
     });
+    connect(model.get(), &NotchScreenModel::typed, this, [this, name = screen.name] {
+        if (Notch *notch = find(name))
+            notch->typed = m_clock.uptime();
+    });
     m_notches.push_back({screen, std::move(model), std::move(panel), {}});
     updateHitArea(m_notches.back());
     showOrHide(m_notches.back());
@@ -411,6 +416,11 @@ void NotchController::poll()
     }
 }
 
+bool NotchController::isTyping(const Notch &notch, Moment now)
+{
+    return notch.typed && now - *notch.typed < kTypingRest;
+}
+
 void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress)
 {
     NotchScreenModel &model = *notch.model;
@@ -432,7 +442,7 @@ void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool fre
     const auto left = m_leaveStart.constFind(key);
     if (left == m_leaveStart.cend()) {
         m_leaveStart.insert(key, now);
-    } else if (now - *left > kLeaveDelay) {
+    } else if (now - *left > kLeaveDelay && !isTyping(notch, now)) {
         m_leaveStart.remove(key);
         set(notch, false);
     }

@@ -22,8 +22,10 @@ class WindowSystem;
 
 /// Keeps one panel and one screen model per wanted display, and opens and closes them: it polls the
 /// pointer thirty times a second and owns the hot key. On a display without a housing that a full-screen
-/// window covers, the closed notch is not on screen and does not open by pointer. While the session is locked
-/// no panel is on screen, nothing opens, and what a pinned notch shows counts as hidden. Main thread only.
+/// window covers, the closed notch is not on screen and does not open by pointer. A notch that the pointer
+/// left stays open while the user types in it, so that no keystroke goes elsewhere. While the session is
+/// locked no panel is on screen, nothing opens, and what a pinned notch shows counts as hidden. Main thread
+/// only.
 class NotchController : public QObject
 {
     Q_OBJECT
@@ -38,7 +40,8 @@ public:
         std::unique_ptr<NotchPanel> panel;
         QRectF hitArea; ///< What the panel was told last.
         bool isOnScreen = false;
-        std::unique_ptr<RunningTimer> closing{}; ///< Until it may go from the screen, closed.
+        std::unique_ptr<RunningTimer> closing{};         ///< Until it may go from the screen, closed.
+        std::optional<std::chrono::nanoseconds> typed{}; ///< When the user last typed in it.
     };
     using Notches = std::vector<Notch>;
 
@@ -105,6 +108,7 @@ private:
     void tellWhatShows();
     void updateHitArea(Notch &notch);
     void poll();
+    static bool isTyping(const Notch &notch, Moment now);
     void pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress);
     void pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress);
     void pollResting(Notch &notch, bool resting);

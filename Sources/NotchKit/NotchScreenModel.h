@@ -68,6 +68,9 @@ Q_SIGNALS:
     /// A text field of the view was clicked and needs the keyboard.
     void keyboardWanted();
 
+    /// The user typed in a text field of the view.
+    void typed();
+
     /// The view asks for the notch to be closed, as with Escape.
     void closeWanted();
 

@@ -121,21 +121,70 @@ private Q_SLOTS:
         QCOMPARE(stage().beneath.keys(), 0);
     }
 
-    void tabReachesEveryTool()
+    void keysReachEveryTool()
     {
-        QVERIFY(stage().run() && stage().openByHotKey());
+        QVERIFY(stage().show(u"mirror"_s)); // Nothing in its pane stops Tab.
         const QStringList tools = session().tools();
-        QSet<QString> seen;
-        for (int button = 0; button < 2; ++button) // The header's: one would show the settings.
-            input().tap(XK_Tab);
-        for (int press = 0; press < 120 && seen.size() < tools.size(); ++press) {
-            input().tap(XK_Tab);
-            input().tap(XK_space);
-            seen.insert(session().selected());
+        const auto held = [&](xcb_keysym_t modifier, xcb_keysym_t key) {
+            input().pressKey(modifier);
+            input().tap(key);
+            input().releaseKey(modifier);
+        };
+        QStringList seen;
+        for (qsizetype i = 0; i < tools.size(); ++i) {
+            held(XK_Control_L, XK_Tab);
+            const QString before = seen.value(seen.size() - 1, u"mirror"_s);
+            QTRY_VERIFY(session().selected() != before);
+            seen.append(session().selected());
         }
-        QCOMPARE(seen, QSet<QString>(tools.begin(), tools.end()));
+        std::ranges::sort(seen, {}, [&](const QString &tool) { return tools.indexOf(tool); });
+        QCOMPARE(seen, tools);
+        held(XK_Control_L, XK_1);
+        QTRY_COMPARE(session().selected(), tools.first());
+        held(XK_Control_L, XK_8);
+        QTRY_COMPARE(session().selected(), tools.at(7));
+
+        QVERIFY(stage().close() && stage().choose(u"mirror"_s) && stage().openByHotKey());
+        input().tap(XK_Tab);
+        input().tap(XK_Right);
+        input().tap(XK_space);
+        QTRY_COMPARE(session().selected(), u"note"_s);
+        input().type("kept"); // The note has the keyboard.
+        QTRY_COMPARE(session().setting(u"note"_s), u"kept"_s);
         input().tap(XK_Escape);
         QVERIFY(stage().waitClosed());
+    }
+
+    void noKeyIsLostAtTheSecondOpening()
+    {
+        QVERIFY(stage().show(u"note"_s));
+        input().tap(XK_Tab);
+        input().tap(XK_Escape);
+        QVERIFY(stage().waitClosed());
+        stage().input.hotKey();
+        QTRY_VERIFY(session().isOpen());
+        stage().beneath.forget();
+        input().type("all of it");
+        QTRY_COMPARE(session().setting(u"note"_s), u"all of it"_s);
+        QCOMPARE(stage().beneath.keys(), 0);
+    }
+
+    void whoTypesIsNotInterrupted()
+    {
+        QVERIFY(stage().show(u"note"_s));
+        input().move(Place::panel);
+        QTRY_VERIFY(session().display().value("pointerEntered"_L1).toBool());
+        stage().beneath.forget();
+        input().type("a");
+        input().move(Place::away);
+        for (int i = 0; i < 6; ++i) {
+            QTest::qWait(300);
+            input().type("b");
+        }
+        QVERIFY(session().isOpen());
+        QVERIFY(stage().waitClosed());
+        QCOMPARE(session().setting(u"note"_s), u"abbbbbb"_s);
+        QCOMPARE(stage().beneath.keys(), 0);
     }
 
     void theToolRowSwitchesBetweenTheBuiltTools()

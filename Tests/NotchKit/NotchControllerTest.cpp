@@ -276,6 +276,26 @@ private Q_SLOTS:
         QVERIFY(!core.model().expanded());
     }
 
+    void typingHoldsTheNotchOpen()
+    {
+        Fakes::StartedCore core;
+        core.controller.open(NotchTool::note);
+        core.moveTo(kPanel, 100);
+        Q_EMIT core.model().typed();
+        core.moveTo(kOutside, 700);
+        QVERIFY(core.model().expanded());
+        Q_EMIT core.model().typed();
+        core.wait(900);
+        QVERIFY2(core.model().expanded(), "less than a second ago");
+        core.wait(200);
+        QVERIFY(!core.model().expanded());
+
+        core.controller.open(NotchTool::note);
+        core.moveTo(kPanel, 1100);
+        core.moveTo(kOutside, 400);
+        QVERIFY2(!core.model().expanded(), "the typing had rested before");
+    }
+
     void unvisitedNotchWaits()
     {
         Fakes::StartedCore core;

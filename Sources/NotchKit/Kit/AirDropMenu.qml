@@ -22,7 +22,14 @@ ContextMenu {
     }
 
     entries: wanted ? airDrop.choices : []
-    onWantedChanged: wanted ? open() : close()
+    onWantedChanged: {
+        if (wanted && allowed)
+            open()
+        else if (wanted)
+            giveUp() // Nobody is there to choose.
+        else
+            close()
+    }
     onChosen: index => airDrop.choose(index)
     // Not at once: a chosen entry closes the menu before it is told.
     onClosed: Qt.callLater(giveUp)

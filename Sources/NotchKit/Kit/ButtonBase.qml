@@ -15,6 +15,8 @@ T.AbstractButton {
     property bool tipBelow: false
     property Item tipAnchor: control // what the tip stands at
     property real radius: look.controlRadius
+    // What a click leaves the keyboard out of has it by key, or from what had it before.
+    property bool ringed: visualFocus || activeFocus && look.focusPolicy === Qt.TabFocus
 
     focusPolicy: look.focusPolicy
     hoverEnabled: true
@@ -35,9 +37,9 @@ T.AbstractButton {
              : control.plain ? "transparent" : control.look.control
 
         FocusRing {
-            visible: control.visualFocus
+            visible: control.ringed
             look: control.look
-            gap: control.prominent ? 3 : look.focusGap // It would not be seen on its own colour.
+            gap: control.prominent ? 4 : look.focusGap // It would not be seen on its own colour.
         }
     }
 

@@ -2,11 +2,13 @@ import QtQuick
 import QtQuick.Templates as T
 import Kestrune.Views
 
-/// What every field of one line shares: its frame, its placeholder, and a guarded clipboard.
+/// What every field of one line shares: its frame, its placeholder, its menu, and a guarded clipboard.
 T.TextField {
     id: field
 
     property Look look: Theme
+    property NotchScreenModel screenModel: null // Of a field of the notch.
+    property bool takesMenuKey: true // Else it is for what the field stands for.
 
     implicitHeight: 26
     leftPadding: 8
@@ -19,6 +21,12 @@ T.TextField {
     horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
     selectByMouse: true
+    persistentSelection: menu.engaged
+    Keys.onMenuPressed: event => {
+        event.accepted = takesMenuKey
+        if (takesMenuKey)
+            menu.openByKey()
+    }
     opacity: enabled ? 1 : look.disabledOpacity
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholderText
@@ -33,6 +41,13 @@ T.TextField {
     }
     Component.onCompleted: ClipboardGuard.detach(field)
 
+    TextMenu {
+        id: menu
+
+        field: field
+        look: field.look
+        screenModel: field.screenModel
+    }
     PlainText {
         anchors { fill: parent; leftMargin: field.leftPadding; rightMargin: field.rightPadding }
         visible: field.length === 0 && field.preeditText === ""

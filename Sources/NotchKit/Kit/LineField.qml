@@ -3,7 +3,7 @@ import Kestrune.Views
 
 /// A field of the notch, which gets the keyboard for it.
 FieldBase {
-    required property NotchScreenModel screenModel
+    required screenModel
 
     implicitHeight: 24
     onPressed: screenModel.keyboardWanted()

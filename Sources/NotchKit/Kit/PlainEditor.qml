@@ -62,6 +62,12 @@ Tile {
 
             property bool ready: false
 
+            function leave(event, forwards) {
+                event.accepted = !(event.modifiers & Qt.ControlModifier)
+                if (event.accepted)
+                    nextItemInFocusChain(forwards).forceActiveFocus(forwards ? Qt.TabFocusReason : Qt.BacktabFocusReason)
+            }
+
             objectName: "input"
             width: scroller.width
             height: scroller.contentHeight
@@ -80,8 +86,9 @@ Tile {
             textFormat: TextEdit.PlainText
             Accessible.name: editor.name
             Accessible.multiLine: true
-            Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
-            Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+            Keys.onTabPressed: event => leave(event, true)
+            Keys.onBacktabPressed: event => leave(event, false)
+            Keys.onMenuPressed: menu.openByKey()
 
             Component.onCompleted: {
                 ClipboardGuard.detach(input)
@@ -95,8 +102,15 @@ Tile {
             }
             onCursorRectangleChanged: scroller.reveal(cursorRectangle)
 
+            TextMenu {
+                id: menu
+
+                field: input
+                look: editor.look
+                screenModel: editor.screenModel
+            }
             PointHandler {
-                acceptedButtons: Qt.LeftButton | Qt.MiddleButton | Qt.RightButton
+                acceptedButtons: Qt.LeftButton | Qt.MiddleButton
                 onActiveChanged: if (active) editor.screenModel.keyboardWanted()
             }
             HoverHandler { cursorShape: Qt.IBeamCursor }

@@ -15,6 +15,8 @@ FocusScope {
 
     Accessible.role: Accessible.Pane
     Accessible.name: presentation.paneTitle
+    Keys.onPressed: event =>
+        event.accepted = presentation.chooseByKey(event.key, event.modifiers, event.nativeScanCode)
 
     Item {
         id: header
@@ -56,32 +58,52 @@ FocusScope {
         }
     }
 
-    Loader {
-        id: pane
+    Repeater {
+        model: content.presentation.panes
 
-        anchors { left: parent.left; right: parent.right; top: header.bottom; bottom: tools.top; bottomMargin: 8 }
-        focus: true
+        Loader {
+            id: place
 
-        function load() {
-            const given = {
-                surroundings: content.services.surroundings,
-                screenModel: content.screenModel,
-                presentation: content.presentation
+            required property paneEntry modelData
+            readonly property bool chosen: modelData.file === content.presentation.paneFile
+            readonly property bool live: chosen && content.screenModel.expanded
+
+            function load() {
+                const given = {
+                    surroundings: content.services.surroundings,
+                    screenModel: content.screenModel,
+                    presentation: content.presentation
+                }
+                if (modelData.model)
+                    given.model = modelData.model
+                setSource(modelData.file, given)
             }
-            if (content.presentation.paneModel)
-                given.model = content.presentation.paneModel
-            setSource(content.presentation.paneFile, given)
-        }
 
-        Component.onCompleted: load()
-    }
+            function follow() {
+                if (!live)
+                    return
+                if (!item)
+                    load()
+                item?.present() // Else this is not complete yet.
+            }
 
-    Connections {
-        target: content.presentation
+            anchors { left: parent.left; right: parent.right; top: header.bottom; bottom: tools.top; bottomMargin: 8 }
+            visible: chosen
+            onLiveChanged: follow()
+            onChosenChanged: {
+                if (!chosen && !item?.kept)
+                    source = ""
+            }
+            Component.onCompleted: follow()
 
-        function onSelectionChanged() {
-            if (!pane.source.toString().endsWith("/" + content.presentation.paneFile))
-                pane.load()
+            Connections {
+                target: tools
+                enabled: place.chosen
+
+                function onChosen() {
+                    place.item.takeKeyboard()
+                }
+            }
         }
     }
 

@@ -15,6 +15,9 @@ Tile {
     property string title: ""
     default property alias content: body.data
 
+    /// Home is on screen from now on: what was only passing is over.
+    signal presented
+
     readonly property bool opens: presentation.offeredTools.indexOf(tool) >= 0
 
     implicitHeight: body.childrenRect.height + 24

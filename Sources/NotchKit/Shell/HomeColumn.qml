@@ -11,11 +11,19 @@ Flickable {
     required property NotchScreenModel screenModel
     required property NotchPresentation presentation
 
+    function present() {
+        contentY = 0
+        for (let i = 0; i < loaders.count; ++i)
+            loaders.itemAt(i).item.presented()
+    }
+
     clip: true
     contentHeight: blocks.height
     boundsBehavior: Flickable.StopAtBounds
     interactive: contentHeight > height
     T.ScrollBar.vertical: ScrollBar { rightPadding: 2 }
+
+    FocusReveal { flickable: column }
 
     // More lies below.
     Rectangle {
@@ -38,6 +46,8 @@ Flickable {
         spacing: Theme.gap
 
         Repeater {
+            id: loaders
+
             model: column.tiles
 
             Loader {

@@ -10,6 +10,11 @@ Pane {
     // A list of lists of homeTile.
     readonly property var columns: presentation.homeColumns.filter(tiles => tiles.length > 0)
 
+    onPresented: {
+        for (let i = 0; i < shown.count; ++i)
+            shown.itemAt(i).present()
+    }
+
     PaneMessage {
         anchors.fill: parent
         visible: pane.columns.length === 0
@@ -25,6 +30,8 @@ Pane {
         LayoutMirroring.enabled: false // The settings name the columns left, center and right.
 
         Repeater {
+            id: shown
+
             model: pane.columns
 
             HomeColumn {

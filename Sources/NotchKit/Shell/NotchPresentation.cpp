@@ -2,11 +2,24 @@
 
 #include "NotchKit/Tools/Shelf/ShelfModel.h"
 
+#include <algorithm>
 #include <array>
 
 namespace Kestrune {
 
 namespace {
+
+constexpr quint32 kFirstDigit = 10; // The code of the key that is labelled 1 on most keyboards.
+
+/// 1 to 9, or 0 for another key.
+int digitOf(int key, quint32 scanCode)
+{
+    if (key >= Qt::Key_0 && key <= Qt::Key_9)
+        return key - Qt::Key_0;
+    return scanCode >= kFirstDigit && scanCode < kFirstDigit + 9
+               ? static_cast<int>(scanCode - kFirstDigit) + 1
+               : 0;
+}
 
 QString fileOf(const char *view) { return QLatin1String(view) + QLatin1String(".qml"); }
 
@@ -42,6 +55,14 @@ int NotchPresentation::selectedIndex() const
 QString NotchPresentation::paneTitle() const { return title(m_model.selected()); }
 
 QString NotchPresentation::paneFile() const { return fileOf(entry(m_model.selected()).view); }
+
+QList<PaneEntry> NotchPresentation::panes() const
+{
+    QList<PaneEntry> panes;
+    for (const NotchTool tool : allCases<NotchTool>())
+        panes.append({fileOf(entry(tool).view), m_services.model(tool)});
+    return panes;
+}
 
 QString NotchPresentation::activityFile() const
 {
@@ -102,6 +123,27 @@ void NotchPresentation::selectTool(const QString &rawValue)
     const auto tool = fromRawValue<NotchTool>(rawValue);
     if (tool && m_services.settings()->tools().contains(*tool))
         select(*tool);
+}
+
+void NotchPresentation::selectNext(int step)
+{
+    const auto count = static_cast<int>(m_services.settings()->tools().size());
+    if (count > 0)
+        select((std::max(selectedIndex(), 0) + step + count) % count);
+}
+
+bool NotchPresentation::chooseByKey(int key, int modifiers, quint32 scanCode)
+{
+    const auto held = Qt::KeyboardModifiers(modifiers) & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+    const bool isTab = key == Qt::Key_Tab || key == Qt::Key_Backtab;
+    if (isTab && (held & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) == Qt::ControlModifier) {
+        selectNext(held.testFlag(Qt::ShiftModifier) ? -1 : 1);
+        return true;
+    }
+    const int digit = held == Qt::ControlModifier ? digitOf(key, scanCode) : 0;
+    if (digit > 0)
+        select(digit - 1);
+    return digit > 0;
 }
 
 void NotchPresentation::select(NotchTool tool)

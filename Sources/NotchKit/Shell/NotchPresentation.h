@@ -24,6 +24,19 @@ public:
     ToolModel *model = nullptr;
 };
 
+/// A tool's pane.
+struct PaneEntry
+{
+    Q_GADGET
+    QML_VALUE_TYPE(paneEntry)
+    Q_PROPERTY(QString file MEMBER file)
+    Q_PROPERTY(Kestrune::ToolModel *model MEMBER model)
+
+public:
+    QString file; ///< Beside the view's.
+    ToolModel *model = nullptr;
+};
+
 /// One button of the row of tools.
 struct ToolEntry
 {
@@ -49,9 +62,9 @@ class NotchPresentation : public QObject
     /// The selected tool's place in the row, -1 when it is not in it.
     Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectionChanged)
     Q_PROPERTY(QString paneTitle READ paneTitle NOTIFY selectionChanged)
-    /// The selected tool's pane, a file beside the view's.
+    /// The panes of all tools, offered or not, and the file of the selected one's.
+    Q_PROPERTY(QList<Kestrune::PaneEntry> panes READ panes CONSTANT)
     Q_PROPERTY(QString paneFile READ paneFile NOTIFY selectionChanged)
-    Q_PROPERTY(Kestrune::ToolModel *paneModel READ paneModel NOTIFY selectionChanged)
     /// The view in the closed notch's wings; empty without an activity.
     Q_PROPERTY(QString activityFile READ activityFile NOTIFY activityFileChanged)
     Q_PROPERTY(Kestrune::ToolModel *activityModel READ activityModel NOTIFY activityFileChanged)
@@ -69,7 +82,7 @@ public:
     int selectedIndex() const;
     QString paneTitle() const;
     QString paneFile() const;
-    ToolModel *paneModel() const { return m_services.model(m_model.selected()); }
+    QList<PaneEntry> panes() const;
     QString activityFile() const;
     ToolModel *activityModel() const;
     QVariantList homeColumns() const;
@@ -82,6 +95,11 @@ public:
 
     /// Shows the tool of that raw value, if it is offered.
     Q_INVOKABLE void selectTool(const QString &rawValue);
+
+    /// Chooses a tool where the keys ask for one: Control with 1 to 9 for its place in the row, wherever the
+    /// keyboard's layout has the digits, with Tab for the next and with Shift and Tab for the one before.
+    /// False for other keys; `key` and `modifiers` as Qt's, `scanCode` as X11's.
+    Q_INVOKABLE bool chooseByKey(int key, int modifiers, quint32 scanCode);
 
     /// Puts the files on the shelf.
     Q_INVOKABLE void addToShelf(const QList<QUrl> &files);
@@ -100,6 +118,7 @@ Q_SIGNALS:
 
 private:
     void select(NotchTool tool);
+    void selectNext(int step);
     HomeTile tileOf(HomeWidget widget) const;
 
     NotchScreenModel &m_model;

@@ -23,6 +23,7 @@ FocusScope {
     LayoutMirroring.enabled: Theme.mirrored
     LayoutMirroring.childrenInherit: true
     Keys.onEscapePressed: screenModel.closeWanted()
+    onExpandedChanged: if (!expanded) closing.forceActiveFocus()
 
     component NotchSpring: SpringValue {
         response: view.response
@@ -97,7 +98,6 @@ FocusScope {
             focus: true
             sourceComponent: ExpandedContent {
                 focus: true
-                enabled: view.expanded
                 screenModel: view.screenModel
                 services: view.services
                 presentation: view.presentation
@@ -107,6 +107,18 @@ FocusScope {
             readonly property bool wanted: view.expanded
             onWantedChanged: if (wanted) active = true
             Component.onCompleted: if (wanted) active = true
+        }
+
+        // What closes looks as it did, and takes neither clicks nor keys any more.
+        MouseArea {
+            id: closing
+
+            anchors.fill: parent
+            visible: !view.expanded
+            acceptedButtons: Qt.AllButtons
+            hoverEnabled: true
+            onWheel: event => event.accepted = true
+            Keys.onPressed: event => event.accepted = true
         }
     }
 }

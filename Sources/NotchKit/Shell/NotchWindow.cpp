@@ -32,9 +32,11 @@ void registerViews()
 }
 
 NotchWindow::NotchWindow(QQmlEngine &engine, NotchScreenModel &model, NotchServices &services)
-    : m_presentation(model, services)
+    : m_model(model)
+    , m_presentation(model, services)
 {
     setColor(Qt::transparent);
+    connect(this, &QQuickWindow::activeFocusItemChanged, this, &NotchWindow::watchKeyboard);
     QSurfaceFormat format;
     format.setAlphaBufferSize(8);
     setFormat(format);
@@ -56,7 +58,35 @@ NotchWindow::NotchWindow(QQmlEngine &engine, NotchScreenModel &model, NotchServi
         connect(shape, &NotchShapeItem::outlineChanged, this, &NotchWindow::outlineChanged);
 }
 
-NotchWindow::~NotchWindow() = default;
+NotchWindow::~NotchWindow()
+{
+    disconnect(this, &QQuickWindow::activeFocusItemChanged, this, nullptr); // The last ones come as items go.
+}
+
+void NotchWindow::watchKeyboard()
+{
+    if (m_watched)
+        m_watched->removeEventFilter(this);
+    m_watched = activeFocusItem();
+    if (m_watched)
+        m_watched->installEventFilter(this);
+}
+
+bool NotchWindow::eventFilter(QObject *item, QEvent *event)
+{
+    const bool isKey = event->type() == QEvent::KeyPress;
+    if (!isKey && event->type() != QEvent::InputMethod)
+        return QQuickWindow::eventFilter(item, event);
+    const auto *key = isKey ? static_cast<QKeyEvent *>(event) : nullptr;
+    if (key && key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier) {
+        QKeyEvent menu(QEvent::KeyPress, Qt::Key_Menu, Qt::NoModifier);
+        QCoreApplication::sendEvent(this, &menu); // From there it goes up to what takes it.
+        return true;
+    }
+    if (m_watched && m_watched->flags().testFlag(QQuickItem::ItemAcceptsInputMethod))
+        Q_EMIT m_model.typed();
+    return QQuickWindow::eventFilter(item, event);
+}
 
 void NotchWindow::paceAnimations() { frames().follow(*this); }
 

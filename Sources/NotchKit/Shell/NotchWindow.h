@@ -3,6 +3,7 @@
 #include "NotchPresentation.h"
 
 #include <QPainterPath>
+#include <QPointer>
 #include <QQuickWindow>
 
 class QQmlComponent;
@@ -23,12 +24,19 @@ public:
     /// From now on all animations step with this window's frames, where it draws any.
     void paceAnimations();
 
+    /// Tells the model of what is typed in a text field; Shift+F10 is the menu key. Of items of this window.
+    bool eventFilter(QObject *item, QEvent *event) override;
+
 Q_SIGNALS:
     /// The notch as it is drawn from now on, in points from the window's top left, y growing downwards.
     void outlineChanged(const QPainterPath &outline);
 
 private:
+    void watchKeyboard();
+
+    NotchScreenModel &m_model;
     NotchPresentation m_presentation;
+    QPointer<QQuickItem> m_watched; ///< What has the keyboard.
     std::unique_ptr<QQuickItem> m_root;
 };
 

@@ -1,7 +1,8 @@
 import QtQuick
 import Kestrune.Views
 
-/// One button per offered tool, and the credit beside them.
+/// One button per offered tool, and the credit beside them. Tab stops once at the tools; there the arrows choose one to
+/// press.
 Item {
     id: row
 
@@ -9,6 +10,21 @@ Item {
 
     /// Small enough for all fourteen tools and the credit in one row.
     readonly property int buttonWidth: 32
+
+    property int visited: -1 // The button that has the keyboard.
+
+    /// A tool was pressed, also the one that shows already.
+    signal chosen
+
+    function visit(index) {
+        buttons.itemAt((index + buttons.count) % buttons.count).forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    function step(event, count) {
+        event.accepted = visited >= 0
+        if (event.accepted)
+            visit(visited + (Theme.mirrored ? -count : count))
+    }
 
     implicitHeight: 36
 
@@ -18,6 +34,13 @@ Item {
         anchors { left: parent.left; verticalCenter: parent.verticalCenter }
         spacing: 4
         Accessible.role: Accessible.PageTabList
+        Keys.onLeftPressed: event => row.step(event, -1)
+        Keys.onRightPressed: event => row.step(event, 1)
+        Keys.onPressed: event => {
+            event.accepted = event.key === Qt.Key_Home || event.key === Qt.Key_End
+            if (event.accepted)
+                row.visit(event.key === Qt.Key_Home ? 0 : -1)
+        }
 
         Repeater {
             id: buttons
@@ -32,7 +55,18 @@ Item {
                 symbol: modelData.symbol
                 help: modelData.title
                 selected: index === row.presentation.selectedIndex
-                onClicked: row.presentation.select(index)
+                focusPolicy: index === (row.visited >= 0 ? row.visited : Math.max(row.presentation.selectedIndex, 0))
+                    ? Theme.focusPolicy : Qt.NoFocus
+                onActiveFocusChanged: {
+                    if (activeFocus)
+                        row.visited = index
+                    else if (row.visited === index)
+                        row.visited = -1
+                }
+                onClicked: {
+                    row.presentation.select(index)
+                    row.chosen()
+                }
             }
         }
     }

@@ -140,9 +140,16 @@ private Q_SLOTS:
             stage.window->requestActivate();
             QVERIFY(QTest::qWaitForWindowActive(stage.window.get()));
             QSet<QQuickItem *> reached;
-            for (int i = 0; i < 40; ++i) {
-                QTest::keyClick(stage.window.get(), Qt::Key_Tab);
+            const auto press = [&](Qt::Key key) {
+                stage.key(key);
                 reached.insert(stage.window->activeFocusItem());
+                return QString::fromLatin1(stage.window->activeFocusItem()->metaObject()->className());
+            };
+            for (int i = 0; i < 40; ++i) {
+                if (!press(Qt::Key_Tab).startsWith("ToolButton"_L1))
+                    continue;
+                for (qsizetype tools = stage.core.settings.tools().size(); tools > 0; --tools)
+                    press(Qt::Key_Right);
             }
             for (QQuickItem *button : Stage::buttons(stage.window->contentItem()))
                 QVERIFY2(reached.contains(button), qPrintable(button->property("help").toString()));

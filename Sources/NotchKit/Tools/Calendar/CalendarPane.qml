@@ -11,6 +11,11 @@ Pane {
     readonly property CalendarModel calendar: model
     readonly property date now: visible ? surroundings.now : new Date(0)
 
+    onPresented: {
+        events.present()
+        reminders.present()
+    }
+
     CalendarSection {
         id: events
 
@@ -40,6 +45,8 @@ Pane {
         }
     }
     CalendarSection {
+        id: reminders
+
         anchors { left: events.right; leftMargin: Theme.gap; right: parent.right }
         height: parent.height
         calendar: pane.calendar
@@ -62,7 +69,12 @@ Pane {
             reminder: modelData
             now: pane.now
             tipBelow: y - ListView.view.contentY < height
-            onFocusedChanged: if (focused) ListView.view.positionViewAtIndex(index, ListView.Contain)
+            onFocusedChanged: {
+                if (!focused)
+                    return
+                ListView.view.currentIndex = index // Once it is gone, the next one has the keyboard.
+                ListView.view.positionViewAtIndex(index, ListView.Contain)
+            }
             onCompleted: pane.calendar.complete(reminder)
         }
     }

@@ -22,6 +22,10 @@ Tile {
 
     signal allowed
 
+    function present() {
+        list.positionViewAtBeginning()
+    }
+
     SectionLabel {
         id: label
 

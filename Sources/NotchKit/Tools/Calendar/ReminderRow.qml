@@ -2,7 +2,7 @@ import QtQuick
 import Kestrune.Views
 
 /// One reminder: a circle to complete it, its title, and when it is due.
-Item {
+FocusScope {
     id: row
 
     required property calendarReminder reminder
@@ -27,6 +27,7 @@ Item {
     SymbolButton {
         id: complete
 
+        focus: true
         // so that the circle stands below the title's symbol
         anchors { left: parent.left; leftMargin: -5; verticalCenter: parent.verticalCenter }
         width: 24

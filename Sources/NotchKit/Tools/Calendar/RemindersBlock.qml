@@ -38,7 +38,18 @@ HomeBlock {
             onAllowed: block.calendar.requestReminderAccess()
         }
         Repeater {
+            id: rows
+
+            property int next: -1 // The place of the one that was completed with the keyboard.
+
+            function giveKeyboard() {
+                if (next >= 0)
+                    itemAt(Math.min(next, count - 1))?.forceActiveFocus()
+                next = -1
+            }
+
             model: block.first
+            onItemAdded: Qt.callLater(giveKeyboard)
 
             ReminderRow {
                 required property calendarReminder modelData
@@ -49,7 +60,10 @@ HomeBlock {
                 tipBelow: index === 0
                 reminder: modelData
                 now: block.now
-                onCompleted: block.calendar.complete(reminder)
+                onCompleted: {
+                    rows.next = focused ? index : -1
+                    block.calendar.complete(reminder)
+                }
             }
         }
     }

@@ -11,12 +11,12 @@ ButtonBase {
     property bool captioned: true
 
     /// The right button, or the keyboard's menu key, at a place within the picture.
-    signal menuWanted(real x, real y)
+    signal menuWanted(real x, real y, bool byKey)
 
     help: item.name
     text: item.name
     radius: 10
-    Keys.onMenuPressed: menuWanted(width / 2, height / 2)
+    Keys.onMenuPressed: menuWanted(width / 2, height / 2, true)
 
     Symbol {
         anchors.centerIn: parent
@@ -32,7 +32,7 @@ ButtonBase {
     }
     Loader {
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
-        active: thumb.captioned && (area.containsMouse || thumb.visualFocus)
+        active: thumb.captioned && (area.containsMouse || thumb.ringed)
         sourceComponent: Item {
             height: 38
             clip: true
@@ -73,7 +73,7 @@ ButtonBase {
         color: area.pressed ? Theme.pressed : "transparent"
         border { width: 1; color: area.containsMouse ? Theme.dim : Theme.hovered }
 
-        FocusRing { visible: thumb.visualFocus }
+        FocusRing { visible: thumb.ringed }
     }
     MouseArea {
         id: area
@@ -86,7 +86,7 @@ ButtonBase {
         onPositionChanged: mouse => drag.move(mouse.x, mouse.y)
         onClicked: mouse => {
             if (mouse.button === Qt.RightButton)
-                thumb.menuWanted(mouse.x, mouse.y)
+                thumb.menuWanted(mouse.x, mouse.y, false)
             else
                 thumb.clicked()
         }

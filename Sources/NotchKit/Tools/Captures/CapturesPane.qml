@@ -9,6 +9,8 @@ Pane {
     required property CapturesModel model
     readonly property CapturesModel captures: model
 
+    onPresented: grid.positionViewAtBeginning()
+
     PaneMessage {
         anchors.fill: parent
         visible: pane.captures.needsAccess
@@ -62,10 +64,10 @@ Pane {
                     pane.captures.open(item.id)
                     pane.surroundings.collapse()
                 }
-                onMenuWanted: (x, y) => {
+                onMenuWanted: (x, y, byKey) => {
                     const at = mapToItem(pane, x, y)
                     menu.item = item
-                    menu.openAt(at.x, at.y)
+                    menu.openAt(at.x, at.y, byKey)
                 }
             }
         }
@@ -89,11 +91,14 @@ Pane {
         id: devices
 
         airDrop: pane.surroundings.airDrop
+        screenModel: pane.screenModel
     }
     ContextMenu {
         id: menu
 
         property captureItem item
+
+        screenModel: pane.screenModel
         readonly property var actions: [ // Functions.
             () => pane.captures.reveal(item.id),
             () => devices.send([item.url], menu.x, menu.y),
@@ -109,6 +114,5 @@ Pane {
             qsTranslate("notch", "Copy")
         ]
         onChosen: index => actions[index]()
-        onClosed: pane.forceActiveFocus()
     }
 }

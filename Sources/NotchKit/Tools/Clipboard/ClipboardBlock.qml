@@ -12,6 +12,7 @@ HomeBlock {
     property string copied: ""
 
     title: qsTranslate("notch", "Latest copies")
+    onPresented: copied = ""
 
     Column {
         width: parent.width

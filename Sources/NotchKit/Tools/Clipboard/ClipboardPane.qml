@@ -17,6 +17,13 @@ Pane {
         copied = id
     }
 
+    first: search.field
+    Keys.onMenuPressed: if (list.visible) list.openCurrent()
+    onPresented: {
+        copied = ""
+        list.showNewest()
+    }
+
     Item {
         id: header
 
@@ -51,10 +58,11 @@ Pane {
                 anchors.verticalCenter: parent.verticalCenter
                 screenModel: pane.screenModel
                 field.focus: true
+                field.takesMenuKey: !list.visible
                 text: pane.clipboard.query
                 onTextChanged: {
                     pane.clipboard.query = text
-                    list.currentIndex = 0
+                    list.showNewest()
                 }
 
                 field.Keys.onPressed: event => {
@@ -62,8 +70,8 @@ Pane {
                     if (event.accepted)
                         list.pinCurrent()
                 }
-                field.Keys.onUpPressed: list.decrementCurrentIndex()
-                field.Keys.onDownPressed: list.incrementCurrentIndex()
+                field.Keys.onUpPressed: list.step(() => list.decrementCurrentIndex())
+                field.Keys.onDownPressed: list.step(() => list.incrementCurrentIndex())
                 field.Keys.onReturnPressed: list.copyCurrent()
                 field.Keys.onEnterPressed: list.copyCurrent()
                 field.Keys.onDeletePressed: event => {
@@ -106,6 +114,30 @@ Pane {
                 pane.copy(item.id)
         }
 
+        function step(move) {
+            chosen = true
+            move()
+        }
+
+        function showNewest() {
+            chosen = false
+            currentIndex = 0
+            positionViewAtBeginning()
+        }
+
+        function openMenu(item, row, x, y, byKey) {
+            const at = row.mapToItem(pane, x, y)
+            menu.item = item.id
+            menu.pinned = item.pinned
+            menu.openAt(at.x, at.y, byKey)
+        }
+
+        function openCurrent() {
+            positionViewAtIndex(currentIndex, ListView.Contain)
+            if (currentItem)
+                openMenu(current(), currentItem, currentItem.width / 2, currentItem.height / 2, true)
+        }
+
         function removeCurrent() {
             const item = current()
             if (item)
@@ -118,6 +150,8 @@ Pane {
                 pane.clipboard.setPinned(item.id, !item.pinned)
         }
 
+        property bool chosen: false // The keys chose the current row; else it is the newest.
+
         anchors { fill: parent; topMargin: header.height + 4 }
         visible: pane.historyOn && rows.count > 0
         clip: true
@@ -125,6 +159,7 @@ Pane {
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
         keyNavigationEnabled: false
+        onCountChanged: if (!chosen) showNewest()
         T.ScrollBar.vertical: ScrollBar {}
         Accessible.role: Accessible.List
         Accessible.name: qsTranslate("notch", "Clipboard")
@@ -147,12 +182,7 @@ Pane {
             copied: item.id === pane.copied
             current: search.field.activeFocus && index === list.currentIndex
             onClicked: pane.copy(item.id)
-            onMenuWanted: (x, y) => {
-                const at = mapToItem(pane, x, y)
-                menu.item = item.id
-                menu.pinned = item.pinned
-                menu.openAt(at.x, at.y)
-            }
+            onMenuWanted: (x, y) => list.openMenu(item, this, x, y, false)
         }
         move: Transition { NumberAnimation { properties: "y"; duration: 160; easing.type: Easing.OutCubic } }
         displaced: move
@@ -164,6 +194,7 @@ Pane {
         property string item
         property bool pinned
 
+        screenModel: pane.screenModel
         entries: [
             pinned ? qsTranslate("notch", "Unpin")
                 //: In the menu of an entry of the clipboard history: keep it until it is deleted.
@@ -177,6 +208,5 @@ Pane {
             else
                 pane.clipboard.remove(item)
         }
-        onClosed: search.field.forceActiveFocus()
     }
 }

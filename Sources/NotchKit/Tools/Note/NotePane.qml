@@ -5,7 +5,12 @@ import Kestrune.Views
 Pane {
     id: pane
 
+    first: editor.field
+    kept: true
+
     NoteEditor {
+        id: editor
+
         anchors.fill: parent
         settings: pane.surroundings.settings
         screenModel: pane.screenModel

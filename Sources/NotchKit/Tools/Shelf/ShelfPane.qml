@@ -9,6 +9,11 @@ Pane {
     required property ShelfModel model
     readonly property ShelfModel shelf: model
 
+    onPresented: {
+        tip.tile = null
+        list.positionViewAtEnd()
+    }
+
     PaneMessage {
         anchors.fill: parent
         visible: rows.count === 0
@@ -49,19 +54,23 @@ Pane {
         }
         delegate: ShelfTile {
             required property shelfTile modelData
+            required property int index
 
             height: ListView.view.height - 12
             tile: modelData
             surroundings: pane.surroundings
             onHoveredChanged: if (hovered) tip.tile = this; else if (tip.tile === this) tip.tile = null
+            onActiveFocusChanged: if (activeFocus) list.currentIndex = index
             onRemoved: pane.shelf.remove(tile.url)
-            onMenuWanted: (x, y) => {
+            onMenuWanted: (x, y, byKey) => {
                 const at = mapToItem(pane, x, y)
                 menu.url = tile.url
-                menu.openAt(at.x, at.y)
+                menu.openAt(at.x, at.y, byKey)
             }
         }
         displaced: Transition { NumberAnimation { properties: "x"; duration: 160; easing.type: Easing.OutCubic } }
+
+        FocusReveal { flickable: list }
     }
 
     Row {
@@ -112,12 +121,14 @@ Pane {
         id: devices
 
         airDrop: pane.surroundings.airDrop
+        screenModel: pane.screenModel
     }
     ContextMenu {
         id: menu
 
         property url url
 
+        screenModel: pane.screenModel
         entries: [qsTranslate("notch", "Remove")]
         onChosen: pane.shelf.remove(url)
     }

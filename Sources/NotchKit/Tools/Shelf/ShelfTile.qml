@@ -11,7 +11,7 @@ Tile {
     readonly property bool hovered: mouse.containsMouse && !drag.active
 
     signal removed
-    signal menuWanted(real x, real y)
+    signal menuWanted(real x, real y, bool byKey)
 
     width: 104
     color: mouse.containsMouse || remove.hovered || drag.active ? Theme.hovered : Theme.group
@@ -20,7 +20,7 @@ Tile {
     Accessible.name: tile.name
     Accessible.description: tile.path
     Keys.onDeletePressed: removed()
-    Keys.onMenuPressed: menuWanted(width / 2, height / 2)
+    Keys.onMenuPressed: menuWanted(width / 2, height / 2, true)
 
     FocusRing { visible: view.activeFocus }
     Item {
@@ -69,7 +69,7 @@ Tile {
         onPositionChanged: event => drag.move(event.x, event.y)
         onClicked: event => {
             if (event.button === Qt.RightButton)
-                view.menuWanted(event.x, event.y)
+                view.menuWanted(event.x, event.y, false)
         }
 
         FileDrag {
@@ -96,7 +96,7 @@ Tile {
             radius: remove.radius
             color: remove.down ? Theme.ground : Theme.scrim
 
-            FocusRing { visible: remove.visualFocus }
+            FocusRing { visible: remove.ringed }
         }
         onClicked: view.removed()
     }

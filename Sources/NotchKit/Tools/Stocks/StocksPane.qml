@@ -17,13 +17,24 @@ Pane {
     readonly property bool editorShown: editing || empty
     property bool editing: false
 
+    function stored() {
+        return surroundings.settings.tickers.join(", ")
+    }
+
     function edit() {
-        field.text = surroundings.settings.tickers.join(", ")
+        field.text = stored()
         editing = true
         field.forceActiveFocus()
         screenModel.keyboardWanted()
     }
 
+    first: editorShown ? field : null
+    kept: true
+    onPresented: {
+        if (field.text === stored())
+            editing = false
+        grid.positionViewAtBeginning()
+    }
     Keys.onEscapePressed: event => {
         event.accepted = editing
         editing = false

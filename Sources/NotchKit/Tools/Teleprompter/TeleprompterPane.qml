@@ -13,6 +13,8 @@ Pane {
     // Without a script there is nothing to read, and one can be pasted at once.
     readonly property bool editorShown: prompter.editing || empty
 
+    first: (editor.item as PlainEditor)?.field ?? script
+
     Loader {
         id: editor
 
@@ -43,6 +45,7 @@ Pane {
         anchors.fill: editor
         visible: !pane.editorShown
         focus: visible
+        activeFocusOnTab: activeFocus // Tab goes on from here, but does not come here.
         text: pane.settings.prompterText
         fontSize: pane.settings.prompterFontSize
         speed: pane.settings.prompterSpeed

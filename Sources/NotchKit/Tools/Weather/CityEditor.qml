@@ -7,6 +7,7 @@ FocusScope {
 
     required property WeatherModel weather
     required property NotchScreenModel screenModel
+    readonly property alias field: city
 
     implicitWidth: column.width
     implicitHeight: column.height
@@ -39,7 +40,6 @@ FocusScope {
                 //: What the empty field for the name of a city says.
                 placeholderText: qsTranslate("notch", "City")
                 onAccepted: editor.weather.search(text)
-                onVisibleChanged: if (visible) clear()
             }
             TextButton {
                 text: qsTranslate("notch", "Search")

@@ -15,11 +15,15 @@ Pane {
     property bool changing: false
 
     function change() {
+        editor.field.clear()
         changing = true
-        editor.forceActiveFocus()
+        editor.field.forceActiveFocus()
         screenModel.keyboardWanted()
     }
 
+    first: editorShown ? editor.field : null
+    kept: true
+    onPresented: if (editor.field.text.trim() === "") changing = false
     Keys.onEscapePressed: event => {
         event.accepted = changing && weather.hasPlace
         if (event.accepted)
@@ -37,6 +41,7 @@ Pane {
 
         function onPlaceFound() {
             pane.changing = false
+            editor.field.clear()
         }
     }
 
