@@ -49,6 +49,7 @@ struct SettingRule
     SETTING(QStringList, ignoredPlayers, IgnoredPlayers, QStringList())                                      \
     SETTING(QString, note, Note, QString())                                                                  \
     SETTING(QStringList, shelfPaths, ShelfPaths, QStringList())                                              \
+    SETTING(QStringList, shelfMounts, ShelfMounts, QStringList())                                            \
     SETTING(bool, clipboardHistory, ClipboardHistory, true)                                                  \
     SETTING(bool, announceScreenshots, AnnounceScreenshots, true)                                            \
     SETTING(bool, readCodexUsage, ReadCodexUsage, false)                                                     \
@@ -62,6 +63,8 @@ struct SettingRule
     SETTING(QString, prompterText, PrompterText, QString())                                                  \
     SETTING(double, prompterSpeed, PrompterSpeed, 28.0)                                                      \
     SETTING(double, prompterFontSize, PrompterFontSize, 22.0)                                                \
+    SETTING(bool, prompterShortcutEnabled, PrompterShortcutEnabled, false)                                   \
+    SETTING(QString, mirrorCamera, MirrorCamera, QString())                                                  \
     SETTING(HomeWidgets, homeOrder, HomeOrder, allCases<HomeWidget>())                                       \
     SETTING(StringMap, homeColumns, HomeColumns, defaultHomeColumnStrings())
 

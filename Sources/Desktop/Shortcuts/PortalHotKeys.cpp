@@ -17,6 +17,8 @@ Q_LOGGING_CATEGORY(shortcutsLog, "kestrune.shortcuts", QtWarningMsg)
 
 namespace {
 
+constexpr quint32 kPrompterKey = 35; // P; every other opens the notch.
+
 QString connectionName() { return QStringLiteral("kestrune.shortcuts"); }
 
 /// The hot keys with the connection that is theirs.
@@ -63,8 +65,14 @@ PortalHotKeys::~PortalHotKeys() = default;
 
 bool PortalHotKeys::registerHotKey(quint32 keyCode, quint32 modifiers, HotKeyIdentity identity)
 {
+    const bool forPrompter = keyCode == kPrompterKey;
     const WantedShortcut wanted{QStringLiteral("example.kestrune.Kestrune"),
-                                QCoreApplication::translate("notch", "Open Notch"), keyCode, modifiers};
+                                forPrompter ? QStringLiteral("prompter") : QStringLiteral("toggle"),
+                                //: What a hot key does, in the desktop's settings.
+                                forPrompter
+                                    ? QCoreApplication::translate("notch", "Play or pause the teleprompter")
+                                    : QCoreApplication::translate("notch", "Open Notch"),
+                                keyCode, modifiers};
     Registration &registration = m_registrations.emplace_back(Registration{identity, wanted, nullptr});
     if (!m_bus.isConnected()) // Calls would stay without an answer.
         QMetaObject::invokeMethod(

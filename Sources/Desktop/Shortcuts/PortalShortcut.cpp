@@ -84,7 +84,7 @@ QFuture<PortalAnswer> PortalShortcut::bindKey()
     QVariantMap properties{{QStringLiteral("description"), m_wanted.description}};
     if (const auto trigger = ShortcutTrigger::forPortal(m_wanted.keyCode, m_wanted.modifiers))
         properties.insert(QStringLiteral("preferred_trigger"), *trigger);
-    const QList<PortalKey> keys{{WantedShortcut::action(), properties}};
+    const QList<PortalKey> keys{{m_wanted.action, properties}};
     auto *request = new PortalRequest(m_bus, m_portal, this);
     return request->send(
         QStringLiteral("BindShortcuts"),
@@ -119,13 +119,13 @@ bool PortalShortcut::isOurs(const QDBusMessage &signal) const
 
 void PortalShortcut::takeActivated(const QDBusMessage &signal)
 {
-    if (isOurs(signal) && signal.arguments().value(1) == WantedShortcut::action())
+    if (isOurs(signal) && signal.arguments().value(1) == m_wanted.action)
         keyWentDown();
 }
 
 void PortalShortcut::takeDeactivated(const QDBusMessage &signal)
 {
-    if (isOurs(signal) && signal.arguments().value(1) == WantedShortcut::action())
+    if (isOurs(signal) && signal.arguments().value(1) == m_wanted.action)
         keyWentUp();
 }
 
@@ -147,7 +147,7 @@ void PortalShortcut::takeClosed()
 void PortalShortcut::take(const QList<PortalKey> &keys)
 {
     using State = HotKeyBinding::State;
-    const auto ours = std::ranges::find(keys, WantedShortcut::action(), &PortalKey::id);
+    const auto ours = std::ranges::find(keys, m_wanted.action, &PortalKey::id);
     if (ours == keys.cend()) {
         setBinding({State::unbound});
         return;

@@ -11,12 +11,10 @@ namespace Kestrune {
 struct WantedShortcut
 {
     QString program;     ///< The id of the application, which is the name of its desktop file.
+    QString action;      ///< Its name among the program's, the same in every run.
     QString description; ///< What it does, for the desktop's own settings.
     quint32 keyCode = 0; ///< Both as in HotKeys::registerHotKey.
     quint32 modifiers = 0;
-
-    /// The name of the one shortcut that there is.
-    static QString action() { return QStringLiteral("toggle"); }
 };
 
 /// One registration with a service of the desktop; it ends with the object.

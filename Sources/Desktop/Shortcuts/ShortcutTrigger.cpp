@@ -28,7 +28,7 @@ struct Key
     const char *keysym; ///< The name in xkbcommon-keysyms.h, without its XKB_KEY_.
     Qt::Key qt;
 };
-constexpr std::array kTriggerKeys{Key{45, "n", Qt::Key_N}};
+constexpr std::array kTriggerKeys{Key{45, "n", Qt::Key_N}, Key{35, "p", Qt::Key_P}};
 
 const Key *find(quint32 code)
 {

@@ -32,7 +32,7 @@ struct KeyPlace
     xcb_keysym_t keysym;
     xcb_keycode_t place;
 };
-constexpr std::array kKeys{KeyPlace{45, 'n', 57}};
+constexpr std::array kKeys{KeyPlace{45, 'n', 57}, KeyPlace{35, 'p', 33}};
 
 struct FreeSymbols
 {

@@ -48,6 +48,11 @@ Column {
             onModified: on => view.settings.shortcutEnabled = on
         }
         SwitchRow {
+            title: qsTranslate("notch", "Play and pause the teleprompter with ⌃⌥⌘P")
+            on: view.settings.prompterShortcutEnabled
+            onModified: on => view.settings.prompterShortcutEnabled = on
+        }
+        SwitchRow {
             title: qsTranslate("notch", "Show the song or timer beside the closed notch")
             on: view.settings.liveActivities
             onModified: on => view.settings.liveActivities = on

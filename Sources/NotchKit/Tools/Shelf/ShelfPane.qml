@@ -9,6 +9,17 @@ Pane {
     required property ShelfModel model
     readonly property ShelfModel shelf: model
 
+    Keys.onPressed: event => {
+        if (event.matches(StandardKey.SelectAll))
+            shelf.chooseAll()
+        else
+            return
+        event.accepted = true
+    }
+
+    // A click beside the tiles.
+    TapHandler { onTapped: pane.shelf.chooseNone() }
+
     PaneMessage {
         anchors.fill: parent
         visible: rows.count === 0
@@ -53,8 +64,8 @@ Pane {
             height: ListView.view.height - 12
             tile: modelData
             surroundings: pane.surroundings
+            shelf: pane.shelf
             onHoveredChanged: if (hovered) tip.tile = this; else if (tip.tile === this) tip.tile = null
-            onRemoved: pane.shelf.remove(tile.url)
             onMenuWanted: (x, y) => {
                 const at = mapToItem(pane, x, y)
                 menu.url = tile.url
@@ -74,6 +85,7 @@ Pane {
         TextButton {
             symbol: "airplayaudio"
             text: qsTranslate("notch", "AirDrop")
+            help: pane.surroundings.airDrop.notice === "" && pane.surroundings.airDrop.lack || text
             onClicked: {
                 const at = mapToItem(pane, Theme.mirrored ? width : 0, 0)
                 devices.placeAt(at.x, at.y)
@@ -103,7 +115,7 @@ Pane {
         z: 2
         sourceComponent: HelpTip {
             anchor: tip.tile
-            text: tip.tile?.tile.path ?? ""
+            text: tip.tile?.description ?? ""
             below: true
         }
     }
@@ -113,12 +125,16 @@ Pane {
 
         airDrop: pane.surroundings.airDrop
     }
+    AirDropNotice {
+        anchors { horizontalCenter: parent.horizontalCenter; verticalCenter: list.verticalCenter }
+        menu: devices
+    }
     ContextMenu {
         id: menu
 
         property url url
 
         entries: [qsTranslate("notch", "Remove")]
-        onChosen: pane.shelf.remove(url)
+        onChosen: pane.shelf.removeWith(url)
     }
 }
