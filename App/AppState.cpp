@@ -5,6 +5,7 @@
 #include "NotchKit/Platform/LoginItem.h"
 #include "NotchKit/Platform/RunningApplications.h"
 #include "NotchKit/Platform/UserDefaults.h"
+#include "NotchKit/Platform/WindowSystem.h"
 
 #include <QCoreApplication>
 
@@ -33,6 +34,7 @@ AppState::AppState(const Platform &platform, const AppWindows &windows, const La
     , m_settings(platform.defaults)
     , m_services(m_settings, NotchBranding::fennivar(), platform)
     , m_controller(m_services, platform, windows.panels)
+    , m_prompter(*this, platform.windows.hotKeys())
     , m_launchAtLogin(platform.loginItem.isEnabled())
 {
     m_services.openSettings = windows.openSettings;
@@ -50,6 +52,8 @@ void AppState::followSettings()
                                &NotchSettings::hideOverFullScreenChanged, &NotchSettings::placementChanged,
                                &NotchSettings::shortcutEnabledChanged, &NotchSettings::shortcutChanged})
         connect(&m_settings, changed, &m_controller, &NotchController::settingsChanged);
+    connect(&m_settings, &NotchSettings::prompterShortcutEnabledChanged, this,
+            [this] { m_prompter.applyShortcut(); });
 }
 
 void AppState::schedule(LaunchRequest request)
@@ -73,6 +77,7 @@ void AppState::checkFennivar()
         m_controller.stop();
     else
         m_controller.start();
+    m_prompter.applyShortcut();
 }
 
 void AppState::showNotch(std::optional<NotchTool> tool, bool takeKeyboard)

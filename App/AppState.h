@@ -3,6 +3,7 @@
 #include "LaunchRequest.h"
 #include "NotchKit/NotchController.h"
 #include "NotchKit/NotchSettings.h"
+#include "PrompterRemote.h"
 
 #include <QObject>
 #include <QProperty>
@@ -42,6 +43,7 @@ public:
     NotchSettings &settings() { return m_settings; }
     NotchServices &services() { return m_services; }
     NotchController &controller() { return m_controller; }
+    PrompterRemote &prompter() { return m_prompter; }
 
     bool launchAtLogin() const { return m_launchAtLogin; }
     QBindable<bool> bindableLaunchAtLogin() { return &m_launchAtLogin; }
@@ -78,6 +80,7 @@ private:
     NotchSettings m_settings;
     NotchServices m_services;
     NotchController m_controller;
+    PrompterRemote m_prompter;
     std::unique_ptr<RunningTimer> m_watcher;
     std::unique_ptr<RunningTimer> m_launch;
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppState, bool, m_launchAtLogin, false,

@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "NotchKit/Catalogue.h"
+#include "PrompterRemote.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -73,6 +74,14 @@ CommandLine parseSettings(const QStringList &words)
     return {.verb = Verb::settings, .arguments = words.mid(1)};
 }
 
+CommandLine parsePrompter(const QStringList &words)
+{
+    const auto fault = PrompterRemote::faultOf(words.value(1), words.value(2));
+    if (words.size() > 3)
+        return bad(QStringLiteral("prompter takes at most two arguments"));
+    return fault ? bad(*fault) : CommandLine{.verb = Verb::prompter, .arguments = words.mid(1)};
+}
+
 CommandLine parseUsage(const QStringList &words)
 {
     const QString home = QStringLiteral("home");
@@ -108,6 +117,8 @@ CommandLine parseCommand(const QStringList &words)
         return parseStatus(words);
     if (name == QLatin1String("settings"))
         return parseSettings(words);
+    if (name == QLatin1String("prompter"))
+        return parsePrompter(words);
     if (name == QLatin1String("usage"))
         return parseUsage(words);
     return unknownArgument(name);
@@ -176,6 +187,10 @@ QString CommandLine::helpText()
   kestrune close                  close every notch
   kestrune quit                   end the program
   kestrune status [--json]        what it is doing
+  kestrune prompter play|pause|toggle
+                                  the teleprompter, while another window has the keyboard
+  kestrune prompter speed N       points a second; +N or -N changes it by that
+  kestrune prompter position N    percent of the script; likewise
   kestrune usage [--json] [--home DIR] [--now TIME]
                                   what Codex and Claude Code logged of their use
   kestrune settings open          show the settings window

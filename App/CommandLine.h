@@ -10,14 +10,28 @@ namespace Kestrune {
 /// What a start of the program is asked to do.
 struct CommandLine
 {
-    enum class Verb { start, help, version, toggle, open, close, quit, status, settings, usage, bad };
+    enum class Verb {
+        start,
+        help,
+        version,
+        toggle,
+        open,
+        close,
+        quit,
+        status,
+        settings,
+        usage,
+        prompter,
+        bad
+    };
 
     Verb verb = Verb::start;
-    LaunchRequest launch = {};  ///< For `start`.
-    QStringList arguments = {}; ///< For `open` the tool, if one is named; for `settings` what follows.
-    bool json = false;          ///< For `status`.
-    UsageRequest usage = {};    ///< For `usage`.
-    QString fault = {};         ///< What is wrong, for `bad`.
+    LaunchRequest launch = {}; ///< For `start`.
+    QStringList arguments =
+        {};            ///< For `open` the tool, if one is named; for `settings` and `prompter` what follows.
+    bool json = false; ///< For `status`.
+    UsageRequest usage = {}; ///< For `usage`.
+    QString fault = {};      ///< What is wrong, for `bad`.
 
     /// Reads the arguments after the program's name.
     static CommandLine parse(const QStringList &arguments);

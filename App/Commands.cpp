@@ -212,6 +212,9 @@ int runCommand(const CommandLine &command)
         return printStatus(command.json);
     case Verb::settings:
         return runSettings(command.arguments);
+    case Verb::prompter:
+        return outcome(
+            call(QStringLiteral("Prompter"), {command.arguments.value(0), command.arguments.value(1)}));
     case Verb::usage:
         return printUsage(command.usage);
     case Verb::bad:

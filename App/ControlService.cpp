@@ -56,6 +56,15 @@ void ControlService::OpenSettings()
     });
 }
 
+void ControlService::Prompter(const QString &action, const QString &number)
+{
+    if (!fits(action, kLongestName) || !fits(number, kLongestName))
+        return;
+    answer([action, number](const Program &program) {
+        return Answer{{}, program.app.prompter().carryOut(action, number)};
+    });
+}
+
 void ControlService::Quit()
 {
     answer([](const Program &) {

@@ -54,6 +54,10 @@ public Q_SLOTS:
     Q_SCRIPTABLE void Close();
     /// Shows the settings window.
     Q_SCRIPTABLE void OpenSettings();
+    /// The teleprompter: "play", "pause" or "toggle" with an empty number; "speed" (points a second) or
+    /// "position" (percent of the script) with a number, which is added to the present one when it has a
+    /// sign.
+    Q_SCRIPTABLE void Prompter(const QString &action, const QString &number);
     Q_SCRIPTABLE void Quit();
     /// The program was started again, to be opened on the tool of that raw value, or on what it showed last.
     Q_SCRIPTABLE void Reopen(const QString &tool);

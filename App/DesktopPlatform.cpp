@@ -9,7 +9,8 @@
 namespace Kestrune {
 
 DesktopPlatform::DesktopPlatform(const QDBusConnection &bus, const WindowSystemChoice &windows)
-    : m_defaults(SqliteUserDefaults::path(standardDomain()))
+    : m_identity(bus)
+    , m_defaults(SqliteUserDefaults::path(standardDomain()))
     , m_suiteDefaults(SqliteUserDefaults::path(NotchBranding::suiteIdentifier()),
                       SqliteUserDefaults::Access::ReadOnly)
     , m_capturePreferences(SqliteUserDefaults::path(FolderCaptureQuery::domain()),

@@ -14,7 +14,8 @@
 #include "Desktop/Session/BusApplications.h"
 #include "Desktop/Session/DesktopSessionLock.h"
 #include "Desktop/Session/DesktopWorkspace.h"
-#include "Desktop/Sharing/KdeConnectSharing.h"
+#include "Desktop/Session/PortalIdentity.h"
+#include "Desktop/Sharing/DesktopSharing.h"
 #include "Desktop/Sound/CanberraSounds.h"
 #include "Desktop/System/LinuxStatistics.h"
 #include "Desktop/Time/SystemClock.h"
@@ -43,13 +44,14 @@ public:
 private:
     Platform makePlatform();
 
+    PortalIdentity m_identity;
     SqliteUserDefaults m_defaults;
     SqliteUserDefaults m_suiteDefaults;
     SqliteUserDefaults m_capturePreferences;
     SystemClock m_clock;
     CanberraSounds m_sounds;
     DesktopWorkspace m_workspace;
-    KdeConnectSharing m_sharing;
+    DesktopSharing m_sharing;
     AutostartLoginItem m_loginItem;
     DesktopSessionLock m_lock;
     BusApplications m_applications;

@@ -1,6 +1,7 @@
 #include "StatusReport.h"
 
 #include "AppState.h"
+#include "NotchKit/Tools/Teleprompter/TeleprompterModel.h"
 #include "WindowSystems.h"
 
 #include <QJsonArray>
@@ -38,6 +39,16 @@ QJsonObject describe(const NotchController::Notch &notch)
             {QStringLiteral("pointerEntered"), model.pointerEntered()}};
 }
 
+/// How far the teleprompter is; numbers that are not known yet are null.
+QJsonObject describe(const TeleprompterModel &prompter)
+{
+    const auto position = prompter.position();
+    const int left = prompter.secondsLeft();
+    return {{QStringLiteral("playing"), prompter.playing()},
+            {QStringLiteral("position"), position ? QJsonValue(*position * 100) : QJsonValue()},
+            {QStringLiteral("secondsLeft"), left >= 0 ? QJsonValue(left) : QJsonValue()}};
+}
+
 } // namespace
 
 QByteArray statusReport(AppState &app, const WindowSystemChoice &windows)
@@ -54,6 +65,7 @@ QByteArray statusReport(AppState &app, const WindowSystemChoice &windows)
         {QStringLiteral("anyExpanded"), services.anyExpanded()},
         {QStringLiteral("hasActivity"), services.hasActivity()},
         {QStringLiteral("tools"), QJsonArray::fromStringList(rawValues(services.settings()->tools()))},
+        {QStringLiteral("prompter"), describe(*services.model<TeleprompterModel>())},
         {QStringLiteral("windowSystem"), QString::fromLatin1(windows.name)},
         {QStringLiteral("windowSystemReason"), windows.reason},
         {QStringLiteral("displays"), displays},

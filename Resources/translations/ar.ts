@@ -1029,5 +1029,87 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Select All</source>
         <translation>تحديد الكل</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>تشغيل الملقن الآلي وإيقافه مؤقتًا بواسطة ⌃⌥⌘P</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>نقل إلى سلة المهملات</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>اختيار الكاميرا</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>سيسألك سطح المكتب عن الكاميرا.</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>تشغيل الكاميرا</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>رفضتَ الكاميرا من قبل، وسطح المكتب يتذكّر ذلك.
+اسمح بها في إعدادات الخصوصية الخاصة به.</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>لا يمكن الوصول إليه الآن</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>المتبقي %1</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>تشغيل الملقن الآلي أو إيقافه مؤقتًا</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>لإرسال الملفات يجب أن يعمل KDE Connect أو GSConnect.</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>جارٍ الإرسال إلى %1…</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>في الطريق إلى %1.</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>تعذّر الإرسال إلى %1.</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>لا يوجد جهاز مقترن في المتناول.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>إرسال %Ln ملف إلى %1</numerusform>
+            <numerusform>إرسال ملف واحد (%Ln) إلى %1</numerusform>
+            <numerusform>إرسال ملفين (%Ln) إلى %1</numerusform>
+            <numerusform>إرسال %Ln ملفات إلى %1</numerusform>
+            <numerusform>إرسال %Ln ملفًا إلى %1</numerusform>
+            <numerusform>إرسال %Ln ملف إلى %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>تعذّر نقل %1 إلى سلة المهملات.</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>الكاميرا الافتراضية</translation>
+    </message>
 </context>
 </TS>

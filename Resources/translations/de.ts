@@ -1017,5 +1017,83 @@ Datenschutz-Einstellungen der Arbeitsumgebung.</translation>
         <source>Select All</source>
         <translation>Alles auswählen</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>Teleprompter mit ⌃⌥⌘P abspielen und anhalten</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>In den Papierkorb legen</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>Kamera wählen</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>Die Arbeitsumgebung wird dich nach der Kamera fragen.</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>Kamera einschalten</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>Du hast die Kamera früher abgelehnt, und die Arbeitsumgebung hat sich das gemerkt.
+Erlaube sie in deren Datenschutzeinstellungen.</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>Gerade nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>Teleprompter abspielen oder anhalten</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>Zum Senden von Dateien muss KDE Connect oder GSConnect laufen.</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>Wird an %1 gesendet …</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>Unterwegs zu %1.</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>Konnte nicht an %1 gesendet werden.</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>Kein gekoppeltes Gerät ist erreichbar.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>%Ln Datei an %1 senden</numerusform>
+            <numerusform>%Ln Dateien an %1 senden</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>%1 konnte nicht in den Papierkorb gelegt werden.</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>Standardkamera</translation>
+    </message>
 </context>
 </TS>

@@ -1017,5 +1017,83 @@ los ajustes de privacidad del escritorio.</translation>
         <source>Select All</source>
         <translation>Seleccionar todo</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>Reproducir y pausar el teleprompter con ⌃⌥⌘P</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Mover a la papelera</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>Elegir la cámara</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>El escritorio te preguntará por la cámara.</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>Encender la cámara</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>Rechazaste la cámara antes y el escritorio lo recuerda.
+Permítela en sus ajustes de privacidad.</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>No disponible ahora</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>Quedan %1</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>Reproducir o pausar el teleprompter</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>Para enviar archivos, KDE Connect o GSConnect debe estar en marcha.</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>Enviando a %1…</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>En camino a %1.</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>No se pudo enviar a %1.</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>No hay ningún dispositivo emparejado al alcance.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>Enviar %Ln archivo a %1</numerusform>
+            <numerusform>Enviar %Ln archivos a %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>No se pudo mover %1 a la papelera.</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>Cámara predeterminada</translation>
+    </message>
 </context>
 </TS>

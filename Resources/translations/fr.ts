@@ -1017,5 +1017,83 @@ les réglages de confidentialité du bureau.</translation>
         <source>Select All</source>
         <translation>Tout sélectionner</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>Lire et mettre en pause le prompteur avec ⌃⌥⌘P</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Mettre à la corbeille</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>Choisir la caméra</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>Le bureau va vous demander l’accès à la caméra.</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>Allumer la caméra</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>Vous avez déjà refusé la caméra, et le bureau s’en souvient.
+Autorisez-la dans ses réglages de confidentialité.</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>Inaccessible pour le moment</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>Reste %1</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>Lire ou mettre en pause le prompteur</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>Pour envoyer des fichiers, KDE Connect ou GSConnect doit être lancé.</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>Envoi vers %1…</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>En route vers %1.</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>Envoi vers %1 impossible.</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>Aucun appareil jumelé n’est à portée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>Envoyer %Ln fichier vers %1</numerusform>
+            <numerusform>Envoyer %Ln fichiers vers %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>Impossible de mettre %1 à la corbeille.</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>Caméra par défaut</translation>
+    </message>
 </context>
 </TS>

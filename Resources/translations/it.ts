@@ -1017,5 +1017,83 @@ impostazioni di privacy del desktop.</translation>
         <source>Select All</source>
         <translation>Seleziona tutto</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>Avvia e sospendi il teleprompter con ⌃⌥⌘P</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Sposta nel cestino</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>Scegli la fotocamera</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>Il desktop ti chiederà l’accesso alla fotocamera.</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>Accendi la fotocamera</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>Hai già rifiutato la fotocamera e il desktop lo ricorda.
+Consentila nelle sue impostazioni sulla privacy.</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>Non raggiungibile ora</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>Mancano %1</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>Avvia o sospendi il teleprompter</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>Per inviare file, KDE Connect o GSConnect deve essere in esecuzione.</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>Invio a %1…</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>In viaggio verso %1.</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>Impossibile inviare a %1.</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>Nessun dispositivo abbinato è raggiungibile.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>Invia %Ln file a %1</numerusform>
+            <numerusform>Invia %Ln file a %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>Impossibile spostare %1 nel cestino.</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>Fotocamera predefinita</translation>
+    </message>
 </context>
 </TS>

@@ -1014,5 +1014,82 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Select All</source>
         <translation>すべてを選択</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>⌃⌥⌘Pでテレプロンプターを再生・一時停止</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>ゴミ箱に移動</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>カメラを選択</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>デスクトップがカメラの使用を確認します。</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>カメラをオンにする</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>以前カメラを拒否したため、デスクトップがそれを記憶しています。
+デスクトップのプライバシー設定で許可してください。</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>今はアクセスできません</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>残り%1</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>テレプロンプターを再生または一時停止</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>ファイルを送信するには、KDE ConnectまたはGSConnectの起動が必要です。</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>%1に送信中…</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>%1に送っています。</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>%1に送信できませんでした。</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>ペアリング済みのデバイスが近くにありません。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>%Ln個のファイルを%1に送信</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>%1をゴミ箱に移動できませんでした。</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>デフォルトのカメラ</translation>
+    </message>
 </context>
 </TS>

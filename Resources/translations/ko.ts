@@ -1014,5 +1014,82 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Select All</source>
         <translation>전체 선택</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>⌃⌥⌘P로 텔레프롬프터 재생 및 일시 정지</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>휴지통으로 이동</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>카메라 선택</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>데스크톱에서 카메라 사용을 물어봅니다.</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>카메라 켜기</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>이전에 카메라를 거부했고 데스크톱이 이를 기억하고 있습니다.
+데스크톱의 개인정보 보호 설정에서 허용하세요.</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>지금은 접근할 수 없음</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>%1 남음</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>텔레프롬프터 재생 또는 일시 정지</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>파일을 보내려면 KDE Connect 또는 GSConnect가 실행 중이어야 합니다.</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>%1(으)로 보내는 중…</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>%1(으)로 보내고 있습니다.</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>%1(으)로 보낼 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>연결할 수 있는 페어링된 기기가 없습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>파일 %Ln개를 %1(으)로 보내기</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>%1을(를) 휴지통으로 옮길 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>기본 카메라</translation>
+    </message>
 </context>
 </TS>

@@ -1017,5 +1017,83 @@ de privacy-instellingen van het bureaublad.</translation>
         <source>Select All</source>
         <translation>Selecteer alles</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>Teleprompter afspelen en pauzeren met ⌃⌥⌘P</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Naar prullenbak verplaatsen</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>Camera kiezen</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>Het bureaublad zal je om de camera vragen.</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>Camera aanzetten</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>Je hebt de camera eerder geweigerd en het bureaublad onthoudt dat.
+Sta hem toe in de privacy-instellingen ervan.</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>Nu niet bereikbaar</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>nog %1</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>Teleprompter afspelen of pauzeren</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>Om bestanden te versturen moet KDE Connect of GSConnect actief zijn.</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>Versturen naar %1…</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>Onderweg naar %1.</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>Kon niet naar %1 worden verstuurd.</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>Er is geen gekoppeld apparaat in bereik.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>%Ln bestand naar %1 versturen</numerusform>
+            <numerusform>%Ln bestanden naar %1 versturen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>%1 kon niet naar de prullenbak worden verplaatst.</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>Standaardcamera</translation>
+    </message>
 </context>
 </TS>

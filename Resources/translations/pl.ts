@@ -1020,5 +1020,84 @@ ustawienia prywatności pulpitu.</translation>
         <source>Select All</source>
         <translation>Zaznacz wszystko</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>Odtwarzaj i wstrzymuj teleprompter skrótem ⌃⌥⌘P</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Przenieś do kosza</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>Wybierz kamerę</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>Pulpit zapyta o zgodę na użycie kamery.</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>Włącz kamerę</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>Wcześniej odmówiono dostępu do kamery i pulpit to pamięta.
+Zezwól na nią w jego ustawieniach prywatności.</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>Teraz niedostępny</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>Zostało %1</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>Odtwórz lub wstrzymaj teleprompter</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>Aby wysyłać pliki, musi działać KDE Connect lub GSConnect.</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>Wysyłanie do: %1…</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>W drodze do: %1.</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>Nie udało się wysłać do: %1.</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>Żadne sparowane urządzenie nie jest w zasięgu.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>Wyślij %Ln plik do: %1</numerusform>
+            <numerusform>Wyślij %Ln pliki do: %1</numerusform>
+            <numerusform>Wyślij %Ln plików do: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>Nie udało się przenieść %1 do kosza.</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>Domyślna kamera</translation>
+    </message>
 </context>
 </TS>

@@ -1017,5 +1017,83 @@ configurações de privacidade do ambiente.</translation>
         <source>Select All</source>
         <translation>Selecionar tudo</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>Reproduzir e pausar o teleprompter com ⌃⌥⌘P</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>Mover para a lixeira</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>Escolher a câmera</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>A área de trabalho vai pedir a sua permissão para a câmera.</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>Ligar a câmera</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>Você já recusou a câmera, e a área de trabalho se lembra disso.
+Permita-a nos ajustes de privacidade dela.</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>Inacessível no momento</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>Restam %1</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>Reproduzir ou pausar o teleprompter</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>Para enviar arquivos, o KDE Connect ou o GSConnect precisa estar em execução.</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>Enviando para %1…</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>A caminho de %1.</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>Não foi possível enviar para %1.</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>Nenhum dispositivo pareado está ao alcance.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>Enviar %Ln arquivo para %1</numerusform>
+            <numerusform>Enviar %Ln arquivos para %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>Não foi possível mover %1 para a lixeira.</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>Câmera padrão</translation>
+    </message>
 </context>
 </TS>

@@ -1014,5 +1014,82 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <source>Select All</source>
         <translation>全选</translation>
     </message>
+    <message>
+        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
+        <translation>使用 ⌃⌥⌘P 播放和暂停提词器</translation>
+    </message>
+    <message>
+        <source>Move to Trash</source>
+        <translation>移到回收站</translation>
+    </message>
+    <message>
+        <source>Choose the camera</source>
+        <translation>选择摄像头</translation>
+    </message>
+    <message>
+        <source>The desktop will ask you for the camera.</source>
+        <translation>桌面将询问您是否允许使用摄像头。</translation>
+    </message>
+    <message>
+        <source>Turn On Camera</source>
+        <translation>打开摄像头</translation>
+    </message>
+    <message>
+        <source>You refused the camera before, and the desktop remembers it.
+Allow it in the desktop’s privacy settings.</source>
+        <translation>您之前拒绝了摄像头，桌面记住了这一选择。
+请在桌面的隐私设置中允许。</translation>
+    </message>
+    <message>
+        <source>Cannot be reached now</source>
+        <translation>目前无法访问</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <extracomment>How long the rest of the script takes to scroll past. %1 is a time such as 3:05.</extracomment>
+        <translation>剩余 %1</translation>
+    </message>
+    <message>
+        <source>Play or pause the teleprompter</source>
+        <extracomment>What a hot key does, in the desktop&apos;s settings.</extracomment>
+        <translation>播放或暂停提词器</translation>
+    </message>
+    <message>
+        <source>To send files, KDE Connect or GSConnect has to run.</source>
+        <translation>要发送文件，需要运行 KDE Connect 或 GSConnect。</translation>
+    </message>
+    <message>
+        <source>Sending to %1…</source>
+        <translation>正在发送到 %1…</translation>
+    </message>
+    <message>
+        <source>On the way to %1.</source>
+        <extracomment>The files have been handed over to the service that sends them.</extracomment>
+        <translation>正在传往 %1。</translation>
+    </message>
+    <message>
+        <source>Could not be sent to %1.</source>
+        <translation>无法发送到 %1。</translation>
+    </message>
+    <message>
+        <source>No paired device is in reach.</source>
+        <translation>附近没有已配对的设备。</translation>
+    </message>
+    <message numerus="yes">
+        <source>Send %Ln files to %1</source>
+        <extracomment>An entry of a menu. %1 is the name of a phone or of another computer.</extracomment>
+        <translation>
+            <numerusform>将 %Ln 个文件发送到 %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be moved to the trash.</source>
+        <translation>无法将 %1 移到回收站。</translation>
+    </message>
+    <message>
+        <source>Default Camera</source>
+        <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
+        <translation>默认摄像头</translation>
+    </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 
 #include <gst/app/gstappsink.h>
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
@@ -26,6 +27,42 @@ constexpr GstClockTime kSlice = 100 * GST_MSECOND;
 constexpr gint64 kLongestLook = 2 * G_TIME_SPAN_SECOND; // A service that just began lists cameras bit by bit.
 constexpr GstClockTime kLongestStart = 10 * GST_SECOND; // Some cameras first measure the light.
 constexpr GstClockTime kLongestPause = 3 * GST_SECOND;
+
+constexpr gint64 kBesideFirst = G_TIME_SPAN_SECOND / 2; // For those that come after the first one.
+constexpr std::size_t kMostListed = 16;
+constexpr std::size_t kLongestName = 200; // Bytes.
+
+/// What others made, as part of a line.
+std::string plain(const char *text)
+{
+    std::string name = text ? text : "";
+    name.resize(std::min(name.size(), kLongestName));
+    std::ranges::replace_if(
+        name, [](unsigned char c) { return c < ' ' || c == 0x7f; }, ' ');
+    return name;
+}
+
+std::string nameOf(GstDevice *device)
+{
+    gchar *const name = gst_device_get_display_name(device);
+    std::string text = plain(name);
+    g_free(name);
+    return text;
+}
+
+/// The same whenever it is plugged in, as far as that can be told.
+std::string identifierOf(GstDevice *device)
+{
+    std::string id;
+    GstStructure *properties = gst_device_get_properties(device);
+    for (const char *const key : {"node.name", "api.v4l2.path", "device.path"}) {
+        if (properties && id.empty())
+            id = plain(gst_structure_get_string(properties, key));
+    }
+    if (properties)
+        gst_structure_free(properties);
+    return id.empty() ? nameOf(device) : id;
+}
 
 bool isDefault(GstDevice *device)
 {
@@ -74,12 +111,15 @@ Camera::~Camera()
         gst_element_set_state(m_pipeline.get(), GST_STATE_NULL);
 }
 
-void Camera::look()
+void Camera::look(const std::string &wanted)
 {
+    const auto rank = [&](GstDevice *device) {
+        return !wanted.empty() && identifierOf(device) == wanted ? 2 : int(isDefault(device));
+    };
     GList *const devices = gst_device_monitor_get_devices(m_monitor);
     for (const GList *entry = devices; entry; entry = entry->next) {
         auto *const device = GST_DEVICE(entry->data);
-        if (m_device && (isDefault(m_device.get()) || !isDefault(device)))
+        if (m_device && rank(device) <= rank(m_device.get()))
             continue;
         if (Handle<GstCaps> format = chooseFormat(device)) {
             m_device.reset(GST_DEVICE(gst_object_ref(device)));
@@ -89,21 +129,49 @@ void Camera::look()
     g_list_free_full(devices, gst_object_unref);
 }
 
-bool Camera::find()
+bool Camera::watch()
 {
     gst_device_monitor_add_filter(m_monitor, "Video/Source", nullptr);
-    if (!gst_device_monitor_start(m_monitor))
+    return gst_device_monitor_start(m_monitor);
+}
+
+bool Camera::find(const std::string &wanted)
+{
+    if (!watch())
         return false;
     const Handle<GstBus> bus(gst_device_monitor_get_bus(m_monitor));
-    const gint64 end = g_get_monotonic_time() + kLongestLook;
-    for (look(); !m_device && g_get_monotonic_time() < end; look())
+    const gint64 begin = g_get_monotonic_time();
+    const auto isEnough = [&] {
+        return m_device && (wanted.empty() || identifierOf(m_device.get()) == wanted ||
+                            g_get_monotonic_time() > begin + kBesideFirst);
+    };
+    for (look(wanted); !isEnough() && g_get_monotonic_time() < begin + kLongestLook; look(wanted))
         const Handle<GstMessage> news(gst_bus_timed_pop(bus.get(), kSlice));
     return m_device != nullptr;
 }
 
-bool Camera::open()
+std::string Camera::list()
 {
-    GstElement *const source = find() ? gst_device_create_element(m_device.get(), nullptr) : nullptr;
+    std::string lines;
+    if (!watch())
+        return lines;
+    g_usleep(kBesideFirst);
+    GList *const devices = gst_device_monitor_get_devices(m_monitor);
+    std::size_t count = 0;
+    for (const GList *entry = devices; entry && count < kMostListed; entry = entry->next) {
+        auto *const device = GST_DEVICE(entry->data);
+        if (!chooseFormat(device))
+            continue;
+        lines += identifierOf(device) + '\t' + nameOf(device) + '\n';
+        ++count;
+    }
+    g_list_free_full(devices, gst_object_unref);
+    return lines;
+}
+
+bool Camera::open(const std::string &wanted)
+{
+    GstElement *const source = find(wanted) ? gst_device_create_element(m_device.get(), nullptr) : nullptr;
     if (!source)
         return false;
     m_pipeline.reset(gst_pipeline_new(nullptr));

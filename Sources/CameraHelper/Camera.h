@@ -3,18 +3,22 @@
 #include "Handles.h"
 
 #include <functional>
+#include <string>
 
 namespace Kestrune {
 
-/// The default camera, as GStreamer finds it (PipeWire's cameras, else those of Video4Linux). It is on from
-/// `start` to its end.
+/// A camera, as GStreamer finds it (PipeWire's cameras, else those of Video4Linux). It is on from `start` to
+/// its end.
 class Camera
 {
 public:
-    /// Opens it without turning it on; false where there is none that can be used within seconds. Hangs where
-    /// PipeWire does.
-    bool open();
+    /// Opens it without turning it on: that of the identifier `wanted`, else the default one. False where
+    /// there is none that can be used within seconds. Hangs where PipeWire does.
+    bool open(const std::string &wanted);
     bool start();
+
+    /// The cameras that can be used, a line each: its identifier, a tab and its name.
+    std::string list();
 
     /// The newest picture that has not been taken yet, or the next one. Nothing when the camera is lost: it
     /// failed, gave no picture for seconds, or `isPointless` said so meanwhile.
@@ -26,8 +30,9 @@ public:
     Camera &operator=(const Camera &) = delete;
 
 private:
-    void look();
-    bool find();
+    void look(const std::string &wanted);
+    bool watch();
+    bool find(const std::string &wanted);
     bool hasFailed() const;
     bool isPulledOut() const;
 

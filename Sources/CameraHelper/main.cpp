@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <optional>
+#include <string>
 
 #include <poll.h>
 #include <sys/mman.h>
@@ -39,6 +40,11 @@ bool hasInputEnded()
     return ::poll(&input, 1, 0) > 0 && (input.revents & (POLLHUP | POLLERR)) != 0;
 }
 
+bool say(const std::string &text)
+{
+    return ::write(STDOUT_FILENO, text.data(), text.size()) == static_cast<ssize_t>(text.size());
+}
+
 bool show(Camera &camera, int descriptor)
 {
     void *const memory = ::mmap(nullptr, CameraWire::kSlots * CameraWire::kSlotBytes, PROT_READ | PROT_WRITE,
@@ -64,7 +70,7 @@ bool show(Camera &camera, int descriptor)
 /// them ends no more than the mirror. See CameraWire.h.
 int main(int argc, char *argv[])
 {
-    if (argc != 2)
+    if (argc < 2 || argc > 3)
         return EXIT_FAILURE;
     // Pictures are converted without code that is made while it runs; neither bus is of use to it.
     ::setenv("ORC_CODE", "backup", 1);
@@ -75,7 +81,9 @@ int main(int argc, char *argv[])
         return EXIT_FAILURE;
     ::alarm(kLongestOpening); // Its signal ends the process.
     Camera camera;
-    bool good = camera.open();
+    if (std::strcmp(argv[1], CameraWire::kList) == 0)
+        std::_Exit(say(camera.list()) ? EXIT_SUCCESS : EXIT_FAILURE);
+    bool good = camera.open(argc == 3 ? argv[2] : "");
     if (good && std::strcmp(argv[1], CameraWire::kProbe) != 0)
         good = show(camera, std::atoi(argv[1]));
     // The kernel takes the camera back faster and more surely than an orderly end, which can hang.

@@ -134,7 +134,8 @@ constexpr std::array kTools{
         .title = QT_TRANSLATE_NOOP("notch", "Mirror"),
         .symbol = "camera",
         .view = "MirrorPane",
-        .makeModel = [](Context c) { return made<MirrorModel>(c.platform.clock, c.platform.camera); }},
+        .makeModel =
+            [](Context c) { return made<MirrorModel>(c.settings, c.platform.clock, c.platform.camera); }},
     CatalogueEntry{.rawValue = "note",
                    //: A note to oneself, such as one jots down.
                    .title = QT_TRANSLATE_NOOP("notch", "Note"),

@@ -58,9 +58,9 @@ quint32 takeId()
 } // namespace
 
 std::unique_ptr<GlobalHotkey> GlobalHotkey::make(HotKeys &hotKeys, quint32 keyCode, quint32 modifiers,
-                                                 Action action, BindingAction bound)
+                                                 Action action, BindingAction bound, HotKeyPurpose purpose)
 {
-    const HotKeyIdentity identity{kSignature, takeId()};
+    const HotKeyIdentity identity{kSignature, takeId(), purpose};
     hotKeys.installHandler(pressed);
     hotKeys.installBindingHandler(bindingChanged);
     if (!hotKeys.registerHotKey(keyCode, modifiers, identity))

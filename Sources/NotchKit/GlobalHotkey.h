@@ -18,7 +18,8 @@ public:
     /// runs on the main thread, from the event loop, at each press; `bound` whenever the desktop tells what
     /// came of the registration, but not before this returns. `hotKeys` outlives the result.
     static std::unique_ptr<GlobalHotkey> make(HotKeys &hotKeys, quint32 keyCode, quint32 modifiers,
-                                              Action action, BindingAction bound);
+                                              Action action, BindingAction bound,
+                                              HotKeyPurpose purpose = HotKeyPurpose::toggle);
 
     ~GlobalHotkey();
     GlobalHotkey(const GlobalHotkey &) = delete;

@@ -53,6 +53,7 @@ struct SettingRule
     SETTING(QStringList, ignoredClipboardPrograms, IgnoredClipboardPrograms, QStringList())                  \
     SETTING(QString, note, Note, QString())                                                                  \
     SETTING(QStringList, shelfPaths, ShelfPaths, QStringList())                                              \
+    SETTING(QStringList, shelfMounts, ShelfMounts, QStringList())                                            \
     SETTING(bool, clipboardHistory, ClipboardHistory, true)                                                  \
     SETTING(bool, announceScreenshots, AnnounceScreenshots, true)                                            \
     SETTING(bool, readCodexUsage, ReadCodexUsage, false)                                                     \
@@ -66,6 +67,8 @@ struct SettingRule
     SETTING(QString, prompterText, PrompterText, QString())                                                  \
     SETTING(double, prompterSpeed, PrompterSpeed, 28.0)                                                      \
     SETTING(double, prompterFontSize, PrompterFontSize, 22.0)                                                \
+    SETTING(bool, prompterShortcutEnabled, PrompterShortcutEnabled, false)                                   \
+    SETTING(QString, mirrorCamera, MirrorCamera, QString())                                                  \
     SETTING(HomeWidgets, homeOrder, HomeOrder, allCases<HomeWidget>())                                       \
     SETTING(StringMap, homeColumns, HomeColumns, defaultHomeColumnStrings())
 

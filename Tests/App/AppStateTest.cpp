@@ -1,4 +1,5 @@
 #include "App/AppStage.h"
+#include "NotchKit/Tools/Teleprompter/TeleprompterModel.h"
 
 static QString welcomed() { return u"kestrune.welcomed"_s; }
 
@@ -37,6 +38,45 @@ private Q_SLOTS:
         stage.clock.advance(1s);
         QCOMPARE(stage.model().selected(), NotchTool::home);
         QVERIFY(stage.model().expanded());
+    }
+
+    void theTeleprompterIsRunFromAfar()
+    {
+        AppStage stage;
+        stage.launch();
+        PrompterRemote &remote = stage.app->prompter();
+        auto &prompter = *stage.app->services().model<TeleprompterModel>();
+        NotchSettings &settings = stage.app->settings();
+        const auto does = [&](const QString &action, const QString &number = {}) {
+            return !remote.carryOut(action, number);
+        };
+        QVERIFY2(!does(u"play"_s), "there is no script");
+        settings.setPrompterText(u"Friends"_s);
+        settings.setTools({NotchTool::note});
+        QVERIFY2(!does(u"play"_s), "it is not among the tools");
+        settings.setTools({NotchTool::note, NotchTool::teleprompter});
+        QVERIFY(does(u"play"_s) && prompter.playing());
+        QCOMPARE(stage.model().selected(), NotchTool::teleprompter);
+        QVERIFY2(!stage.panels.alive.at(0)->key, "it took the keyboard");
+        QVERIFY(does(u"toggle"_s) && !prompter.playing());
+
+        prompter.setMaximumOffset(200);
+        QVERIFY(does(u"position"_s, u"50"_s) && does(u"position"_s, u"-10"_s));
+        QCOMPARE(prompter.offset(), 80.0);
+        QVERIFY(does(u"speed"_s, u"40"_s) && does(u"speed"_s, u"+4"_s));
+        QCOMPARE(settings.prompterSpeed(), 44.0);
+        QVERIFY(!does(u"speed"_s, u"7"_s) && !does(u"play"_s, u"7"_s) && !does(u"dance"_s));
+        QVERIFY(does(u"speed"_s, u"+900"_s));
+        QCOMPARE(settings.prompterSpeed(), 140.0);
+
+        QCOMPARE(stage.hotKeys.registered.size(), 1U);
+        settings.setPrompterShortcutEnabled(true);
+        QCOMPARE(stage.hotKeys.codes, std::pair(35U, 6400U));
+        stage.hotKeys.handler(stage.hotKeys.registered.back());
+        QTRY_VERIFY(prompter.playing());
+        stage.setSuite(true, true);
+        stage.clock.advance(3s);
+        QVERIFY2(stage.hotKeys.registered.empty(), "a paused notch holds keys");
     }
 
     void suitePausesTheNotch()

@@ -27,12 +27,32 @@ private Q_SLOTS:
         rows(Verb::settings, {"settings set hoverDelay 0.3", "settings set x -12", "settings set note --help",
                               "settings open"});
         rows(Verb::usage, {"usage --json --now 2026-03-10T12:00:00Z --home /", "usage --home -x"});
+        rows(Verb::prompter,
+             {"prompter play", "prompter speed 40", "prompter speed -4", "prompter position +5.5"});
         rows(Verb::help, {"--help", "-h"});
         rows(Verb::version, {"--version"});
-        rows(Verb::bad,
-             {"--opne", "--open weather please", "open sundial", "toggle note", "status --xml",
-              "settings set hoverDelay", "settings", "usage --home", "usage --now noon", "usage --json now",
-              "--help toggle", "weather", "--open=weather", "toggle -session 10f1", "-session"});
+        rows(Verb::bad, {"--opne",
+                         "--open weather please",
+                         "open sundial",
+                         "toggle note",
+                         "status --xml",
+                         "settings set hoverDelay",
+                         "settings",
+                         "prompter",
+                         "prompter dance",
+                         "prompter play 3",
+                         "prompter speed",
+                         "prompter speed fast",
+                         "prompter position nan",
+                         "prompter speed 3 4",
+                         "usage --home",
+                         "usage --now noon",
+                         "usage --json now",
+                         "--help toggle",
+                         "weather",
+                         "--open=weather",
+                         "toggle -session 10f1",
+                         "-session"});
     }
 
     void verbs()
@@ -43,7 +63,7 @@ private Q_SLOTS:
         QCOMPARE(parsed.verb, verb);
         QCOMPARE(parsed.fault.isEmpty(), verb != Verb::bad);
         QCOMPARE(parsed.launch.restored, verb == Verb::start && line.contains(u"-session"));
-        if (verb == Verb::settings)
+        if (verb == Verb::settings || verb == Verb::prompter)
             QCOMPARE(parsed.arguments, words.mid(1));
     }
 

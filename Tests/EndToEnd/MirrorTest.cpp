@@ -81,6 +81,7 @@ private Q_SLOTS:
         }));
         QVERIFY(stage().show(u"mirror"_s));
         QTRY_VERIFY(stage().x.pixel(settingsButton).blue() > 200);
+        QVERIFY(portal.called().first().endsWith(u"Registry.Register"_s));
         QVERIFY(portal.called().last().endsWith(u"Camera.AccessCamera"_s));
         QCOMPARE(server.state(), u"suspended"_s);
     }

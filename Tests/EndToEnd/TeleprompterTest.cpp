@@ -30,6 +30,42 @@ private Q_SLOTS:
         QTRY_COMPARE(height(), start);
     }
 
+    void itObeysWhileAnotherWindowHasTheKeyboard()
+    {
+        const QByteArray script = QByteArray("One line of a long speech. ").repeated(200);
+        QVERIFY(stage().run({{"prompterText", script.constData()}, {"prompterShortcutEnabled", "true"}}));
+        const auto prompter = [&](const char *value) {
+            return session().status()["prompter"_L1][QLatin1String(value)];
+        };
+        const auto does = [&](const QStringList &words) {
+            return session().command(u"prompter"_s + words).status;
+        };
+        QCOMPARE(does({u"play"_s}), 0);
+        QTRY_VERIFY(prompter("playing").toBool() && prompter("secondsLeft").toInt(-1) > 60);
+        QCOMPARE(session().status()["visibleTool"_L1], u"teleprompter"_s);
+        QVERIFY2(stage().beneath.hasFocus(), "it took the keyboard");
+        QCOMPARE(does({u"position"_s, u"50"_s}), 0);
+        QTRY_VERIFY(std::abs(prompter("position").toDouble() - 50) < 5);
+        const int left = prompter("secondsLeft").toInt();
+        QCOMPARE(does({u"speed"_s, u"140"_s}), 0);
+        QTRY_VERIFY(prompter("secondsLeft").toInt() < left / 3);
+
+        const auto pressKeys = [&] {
+            for (const auto key : {XK_Control_L, XK_Alt_L, XK_Super_L})
+                input().pressKey(key);
+            input().tap(XK_p);
+            for (const auto key : {XK_Super_L, XK_Alt_L, XK_Control_L})
+                input().releaseKey(key);
+        };
+        pressKeys();
+        QTRY_VERIFY(!prompter("playing").toBool());
+        pressKeys();
+        QTRY_VERIFY(prompter("playing").toBool());
+        QCOMPARE(does({u"pause"_s}), 0);
+        QVERIFY(!prompter("playing").toBool());
+        QCOMPARE(does({u"speed"_s, u"900"_s}), 2);
+    }
+
 private:
     /// The topmost row of the pane that shows a bright pixel of the script, or 0.
     int height()

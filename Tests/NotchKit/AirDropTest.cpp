@@ -15,7 +15,9 @@ private Q_SLOTS:
         QTest::newRow("no file") << 1 << QList<QUrl>() << -2 << QString();
         QTest::newRow("no local file") << 1 << QList<QUrl>{QUrl(u"https://c"_s)} << -2 << QString();
         QTest::newRow("no device") << 0 << files << -2 << QString();
-        QTest::newRow("one device") << 1 << files << -2 << u"id0"_s;
+        QTest::newRow("one file, one device") << 1 << files.mid(1) << -2 << u"id0"_s;
+        QTest::newRow("several files, one device") << 1 << files << 0 << u"id0"_s;
+        QTest::newRow("one file, two devices") << 2 << files.mid(1) << 1 << u"id1"_s;
         QTest::newRow("the second of three") << 3 << files << 1 << u"id1"_s;
         QTest::newRow("no such choice") << 3 << files << 3 << QString();
         QTest::newRow("cancelled") << 2 << files << -1 << QString();
@@ -30,7 +32,8 @@ private Q_SLOTS:
         QCoreApplication::processEvents();
         QCOMPARE(!airDrop.choices().isEmpty(), chosen > -2);
         if (chosen > -2)
-            QCOMPARE(airDrop.choices().constFirst(), u"Device 0"_s);
+            QCOMPARE(airDrop.choices().constFirst(),
+                     sent.size() > 1 ? u"Send 2 files to Device 0"_s : u"Device 0"_s);
         if (chosen >= 0)
             airDrop.choose(chosen);
         else if (chosen == -1)
@@ -41,6 +44,32 @@ private Q_SLOTS:
             QCOMPARE(sharing.sent.constFirst(), std::pair(device, sent));
         airDrop.choose(0);
         QVERIFY2(sharing.sent.size() < 2, "nothing waits any more");
+    }
+
+    void saysWhatHappened_data()
+    {
+        const auto row = columns<bool, int, bool, QString, QString>();
+        const QString lack = u"To send files, KDE Connect or GSConnect has to run."_s;
+        row("no service", false, 0, false, lack, lack);
+        row("no device", true, 0, false, u"No paired device is in reach."_s, QString());
+        row("sent", true, 1, true, u"On the way to Device 0."_s, QString());
+        row("refused", true, 1, false, u"Could not be sent to Device 0."_s, QString());
+    }
+    void saysWhatHappened()
+    {
+        const auto [served, devices, takes, notice, lack] = fetched<bool, int, bool, QString, QString>();
+        Fakes::FakeSharing sharing(devices);
+        sharing.served = served;
+        sharing.takes = takes;
+        AirDrop airDrop(sharing);
+        airDrop.look();
+        QTRY_COMPARE(airDrop.lack(), lack);
+        QCOMPARE(airDrop.notice(), QString());
+        airDrop.send({QUrl(u"file:///a"_s)});
+        QTRY_COMPARE(airDrop.notice(), notice);
+        QCOMPARE(airDrop.lack(), lack);
+        airDrop.dismiss();
+        QCOMPARE(airDrop.notice(), QString());
     }
 
     void laterRequestsAndEndsLeaveNothingBehind()

@@ -199,7 +199,18 @@ private Q_SLOTS:
             stage.model.open(id);
             stage.model.copy(id);
             stage.model.reveal(id);
+            stage.model.edit(id);
+            stage.model.trash(id);
         }
+        QCOMPARE(stage.workspace.edited, QList<QUrl>{url});
+        QCOMPARE(stage.workspace.trashed, QList<QUrl>{url});
+        stage.workspace.hasTrash = false;
+        stage.model.trash(pathOf(1));
+        QTRY_COMPARE(stage.model.fault(), url.fileName() + u" could not be moved to the trash."_s);
+        QVERIFY(!stage.model.canEdit());
+        stage.model.visibleToolChanged(NotchTool::captures);
+        QVERIFY(stage.model.fault().isEmpty());
+        QTRY_VERIFY(stage.model.canEdit());
         QCOMPARE(stage.workspace.opened, QList<QUrl>{url});
         QCOMPARE(stage.workspace.revealed.value(0), QList<QUrl>{url});
         Fakes::finishWork();

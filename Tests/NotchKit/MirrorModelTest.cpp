@@ -81,7 +81,7 @@ private Q_SLOTS:
         stage.camera.status = Authorization::notDetermined;
         stage.show();
         stage.show();
-        QCOMPARE(stage.seen(), std::pair(u"access"_s, State::Waiting));
+        QCOMPARE(stage.seen(), std::pair(u"look"_s, State::Waiting));
         stage.allow(answer);
         QCOMPARE(stage.seen(), std::pair(told, state));
         // What the user changes elsewhere takes effect at the next showing.
@@ -90,6 +90,46 @@ private Q_SLOTS:
         stage.camera.status = Authorization::authorized;
         stage.show();
         QCOMPARE(stage.told(), u"configure"_s);
+    }
+
+    void theUserIsAskedWithTheKeyboardOnly()
+    {
+        Stage stage;
+        stage.camera.status = Authorization::notDetermined;
+        stage.show();
+        stage.mirror.askUser();
+        stage.answer(false); // Only the user could tell.
+        QCOMPARE(stage.seen(), std::pair(u"look"_s, State::Unasked));
+        stage.mirror.askUser();
+        stage.mirror.askUser();
+        stage.allow(Authorization::authorized);
+        QCOMPARE(stage.seen(), std::pair(u"access configure"_s, State::Waiting));
+
+        stage.show({});
+        stage.camera.status = Authorization::notDetermined;
+        stage.show();
+        stage.allow(Authorization::deniedBefore);
+        QCOMPARE(stage.mirror.state(), State::Refused);
+    }
+
+    void theChosenCameraIsTaken()
+    {
+        Stage stage;
+        stage.camera.found = {{u"usb"_s, u"Eye"_s}, {u"pci"_s, u"Lid"_s}};
+        stage.showFirst();
+        QCOMPARE(stage.mirror.choices(), QStringList());
+        stage.mirror.listCameras();
+        QTRY_COMPARE(stage.mirror.choices(), QStringList({u"Default Camera"_s, u"Eye"_s, u"Lid"_s}));
+        stage.mirror.chooseCamera(2);
+        QCOMPARE(stage.camera.chosen, u"pci"_s);
+        QCOMPARE(stage.core.settings.mirrorCamera(), u"pci"_s);
+        QCOMPARE(stage.told(), u"stop configure"_s);
+        stage.answer(true);
+        QCOMPARE(stage.seen(), std::pair(u"start"_s, State::Picture));
+        stage.mirror.chooseCamera(0);
+        QCOMPARE(stage.camera.chosen, QString());
+        stage.show({});
+        QVERIFY(!stage.mirror.running());
     }
 
     void anAnswerAfterTheShowingStartsNothing()
@@ -101,7 +141,7 @@ private Q_SLOTS:
         stage.show(); // and the question still stands
         stage.show({});
         stage.allow(Authorization::authorized);
-        QCOMPARE(stage.told(), u"access"_s);
+        QCOMPARE(stage.told(), u"look"_s);
         // The same while the camera is looked for.
         stage.show();
         stage.show({});
@@ -195,7 +235,7 @@ private Q_SLOTS:
             stage.camera.status = Authorization::notDetermined;
             stage.camera.handlers.lost();
             stage.core.wait(1000);
-            QCOMPARE(stage.seen(), std::pair(u"stop access"_s, State::NoCamera));
+            QCOMPARE(stage.seen(), std::pair(u"stop look"_s, State::NoCamera));
             stage.allow(answer);
         };
         comesBack(Authorization::authorized);

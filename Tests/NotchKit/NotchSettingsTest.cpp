@@ -211,7 +211,7 @@ private Q_SLOTS:
     {
         Fakes::MemoryDefaults defaults;
         NotchSettings settings(defaults);
-        QCOMPARE(NotchSettings::names().size(), 29);
+        QCOMPARE(NotchSettings::names().size(), 32);
         QVERIFY(!NotchSettings::access(u"sundial"_s));
         const auto *mode = NotchSettings::access(u"openMode"_s);
         QVERIFY(!mode->assign(settings, u"sideways"_s) && mode->assign(settings, u"click"_s));

@@ -35,6 +35,29 @@ private Q_SLOTS:
         QCOMPARE(prompter.playing(), std::isinf(maximum));
     }
 
+    void tellsAndTakesPositions()
+    {
+        Fakes::Core core;
+        TeleprompterModel &prompter = *core.services.model<TeleprompterModel>();
+        prompter.moveTo(0.5);
+        QCOMPARE(prompter.position(), std::optional(0.5));
+        QCOMPARE(prompter.secondsLeft(), -1);
+        prompter.setMaximumOffset(560); // Laid out later, it is there.
+        QCOMPARE(prompter.offset(), 280.0);
+        QCOMPARE(prompter.secondsLeft(), 10);
+        core.settings.setPrompterSpeed(140);
+        QCOMPARE(prompter.secondsLeft(), 2);
+        prompter.moveTo(3);
+        QCOMPARE(prompter.position(), std::optional(1.0));
+        QCOMPARE(prompter.secondsLeft(), 0);
+        prompter.restart();
+        prompter.setMaximumOffset(std::numeric_limits<double>::infinity());
+        prompter.moveTo(0.5);
+        prompter.restart();
+        prompter.setMaximumOffset(560);
+        QCOMPARE(prompter.offset(), 0.0);
+    }
+
     void changesOfModeKeepToTheRules()
     {
         Fakes::Core core;

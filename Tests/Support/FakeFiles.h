@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Async/Pledge.h"
 #include "NotchKit/Platform/FileSharing.h"
 #include "NotchKit/Platform/Pasteboard.h"
 #include "NotchKit/Platform/ScreenCaptureQuery.h"
@@ -105,27 +106,33 @@ struct FakeSharing : FileSharing
             reachable.append({QStringLiteral("id%1").arg(i), QStringLiteral("Device %1").arg(i)});
     }
 
-    QFuture<QList<SharingDevice>> devices() override
+    QFuture<SharingDevices> devices() override
     {
         const auto future = waiting.ask();
         if (!held)
             release();
         return future;
     }
-    void send(const QString &device, const QList<QUrl> &files) override { sent.append({device, files}); }
+    QFuture<bool> send(const QString &device, const QList<QUrl> &files) override
+    {
+        sent.append({device, files});
+        return answered(takes);
+    }
 
     void release()
     {
         held = false;
-        Questions<QList<SharingDevice>> asked = std::exchange(waiting, {});
+        Questions<SharingDevices> asked = std::exchange(waiting, {});
         for (std::size_t i = 0; i < asked.count(); ++i)
-            asked.answer(i, reachable);
+            asked.answer(i, {served, reachable});
     }
 
     QList<SharingDevice> reachable;
     QList<std::pair<QString, QList<QUrl>>> sent;
     bool held = false;
-    Questions<QList<SharingDevice>> waiting;
+    bool served = true;
+    bool takes = true;
+    Questions<SharingDevices> waiting;
 };
 
 /// Finds what the test puts in `found`, when the test says so.

@@ -103,7 +103,12 @@ struct FakeCamera : CameraSession
 {
     void installHandlers(Handlers installed) override { handlers = std::move(installed); }
     CameraAuthorization authorization() override { return status; }
-    QFuture<bool> requestAccess() override { return ask(QStringLiteral("access")); }
+    QFuture<bool> requestAccess(bool mayAskUser) override
+    {
+        return ask(mayAskUser ? QStringLiteral("access") : QStringLiteral("look"));
+    }
+    QFuture<QList<CameraDevice>> cameras() override { return answered(found); }
+    void choose(const QString &camera) override { chosen = camera; }
     QFuture<bool> configure() override { return ask(QStringLiteral("configure")); }
     void startRunning() override { called.append(QStringLiteral("start")); }
     void stopRunning() override { called.append(QStringLiteral("stop")); }
@@ -117,6 +122,8 @@ struct FakeCamera : CameraSession
     CameraAuthorization status = CameraAuthorization::authorized;
     QStringList called;
     QList<PictureShape> shapes;
+    QList<CameraDevice> found;
+    QString chosen;
     Questions<bool> questions;
 
 private:

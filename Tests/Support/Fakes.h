@@ -138,8 +138,19 @@ struct FakeWorkspace : Workspace
 {
     void open(const QUrl &url) override { opened.append(url); }
     void reveal(const QList<QUrl> &files) override { revealed.append(files); }
+    QFuture<bool> hasPictureEditor() override { return answered(hasEditor); }
+    void edit(const QUrl &picture) override { edited.append(picture); }
+    QFuture<bool> moveToTrash(const QUrl &file) override
+    {
+        trashed.append(file);
+        return answered(hasTrash);
+    }
 
     QList<QUrl> opened;
+    QList<QUrl> edited;
+    QList<QUrl> trashed;
+    bool hasEditor = true;
+    bool hasTrash = true;
     QList<QList<QUrl>> revealed;
 };
 

@@ -3,10 +3,12 @@
 #include "Desktop/Bus/BusCall.h"
 #include "Log.h"
 
+#include <QDBusArgument>
 #include <QDBusError>
 #include <QDBusObjectPath>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
+#include <QMap>
 #include <QUuid>
 
 #include <array>
@@ -18,6 +20,7 @@ namespace {
 constexpr int kAccessTimeout = 10'000; // ms, for a portal that is started by the call.
 
 QString cameraPortal() { return QStringLiteral("org.freedesktop.portal.Desktop"); }
+QString desktopEntry() { return QStringLiteral("example.kestrune.Kestrune"); }
 QString requestInterface() { return QStringLiteral("org.freedesktop.portal.Request"); }
 
 QDBusMessage makeCall(const char *interface, const char *method)
@@ -51,9 +54,11 @@ CameraAuthorization CameraAccess::authorization()
     return answer;
 }
 
-QFuture<bool> CameraAccess::request()
+QFuture<bool> CameraAccess::request(bool mayAskUser)
 {
     if (!m_question) {
+        m_mayAskUser = mayAskUser;
+        m_hasRefused = false;
         m_question.emplace();
         QDBusMessage call = makeCall("org.freedesktop.DBus.Properties", "Get");
         call << QStringLiteral("org.freedesktop.portal.Camera") << QStringLiteral("IsCameraPresent");
@@ -69,9 +74,34 @@ void CameraAccess::takePresence(const QDBusMessage &reply)
     if (reply.type() == QDBusMessage::ErrorMessage)
         qCInfo(cameraLog, "the portal does not tell of cameras: %s", qUtf8Printable(reply.errorName()));
     if (reply.type() == QDBusMessage::ReplyMessage && value.value<QDBusVariant>().variant().toBool())
-        ask();
+        lookUp();
     else
         finish(isRefusedAccess(reply) ? CameraAuthorization::denied : CameraAuthorization::authorized);
+}
+
+void CameraAccess::lookUp()
+{
+    const QString store = QStringLiteral("org.freedesktop.impl.portal.PermissionStore");
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(store, QStringLiteral("/org/freedesktop/impl/portal/PermissionStore"),
+                                       store, QStringLiteral("Lookup"));
+    call << QStringLiteral("devices") << QStringLiteral("camera");
+    callBus(m_bus, call, kAccessTimeout, this, [this](const QDBusMessage &reply) { takeStored(reply); });
+}
+
+/// The answers of the user by program. A portal that does not know this one's name keeps its answer under
+/// none.
+void CameraAccess::takeStored(const QDBusMessage &reply)
+{
+    QMap<QString, QStringList> stored;
+    if (reply.signature().startsWith(QLatin1String("a{sas}")))
+        stored = qdbus_cast<QMap<QString, QStringList>>(reply.arguments().constFirst());
+    const QStringList answer = stored.value(desktopEntry(), stored.value(QString()));
+    m_hasRefused = answer.contains(QStringLiteral("no"));
+    if (m_mayAskUser || m_hasRefused || answer.contains(QStringLiteral("yes")))
+        ask();
+    else
+        finish(CameraAuthorization::notDetermined);
 }
 
 void CameraAccess::ask()
@@ -103,7 +133,8 @@ void CameraAccess::ask()
 void CameraAccess::takeResponse(uint response, const QVariantMap & /*results*/)
 {
     qCInfo(cameraLog, "the portal's response is %u", response);
-    finish(response == 0 ? CameraAuthorization::authorized : CameraAuthorization::denied);
+    const auto refused = m_hasRefused ? CameraAuthorization::deniedBefore : CameraAuthorization::denied;
+    finish(response == 0 ? CameraAuthorization::authorized : refused);
 }
 
 void CameraAccess::finish(CameraAuthorization answer)

@@ -30,8 +30,9 @@ public:
     /// portal knows, so the next showing asks it again, which it answers by itself.
     CameraAuthorization authorization();
 
-    /// Asks for it. One question at a time: a second one joins the first.
-    QFuture<bool> request();
+    /// Asks for it. Unless `mayAskUser`, the portal is asked only where it is known to have the user's answer
+    /// already. One question at a time: a second one joins the first.
+    QFuture<bool> request(bool mayAskUser);
 
     /// The camera was turned off or not found: the next use asks again.
     void forget() { m_answer.reset(); }
@@ -41,13 +42,17 @@ private Q_SLOTS:
 
 private:
     void takePresence(const QDBusMessage &reply);
+    void lookUp();
+    void takeStored(const QDBusMessage &reply);
     void ask();
     void finish(CameraAuthorization answer);
 
     QDBusConnection m_bus;
     std::optional<CameraAuthorization> m_answer;
     std::optional<Pledge<bool>> m_question; ///< While the portal is asked.
-    QString m_request;                      ///< The portal's object for the question.
+    bool m_mayAskUser = false;
+    bool m_hasRefused = false; ///< The user has, as the desktop remembers.
+    QString m_request;         ///< The portal's object for the question.
     std::unique_ptr<QDBusServiceWatcher> m_watcher;
 };
 

@@ -17,13 +17,13 @@ constexpr int kLongestEnd = 500; // ms; only a camera whose driver hangs takes l
 
 }
 
-CameraRun::CameraRun(const QString &program, Reports reports, QObject *parent)
+CameraRun::CameraRun(const QString &program, const QString &camera, Reports reports, QObject *parent)
     : QObject(parent)
     , m_reports(std::move(reports))
     , m_pictures(SharedPictures::create())
 {
     if (m_pictures)
-        start(program);
+        start(program, camera);
     else
         QMetaObject::invokeMethod(this, &CameraRun::lose, Qt::QueuedConnection);
 }
@@ -37,7 +37,7 @@ CameraRun::~CameraRun()
     m_helper.waitForFinished(kLongestEnd);
 }
 
-void CameraRun::start(const QString &program)
+void CameraRun::start(const QString &program, const QString &camera)
 {
     connect(&m_helper, &QProcess::readyReadStandardOutput, this, &CameraRun::takeReply);
     connect(&m_helper, &QProcess::finished, this, &CameraRun::lose);
@@ -49,7 +49,8 @@ void CameraRun::start(const QString &program)
     m_helper.setChildProcessModifier([descriptor] { ::fcntl(descriptor, F_SETFD, 0); });
     m_helper.setInputChannelMode(QProcess::ManagedInputChannel);
     m_helper.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    m_helper.start(program, {QString::number(descriptor)}, QIODevice::ReadWrite | QIODevice::Unbuffered);
+    m_helper.start(program, {QString::number(descriptor), camera},
+                   QIODevice::ReadWrite | QIODevice::Unbuffered);
 }
 
 void CameraRun::order(const CameraWire::Order &order)

@@ -27,14 +27,15 @@ public:
         std::function<void()> lost; ///< Called once, from the event loop.
     };
 
-    CameraRun(const QString &program, Reports reports, QObject *parent);
+    /// `camera` is the identifier of the one that is wanted; empty for the default one.
+    CameraRun(const QString &program, const QString &camera, Reports reports, QObject *parent);
     ~CameraRun() override;
 
     /// Has the helper make a picture. At most one order is under way.
     void order(const CameraWire::Order &order);
 
 private:
-    void start(const QString &program);
+    void start(const QString &program, const QString &camera);
     void takeReply();
     void lose();
 

@@ -4,8 +4,9 @@
 #include <cstdint>
 
 /// What the program and its camera helper say to each other. The helper gets the number of a descriptor of
-/// shared memory as its argument, reads orders from its standard input, and writes a byte to its standard
-/// output when the picture of an order is in the memory. It ends when its input does or the camera is lost.
+/// shared memory as its argument, and the identifier of a camera as another where one is wanted before
+/// others, reads orders from its standard input, and writes a byte to its standard output when the picture of
+/// an order is in the memory. It ends when its input does or the camera is lost.
 namespace Kestrune::CameraWire {
 
 constexpr int kSlots = 2; ///< The memory holds so many pictures, one after the other.
@@ -30,5 +31,9 @@ constexpr bool isPossible(const Order &order)
 
 /// In place of the descriptor: only look whether there is a camera that can be used, and end with status 0.
 constexpr auto kProbe = "probe";
+
+/// In place of the descriptor: write the cameras that can be used, a line each: its identifier, a tab and its
+/// name.
+constexpr auto kList = "list";
 
 } // namespace Kestrune::CameraWire

@@ -23,14 +23,17 @@ namespace {
 
 constexpr auto kLongestProbe = 20s;   // The first one of a user lists all plugins.
 constexpr int kLongestProbeEnd = 500; // ms
-constexpr auto kSlack = 10s;          // A loop that needs longer to notice hangs.
+constexpr auto kLongestList = 5s;
+constexpr qint64 kMostListed = 16 * 1024; // Bytes.
+constexpr auto kSlack = 10s;              // A loop that needs longer to notice hangs.
 
 /// One look for a camera. Deletes itself once the pledge is given.
 class Probe : public QObject
 {
 public:
     /// `failed` is called before the pledge is given, on this thread.
-    Probe(QObject *parent, const QString &helper, const Pledge<bool> &pledge, std::function<void()> failed)
+    Probe(QObject *parent, const QString &helper, const QString &camera, const Pledge<bool> &pledge,
+          std::function<void()> failed)
         : QObject(parent)
         , m_pledge(pledge)
         , m_failed(std::move(failed))
@@ -42,7 +45,7 @@ public:
         m_pledge.whenGivenUp(this, [this] { finish(false); });
         QTimer::singleShot(kLongestProbe, this, [this] { finish(false); });
         m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-        m_process.start(helper, {QString::fromLatin1(CameraWire::kProbe)});
+        m_process.start(helper, {QString::fromLatin1(CameraWire::kProbe), camera});
     }
     ~Probe() override
     {
@@ -78,6 +81,19 @@ CameraWire::Order makeOrder(const PictureShape &shape, int slot)
             static_cast<float>(shape.radius * scale)};
 }
 
+/// What the helper says of the cameras.
+QList<CameraDevice> devicesIn(const QByteArray &lines)
+{
+    QList<CameraDevice> devices;
+    for (const QByteArray &line : lines.split('\n')) {
+        const qsizetype tab = line.indexOf('\t');
+        if (tab > 0)
+            devices.append({QString::fromUtf8(line.left(tab)), QString::fromUtf8(line.mid(tab + 1))});
+    }
+    std::ranges::sort(devices, {}, &CameraDevice::name);
+    return devices;
+}
+
 CameraRun *runOn(const QObject &thread) { return thread.findChild<CameraRun *>(); }
 
 } // namespace
@@ -95,10 +111,26 @@ QFuture<bool> HelperCamera::configure()
 {
     // A portal that knew of no camera was not asked for one: it is before the next look.
     const auto forget = [this, back = m_back.handle()] { back.post([this] { m_access.forget(); }); };
-    const auto probe = [helper = m_helper, forget](QObject &thread, const Pledge<bool> &pledge) {
-        new Probe(&thread, helper, pledge, forget);
+    const auto probe = [helper = m_helper, camera = m_chosen, forget](QObject &thread,
+                                                                      const Pledge<bool> &pledge) {
+        new Probe(&thread, helper, camera, pledge, forget);
     };
     return m_loop.ask<bool>(kLongestProbe + kSlack, probe);
+}
+
+QFuture<QList<CameraDevice>> HelperCamera::cameras()
+{
+    const auto list = [helper = m_helper](QObject &thread, const Pledge<QList<CameraDevice>> &pledge) {
+        auto *process = new QProcess(&thread);
+        connect(process, &QProcess::finished, process, [process, pledge] {
+            pledge.give(devicesIn(process->read(kMostListed)));
+            process->deleteLater();
+        });
+        connect(process, &QProcess::errorOccurred, process, &QObject::deleteLater);
+        QTimer::singleShot(kLongestList, process, &QProcess::kill);
+        process->start(helper, {QString::fromLatin1(CameraWire::kList)});
+    };
+    return m_loop.ask<QList<CameraDevice>>(kLongestList + kSlack, list);
 }
 
 void HelperCamera::startRunning()
@@ -113,9 +145,8 @@ void HelperCamera::startRunning()
     const auto lose = [this, number, back = m_back.handle()] {
         back.post([this, number] { this->lose(number); });
     };
-    m_loop.post([helper = m_helper, reports = CameraRun::Reports{take, lose}](QObject &thread) {
-        new CameraRun(helper, reports, &thread);
-    });
+    m_loop.post([helper = m_helper, camera = m_chosen, reports = CameraRun::Reports{take, lose}](
+                    QObject &thread) { new CameraRun(helper, camera, reports, &thread); });
 }
 
 void HelperCamera::stopRunning()

@@ -27,7 +27,9 @@ public:
 
     void installHandlers(Handlers handlers) override { m_handlers = std::move(handlers); }
     CameraAuthorization authorization() override { return m_access.authorization(); }
-    QFuture<bool> requestAccess() override { return m_access.request(); }
+    QFuture<bool> requestAccess(bool mayAskUser) override { return m_access.request(mayAskUser); }
+    QFuture<QList<CameraDevice>> cameras() override;
+    void choose(const QString &camera) override { m_chosen = camera; }
     QFuture<bool> configure() override;
     void startRunning() override;
     void stopRunning() override;
@@ -41,6 +43,7 @@ private:
     const QString m_helper;
     CameraAccess m_access;
     Handlers m_handlers;
+    QString m_chosen;   ///< The identifier of the wanted camera.
     quint64 m_runs = 0; ///< Starts so far: the number of the present run.
     bool m_running = false;
     bool m_ordered = false; ///< A picture is on its way.

@@ -18,6 +18,10 @@ namespace {
 
 using Folders = ScreenshotFolders;
 
+constexpr int kMostDepth = 3;         // As in year/month/day.
+constexpr qsizetype kMostOfOne = 31;  // Right below a folder.
+constexpr qsizetype kMostBelow = 128; // Each is watched.
+
 QString userFolder(QStandardPaths::StandardLocation location)
 {
     return QStandardPaths::writableLocation(location);
@@ -57,6 +61,23 @@ ScreenshotFolder examined(ScreenshotFolder folder)
     return folder;
 }
 
+void appendFolders(QStringList &found, const QString &parent)
+{
+    DIR *opened = found.size() < kMostBelow ? ::opendir(QFile::encodeName(parent).constData()) : nullptr;
+    if (!opened)
+        return;
+    QStringList names;
+    while (const dirent *entry = ::readdir(opened)) {
+        if (entry->d_type == DT_DIR && entry->d_name[0] != '.')
+            names.append(parent + QLatin1Char('/') + QFile::decodeName(entry->d_name));
+    }
+    ::closedir(opened);
+    names.sort();
+    // Those that are named for a date, the newest first.
+    std::ranges::reverse(names);
+    found += names.mid(0, std::min(kMostOfOne, kMostBelow - found.size()));
+}
+
 /// The folders right below one that are named for screenshots.
 QStringList namedBelow(const QString &parent)
 {
@@ -78,6 +99,19 @@ QStringList namedBelow(const QString &parent)
     return found;
 }
 
+/// The folders below one, level by level, without links and hidden ones.
+QStringList foldersBelow(const QString &top)
+{
+    QStringList found{top};
+    qsizetype level = 0;
+    for (int depth = 0; depth < kMostDepth; ++depth) {
+        const qsizetype end = found.size();
+        for (; level < end; ++level)
+            appendFolders(found, found.at(level));
+    }
+    return found.mid(1);
+}
+
 void add(Folders &folders, const QString &path, bool dedicated)
 {
     if (path.isEmpty())
@@ -93,20 +127,30 @@ void add(Folders &folders, const QString &path, bool dedicated)
         same->dedicated = same->dedicated || dedicated;
 }
 
+/// A folder that screenshots are told to go to, and those below where it holds pictures only.
+void addTree(Folders &folders, const QString &path, bool dedicated)
+{
+    add(folders, path, dedicated);
+    if (!dedicated && path != userFolder(QStandardPaths::PicturesLocation))
+        return;
+    for (const QString &below : foldersBelow(QDir::cleanPath(path)))
+        add(folders, below, dedicated);
+}
+
 } // namespace
 
 ScreenshotFolders findScreenshotFolders(const QString &location, const ScreenshotTools &tools)
 {
     const QString pictures = userFolder(QStandardPaths::PicturesLocation);
     Folders folders;
-    add(folders, location, !isGeneral(location));
+    addTree(folders, location, !location.isEmpty() && !isGeneral(location));
     for (const QString &path : tools.folders)
-        add(folders, path, ScreenshotNames::isScreenshotFolder(QDir(path).dirName()));
+        addTree(folders, path, ScreenshotNames::isScreenshotFolder(QDir(path).dirName()));
     const QString session = qEnvironmentVariable("XDG_SCREENSHOTS_DIR");
     if (QDir::isAbsolutePath(session))
-        add(folders, session, !isGeneral(session));
+        addTree(folders, session, !isGeneral(session));
     for (const QString &path : namedBelow(pictures))
-        add(folders, path, true);
+        addTree(folders, path, true);
     for (const QString &path : {pictures, userFolder(QStandardPaths::DesktopLocation), QDir::homePath()})
         add(folders, path, false);
     return folders;

@@ -9,7 +9,7 @@
 
 namespace Kestrune {
 
-/// A folder in which screenshots are looked for, not in the folders below.
+/// A folder in which screenshots are looked for; those below it have entries of their own.
 struct ScreenshotFolder
 {
     enum class State { missing, unreadable, readable };
@@ -27,7 +27,8 @@ using ScreenshotFolders = QList<ScreenshotFolder>;
 
 /// Where screenshots are found now: `location` (the user's own choice, may be empty), what the tools were
 /// told, the folders below the user's pictures that are named for them, the user's folders for pictures and
-/// the desktop, and the home folder. The likeliest first; each folder once. Any thread; reads the disk.
+/// the desktop, and the home folder. Where one of the first holds nothing but pictures, up to 128 folders
+/// below it count as well. The likeliest first; each folder once. Any thread; reads the disk.
 ScreenshotFolders findScreenshotFolders(const QString &location, const ScreenshotTools &tools);
 
 } // namespace Kestrune

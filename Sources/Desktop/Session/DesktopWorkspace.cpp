@@ -3,7 +3,10 @@
 #include "CoreDumps.h"
 #include "Desktop/Bus/BusCall.h"
 #include "Log.h"
+#include "PictureEditor.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QUrl>
@@ -15,6 +18,8 @@
 namespace Kestrune {
 
 Q_LOGGING_CATEGORY(sessionLog, "kestrune.session", QtWarningMsg)
+
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -71,8 +76,10 @@ void openSettings()
     qCInfo(sessionLog, "no settings program is installed");
 }
 
-constexpr int kRevealTimeout = 5000; // ms, for a file manager that is started by the call.
-constexpr int kMostFolders = 3;      // Windows that one request may open.
+constexpr auto kLongestEditorSearch = 10s;
+constexpr auto kLongestTrashing = 60s; // To another disk it is a copy.
+constexpr int kRevealTimeout = 5000;   // ms, for a file manager that is started by the call.
+constexpr int kMostFolders = 3;        // Windows that one request may open.
 
 void openWithDesktop(const QUrl &url)
 {
@@ -84,6 +91,22 @@ QList<QUrl> localFiles(QList<QUrl> files)
 {
     files.removeIf([](const QUrl &file) { return !file.isLocalFile(); });
     return files;
+}
+
+/// Without a trash that can be made or trusted, some versions of Qt move the file to a folder of the
+/// program's own instead: then it comes back.
+bool trash(const QString &path)
+{
+    QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    QString moved;
+    if (!QFile::moveToTrash(path, &moved))
+        return false;
+    const QString place = QFileInfo(moved).absolutePath();
+    if (place.contains(QLatin1String("/Trash/")) || place.contains(QLatin1String("/.Trash")))
+        return true;
+    qCWarning(sessionLog, "there is no trash");
+    QFile::rename(moved, path);
+    return false;
 }
 
 void openFolders(const QList<QUrl> &files)
@@ -124,6 +147,36 @@ void DesktopWorkspace::reveal(const QList<QUrl> &files)
         qCInfo(sessionLog, "no file manager shows files: %s", qUtf8Printable(reply.errorName()));
         openFolders(local);
     });
+}
+
+QFuture<bool> DesktopWorkspace::hasPictureEditor()
+{
+    return m_entries.run(kLongestEditorSearch, [] { return findPictureEditor().has_value(); });
+}
+
+void DesktopWorkspace::edit(const QUrl &picture)
+{
+    if (picture.isLocalFile())
+        m_edits.start(&DesktopWorkspace::startEditor, this, picture);
+}
+
+/// Looked for anew: another may have been installed since.
+QCoro::Task<> DesktopWorkspace::startEditor(QUrl picture)
+{
+    const QFuture<std::optional<PictureEditor>> asked =
+        m_entries.run(kLongestEditorSearch, [] { return findPictureEditor(); });
+    const std::optional<PictureEditor> editor = co_await until(asked);
+    if (!editor)
+        co_return;
+    const QStringList words = editor->commandFor(picture.toLocalFile());
+    if (!startProgram(words.constFirst(), words.mid(1)))
+        qCInfo(sessionLog, "%s cannot be started", qUtf8Printable(editor->entry));
+}
+
+QFuture<bool> DesktopWorkspace::moveToTrash(const QUrl &file)
+{
+    return m_trash.run(kLongestTrashing,
+                       [path = file.toLocalFile()] { return !path.isEmpty() && trash(path); });
 }
 
 } // namespace Kestrune

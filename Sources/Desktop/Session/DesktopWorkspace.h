@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Async/Scope.h"
+#include "Async/Worker.h"
 #include "NotchKit/Platform/Workspace.h"
 
 #include <QDBusConnection>
@@ -18,10 +20,18 @@ public:
 
     void open(const QUrl &url) override;
     void reveal(const QList<QUrl> &files) override;
+    QFuture<bool> hasPictureEditor() override;
+    void edit(const QUrl &picture) override;
+    QFuture<bool> moveToTrash(const QUrl &file) override;
 
 private:
+    QCoro::Task<> startEditor(QUrl picture);
+
     QDBusConnection m_bus;
     QObject m_answers; ///< Ends the calls that are under way with this object.
+    Worker m_entries{"editors"};
+    Worker m_trash{"trash"};
+    Scope m_edits;
 };
 
 } // namespace Kestrune

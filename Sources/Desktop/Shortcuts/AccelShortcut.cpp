@@ -58,7 +58,7 @@ AccelShortcut::~AccelShortcut()
 /// The ids of program and action, and both for the eyes of the user.
 QStringList AccelShortcut::action() const
 {
-    return {m_wanted.program, WantedShortcut::action(), QStringLiteral("Kestrune"), m_wanted.description};
+    return {m_wanted.program, m_wanted.action, QStringLiteral("Kestrune"), m_wanted.description};
 }
 
 QFuture<QDBusMessage> AccelShortcut::ask(const QString &method, const QVariantList &arguments)
@@ -108,7 +108,7 @@ void AccelShortcut::listen(const QString &sender, const QString &component)
 
 bool AccelShortcut::isOurs(const QDBusMessage &signal) const
 {
-    return signal.arguments().mid(0, 2) == QVariantList{m_wanted.program, WantedShortcut::action()};
+    return signal.arguments().mid(0, 2) == QVariantList{m_wanted.program, m_wanted.action};
 }
 
 void AccelShortcut::takePressed(const QDBusMessage &signal)

@@ -63,8 +63,13 @@ PortalHotKeys::~PortalHotKeys() = default;
 
 bool PortalHotKeys::registerHotKey(quint32 keyCode, quint32 modifiers, HotKeyIdentity identity)
 {
+    const bool forPrompter = identity.purpose == HotKeyPurpose::prompter;
     const WantedShortcut wanted{QStringLiteral("example.kestrune.Kestrune"),
-                                QCoreApplication::translate("notch", "Open Notch"),
+                                forPrompter ? QStringLiteral("prompter") : QStringLiteral("toggle"),
+                                //: What a hot key does, in the desktop's settings.
+                                forPrompter
+                                    ? QCoreApplication::translate("notch", "Play or pause the teleprompter")
+                                    : QCoreApplication::translate("notch", "Open Notch"),
                                 {keyCode, modifiers}};
     Registration &registration = m_registrations.emplace_back(Registration{identity, wanted, nullptr});
     if (!m_bus.isConnected()) // Calls would stay without an answer.

@@ -83,7 +83,7 @@ QFuture<PortalAnswer> PortalShortcut::bindKey()
 {
     const QVariantMap properties{{QStringLiteral("description"), m_wanted.description},
                                  {QStringLiteral("preferred_trigger"), m_wanted.keys.trigger()}};
-    const QList<PortalKey> keys{{WantedShortcut::action(), properties}};
+    const QList<PortalKey> keys{{m_wanted.action, properties}};
     auto *request = new PortalRequest(m_bus, m_portal, this);
     return request->send(
         QStringLiteral("BindShortcuts"),
@@ -118,13 +118,13 @@ bool PortalShortcut::isOurs(const QDBusMessage &signal) const
 
 void PortalShortcut::takeActivated(const QDBusMessage &signal)
 {
-    if (isOurs(signal) && signal.arguments().value(1) == WantedShortcut::action())
+    if (isOurs(signal) && signal.arguments().value(1) == m_wanted.action)
         keyWentDown();
 }
 
 void PortalShortcut::takeDeactivated(const QDBusMessage &signal)
 {
-    if (isOurs(signal) && signal.arguments().value(1) == WantedShortcut::action())
+    if (isOurs(signal) && signal.arguments().value(1) == m_wanted.action)
         keyWentUp();
 }
 
@@ -146,7 +146,7 @@ void PortalShortcut::takeClosed()
 void PortalShortcut::take(const QList<PortalKey> &keys)
 {
     using State = HotKeyBinding::State;
-    const auto ours = std::ranges::find(keys, WantedShortcut::action(), &PortalKey::id);
+    const auto ours = std::ranges::find(keys, m_wanted.action, &PortalKey::id);
     if (ours == keys.cend()) {
         setBinding({State::unbound});
         return;

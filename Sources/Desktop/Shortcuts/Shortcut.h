@@ -12,11 +12,9 @@ namespace Kestrune {
 struct WantedShortcut
 {
     QString program;     ///< The id of the application, which is the name of its desktop file.
+    QString action;      ///< Its name among the program's, the same in every run.
     QString description; ///< What it does, for the desktop's own settings.
     KeyCombination keys;
-
-    /// The name of the one shortcut that there is.
-    static QString action() { return QStringLiteral("toggle"); }
 };
 
 /// One registration with a service of the desktop; it ends with the object.

@@ -218,17 +218,22 @@ bool X11HotKeys::nativeEventFilter(const QByteArray &, void *message, qintptr *)
 
 bool X11HotKeys::handleKey(const xcb_key_press_event_t &event, bool press)
 {
-    const auto held = std::ranges::find(m_grabs, event.detail, &Grab::keycode);
-    if (event.event != X11::root() || held == m_grabs.end())
+    if (event.event != X11::root())
         return false;
-    // A key held down repeats as presses, with or without releases at the very same time between them.
-    const bool repeated = std::exchange(held->down, press) || event.time == held->released;
-    if (!press)
-        held->released = event.time;
-    const bool matches = (event.state & kAllModifiers & ~lockMask()) == held->modifiers;
-    if (press && matches && !repeated && m_handler)
-        m_handler(held->identity);
-    return true;
+    const int modifiers = event.state & kAllModifiers & ~lockMask();
+    bool isOurs = false;
+    for (Grab &held : m_grabs) {
+        if (held.keycode != event.detail)
+            continue;
+        isOurs = true;
+        // A key held down repeats as presses, with or without releases at the very same time between them.
+        const bool repeated = std::exchange(held.down, press) || event.time == held.released;
+        if (!press)
+            held.released = event.time;
+        if (press && modifiers == held.modifiers && !repeated && m_handler)
+            m_handler(held.identity);
+    }
+    return isOurs;
 }
 
 } // namespace Kestrune

@@ -4,6 +4,7 @@
 
 #include <QDrag>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QMimeData>
 #include <QPainter>
 #include <QPixmap>
@@ -12,13 +13,35 @@
 #include <QQuickWindow>
 #include <QStyleHints>
 
+#include <algorithm>
+
 namespace Kestrune {
 
 namespace {
 
 constexpr int kSize = 72; // Points.
+constexpr int kBadge = 22;
 
 bool isHeld() { return QGuiApplication::mouseButtons().testFlag(Qt::LeftButton); }
+
+/// How many files the pointer carries, in the corner.
+void drawCount(QPixmap &pixmap, qsizetype count)
+{
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QFont font;
+    font.setPixelSize(kBadge * 2 / 3);
+    font.setBold(true);
+    painter.setFont(font);
+    const QString text = QLocale().toString(count);
+    const int width = std::max(kBadge, painter.fontMetrics().horizontalAdvance(text) + kBadge / 2);
+    const QRect badge(pixmap.width() - width, 0, std::min(width, pixmap.width()), kBadge);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x4d, 0xa3, 0xff));
+    painter.drawRoundedRect(badge, kBadge / 2.0, kBadge / 2.0);
+    painter.setPen(Qt::black);
+    painter.drawText(badge, Qt::AlignCenter, text);
+}
 
 /// The mouse area would otherwise wait for a release that the drag keeps to itself.
 void ungrabMouse(const QObject *mouseArea)
@@ -34,16 +57,24 @@ void ungrabMouse(const QObject *mouseArea)
 void FileDrag::move(double x, double y)
 {
     const double distance = (QPointF(x, y) - m_pressed).manhattanLength();
-    if (!m_active && isHeld() && distance >= QGuiApplication::styleHints()->startDragDistance())
+    if (!m_active && !m_urls.isEmpty() && isHeld() &&
+        distance >= QGuiApplication::styleHints()->startDragDistance())
         run();
 }
 
-/// Opaque to its corners: without a compositor there is no other.
 QPixmap FileDrag::carried() const
 {
-    if (!m_picture.isNull())
-        return QPixmap::fromImage(
-            m_picture.scaled(kSize, kSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    QPixmap pixmap = m_picture.isNull() ? drawnSymbol()
+                                        : QPixmap::fromImage(m_picture.scaled(
+                                              kSize, kSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    if (m_urls.size() > 1)
+        drawCount(pixmap, m_urls.size());
+    return pixmap;
+}
+
+/// Opaque to its corners: without a compositor there is no other.
+QPixmap FileDrag::drawnSymbol() const
+{
     QPixmap pixmap(kSize, kSize);
     pixmap.fill(QColor(0x2c, 0x2c, 0x2e));
     QPainter painter(&pixmap);

@@ -37,6 +37,7 @@ Q_SIGNALS:
 
 private:
     QPixmap carried() const;
+    QPixmap drawnSymbol() const;
     void run();
     void setActive(bool active);
 

@@ -24,31 +24,42 @@ FileDropArea::FileDropArea(QQuickItem *parent)
 
 void FileDropArea::dragEnterEvent(QDragEnterEvent *event)
 {
-    const bool wanted = !event->source() && event->mimeData()->hasUrls();
-    setTargeted(wanted);
-    if (wanted)
-        acceptReference(*event);
-    else
-        event->ignore();
+    m_offered = !event->source() && event->mimeData()->hasUrls();
+    answer(*event);
 }
 
-void FileDropArea::dragMoveEvent(QDragMoveEvent *event)
+void FileDropArea::dragMoveEvent(QDragMoveEvent *event) { answer(*event); }
+
+void FileDropArea::answer(QDropEvent &event)
 {
+    if (m_offered)
+        Q_EMIT moved();
+    setTargeted(m_offered && !m_refused);
     if (m_targeted)
-        acceptReference(*event);
+        acceptReference(event);
     else
-        event->ignore();
+        event.ignore();
 }
 
-void FileDropArea::dragLeaveEvent(QDragLeaveEvent *) { setTargeted(false); }
+void FileDropArea::dragLeaveEvent(QDragLeaveEvent *)
+{
+    m_offered = false;
+    setTargeted(false);
+}
 
 void FileDropArea::dropEvent(QDropEvent *event)
 {
-    if (!m_targeted)
-        return;
-    acceptReference(*event);
-    Q_EMIT filesDropped();
+    answer(*event);
+    if (m_targeted)
+        Q_EMIT filesDropped();
+    m_offered = false;
     setTargeted(false);
+}
+
+void FileDropArea::setRefused(bool refused)
+{
+    m_refused = refused;
+    setTargeted(m_offered && !m_refused);
 }
 
 void FileDropArea::setTargeted(bool targeted)

@@ -2,6 +2,7 @@
 
 #include <QFuture>
 #include <QImage>
+#include <QList>
 #include <QSize>
 
 #include <functional>
@@ -13,7 +14,17 @@ enum class CameraAuthorization {
     notDetermined, ///< The user has not been asked.
     restricted,    ///< A policy forbids it.
     denied,
+    deniedBefore, ///< The user said no in the past, and the desktop answers for them.
     authorized,
+};
+
+/// A camera of the machine.
+struct CameraDevice
+{
+    QString id; ///< The same whenever it is plugged in.
+    QString name;
+
+    bool operator==(const CameraDevice &) const = default;
 };
 
 /// How a picture is to be made for the place where it is shown.
@@ -47,11 +58,19 @@ public:
     /// What is known now.
     virtual CameraAuthorization authorization() = 0;
 
-    /// Asks the system, and through it the user, which may take as long as the user does. Whether it is
-    /// allowed; `authorization` then tells the same. Cancelling the future gives the question up.
-    virtual QFuture<bool> requestAccess() = 0;
+    /// Asks the system, and where `mayAskUser` through it the user, which may take as long as the user does.
+    /// Whether it is allowed; `authorization` then tells the same, or that it is not determined where only
+    /// the user could tell. Cancelling the future gives the question up.
+    virtual QFuture<bool> requestAccess(bool mayAskUser) = 0;
 
-    /// Takes the default camera as the session's input; false where there is none that can be used.
+    /// The cameras that can be used now, by name. The future always finishes.
+    virtual QFuture<QList<CameraDevice>> cameras() = 0;
+
+    /// Chooses the camera for the next `configure` and start: that of the identifier where it is there, else
+    /// and for an empty one the default camera.
+    virtual void choose(const QString &camera) = 0;
+
+    /// Takes the chosen camera as the session's input; false where there is none that can be used.
     /// Cancelling the future gives it up.
     virtual QFuture<bool> configure() = 0;
 

@@ -7,11 +7,16 @@
 
 namespace Kestrune {
 
+/// What a hot key is for: a desktop that is asked for it keeps the user's choice by that.
+enum class HotKeyPurpose { toggle, prompter };
+
 /// Who a hot-key registration belongs to.
 struct HotKeyIdentity
 {
     quint32 signature = 0; ///< Four-character code of the program, big-endian.
     quint32 id = 0;        ///< Number of the registration, never used twice in a process.
+
+    HotKeyPurpose purpose = HotKeyPurpose::toggle;
 
     bool operator==(const HotKeyIdentity &) const = default;
 };

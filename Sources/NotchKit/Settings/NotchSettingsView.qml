@@ -58,6 +58,11 @@ Column {
             }
         }
         SwitchRow {
+            title: qsTranslate("notch", "Play and pause the teleprompter with ⌃⌥⌘P")
+            on: view.settings.prompterShortcutEnabled
+            onModified: on => view.settings.prompterShortcutEnabled = on
+        }
+        SwitchRow {
             title: qsTranslate("notch", "Show the song or timer beside the closed notch")
             on: view.settings.liveActivities
             onModified: on => view.settings.liveActivities = on

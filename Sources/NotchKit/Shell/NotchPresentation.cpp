@@ -98,11 +98,13 @@ QVariantList NotchPresentation::homeColumns() const
     return columns;
 }
 
-void NotchPresentation::addToShelf(const QList<QUrl> &files) { m_services.model<ShelfModel>()->add(files); }
+ShelfModel *NotchPresentation::shelf() const { return m_services.model<ShelfModel>(); }
+
+void NotchPresentation::addToShelf(const QList<QUrl> &files) { shelf()->add(files); }
 
 void NotchPresentation::takeDrop()
 {
-    m_services.model<ShelfModel>()->loadURLs();
+    shelf()->loadURLs();
     selectTool(rawValue(NotchTool::shelf));
 }
 

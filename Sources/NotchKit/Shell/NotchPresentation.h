@@ -9,6 +9,8 @@
 
 namespace Kestrune {
 
+class ShelfModel;
+
 /// One block of Home: the file of its view, and the tool that it belongs to.
 struct HomeTile
 {
@@ -57,6 +59,7 @@ class NotchPresentation : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made for each notch window")
+    Q_MOC_INCLUDE("NotchKit/Tools/Shelf/ShelfModel.h")
     /// The offered tools in order.
     Q_PROPERTY(QList<Kestrune::ToolEntry> toolRow READ toolRow NOTIFY toolRowChanged)
     /// The selected tool's place in the row, -1 when it is not in it.
@@ -72,6 +75,7 @@ class NotchPresentation : public QObject
     Q_PROPERTY(QVariantList homeColumns READ homeColumns NOTIFY homeColumnsChanged)
     /// The raw values of the offered tools.
     Q_PROPERTY(QStringList offeredTools READ offeredTools NOTIFY toolRowChanged)
+    Q_PROPERTY(Kestrune::ShelfModel *shelf READ shelf CONSTANT)
     Q_PROPERTY(bool offersSettings READ offersSettings CONSTANT)
     Q_PROPERTY(QString creditTitle READ creditTitle CONSTANT)
 
@@ -87,6 +91,7 @@ public:
     ToolModel *activityModel() const;
     QVariantList homeColumns() const;
     QStringList offeredTools() const { return rawValues(m_services.settings()->tools()); }
+    ShelfModel *shelf() const;
     bool offersSettings() const { return bool(m_services.openSettings); }
     QString creditTitle() const;
 

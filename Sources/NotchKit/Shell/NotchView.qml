@@ -74,6 +74,8 @@ FocusScope {
     FileDropArea {
         anchors.fill: parent
         enabled: view.presentation.offeredTools.indexOf("shelf") >= 0
+        refused: view.presentation.shelf.refusesDrag
+        onMoved: view.presentation.shelf.followDrag()
         onTargetedChanged: view.screenModel.dropTargeted = targeted
         onFilesDropped: {
             view.presentation.takeDrop()

@@ -141,7 +141,7 @@ private Q_SLOTS:
             QVERIFY(portal.appear([&](const QDBusMessage &call) { return reply(portal, call, behaviour); }));
         Stage stage(portal.bus());
         QCOMPARE(stage.camera.authorization(), Authorization::notDetermined);
-        const auto allowed = stage.camera.requestAccess();
+        const auto allowed = stage.camera.requestAccess(true);
         QTRY_VERIFY(allowed.isFinished());
         QCOMPARE(allowed.result(), answer == Authorization::authorized);
         QCOMPARE(stage.camera.authorization(), answer);
@@ -153,12 +153,69 @@ private Q_SLOTS:
         QCOMPARE(stage.camera.authorization(), Authorization::notDetermined);
     }
 
+    void asksTheUserOnlyWhereItMay_data()
+    {
+        // What the desktop remembers; whether the portal is asked without the user, and what comes of it.
+        columns<QString, bool, Authorization>();
+        QTest::newRow("nothing") << u""_s << false << Authorization::notDetermined;
+        QTest::newRow("to ask") << u"ask"_s << false << Authorization::notDetermined;
+        QTest::newRow("yes") << u"yes"_s << true << Authorization::authorized;
+        QTest::newRow("no") << u"no"_s << true << Authorization::deniedBefore;
+    }
+    void asksTheUserOnlyWhereItMay()
+    {
+        const auto [remembered, isAsked, answer] = fetched<QString, bool, Authorization>();
+        using Stored = QMap<QString, QStringList>;
+        qDBusRegisterMetaType<Stored>();
+        BusStandIn portal(kPortal);
+        QVERIFY(portal.appear([&](const QDBusMessage &call) {
+            return reply(portal, call, remembered == "yes"_L1 ? u"0"_s : u"1"_s);
+        }));
+        ServiceStandIn store(portal.address(), u"org.freedesktop.impl.portal.PermissionStore"_s);
+        QVERIFY(store.appear([&](const QDBusMessage &call) {
+            if (remembered.isEmpty())
+                return call.createErrorReply(u"org.freedesktop.portal.Error.NotFound"_s, u"none"_s);
+            const Stored stored{{u"example.kestrune.Kestrune"_s, {remembered}}, {u"other"_s, {u"no"_s}}};
+            return call.createReply({QVariant::fromValue(stored), QVariant::fromValue(QDBusVariant(0))});
+        }));
+        Stage stage(portal.bus());
+        const auto allowed = stage.camera.requestAccess(false);
+        QTRY_VERIFY(allowed.isFinished());
+        QCOMPARE(stage.camera.authorization(), answer);
+        QCOMPARE(portal.called().last().endsWith(u"AccessCamera"_s), isAsked);
+        QCOMPARE(store.calls.constFirst().arguments(), (QVariantList{u"devices"_s, u"camera"_s}));
+    }
+
+    void listsTheCameras()
+    {
+        const Home home;
+        CameraServer server(QProcessEnvironment::systemEnvironment());
+        Stage stage(home.portal.bus());
+        const auto listed = [&] {
+            const auto cameras = stage.camera.cameras();
+            const bool done = waitUntil([&] { return cameras.isFinished(); });
+            return done ? cameras.result() : QList<CameraDevice>{{}, {}};
+        };
+        QCOMPARE(listed(), QList<CameraDevice>());
+        QVERIFY(server.plugIn());
+        const auto cameras = listed();
+        QCOMPARE(cameras.size(), 1);
+        QVERIFY(!cameras.constFirst().id.isEmpty() && !cameras.constFirst().name.isEmpty());
+        for (const QString &chosen : {cameras.constFirst().id, u"not there"_s}) {
+            stage.camera.choose(chosen);
+            QVERIFY(stage.configure());
+            stage.camera.startRunning();
+            QVERIFY(!stage.take().isNull());
+            stage.camera.stopRunning();
+        }
+    }
+
     void noCamera()
     {
         const Home home;
         QVERIFY(!Stage(home.portal.bus()).configure());
         Stage stage(home.portal.bus(), u"/nowhere"_s);
-        const auto allowed = stage.camera.requestAccess();
+        const auto allowed = stage.camera.requestAccess(true);
         QTRY_VERIFY(allowed.isFinished());
         QVERIFY(allowed.result() && !stage.configure());
         // That was allowed because there was none: one that comes has to be asked for.

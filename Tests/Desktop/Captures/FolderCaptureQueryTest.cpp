@@ -115,6 +115,27 @@ private Q_SLOTS:
             {u"Pictures/Screenshots/any.jpg"_s, u"Desktop/door.png"_s, u"Pictures/report.png"_s}));
     }
 
+    void foldersBelowCount()
+    {
+        Stage stage;
+        const QString shots = stage.home.make(u"mine"_s);
+        stage.preferences.setObject(FolderCaptureQuery::locationKey(), shots);
+        stage.home.write(u"mine/2026/11/one.png"_s);
+        stage.home.write(u"mine/.hidden/no.png"_s);
+        stage.home.write(u"mine/1/2/3/4/too deep.png"_s);
+        QVERIFY(stage.start());
+        QCOMPARE(stage.found(), QStringList{u"mine/2026/11/one.png"_s});
+        stage.home.write(u"mine/2026/12/two.png"_s); // In a folder that is made with it.
+        QVERIFY(stage.finds({u"mine/2026/12/two.png"_s, u"mine/2026/11/one.png"_s}));
+        QVERIFY(QFile::remove(stage.home.path(u"mine/2026/11/one.png"_s)));
+        QVERIFY(stage.finds({u"mine/2026/12/two.png"_s}));
+        for (int i = 0; i < 300; ++i)
+            stage.home.make(u"mine/many/%1"_s.arg(i));
+        stage.home.write(u"mine/2026/12/three.png"_s);
+        QVERIFY2(stage.finds({u"mine/2026/12/three.png"_s, u"mine/2026/12/two.png"_s}),
+                 "it got lost among many");
+    }
+
     void settingsOfTools_data()
     {
         const auto row = columns<QString, QString, QString>();

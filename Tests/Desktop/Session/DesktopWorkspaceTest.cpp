@@ -2,6 +2,8 @@
 #include "Desktop/BusStandIn.h"
 #include "Desktop/Session/CoreDumps.h"
 
+#include <QStorageInfo>
+
 #include <sys/prctl.h>
 
 /// Showing files in the file manager, over a stand-in of it and of the program that opens folders.
@@ -69,6 +71,68 @@ private Q_SLOTS:
         QStringList folders = opened();
         folders.sort(); // They are opened by programs of their own, which run at the same time.
         QCOMPARE(folders, QStringList({u"file:///"_s, u"file:///tmp/a%20b/"_s, u"file:///tmp/c/"_s}));
+    }
+
+    void theInstalledEditorOpensPictures_data()
+    {
+        // What is installed, what the user prefers, and which one edits.
+        columns<QStringList, QByteArray, QString>();
+        QTest::newRow("none") << QStringList{u"viewer"_s, u"hidden"_s, u"gone"_s} << QByteArray()
+                              << QString();
+        QTest::newRow("any") << QStringList{u"viewer"_s, u"painter"_s} << QByteArray() << u"painter"_s;
+        QTest::newRow("one for notes") << QStringList{u"painter"_s, u"notes"_s} << QByteArray() << u"notes"_s;
+        QTest::newRow("preferred") << QStringList{u"painter"_s, u"notes"_s}
+                                   << "[Added Associations]\nimage/png=viewer.desktop;painter.desktop;\n"_ba
+                                   << u"painter"_s;
+    }
+    void theInstalledEditorOpensPictures()
+    {
+        const auto [installed, associations, edits] = fetched<QStringList, QByteArray, QString>();
+        const QMap<QString, QByteArray> keys{
+            {u"viewer"_s, "Categories=Graphics;RasterGraphics;Viewer;"},
+            {u"hidden"_s, "Categories=Graphics;RasterGraphics;\nNoDisplay=true"},
+            {u"gone"_s, "Categories=RasterGraphics;\nTryExec=/not/there"},
+            {u"painter"_s, "Categories=Graphics;RasterGraphics;"},
+            {u"notes"_s, "Categories=Utility;Annotation;"}};
+        QTemporaryDir data;
+        const QByteArray log = m_folder.filePath(u"opened"_s).toUtf8();
+        for (const QString &name : installed)
+            QVERIFY(writeFile(data.filePath(u"applications/%1.desktop"_s.arg(name)),
+                              "[Desktop Entry]\nType=Application\nMimeType=image/jpeg;image/png;\n" +
+                                  keys[name] + "\nExec=sh -c \"echo " + name.toUtf8() + " $0 >> " + log +
+                                  "\" %f %i\n"));
+        QVERIFY(writeFile(data.filePath(u"applications/mimeapps.list"_s), associations));
+        for (const char *name : {"XDG_DATA_HOME", "XDG_DATA_DIRS", "XDG_CONFIG_HOME"})
+            qputenv(name, data.path().toUtf8());
+        BusStandIn bus(u"org.freedesktop.FileManager1"_s);
+        DesktopWorkspace workspace(bus.bus());
+        const auto has = workspace.hasPictureEditor();
+        QTRY_VERIFY(has.isFinished());
+        QCOMPARE(has.result(), !edits.isEmpty());
+        workspace.edit(QUrl::fromLocalFile(u"/tmp/50%_#1.png"_s));
+        if (!edits.isEmpty())
+            QTRY_COMPARE(opened(), QStringList{edits + u" /tmp/50%_#1.png"_s});
+    }
+
+    void filesGoToTheTrash()
+    {
+        QTemporaryDir home;
+        qputenv("XDG_DATA_HOME", home.filePath(u"data"_s).toUtf8());
+        const QString file = home.filePath(u"50% #1.png"_s);
+        QVERIFY(writeFile(file, "picture"));
+        BusStandIn bus(u"org.freedesktop.FileManager1"_s);
+        DesktopWorkspace workspace(bus.bus());
+        const auto outcome = [](const QFuture<bool> &moved) {
+            return waitUntil([&] { return moved.isFinished(); }) && moved.result();
+        };
+        QVERIFY(outcome(workspace.moveToTrash(QUrl::fromLocalFile(file))));
+        QVERIFY(!QFile::exists(file));
+        const QStringList trashed =
+            QDir(home.filePath(u"data/Trash/files"_s)).entryList(QDir::Files) +
+            QDir(QStorageInfo(home.path()).rootPath()).entryList({u".Trash*"_s}, QDir::Dirs | QDir::Hidden);
+        QVERIFY2(!trashed.isEmpty(), "it is in no trash");
+        QVERIFY(!outcome(workspace.moveToTrash(QUrl::fromLocalFile(file))));
+        QVERIFY(!outcome(workspace.moveToTrash(QUrl(u"https://example.org/"_s))));
     }
 
     void onlyWhatItOpensMayDumpCore()

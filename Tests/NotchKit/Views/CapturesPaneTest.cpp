@@ -38,6 +38,12 @@ private Q_SLOTS:
         QVERIFY(choose(3));
         QTRY_COMPARE(stage.core.pasteboard.written.files, QList<QUrl>{url});
         QVERIFY(stage.core.model().expanded());
+        QVERIFY(choose(4));
+        QCOMPARE(stage.core.workspace.trashed, QList<QUrl>{url});
+        QVERIFY(choose(5));
+        QCOMPARE(stage.core.workspace.edited, QList<QUrl>{url});
+        QVERIFY(!stage.core.model().expanded());
+        stage.open(NotchTool::captures);
 
         captures.accessMissing = true;
         captures.handler();

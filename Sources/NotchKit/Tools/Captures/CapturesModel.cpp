@@ -1,5 +1,6 @@
 #include "CapturesModel.h"
 
+#include "NotchKit/NotchStrings.h"
 #include "NotchKit/Platform/OfferedPictures.h"
 #include "NotchKit/Platform/Thumbnails.h"
 #include "NotchKit/Platform/Workspace.h"
@@ -116,8 +117,12 @@ void CapturesModel::followSetting()
 
 void CapturesModel::visibleToolChanged(std::optional<NotchTool> visible)
 {
-    if (visible == tool())
-        requestAccess();
+    if (visible != tool())
+        return;
+    m_fault = QString();
+    requestAccess();
+    if (!m_editor.isWaiting())
+        m_editor.start(&CapturesModel::lookForEditor, this);
 }
 
 void CapturesModel::requestAccess() { m_query.requestAccess(); }
@@ -244,6 +249,34 @@ void CapturesModel::reveal(const QString &id)
 {
     if (const QUrl url = find(id); !url.isEmpty())
         m_workspace.reveal({url});
+}
+
+QCoro::Task<> CapturesModel::lookForEditor()
+{
+    const QFuture<bool> asked = m_workspace.hasPictureEditor();
+    m_canEdit = co_await until(asked);
+}
+
+void CapturesModel::edit(const QString &id)
+{
+    if (const QUrl url = find(id); !url.isEmpty())
+        m_workspace.edit(url);
+}
+
+void CapturesModel::trash(const QString &id)
+{
+    m_fault = QString();
+    if (const QUrl url = find(id); !url.isEmpty())
+        m_trashing.start(&CapturesModel::moveToTrash, this, url);
+}
+
+QCoro::Task<> CapturesModel::moveToTrash(QUrl file)
+{
+    const QFuture<bool> asked = m_workspace.moveToTrash(file);
+    const bool moved = co_await until(asked);
+    if (!moved)
+        m_fault = notchStrings(QT_TRANSLATE_NOOP("notch", "%1 could not be moved to the trash."))
+                      .arg(file.fileName());
 }
 
 } // namespace Kestrune

@@ -55,6 +55,10 @@ class CapturesModel : public ToolModel
     Q_PROPERTY(QVariant fresh READ freshForViews NOTIFY freshChanged)
     /// The screenshots cannot be read before the user allows it.
     Q_PROPERTY(bool needsAccess READ needsAccess NOTIFY needsAccessChanged)
+    /// A program is installed in which screenshots can be edited.
+    Q_PROPERTY(bool canEdit READ canEdit NOTIFY canEditChanged)
+    /// What went wrong last, in the user's language; empty when nothing did.
+    Q_PROPERTY(QString fault READ fault NOTIFY faultChanged)
 
 public:
     using Item = CaptureItem;
@@ -74,6 +78,8 @@ public:
     std::optional<Item> fresh() const { return m_fresh; }
     QVariant freshForViews() const;
     bool needsAccess() const { return m_needsAccess; }
+    bool canEdit() const { return m_canEdit; }
+    QString fault() const { return m_fault; }
 
     /// Starts and stops the live query; the hub's start and stop and the tool's switch do the same.
     void start();
@@ -89,6 +95,8 @@ public:
     Q_INVOKABLE void open(const QString &id);   ///< In its default application.
     Q_INVOKABLE void copy(const QString &id);   ///< The picture and the file, onto the pasteboard.
     Q_INVOKABLE void reveal(const QString &id); ///< In the file manager.
+    Q_INVOKABLE void edit(const QString &id);   ///< In the installed editor.
+    Q_INVOKABLE void trash(const QString &id);  ///< It leaves the list when it is in the trash.
 
     Activity activity() const override;
     void hubStarted() override;
@@ -101,6 +109,8 @@ Q_SIGNALS:
     void thumbnailsChanged();
     void freshChanged();
     void needsAccessChanged();
+    void canEditChanged();
+    void faultChanged();
 
 private:
     /// What was asked for, of which state of the file. Dropping it gives the answer up.
@@ -115,6 +125,8 @@ private:
     void announce(const Items &before, bool canBeNew);
     void requestThumbnails(const QList<ScreenCapture> &captures);
     QCoro::Task<> makeThumbnail(QString id);
+    QCoro::Task<> lookForEditor();
+    QCoro::Task<> moveToTrash(QUrl file);
     void forget(const Items &kept);
     void receive(const QString &id, const QImage &image);
     QCoro::Task<> copyFile(QUrl url);
@@ -140,6 +152,11 @@ private:
                                &CapturesModel::freshChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CapturesModel, bool, m_needsAccess, false,
                                          &CapturesModel::needsAccessChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(CapturesModel, bool, m_canEdit, false,
+                                         &CapturesModel::canEditChanged)
+    Q_OBJECT_BINDABLE_PROPERTY(CapturesModel, QString, m_fault, &CapturesModel::faultChanged)
+    Scope m_editor;
+    Scope m_trashing;
 };
 
 } // namespace Kestrune

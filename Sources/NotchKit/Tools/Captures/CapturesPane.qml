@@ -80,7 +80,7 @@ Pane {
 
         anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         visible: grid.visible
-        text: qsTranslate("notch", "Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.")
+        text: pane.captures.fault || qsTranslate("notch", "Click to open · drag into any app · right-click to copy, AirDrop or add to the Shelf.")
         font.pixelSize: Theme.smallFontSize
         color: Theme.dim
         horizontalAlignment: Text.AlignHCenter
@@ -93,6 +93,10 @@ Pane {
         airDrop: pane.surroundings.airDrop
         screenModel: pane.screenModel
     }
+    AirDropNotice {
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: 24 }
+        menu: devices
+    }
     ContextMenu {
         id: menu
 
@@ -103,7 +107,12 @@ Pane {
             () => pane.captures.reveal(item.id),
             () => devices.send([item.url], menu.x, menu.y),
             () => pane.presentation.addToShelf([item.url]),
-            () => pane.captures.copy(item.id)
+            () => pane.captures.copy(item.id),
+            () => pane.captures.trash(item.id),
+            () => {
+                pane.captures.edit(item.id)
+                pane.surroundings.collapse()
+            }
         ]
 
         entries: [
@@ -111,8 +120,9 @@ Pane {
             qsTranslate("notch", "AirDrop"),
             qsTranslate("notch", "Add to Shelf"),
             //: In the menu of a screenshot: copy the picture.
-            qsTranslate("notch", "Copy")
-        ]
+            qsTranslate("notch", "Copy"),
+            qsTranslate("notch", "Move to Trash")
+        ].concat(pane.captures.canEdit ? [qsTranslate("notch", "Edit")] : [])
         onChosen: index => actions[index]()
     }
 }

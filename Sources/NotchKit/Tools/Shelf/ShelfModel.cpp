@@ -5,15 +5,12 @@
 #include "NotchKit/Platform/DragPasteboard.h"
 #include "NotchKit/Platform/Workspace.h"
 
-#include <QFileInfo>
+#include <algorithm>
 
 namespace Kestrune {
 
-using namespace std::chrono_literals;
-
 namespace {
 
-constexpr auto kLongestLook = 10s;
 constexpr qint64 kPruneInterval = 30; // Seconds.
 
 QStringList pathsOf(const QList<QUrl> &urls)
@@ -75,10 +72,33 @@ QCoro::Task<> ShelfModel::addDropped()
     add(dropped);
 }
 
-void ShelfModel::remove(const QUrl &url)
+void ShelfModel::followDrag()
+{
+    const QFuture<Items> asked = m_drags.fileUrls();
+    m_refusesDrag = asked.isFinished() && asked.result().isEmpty();
+    if (!asked.isFinished() && !m_drag.isWaiting())
+        m_drag.start(&ShelfModel::awaitDragged, this);
+}
+
+/// The pointer may rest until the files are known.
+QCoro::Task<> ShelfModel::awaitDragged()
+{
+    const QFuture<Items> asked = m_drags.fileUrls();
+    const Items dragged = co_await until(asked);
+    m_refusesDrag = dragged.isEmpty();
+}
+
+void ShelfModel::remove(const QUrl &url) { remove(QSet<QUrl>{url}); }
+
+void ShelfModel::removeWith(const QUrl &url)
+{
+    remove(m_chosen.value().contains(url) ? m_chosen.value() : QSet<QUrl>{url});
+}
+
+void ShelfModel::remove(const QSet<QUrl> &urls)
 {
     Items left = items();
-    left.removeAll(url);
+    left.removeIf([&](const QUrl &url) { return urls.contains(url); });
     persist(left);
 }
 
@@ -87,6 +107,7 @@ void ShelfModel::clear() { persist({}); }
 void ShelfModel::persist(const Items &items)
 {
     m_items = items;
+    m_chosen = QSet<QUrl>(m_chosen).intersect(QSet<QUrl>(items.cbegin(), items.cend()));
     m_settings.setShelfPaths(pathsOf(items));
 }
 
@@ -106,60 +127,99 @@ void ShelfModel::look()
 QCoro::Task<> ShelfModel::lookAtFiles()
 {
     while (std::exchange(m_lookAgain, false) && !items().isEmpty()) {
-        const auto work = [files = items()] { return inspect(files); };
-        const QFuture<Findings> looking = m_files.run(kLongestLook, work);
-        const Findings found = co_await until(looking);
+        const Items files = items();
+        const QStringList mounts = m_settings.shelfMounts();
+        const ShelfFindings found = co_await m_files.lookAt(files, mounts);
         take(found);
     }
 }
 
-ShelfModel::Findings ShelfModel::inspect(const Items &items)
+void ShelfModel::take(const ShelfFindings &found)
 {
-    Findings found;
-    found.complete = true;
-    for (const QUrl &url : items) {
-        const QFileInfo file(url.toLocalFile());
-        if (!file.exists())
-            found.missing.insert(url);
-        else if (file.isDir())
-            found.folders.insert(url);
-    }
-    return found;
+    m_folders = found.folders;
+    m_away = found.away;
+    m_settings.setShelfMounts(found.mounts);
+    if (std::exchange(m_pruning, false) && !found.gone.isEmpty())
+        remove(found.gone);
 }
 
-void ShelfModel::take(const Findings &found)
+void ShelfModel::choose(const QUrl &url, int modifiers)
 {
-    const bool prunes = std::exchange(m_pruning, false);
-    if (!found.complete)
+    if (modifiers & Qt::ShiftModifier) {
+        chooseTo(url);
         return;
-    m_folders = found.folders;
-    if (!prunes || found.missing.isEmpty())
-        return;
-    Items left = items();
-    left.removeIf([&](const QUrl &url) { return found.missing.contains(url); });
-    persist(left);
+    }
+    m_lastChosen = url;
+    QSet<QUrl> chosen = m_chosen;
+    if (!(modifiers & Qt::ControlModifier))
+        chosen = {url};
+    else if (!chosen.remove(url))
+        chosen.insert(url);
+    m_chosen = chosen;
+}
+
+/// All from the one that was chosen last; it stays the end to count from.
+void ShelfModel::chooseTo(const QUrl &url)
+{
+    const auto [first, last] = std::minmax(std::max(items().indexOf(m_lastChosen), qsizetype{0}),
+                                           std::max(items().indexOf(url), qsizetype{0}));
+    const Items range = items().mid(first, last - first + 1);
+    m_chosen = QSet<QUrl>(range.cbegin(), range.cend());
+}
+
+void ShelfModel::chooseAll() { m_chosen = QSet<QUrl>(items().cbegin(), items().cend()); }
+
+void ShelfModel::chooseNone()
+{
+    m_chosen = QSet<QUrl>();
+    m_lastChosen = QUrl();
+}
+
+QList<QUrl> ShelfModel::draggedWith(const QUrl &url) const
+{
+    Items dragged = m_chosen.value().contains(url) ? wanted() : Items{url};
+    dragged.removeIf([this](const QUrl &file) { return m_away.value().contains(file); });
+    return dragged;
+}
+
+/// The chosen items, or every item.
+ShelfModel::Items ShelfModel::wanted() const
+{
+    Items all = items();
+    if (!m_chosen.value().isEmpty())
+        all.removeIf([this](const QUrl &url) { return !m_chosen.value().contains(url); });
+    return all;
 }
 
 QList<ShelfTile> ShelfModel::computeTiles() const
 {
     QList<ShelfTile> tiles;
-    const QSet<QUrl> folders = m_folders;
+    const QSet<QUrl> folders = m_folders, away = m_away, chosen = m_chosen;
     for (const QUrl &url : m_items.value()) {
         const QString path = url.toLocalFile();
         const QString name = url.adjusted(QUrl::StripTrailingSlash).fileName();
-        tiles.append({url, name, path, folders.contains(url) ? QStringLiteral("folder") : fileSymbol(name)});
+        const QString symbol = folders.contains(url) ? QStringLiteral("folder") : fileSymbol(name);
+        tiles.append({url, name, path, symbol, away.contains(url), chosen.contains(url)});
     }
     return tiles;
 }
 
-int ShelfModel::airDrop() { return items().isEmpty() ? 0 : m_sharing.send(items()); }
+int ShelfModel::airDrop()
+{
+    Items sent = wanted();
+    sent.removeIf([this](const QUrl &file) { return m_away.value().contains(file); });
+    return sent.isEmpty() ? 0 : m_sharing.send(sent);
+}
 
-void ShelfModel::reveal() { m_workspace.reveal(items()); }
+void ShelfModel::reveal() { m_workspace.reveal(wanted()); }
 
 void ShelfModel::visibleToolChanged(std::optional<NotchTool> visible)
 {
-    if (visible == NotchTool::shelf)
-        prune();
+    chooseNone();
+    if (visible != NotchTool::shelf)
+        return;
+    prune();
+    m_sharing.look();
 }
 
 void ShelfModel::tick(const ClockTick &tick)

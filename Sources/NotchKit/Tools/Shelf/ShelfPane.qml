@@ -14,6 +14,17 @@ Pane {
         list.positionViewAtEnd()
     }
 
+    Keys.onPressed: event => {
+        if (event.matches(StandardKey.SelectAll))
+            shelf.chooseAll()
+        else
+            return
+        event.accepted = true
+    }
+
+    // A click beside the tiles.
+    TapHandler { onTapped: pane.shelf.chooseNone() }
+
     PaneMessage {
         anchors.fill: parent
         visible: rows.count === 0
@@ -59,9 +70,9 @@ Pane {
             height: ListView.view.height - 12
             tile: modelData
             surroundings: pane.surroundings
+            shelf: pane.shelf
             onHoveredChanged: if (hovered) tip.tile = this; else if (tip.tile === this) tip.tile = null
             onActiveFocusChanged: if (activeFocus) list.currentIndex = index
-            onRemoved: pane.shelf.remove(tile.url)
             onMenuWanted: (x, y, byKey) => {
                 const at = mapToItem(pane, x, y)
                 menu.url = tile.url
@@ -83,6 +94,7 @@ Pane {
         TextButton {
             symbol: "airplayaudio"
             text: qsTranslate("notch", "AirDrop")
+            help: pane.surroundings.airDrop.notice === "" && pane.surroundings.airDrop.lack || text
             onClicked: {
                 const at = mapToItem(pane, Theme.mirrored ? width : 0, 0)
                 devices.placeAt(at.x, at.y)
@@ -112,7 +124,7 @@ Pane {
         z: 2
         sourceComponent: HelpTip {
             anchor: tip.tile
-            text: tip.tile?.tile.path ?? ""
+            text: tip.tile?.description ?? ""
             below: true
         }
     }
@@ -123,6 +135,10 @@ Pane {
         airDrop: pane.surroundings.airDrop
         screenModel: pane.screenModel
     }
+    AirDropNotice {
+        anchors { horizontalCenter: parent.horizontalCenter; verticalCenter: list.verticalCenter }
+        menu: devices
+    }
     ContextMenu {
         id: menu
 
@@ -130,6 +146,6 @@ Pane {
 
         screenModel: pane.screenModel
         entries: [qsTranslate("notch", "Remove")]
-        onChosen: pane.shelf.remove(url)
+        onChosen: pane.shelf.removeWith(url)
     }
 }

@@ -1,36 +1,45 @@
 import QtQuick
 import Kestrune.Views
 
-/// One file of the shelf: its type, its name, a button that takes it off. It can be dragged out.
+/// One file of the shelf: its type, its name, a button that takes it off. It can be chosen, and dragged out with all that
+/// are chosen.
 Tile {
     id: view
 
     required property shelfTile tile
     required property NotchSurroundings surroundings
+    required property ShelfModel shelf
 
     readonly property bool hovered: mouse.containsMouse && !drag.active
 
-    signal removed
+    readonly property string description:
+        tile.path + (tile.away ? " · " + qsTranslate("notch", "Cannot be reached now") : "")
+
     signal menuWanted(real x, real y, bool byKey)
 
     width: 104
     color: mouse.containsMouse || remove.hovered || drag.active ? Theme.hovered : Theme.group
+    border { width: tile.chosen ? 2 : 1; color: tile.chosen ? Theme.accent : Theme.outline }
     activeFocusOnTab: true
     Accessible.role: Accessible.ListItem
     Accessible.name: tile.name
-    Accessible.description: tile.path
-    Keys.onDeletePressed: removed()
+    Accessible.description: description
+    Accessible.selectable: true
+    Accessible.selected: tile.chosen
+    Keys.onDeletePressed: shelf.removeWith(tile.url)
+    Keys.onSpacePressed: event => shelf.choose(tile.url, event.modifiers ^ Qt.ControlModifier)
     Keys.onMenuPressed: menuWanted(width / 2, height / 2, true)
 
     FocusRing { visible: view.activeFocus }
     Item {
         anchors { fill: parent; margins: 8 }
+        opacity: view.tile.away ? 0.4 : 1
 
         FileThumbnail {
             id: thumbnail
 
             surroundings: view.surroundings
-            path: view.tile.symbol === "photo" ? view.tile.path : ""
+            path: view.tile.symbol === "photo" && !view.tile.away ? view.tile.path : ""
         }
         Picture {
             anchors { fill: parent; bottomMargin: name.height + 4 }
@@ -65,17 +74,21 @@ Tile {
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         hoverEnabled: true
         preventStealing: true
-        onPressed: event => drag.press(event.x, event.y)
+        onPressed: event => {
+            drag.urls = view.shelf.draggedWith(view.tile.url)
+            drag.press(event.x, event.y)
+        }
         onPositionChanged: event => drag.move(event.x, event.y)
         onClicked: event => {
             if (event.button === Qt.RightButton)
                 view.menuWanted(event.x, event.y, false)
+            else
+                view.shelf.choose(view.tile.url, event.modifiers)
         }
 
         FileDrag {
             id: drag
 
-            urls: [view.tile.url]
             symbol: view.tile.symbol
             picture: thumbnail.image
         }
@@ -98,6 +111,6 @@ Tile {
 
             FocusRing { visible: remove.ringed }
         }
-        onClicked: view.removed()
+        onClicked: view.shelf.remove(view.tile.url)
     }
 }

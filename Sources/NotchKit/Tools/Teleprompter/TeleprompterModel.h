@@ -5,6 +5,7 @@
 #include <QProperty>
 
 #include <limits>
+#include <optional>
 
 namespace Kestrune {
 
@@ -23,6 +24,8 @@ class TeleprompterModel : public ToolModel
     Q_PROPERTY(double offset READ offset NOTIFY offsetChanged BINDABLE bindableOffset)
     /// How far it can scroll, told by the view that lays it out; infinite while that is not known.
     Q_PROPERTY(double maximumOffset READ maximumOffset WRITE setMaximumOffset NOTIFY maximumOffsetChanged)
+    /// The seconds that the rest of the script takes at its speed, rounded up; -1 while that is not known.
+    Q_PROPERTY(int secondsLeft READ secondsLeft NOTIFY secondsLeftChanged)
 
 public:
     explicit TeleprompterModel(NotchSettings &settings, QObject *parent = nullptr);
@@ -35,6 +38,13 @@ public:
     QBindable<double> bindableOffset() const { return QBindable<double>(&m_offset); }
     double maximumOffset() const { return m_maximumOffset; }
     void setMaximumOffset(double maximum);
+    int secondsLeft() const { return m_secondsLeft; }
+
+    /// How much of the script has passed, from 0 to 1; nothing while that is not known.
+    std::optional<double> position() const;
+
+    /// Moves to that part of the script, from 0 to 1; once it is laid out, where that is not known yet.
+    void moveTo(double position);
 
     /// Back to the top; a playing script goes on from there.
     Q_INVOKABLE void restart();
@@ -51,9 +61,13 @@ Q_SIGNALS:
     void editingChanged();
     void offsetChanged();
     void maximumOffsetChanged();
+    void secondsLeftChanged();
 
 private:
+    int computeSecondsLeft() const;
+
     NotchSettings &m_settings;
+    std::optional<double> m_wantedPosition; ///< Until the script is laid out.
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(TeleprompterModel, bool, m_playing, false,
                                          &TeleprompterModel::playingChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(TeleprompterModel, bool, m_editing, false,
@@ -63,6 +77,8 @@ private:
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(TeleprompterModel, double, m_maximumOffset,
                                          std::numeric_limits<double>::infinity(),
                                          &TeleprompterModel::maximumOffsetChanged)
+    Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(TeleprompterModel, int, m_secondsLeft, -1,
+                                         &TeleprompterModel::secondsLeftChanged)
 };
 
 } // namespace Kestrune

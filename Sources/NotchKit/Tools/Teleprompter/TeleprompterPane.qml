@@ -77,6 +77,15 @@ Pane {
         restoreMode: Binding.RestoreNone
     }
 
+    PlainText {
+        anchors { right: script.right; bottom: script.bottom }
+        visible: script.visible && pane.prompter.secondsLeft >= 0
+        //: How long the rest of the script takes to scroll past. %1 is a time such as 3:05.
+        text: qsTranslate("notch", "%1 left").arg(Format.playTime(pane.prompter.secondsLeft))
+        font.pixelSize: Theme.smallFontSize
+        color: Theme.dim
+    }
+
     Item {
         id: controls
 
