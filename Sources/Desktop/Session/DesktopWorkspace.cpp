@@ -3,12 +3,11 @@
 #include "CoreDumps.h"
 #include "Desktop/Bus/BusCall.h"
 #include "Log.h"
+#include "PrivacyPages.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QUrl>
-
-#include <array>
 
 #include <sys/prctl.h>
 
@@ -17,22 +16,6 @@ namespace Kestrune {
 Q_LOGGING_CATEGORY(sessionLog, "kestrune.session", QtWarningMsg)
 
 namespace {
-
-struct SettingsProgram
-{
-    const char *program;
-    const char *page; ///< The argument that opens the privacy page; empty where there is none.
-};
-
-/// The settings programs of the free desktops; the first one installed is taken.
-constexpr std::array kSettingsPrograms{
-    SettingsProgram{"gnome-control-center", "privacy"},
-    SettingsProgram{"systemsettings", ""},
-    SettingsProgram{"systemsettings5", ""},
-    SettingsProgram{"cinnamon-settings", ""},
-    SettingsProgram{"mate-control-center", ""},
-    SettingsProgram{"xfce4-settings-manager", ""},
-};
 
 /// Behind what a service unit takes from this program others could not do their work. The user's service
 /// manager starts them outside; empty where they are children like any.
@@ -59,16 +42,11 @@ bool startProgram(const QString &program, const QStringList &arguments)
     return process.startDetached();
 }
 
-void openSettings()
+void openSettings(const QString &anchor)
 {
-    for (const auto &[program, page] : kSettingsPrograms) {
-        const QString path = QStandardPaths::findExecutable(QString::fromLatin1(program));
-        if (path.isEmpty())
-            continue;
-        startProgram(path, *page ? QStringList{QString::fromLatin1(page)} : QStringList());
-        return;
-    }
-    qCInfo(sessionLog, "no settings program is installed");
+    const QStringList page = privacyPage(anchor);
+    if (page.isEmpty() || !startProgram(page.constFirst(), page.mid(1)))
+        qCInfo(sessionLog, "no settings program is installed");
 }
 
 constexpr int kRevealTimeout = 5000; // ms, for a file manager that is started by the call.
@@ -103,7 +81,7 @@ void openFolders(const QList<QUrl> &files)
 void DesktopWorkspace::open(const QUrl &url)
 {
     if (url.scheme() == QLatin1String("x-apple.systempreferences")) {
-        openSettings();
+        openSettings(url.query());
         return;
     }
     openWithDesktop(url);
