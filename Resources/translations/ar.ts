@@ -968,5 +968,15 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>الإخفاء فوق نوافذ ملء الشاشة</translation>
     </message>
+    <message>
+        <source>As of %1</source>
+        <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
+        <translation>حتى %1</translation>
+    </message>
+    <message>
+        <source>Quotes are not available right now.</source>
+        <extracomment>The prices of shares, which a server on the web tells.</extracomment>
+        <translation>الأسعار غير متاحة الآن.</translation>
+    </message>
 </context>
 </TS>

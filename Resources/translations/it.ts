@@ -956,5 +956,15 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
         <extracomment>The closed notch; displays with a camera housing keep theirs.</extracomment>
         <translation>Nascondi sopra le finestre a schermo intero</translation>
     </message>
+    <message>
+        <source>As of %1</source>
+        <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
+        <translation>Aggiornato: %1</translation>
+    </message>
+    <message>
+        <source>Quotes are not available right now.</source>
+        <extracomment>The prices of shares, which a server on the web tells.</extracomment>
+        <translation>Le quotazioni non sono disponibili al momento.</translation>
+    </message>
 </context>
 </TS>
