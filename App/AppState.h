@@ -3,6 +3,7 @@
 #include "LaunchRequest.h"
 #include "NotchKit/NotchController.h"
 #include "NotchKit/NotchSettings.h"
+#include "TimerNotice.h"
 
 #include <QObject>
 #include <QProperty>
@@ -78,6 +79,7 @@ private:
     NotchSettings m_settings;
     NotchServices m_services;
     NotchController m_controller;
+    TimerNotice m_timerNotice;
     std::unique_ptr<RunningTimer> m_watcher;
     std::unique_ptr<RunningTimer> m_launch;
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppState, bool, m_launchAtLogin, false,

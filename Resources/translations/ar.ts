@@ -969,6 +969,24 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <translation>الإخفاء فوق نوافذ ملء الشاشة</translation>
     </message>
     <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>الدقائق</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>دقيقة أقل</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>دقيقة أكثر</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>انتهى الوقت.</translation>
+    </message>
+    <message>
         <source>As of %1</source>
         <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
         <translation>حتى %1</translation>

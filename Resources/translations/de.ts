@@ -957,6 +957,24 @@ Systemeinstellungen › Datenschutz &amp; Sicherheit › Kamera.</translation>
         <translation>Über Vollbildfenstern ausblenden</translation>
     </message>
     <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>Eine Minute weniger</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>Eine Minute mehr</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>Die Zeit ist um.</translation>
+    </message>
+    <message>
         <source>As of %1</source>
         <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
         <translation>Stand: %1</translation>

@@ -957,6 +957,24 @@ Ajustes del sistema › Privacidad y seguridad › Cámara.</translation>
         <translation>Ocultar sobre ventanas a pantalla completa</translation>
     </message>
     <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minutos</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>Un minuto menos</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>Un minuto más</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>Se acabó el tiempo.</translation>
+    </message>
+    <message>
         <source>As of %1</source>
         <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
         <translation>A fecha de %1</translation>

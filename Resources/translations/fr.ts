@@ -957,6 +957,24 @@ Paramètres système › Confidentialité et sécurité › Caméra.</translatio
         <translation>Masquer au-dessus des fenêtres en plein écran</translation>
     </message>
     <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minutes</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>Une minute de moins</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>Une minute de plus</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>Le temps est écoulé.</translation>
+    </message>
+    <message>
         <source>As of %1</source>
         <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
         <translation>Données de %1</translation>

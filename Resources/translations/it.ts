@@ -957,6 +957,24 @@ Impostazioni di sistema › Privacy e sicurezza › Fotocamera.</translation>
         <translation>Nascondi sopra le finestre a schermo intero</translation>
     </message>
     <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minuti</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>Un minuto in meno</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>Un minuto in più</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>Tempo scaduto.</translation>
+    </message>
+    <message>
         <source>As of %1</source>
         <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
         <translation>Aggiornato: %1</translation>

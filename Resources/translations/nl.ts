@@ -957,6 +957,24 @@ Systeeminstellingen › Privacy en beveiliging › Camera.</translation>
         <translation>Verbergen boven vensters op volledig scherm</translation>
     </message>
     <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minuten</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>Eén minuut korter</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>Eén minuut langer</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>De tijd is om.</translation>
+    </message>
+    <message>
         <source>As of %1</source>
         <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
         <translation>Stand van %1</translation>

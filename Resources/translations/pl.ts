@@ -960,6 +960,24 @@ Ustawienia systemowe › Prywatność i ochrona › Kamera.</translation>
         <translation>Ukrywaj nad oknami pełnoekranowymi</translation>
     </message>
     <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minuty</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>O minutę krócej</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>O minutę dłużej</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>Czas minął.</translation>
+    </message>
+    <message>
         <source>As of %1</source>
         <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
         <translation>Stan na: %1</translation>

@@ -957,6 +957,24 @@ Configurações do sistema › Privacidade e segurança › Câmera.</translatio
         <translation>Ocultar sobre janelas em tela cheia</translation>
     </message>
     <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minutos</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>Um minuto a menos</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>Um minuto a mais</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>O tempo acabou.</translation>
+    </message>
+    <message>
         <source>As of %1</source>
         <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
         <translation>Dados de %1</translation>

@@ -954,6 +954,24 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <translation>在全屏窗口上方隐藏</translation>
     </message>
     <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>分钟</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>减少 1 分钟</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>增加 1 分钟</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>时间到了。</translation>
+    </message>
+    <message>
         <source>As of %1</source>
         <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
         <translation>截至 %1</translation>
