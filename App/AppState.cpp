@@ -35,10 +35,12 @@ AppState::AppState(const Platform &platform, const AppWindows &windows, const La
     , m_services(m_settings, NotchBranding::fennivar(), platform)
     , m_controller(m_services, platform, windows.panels)
     , m_prompter(*this, platform.windows.hotKeys())
+    , m_timerNotice(m_services, m_controller, platform.notifications)
     , m_launchAtLogin(platform.loginItem.isEnabled())
 {
     m_services.openSettings = windows.openSettings;
     followSettings();
+    connect(&m_timerNotice, &TimerNotice::timerWanted, this, [this] { showNotch(NotchTool::timer, true); });
     checkFennivar();
     m_watcher = m_platform.clock.every(kSuiteCheck, [this] { checkFennivar(); });
     schedule(request);

@@ -4,6 +4,7 @@
 #include "NotchKit/NotchController.h"
 #include "NotchKit/NotchSettings.h"
 #include "PrompterRemote.h"
+#include "TimerNotice.h"
 
 #include <QObject>
 #include <QProperty>
@@ -81,6 +82,7 @@ private:
     NotchServices m_services;
     NotchController m_controller;
     PrompterRemote m_prompter;
+    TimerNotice m_timerNotice;
     std::unique_ptr<RunningTimer> m_watcher;
     std::unique_ptr<RunningTimer> m_launch;
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppState, bool, m_launchAtLogin, false,

@@ -19,6 +19,9 @@ DesktopPlatform::DesktopPlatform(const QDBusConnection &bus, const WindowSystemC
     , m_sharing(bus)
     , m_loginItem(QCoreApplication::applicationFilePath())
     , m_lock(bus, QDBusConnection::systemBus())
+    , m_sleep(QDBusConnection::systemBus())
+    , m_network(bus, QDBusConnection::systemBus())
+    , m_notifications(bus)
     , m_applications(bus, {NotchBranding::suiteIdentifier()})
     , m_windows(windows.make(m_defaults))
     , m_captures(m_capturePreferences)
@@ -34,7 +37,9 @@ DesktopPlatform::DesktopPlatform(const QDBusConnection &bus, const WindowSystemC
     , m_camera(bus)
     , m_calendars(bus, m_defaults)
     , m_platform(makePlatform())
-{}
+{
+    QObject::connect(&m_sleep, &SystemSleep::woke, &m_sleep, [this] { m_clock.woke(); });
+}
 
 Platform DesktopPlatform::makePlatform()
 {
@@ -46,6 +51,9 @@ Platform DesktopPlatform::makePlatform()
             .players = m_players,
             .loginItem = m_loginItem,
             .lock = m_lock,
+            .sleep = m_sleep,
+            .network = m_network,
+            .notifications = m_notifications,
             .sounds = m_sounds,
             .workspace = m_workspace,
             .sharing = m_sharing,

@@ -9,11 +9,14 @@
 #include "Desktop/Media/MprisApplications.h"
 #include "Desktop/Media/MprisExecutor.h"
 #include "Desktop/Network/QtHttpClient.h"
+#include "Desktop/Notifications/BusNotifications.h"
 #include "Desktop/Pictures/HelperPictures.h"
+#include "Desktop/Reachability/BusNetworkReturn.h"
 #include "Desktop/Session/AutostartLoginItem.h"
 #include "Desktop/Session/BusApplications.h"
 #include "Desktop/Session/DesktopSessionLock.h"
 #include "Desktop/Session/DesktopWorkspace.h"
+#include "Desktop/Session/LogindSleep.h"
 #include "Desktop/Session/PortalIdentity.h"
 #include "Desktop/Sharing/DesktopSharing.h"
 #include "Desktop/Sound/CanberraSounds.h"
@@ -54,6 +57,9 @@ private:
     DesktopSharing m_sharing;
     AutostartLoginItem m_loginItem;
     DesktopSessionLock m_lock;
+    LogindSleep m_sleep;
+    BusNetworkReturn m_network;
+    BusNotifications m_notifications;
     BusApplications m_applications;
     std::unique_ptr<WindowSystem> m_windows;
     FolderCaptureQuery m_captures;

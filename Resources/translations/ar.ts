@@ -1111,5 +1111,33 @@ Allow it in the desktop’s privacy settings.</source>
         <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
         <translation>الكاميرا الافتراضية</translation>
     </message>
+    <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>الدقائق</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>دقيقة أقل</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>دقيقة أكثر</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>انتهى الوقت.</translation>
+    </message>
+    <message>
+        <source>As of %1</source>
+        <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
+        <translation>حتى %1</translation>
+    </message>
+    <message>
+        <source>Quotes are not available right now.</source>
+        <extracomment>The prices of shares, which a server on the web tells.</extracomment>
+        <translation>الأسعار غير متاحة الآن.</translation>
+    </message>
 </context>
 </TS>

@@ -1095,5 +1095,33 @@ Permítela en sus ajustes de privacidad.</translation>
         <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
         <translation>Cámara predeterminada</translation>
     </message>
+    <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minutos</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>Un minuto menos</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>Un minuto más</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>Se acabó el tiempo.</translation>
+    </message>
+    <message>
+        <source>As of %1</source>
+        <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
+        <translation>A fecha de %1</translation>
+    </message>
+    <message>
+        <source>Quotes are not available right now.</source>
+        <extracomment>The prices of shares, which a server on the web tells.</extracomment>
+        <translation>Las cotizaciones no están disponibles en este momento.</translation>
+    </message>
 </context>
 </TS>

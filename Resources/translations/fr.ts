@@ -1095,5 +1095,33 @@ Autorisez-la dans ses réglages de confidentialité.</translation>
         <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
         <translation>Caméra par défaut</translation>
     </message>
+    <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minutes</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>Une minute de moins</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>Une minute de plus</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>Le temps est écoulé.</translation>
+    </message>
+    <message>
+        <source>As of %1</source>
+        <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
+        <translation>Données de %1</translation>
+    </message>
+    <message>
+        <source>Quotes are not available right now.</source>
+        <extracomment>The prices of shares, which a server on the web tells.</extracomment>
+        <translation>Les cours ne sont pas disponibles pour le moment.</translation>
+    </message>
 </context>
 </TS>

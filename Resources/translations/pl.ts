@@ -1099,5 +1099,33 @@ Zezwól na nią w jego ustawieniach prywatności.</translation>
         <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
         <translation>Domyślna kamera</translation>
     </message>
+    <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minuty</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>O minutę krócej</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>O minutę dłużej</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>Czas minął.</translation>
+    </message>
+    <message>
+        <source>As of %1</source>
+        <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
+        <translation>Stan na: %1</translation>
+    </message>
+    <message>
+        <source>Quotes are not available right now.</source>
+        <extracomment>The prices of shares, which a server on the web tells.</extracomment>
+        <translation>Notowania są teraz niedostępne.</translation>
+    </message>
 </context>
 </TS>

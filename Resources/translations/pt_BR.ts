@@ -1095,5 +1095,33 @@ Permita-a nos ajustes de privacidade dela.</translation>
         <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
         <translation>Câmera padrão</translation>
     </message>
+    <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>Minutos</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>Um minuto a menos</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>Um minuto a mais</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>O tempo acabou.</translation>
+    </message>
+    <message>
+        <source>As of %1</source>
+        <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
+        <translation>Dados de %1</translation>
+    </message>
+    <message>
+        <source>Quotes are not available right now.</source>
+        <extracomment>The prices of shares, which a server on the web tells.</extracomment>
+        <translation>As cotações não estão disponíveis no momento.</translation>
+    </message>
 </context>
 </TS>

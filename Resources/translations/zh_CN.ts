@@ -1091,5 +1091,33 @@ Allow it in the desktop’s privacy settings.</source>
         <extracomment>The first of the cameras to choose from: whichever the desktop takes.</extracomment>
         <translation>默认摄像头</translation>
     </message>
+    <message>
+        <source>Minutes</source>
+        <extracomment>What the empty field for the length of a timer says.</extracomment>
+        <translation>分钟</translation>
+    </message>
+    <message>
+        <source>One minute less</source>
+        <translation>减少 1 分钟</translation>
+    </message>
+    <message>
+        <source>One minute more</source>
+        <translation>增加 1 分钟</translation>
+    </message>
+    <message>
+        <source>The time is up.</source>
+        <extracomment>The timer has run down.</extracomment>
+        <translation>时间到了。</translation>
+    </message>
+    <message>
+        <source>As of %1</source>
+        <extracomment>Beside figures that could not be fetched anew; %1 is when they came, such as “14:05” or “24.12.26 14:05”.</extracomment>
+        <translation>截至 %1</translation>
+    </message>
+    <message>
+        <source>Quotes are not available right now.</source>
+        <extracomment>The prices of shares, which a server on the web tells.</extracomment>
+        <translation>行情暂时不可用。</translation>
+    </message>
 </context>
 </TS>

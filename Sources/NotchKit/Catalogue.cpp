@@ -121,7 +121,8 @@ constexpr std::array kTools{
         .title = QT_TRANSLATE_NOOP("notch", "Timer"),
         .symbol = "timer",
         .view = "TimerPane",
-        .makeModel = [](Context c) { return made<TimerModel>(c.platform.clock, c.platform.sounds); },
+        .makeModel =
+            [](Context c) { return made<TimerModel>(c.settings, c.platform.clock, c.platform.sounds); },
         .wings = "TimerActivity",
         .wingsRank = 2},
     CatalogueEntry{.rawValue = "teleprompter",

@@ -109,6 +109,15 @@ void NotchController::followLock()
 
 bool NotchController::knowsFullScreenWindows() const { return m_windows.fullScreenWindows().areTold(); }
 
+bool NotchController::isInSight() const
+{
+    const QPointF location = m_windows.pointer().location();
+    return isRunning() && !m_lock.isLocked() && knowsFullScreenWindows() &&
+           std::ranges::any_of(m_notches, [&](const Notch &notch) {
+               return notch.isOnScreen && holds(notch.screen.frame, location);
+           });
+}
+
 bool NotchController::isCovered(const Notch &notch) const
 {
     return m_services.settings()->hideOverFullScreen() && notch.screen.safeAreaTop <= 0 &&

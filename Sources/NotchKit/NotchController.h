@@ -58,6 +58,10 @@ public:
     /// What came of the hot key; while it is asked for anew, what came of it before. Pending when it is off.
     const HotKeyBinding &hotKeyBinding() const { return m_hotKeyBinding; }
 
+    /// Whether a notch is on screen on the display where the user's pointer is. No where a full-screen window
+    /// may lie over it without anybody telling.
+    bool isInSight() const;
+
     void start();
     void stop();
 

@@ -1,6 +1,8 @@
 #include "NotchServices.h"
 
 #include "AirDrop.h"
+#include "NotchKit/Platform/NetworkReturn.h"
+#include "NotchKit/Platform/SystemSleep.h"
 
 #include <algorithm>
 
@@ -27,8 +29,11 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
     m_activityTool.setBinding([this] { return computeActivityTool(); });
     m_hasActivity.setBinding([this] { return m_activityTool.value().has_value(); });
     // What is timed from now on would otherwise show a second too many until the next tick.
-    for (const auto &model : m_models)
+    for (const auto &model : m_models) {
         connect(model.get(), &ToolModel::timeWanted, m_surroundings.get(), &NotchSurroundings::refreshNow);
+        connect(&platform.sleep, &SystemSleep::woke, model.get(), &ToolModel::machineWoke);
+        connect(&platform.network, &NetworkReturn::returned, model.get(), &ToolModel::networkReturned);
+    }
 }
 
 ToolModel *NotchServices::model(NotchTool tool) const

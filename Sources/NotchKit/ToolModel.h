@@ -46,6 +46,12 @@ public:
     /// Another pane came on screen, or none.
     virtual void visibleToolChanged(std::optional<NotchTool> /*visible*/) {}
 
+    /// The machine has slept: what was fetched before is old. The network may still be away.
+    virtual void machineWoke() {}
+
+    /// What could not be fetched for want of a network is worth another try.
+    virtual void networkReturned() {}
+
     /// Every second.
     virtual void tick(const ClockTick & /*tick*/) {}
 

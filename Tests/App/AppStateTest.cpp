@@ -1,5 +1,6 @@
 #include "App/AppStage.h"
 #include "NotchKit/Tools/Teleprompter/TeleprompterModel.h"
+#include "NotchKit/Tools/Timer/TimerModel.h"
 
 static QString welcomed() { return u"kestrune.welcomed"_s; }
 
@@ -97,6 +98,54 @@ private Q_SLOTS:
         stage.setSuite(false, true);
         stage.clock.advance(3s);
         QCOMPARE(stage.panels.alive.size(), 1U);
+    }
+
+    void anEndedTimerIsToldWhereTheNotchIsNotSeen_data()
+    {
+        const auto row = columns<std::function<void(AppStage &)>, bool>();
+        row(
+            "in sight", [](AppStage &) {}, false);
+        row(
+            "full screen", [](AppStage &stage) { stage.fullScreenWindows.set({u"HDMI-1"_s}); }, true);
+        row(
+            "another display",
+            [](AppStage &stage) {
+                stage.pointer.now.location = {-5, 5};
+            },
+            true);
+        row(
+            "locked", [](AppStage &stage) { stage.lock.set(true); }, true);
+        row(
+            "no wings", [](AppStage &stage) { stage.app->settings().setLiveActivities(false); }, true);
+    }
+
+    void anEndedTimerIsToldWhereTheNotchIsNotSeen()
+    {
+        const auto [hide, isTold] = fetched<std::function<void(AppStage &)>, bool>();
+        AppStage stage;
+        stage.launch();
+        hide(stage);
+        TimerModel &timer = *stage.app->services().model<TimerModel>();
+        const auto runDown = [&] {
+            timer.start(60);
+            stage.clock.advance(59s);
+            QVERIFY(stage.notifications.shown.isEmpty());
+            stage.clock.advance(1s);
+        };
+        runDown();
+        const QStringList told{u"Timer"_s, u"The time is up."_s};
+        QCOMPARE(stage.notifications.shown, isTold ? told : QStringList());
+        stage.lock.set(false);
+        stage.app->showNotch(NotchTool::timer);
+        QVERIFY(stage.notifications.shown.isEmpty() && !timer.unseen());
+
+        stage.app->controller().collapseAll();
+        runDown();
+        Q_EMIT stage.notifications.dismissed();
+        QVERIFY(!timer.unseen() && !stage.app->services().hasActivity());
+        runDown();
+        Q_EMIT stage.notifications.activated();
+        QVERIFY(stage.model().expanded() && stage.panels.alive.at(0)->key && !timer.unseen());
     }
 
     void pausedNotchExplainsItself()

@@ -16,10 +16,7 @@ private Q_SLOTS:
             events += watcher.readAllStandardOutput();
             return events.count("'new' on sink-input");
         };
-        // A minute of the wall clock passes every second: five minutes are the shortest countdown offered.
-        session().environment().insert(u"LD_PRELOAD"_s, u"/usr/$LIB/faketime/libfaketimeMT.so.1"_s);
-        session().environment().insert(u"FAKETIME"_s, u"+0 x60"_s);
-        session().environment().insert(u"FAKETIME_DONT_FAKE_MONOTONIC"_s, u"1"_s);
+        hasten();
 
         // Hover must not open the notch while its wings are being clicked.
         QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"timer"_s));
@@ -44,13 +41,52 @@ private Q_SLOTS:
         QCOMPARE(sounds(), 0);
 
         QVERIFY(waitUntil([&] { return sounds() > 0; }));
-        QTRY_VERIFY(!stage().covered(wings.topLeft() + QPoint(12, 12)));
+        // The wings say so until the user has looked.
+        const auto inWings = [&] { return stage().covered(wings.topLeft() + QPoint(12, 12)); };
+        QVERIFY(holdsFor([&] { return inWings() && session().hasActivity(); }, 3000));
+        QVERIFY(stage().openByHotKey());
+        input().hotKey();
+        QVERIFY(stage().waitClosed());
+        QTRY_VERIFY(!inWings());
         QVERIFY(!session().hasActivity());
-        QTest::qWait(3000);
         QCOMPARE(sounds(), 1);
     }
 
+    /// Where a film hides the notch, the desktop's notifications say it, until the user has looked.
+    void isToldOverAFilm()
+    {
+        ChildProcess notifier(session().environment());
+        QVERIFY(notifier.launch(u"dunst"_s, {u"-conf"_s, u"/dev/null"_s}));
+        const auto told = [&] {
+            ChildProcess asked(session().environment());
+            return asked.launch(u"dunstctl"_s, {u"count"_s, u"displayed"_s}) && asked.waitForFinished()
+                       ? asked.readAllStandardOutput().trimmed()
+                       : QByteArray();
+        };
+        QTRY_COMPARE(told(), "0");
+        hasten();
+        QVERIFY(stage().run({{"hoverDelay", "60"}}) && stage().choose(u"timer"_s) && stage().openByHotKey());
+        input().click(Place::firstPreset);
+        QTRY_VERIFY(session().hasActivity());
+        input().hotKey();
+        QVERIFY(stage().waitClosed());
+        std::optional<TestWindow> film(std::in_place, stage().display.name(), TestWindow::Kind::FullScreen,
+                                       QRect(0, 0, 1280, 800), 0xff602080);
+        QVERIFY(waitUntil([&] { return told() == "1"; }));
+        film.reset();
+        QVERIFY(stage().openByHotKey());
+        QTRY_COMPARE(told(), "0");
+    }
+
 private:
+    /// A minute of the wall clock passes every second: five minutes are the shortest preset.
+    void hasten()
+    {
+        session().environment().insert(u"LD_PRELOAD"_s, u"/usr/$LIB/faketime/libfaketimeMT.so.1"_s);
+        session().environment().insert(u"FAKETIME"_s, u"+0 x60"_s);
+        session().environment().insert(u"FAKETIME_DONT_FAKE_MONOTONIC"_s, u"1"_s);
+    }
+
     /// A sound server whose only output is silence, and a watcher of what is played on it.
     bool startSound(ChildProcess &server, ChildProcess &watcher)
     {

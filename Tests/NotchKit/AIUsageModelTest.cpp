@@ -138,6 +138,10 @@ private Q_SLOTS:
         home.core.wait(61'000);
         QVERIFY(home.model.loading());
         QTRY_VERIFY(home.model.codexMissing() && !home.model.codex() && !home.model.loading());
+        Q_EMIT home.core.sleep.woke();
+        home.core.wait(1000);
+        QVERIFY(home.model.loading());
+        QTRY_VERIFY(!home.model.loading());
         home.core.show({});
         home.core.wait(600'000);
         QVERIFY(!home.model.loading());

@@ -248,8 +248,12 @@ private Q_SLOTS:
         stage.services.show(NotchTool::calendar);
         QCOMPARE(asked(0), 2U);
         QCOMPARE(asked(90'000), 5U);
+        stage.wait(1000); // between two of its times
+        Q_EMIT stage.sleep.woke();
+        QCOMPARE(asked(1000), 6U);
+        QCOMPARE(asked(28'000), 7U);
         stage.show({});
-        QCOMPARE(asked(90'000), 5U);
+        QCOMPARE(asked(90'000), 7U);
     }
 
     void daysAndTimes()

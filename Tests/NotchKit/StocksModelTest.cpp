@@ -103,6 +103,37 @@ private Q_SLOTS:
         QCOMPARE(stage.model.failed(), (QStringList{u"AAPL"_s, u"TSLA"_s}));
     }
 
+    void offlineKeepsTheQuotes()
+    {
+        Stage stage({u"A"_s, u"B"_s});
+        stage.show(NotchTool::stocks);
+        stage.answer(0, chart(R"("regularMarketPrice": 1)"));
+        stage.answer(1, chart(R"("regularMarketPrice": 2)"));
+        QVERIFY(!stage.model.oldestTime().isValid());
+        const QDateTime then = stage.clock.now();
+
+        // B alone could not be asked; of A the service says that it knows it no more.
+        stage.clock.sleep(61s);
+        QCOMPARE(stage.asked(1000), 4);
+        for (const auto &[index, status] : {std::pair(2, 404), {3, 0}, {4, 0}, {5, 503}})
+            stage.answer(index, {status, {}});
+        QCOMPARE(stage.symbols(), QStringList{u"B"_s});
+        QCOMPARE(stage.model.failed(), QStringList{u"A"_s});
+        QCOMPARE(stage.model.unreached(), QStringList());
+        QCOMPARE(stage.model.oldestTime(), then);
+
+        Q_EMIT stage.network.returned();
+        QCOMPARE(stage.asked(1000), 8);
+        stage.answer(6, {});
+        stage.answer(7, chart(R"("regularMarketPrice": 3)"));
+        stage.answer(8, {});
+        QCOMPARE(stage.model.unreached(), QStringList{u"A"_s}); // It has none to stay.
+        QCOMPARE(stage.model.failed(), QStringList());
+        QVERIFY(!stage.model.oldestTime().isValid());
+        Q_EMIT stage.sleep.woke();
+        QCOMPARE(stage.asked(1000), 11);
+    }
+
     void aNewRefreshCounts()
     {
         Stage stage({u"OLD"_s, u"OLD"_s});

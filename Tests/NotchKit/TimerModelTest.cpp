@@ -82,6 +82,67 @@ private Q_SLOTS:
         QCOMPARE(timer.duration(), 10800.0);
     }
 
+    void lengths_data()
+    {
+        const auto row = columns<QString, double>(); // 0: none
+        row("minutes", u"45"_s, 2700);
+        row("blanks", u" 7 "_s, 420);
+        row("as it is shown", u"1:05"_s, 65);
+        row("with hours", u"1:30:00"_s, 5400);
+        row("other digits", u"\u0661\u0665"_s, 900);
+        row("too short", u"0:10"_s, 60);
+        row("too long", u"99999"_s, 10800);
+        row("nothing", u""_s, 0);
+        row("half of one", u"5:"_s, 0);
+        row("too many parts", u"1:2:3:4"_s, 0);
+        row("junk", u"-5"_s, 0);
+        row("endless", u"9"_s.repeated(400), 0);
+    }
+
+    void lengths()
+    {
+        const auto [text, seconds] = fetched<QString, double>();
+        Fakes::Core core;
+        TimerModel &timer = *core.services.model<TimerModel>();
+        QCOMPARE(timer.setLength(text), seconds > 0);
+        QCOMPARE(timer.duration(), seconds > 0 ? seconds : 1500);
+        timer.start(300);
+        timer.setLength(u"9"_s);
+        QCOMPARE(timer.duration(), 300.0);
+    }
+
+    void anEndIsShownUntilItIsSeen_data()
+    {
+        const auto row = columns<NotchTool, bool>();
+        row("the pane", NotchTool::timer, true);
+        row("the block on Home", NotchTool::home, true);
+        row("another tool", NotchTool::note, false);
+    }
+
+    void anEndIsShownUntilItIsSeen()
+    {
+        const auto [tool, sees] = fetched<NotchTool, bool>();
+        Fakes::Core core;
+        core.settings.setColumn(HomeColumn::center, HomeWidget::timer);
+        TimerModel &timer = *core.services.model<TimerModel>();
+        core.services.start();
+        timer.start(60);
+        core.wait(3'600'000);
+        QVERIFY(timer.finished() && timer.unseen() && core.services.hasActivity());
+        core.show(tool);
+        QCOMPARE(core.services.hasActivity(), !sees);
+        core.show({});
+        QCOMPARE(core.services.hasActivity(), !sees);
+        QVERIFY(timer.finished()); // The pane goes on saying so.
+
+        core.show(tool);
+        timer.start(60);
+        core.wait(60'000);
+        QCOMPARE(timer.unseen(), !sees);
+        timer.adjust(1);
+        QVERIFY(!timer.finished() && !core.services.hasActivity());
+    }
+
     void activityOpensTheWings()
     {
         Fakes::Core core;

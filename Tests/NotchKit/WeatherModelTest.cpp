@@ -1,4 +1,5 @@
 #include "NotchKit/Tools/Weather/WeatherModel.h"
+#include "NotchKit/Kit/Format.h"
 #include "NotchKit/Tools/Weather/WeatherFigures.h"
 #include "Support/Core.h"
 
@@ -82,6 +83,45 @@ private Q_SLOTS:
         placeless.model.refresh(true);
         placeless.settings.setWeatherLatitude(1);
         QCOMPARE(placeless.asked(5000), 0);
+    }
+
+    void sleepAndNetwork()
+    {
+        Stage stage;
+        stage.show(NotchTool::weather);
+        stage.reply(good(kForecast));
+        QCOMPARE(stage.figures.age(), QString());
+        stage.clock.sleep(880s); // The time asleep counts.
+        QCOMPARE(stage.asked(19'000), 1);
+        QCOMPARE(stage.asked(1000), 2);
+        stage.reply(good(kForecast));
+        const QString age =
+            u"As of "_s + Format::clockTime(stage.clock.now().toLocalTime().time(), QLocale());
+        stage.clock.sleep(10s);
+        Q_EMIT stage.sleep.woke();
+        QCOMPARE(stage.asked(1000), 3); // However short it was.
+        stage.reply({});
+        QCOMPARE(stage.figures.temperature(), u"22°"_s);
+        QCOMPARE(stage.figures.age(), age);
+
+        QCOMPARE(stage.asked(58'000), 3);
+        Q_EMIT stage.network.returned();
+        QCOMPARE(stage.asked(1000), 4);
+        Q_EMIT stage.network.returned(); // What is under way may have gone the old way.
+        QCOMPARE(stage.asked(1000), 5);
+        stage.reply({});
+        QCOMPARE(stage.asked(61'000), 6); // Where nobody tells of it.
+        QCOMPARE(stage.figures.age(), age);
+        stage.reply(good(kForecast));
+        QCOMPARE(stage.figures.age(), QString());
+        Q_EMIT stage.network.returned();
+        QCOMPARE(stage.asked(60'000), 6);
+
+        // Old figures say so while newer ones are on their way.
+        stage.show({});
+        stage.wait(86'400'000);
+        stage.show(NotchTool::weather);
+        QVERIFY(stage.figures.age().startsWith(u"As of "_s) && stage.figures.age() != age);
     }
 
     void figuresAndUnits()

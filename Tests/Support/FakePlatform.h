@@ -38,6 +38,9 @@ struct Platform
     FakeApplications players;
     FakeLoginItem loginItem;
     FakeSessionLock lock;
+    SystemSleep sleep;
+    NetworkReturn network;
+    FakeNotifications notifications;
     FakeSounds sounds;
     FakeWorkspace workspace;
     FakeSharing sharing;

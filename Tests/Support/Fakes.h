@@ -6,9 +6,12 @@
 #include "NotchKit/Platform/Appearance.h"
 #include "NotchKit/Platform/Clock.h"
 #include "NotchKit/Platform/LoginItem.h"
+#include "NotchKit/Platform/NetworkReturn.h"
+#include "NotchKit/Platform/Notifications.h"
 #include "NotchKit/Platform/RunningApplications.h"
 #include "NotchKit/Platform/SessionLock.h"
 #include "NotchKit/Platform/SoundPlayer.h"
+#include "NotchKit/Platform/SystemSleep.h"
 #include "NotchKit/Platform/UserDefaults.h"
 #include "NotchKit/Platform/Utc.h"
 #include "NotchKit/Platform/Workspace.h"
@@ -29,7 +32,8 @@ namespace Kestrune::Fakes {
 struct FakeClock : Clock
 {
     QDateTime now() const override { return m_start.addMSecs(m_elapsed.count()); }
-    std::chrono::nanoseconds uptime() const override { return m_elapsed; }
+    std::chrono::nanoseconds uptime() const override { return m_elapsed - m_slept; }
+    std::chrono::nanoseconds uptimeWithSleep() const override { return m_elapsed; }
 
     std::unique_ptr<RunningTimer> every(std::chrono::milliseconds interval, Handler handler) override
     {
@@ -53,6 +57,16 @@ struct FakeClock : Clock
             handler();
         }
         m_elapsed = end;
+    }
+
+    /// What falls due while the machine sleeps is called once, when it wakes.
+    void sleep(std::chrono::milliseconds time)
+    {
+        m_elapsed += time;
+        m_slept += time;
+        for (Entry &entry : m_entries)
+            entry.due = std::max(entry.due, m_elapsed);
+        advance(std::chrono::milliseconds(0));
     }
 
     std::size_t running() const
@@ -103,6 +117,7 @@ private:
 
     QDateTime m_start = QDateTime::fromSecsSinceEpoch(1'800'000'000, kUtc);
     std::chrono::milliseconds m_elapsed{0};
+    std::chrono::milliseconds m_slept{0}; ///< Of what has elapsed.
     std::list<Entry> m_entries;
 };
 
@@ -196,6 +211,14 @@ struct FakeSessionLock : SessionLock
     }
 
     bool locked = false;
+};
+
+struct FakeNotifications : Notifications
+{
+    void show(const QString &title, const QString &text) override { shown = {title, text}; }
+    void withdraw() override { shown.clear(); }
+
+    QStringList shown; ///< The one on screen: its title and its text.
 };
 
 struct FakeUpdater : Updater

@@ -4,14 +4,13 @@
 #include "Desktop/Bus/BusCall.h"
 #include "Log.h"
 #include "PictureEditor.h"
+#include "PrivacyPages.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QUrl>
-
-#include <array>
 
 #include <sys/prctl.h>
 
@@ -22,22 +21,6 @@ Q_LOGGING_CATEGORY(sessionLog, "kestrune.session", QtWarningMsg)
 using namespace std::chrono_literals;
 
 namespace {
-
-struct SettingsProgram
-{
-    const char *program;
-    const char *page; ///< The argument that opens the privacy page; empty where there is none.
-};
-
-/// The settings programs of the free desktops; the first one installed is taken.
-constexpr std::array kSettingsPrograms{
-    SettingsProgram{"gnome-control-center", "privacy"},
-    SettingsProgram{"systemsettings", ""},
-    SettingsProgram{"systemsettings5", ""},
-    SettingsProgram{"cinnamon-settings", ""},
-    SettingsProgram{"mate-control-center", ""},
-    SettingsProgram{"xfce4-settings-manager", ""},
-};
 
 /// Behind what a service unit takes from this program others could not do their work. The user's service
 /// manager starts them outside; empty where they are children like any.
@@ -64,16 +47,11 @@ bool startProgram(const QString &program, const QStringList &arguments)
     return process.startDetached();
 }
 
-void openSettings()
+void openSettings(const QString &anchor)
 {
-    for (const auto &[program, page] : kSettingsPrograms) {
-        const QString path = QStandardPaths::findExecutable(QString::fromLatin1(program));
-        if (path.isEmpty())
-            continue;
-        startProgram(path, *page ? QStringList{QString::fromLatin1(page)} : QStringList());
-        return;
-    }
-    qCInfo(sessionLog, "no settings program is installed");
+    const QStringList page = privacyPage(anchor);
+    if (page.isEmpty() || !startProgram(page.constFirst(), page.mid(1)))
+        qCInfo(sessionLog, "no settings program is installed");
 }
 
 constexpr auto kLongestEditorSearch = 10s;
@@ -126,7 +104,7 @@ void openFolders(const QList<QUrl> &files)
 void DesktopWorkspace::open(const QUrl &url)
 {
     if (url.scheme() == QLatin1String("x-apple.systempreferences")) {
-        openSettings();
+        openSettings(url.query());
         return;
     }
     openWithDesktop(url);

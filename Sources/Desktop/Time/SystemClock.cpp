@@ -1,6 +1,7 @@
 #include "SystemClock.h"
 
 #include <algorithm>
+#include <ctime>
 
 namespace Kestrune {
 
@@ -76,10 +77,17 @@ std::chrono::nanoseconds SystemClock::uptime() const
     return std::chrono::steady_clock::now().time_since_epoch();
 }
 
+std::chrono::nanoseconds SystemClock::uptimeWithSleep() const
+{
+    std::timespec time{};
+    ::clock_gettime(CLOCK_BOOTTIME, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
 std::unique_ptr<RunningTimer> SystemClock::every(std::chrono::milliseconds interval, Handler handler)
 {
     auto repetition =
-        std::make_shared<Repetition>(Repetition{interval, uptime() + interval, std::move(handler)});
+        std::make_shared<Repetition>(Repetition{interval, uptimeWithSleep() + interval, std::move(handler)});
     m_repetitions.push_back(repetition);
     schedule();
     return std::make_unique<Handle>(*this, std::move(repetition));
@@ -92,7 +100,7 @@ std::unique_ptr<RunningTimer> SystemClock::after(std::chrono::milliseconds delay
 
 void SystemClock::runDue()
 {
-    const auto now = uptime();
+    const auto now = uptimeWithSleep();
     const auto running = m_repetitions; // A handler may add and end repetitions.
     for (const auto &repetition : running) {
         const auto early = repetition->interval <= kFast ? kTogether : 0ms;
@@ -114,7 +122,7 @@ void SystemClock::schedule()
     }
     const auto next =
         std::ranges::min(m_repetitions, {}, [](const auto &repetition) { return repetition->due; });
-    const auto wait = std::chrono::ceil<std::chrono::milliseconds>(next->due - uptime());
+    const auto wait = std::chrono::ceil<std::chrono::milliseconds>(next->due - uptimeWithSleep());
     m_alarm.start(std::max(wait, 0ms));
 }
 

@@ -20,8 +20,12 @@ public:
 
     QDateTime now() const override;
     std::chrono::nanoseconds uptime() const override;
+    std::chrono::nanoseconds uptimeWithSleep() const override;
     std::unique_ptr<RunningTimer> every(std::chrono::milliseconds interval, Handler handler) override;
     std::unique_ptr<RunningTimer> after(std::chrono::milliseconds delay, Handler handler) override;
+
+    /// The machine has slept: the alarm stood still meanwhile, and what is due has to be found anew.
+    void woke() { schedule(); }
 
 private:
     struct Repetition

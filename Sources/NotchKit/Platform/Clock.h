@@ -26,10 +26,15 @@ public:
     /// The wall-clock time in UTC, to the millisecond. It can jump when the user sets the clock.
     virtual QDateTime now() const = 0;
 
-    /// Time since an arbitrary start; it never jumps. For delays and throttles.
+    /// Time since an arbitrary start that the machine was awake; it never jumps. For delays, and for what
+    /// stands still while the machine sleeps.
     virtual std::chrono::nanoseconds uptime() const = 0;
 
-    /// Calls `handler` every `interval` without drifting until the result is destroyed.
+    /// The same with the time that the machine slept: for throttles, and for how old something is.
+    virtual std::chrono::nanoseconds uptimeWithSleep() const = 0;
+
+    /// Calls `handler` every `interval` without drifting until the result is destroyed. Time that the machine
+    /// slept counts: what fell due meanwhile is called once, after waking.
     [[nodiscard]] virtual std::unique_ptr<RunningTimer> every(std::chrono::milliseconds interval,
                                                               Handler handler) = 0;
 

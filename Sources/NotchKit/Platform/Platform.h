@@ -15,12 +15,15 @@ class HostStatistics;
 class HttpClient;
 class LocationService;
 class LoginItem;
+class NetworkReturn;
+class Notifications;
 class PictureReader;
 class RunningApplications;
 class ScreenCaptureQuery;
 class ScriptExecutor;
 class SessionLock;
 class SoundPlayer;
+class SystemSleep;
 class Thumbnails;
 class UserDefaults;
 class WindowSystem;
@@ -38,6 +41,9 @@ struct Platform
     RunningApplications &players;      ///< Knows the media players.
     LoginItem &loginItem;
     SessionLock &lock;
+    SystemSleep &sleep;
+    NetworkReturn &network;
+    Notifications &notifications;
     SoundPlayer &sounds;
     Workspace &workspace;
     FileSharing &sharing;

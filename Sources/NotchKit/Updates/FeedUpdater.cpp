@@ -1,6 +1,7 @@
 #include "FeedUpdater.h"
 
 #include "NotchKit/NotchStrings.h"
+#include "NotchKit/Platform/NetworkReturn.h"
 #include "NotchKit/Platform/UserDefaults.h"
 #include "NotchKit/Platform/Workspace.h"
 
@@ -39,6 +40,7 @@ FeedUpdater::FeedUpdater(Source source, std::unique_ptr<Releases> releases, cons
     , m_platform(platform)
     , m_automatic(platform.defaults.value<bool>(automaticKey()).value_or(false))
 {
+    connect(&platform.network, &NetworkReturn::returned, this, &FeedUpdater::lookAgain);
     schedule();
 }
 
@@ -75,6 +77,13 @@ void FeedUpdater::lookUnasked()
     m_steps.restart(&FeedUpdater::look, this);
 }
 
+/// The day's look does not wait for the next day.
+void FeedUpdater::lookAgain()
+{
+    if (m_automatic && m_unreached)
+        lookUnasked();
+}
+
 void FeedUpdater::checkForUpdates()
 {
     m_asked = true;
@@ -108,6 +117,7 @@ std::optional<Release> FeedUpdater::takeFeed(const HttpReply &reply)
 {
     qCDebug(updatesLog, "the feed: status %d, %lld bytes", reply.status,
             static_cast<long long>(reply.body.size()));
+    m_unreached = reply.status == 0;
     const auto feed = reply.isGood() ? m_releases->read(reply.body) : FeedFault::unreadable;
     const auto *release = std::get_if<Release>(&feed);
     if (release && mayComeFrom(release->package, m_source.feed))
@@ -197,6 +207,7 @@ QCoro::Task<> FeedUpdater::fetch()
         m_release.package, {}, kPackagePatience, m_release.size, m_releases->receive(m_release)};
     const QFuture<HttpReply> asked = m_platform.http.get(request);
     const HttpReply reply = co_await until(asked);
+    m_unreached = reply.status == 0;
     const QFuture<Releases::Kept> saving = m_releases->keep(reply.isGood());
     const Releases::Kept outcome = co_await until(saving);
     takeOutcome(outcome);

@@ -45,6 +45,7 @@ private:
     bool isBusy() const;
     void schedule();
     void lookUnasked();
+    void lookAgain();
     QCoro::Task<> look();
     std::optional<Release> takeFeed(const HttpReply &reply);
     bool takeRelease(const Release &release);
@@ -62,8 +63,9 @@ private:
     std::unique_ptr<Releases> m_releases;
     Platform m_platform;
     bool m_automatic;
-    bool m_asked = false; ///< What is under way was started by the user.
-    QString m_told;       ///< The release of which the user was told unasked.
+    bool m_asked = false;     ///< What is under way was started by the user.
+    bool m_unreached = false; ///< For want of a network, maybe.
+    QString m_told;           ///< The release of which the user was told unasked.
     UpdateStatus m_status;
     Release m_release; ///< The one that `m_status` is about.
     std::unique_ptr<RunningTimer> m_first;

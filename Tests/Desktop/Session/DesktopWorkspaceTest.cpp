@@ -1,6 +1,7 @@
 #include "Desktop/Session/DesktopWorkspace.h"
 #include "Desktop/BusStandIn.h"
 #include "Desktop/Session/CoreDumps.h"
+#include "Desktop/Session/PrivacyPages.h"
 
 #include <QStorageInfo>
 
@@ -133,6 +134,47 @@ private Q_SLOTS:
         QVERIFY2(!trashed.isEmpty(), "it is in no trash");
         QVERIFY(!outcome(workspace.moveToTrash(QUrl::fromLocalFile(file))));
         QVERIFY(!outcome(workspace.moveToTrash(QUrl(u"https://example.org/"_s))));
+    }
+
+    void privacyPages_data()
+    {
+        const auto row = columns<QString, QStringList, QStringList, QString>();
+        const QStringList all{u"gnome-control-center"_s, u"systemsettings"_s, u"xfce4-settings-manager"_s};
+        row("GNOME", u"ubuntu:GNOME"_s, all, {u"gnome-camera-panel"_s, u"kcm_flatpak"_s},
+            u"gnome-control-center camera"_s);
+        row("a later one", u"GNOME"_s, all, {u"gnome-privacy-panel"_s},
+            u"gnome-control-center privacy camera"_s);
+        row("KDE", u"KDE"_s, all, {u"gnome-camera-panel"_s, u"kcm_flatpak"_s},
+            u"systemsettings kcm_flatpak"_s);
+        row("without the page", u"KDE"_s, all, {}, u"systemsettings"_s);
+        row("Xfce", u"XFCE"_s, all, {u"gnome-camera-panel"_s}, u"xfce4-settings-manager"_s);
+        row("without its own", u"sway"_s, all.mid(0, 2), {u"kcm_app-permissions"_s},
+            u"systemsettings kcm_app-permissions"_s);
+        row("of no use elsewhere", u"XFCE"_s, all.mid(0, 1), {u"gnome-camera-panel"_s}, QString());
+    }
+
+    void privacyPages()
+    {
+        const auto [desktop, programs, entries, command] =
+            fetched<QString, QStringList, QStringList, QString>();
+        const QTemporaryDir folder;
+        for (const QString &name : programs) {
+            QFile program(folder.filePath(name));
+            QVERIFY(writeFile(program.fileName(), "#!/bin/sh\n"));
+            program.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        }
+        for (const QString &name : entries)
+            QVERIFY(writeFile(folder.filePath(u"applications/%1.desktop"_s.arg(name)), {}));
+        const QByteArray data = qgetenv("XDG_DATA_DIRS");
+        const QByteArray path = qgetenv("PATH");
+        qputenv("XDG_DATA_DIRS", folder.path().toUtf8());
+        qputenv("PATH", folder.path().toUtf8());
+        qputenv("XDG_CURRENT_DESKTOP", desktop.toUtf8());
+        const QString page = privacyPage(u"Privacy_Camera"_s).join(u' ');
+        qputenv("XDG_DATA_DIRS", data);
+        qputenv("PATH", path);
+        qunsetenv("XDG_CURRENT_DESKTOP");
+        QCOMPARE(page, command.isEmpty() ? QString() : folder.filePath(command));
     }
 
     void onlyWhatItOpensMayDumpCore()

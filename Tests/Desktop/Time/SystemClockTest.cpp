@@ -55,6 +55,29 @@ private Q_SLOTS:
         QVERIFY(!early);
     }
 
+    void sleepCounts()
+    {
+        struct Sleeper : SystemClock
+        {
+            std::chrono::nanoseconds uptimeWithSleep() const override
+            {
+                return SystemClock::uptimeWithSleep() + slept;
+            }
+            std::chrono::nanoseconds slept{0};
+        } clock;
+        int looks = 0;
+        const auto daily = clock.every(24h, [&] { ++looks; });
+        QTest::qWait(20);
+        clock.slept = 72h;
+        const auto awake = clock.uptime();
+        clock.woke();
+        QTRY_COMPARE(looks, 1); // Those that were missed are not made up for.
+        QVERIFY(clock.uptime() - awake < 24h);
+        clock.slept += 25h;
+        const auto other = clock.every(10ms, [] {}); // Where nobody tells that it slept.
+        QTRY_COMPARE(looks, 2);
+    }
+
     void handlersMayEndTheirTimer()
     {
         SystemClock clock;

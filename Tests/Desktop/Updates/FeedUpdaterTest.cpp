@@ -389,6 +389,30 @@ private Q_SLOTS:
         QCOMPARE(stage.check(u"1.3.0"_s), Phase::available);
     }
 
+    void looksAgainWhenTheNetworkReturns()
+    {
+        Stage stage;
+        const auto hears = [&](const Reply &reply) {
+            stage.feed = reply;
+            Q_EMIT stage.network.returned();
+            return stage.settled();
+        };
+        const Reply cut{"HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n{", 0, {}, Reply::End::reset};
+        QCOMPARE(stage.check(cut), Phase::failed);
+        QCOMPARE(hears(cut), Phase::failed);
+        QCOMPARE(stage.server.log().size(), 1); // Nobody allowed it.
+        stage.updater.setAutomaticallyDownloadsUpdates(true);
+        QCOMPARE(hears(cut), Phase::failed);
+        QCOMPARE(stage.server.log().size(), 2);
+        const Reply newest = stage.page(stage.entry(u"1.2.0"_s));
+        QCOMPARE(hears(newest), Phase::current);
+        QCOMPARE(hears(newest), Phase::current);
+        QCOMPARE(stage.server.log().size(), 3);
+        stage.clock.sleep(24h); // The days that the machine slept count.
+        QCOMPARE(stage.settled(), Phase::current);
+        QCOMPARE(stage.server.log().size(), 4);
+    }
+
     void looksByItselfOnlyWhereAllowed()
     {
         Stage stage;

@@ -288,6 +288,9 @@ private Q_SLOTS:
         for (const Content content : {Content::Nothing, Content::Refusals, Content::Figures}) {
             Stage stage(content);
             stage.settle();
+            if (stage.core.services.hasActivity())
+                QTRY_COMPARE(stage.outline.width(),
+                             stage.core.model().geometry().shapeSize(false, true).width());
             look("closed", stage.window.get());
             for (const NotchTool tool : stage.core.settings.tools()) {
                 stage.core.controller.open(tool);

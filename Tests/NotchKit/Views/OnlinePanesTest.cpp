@@ -1,3 +1,5 @@
+#include "NotchKit/Kit/FigureAge.h"
+#include "NotchKit/Tools/Stocks/StocksModel.h"
 #include "WindowStage.h"
 
 namespace {
@@ -48,6 +50,7 @@ class OnlinePanesTest : public QObject
 private Q_SLOTS:
     void cityIsSoughtAndChanged();
     void symbolsAreEdited();
+    void oldQuotesSayWhenTheyCame();
 };
 
 void OnlinePanesTest::cityIsSoughtAndChanged()
@@ -79,6 +82,7 @@ void OnlinePanesTest::cityIsSoughtAndChanged()
     QTRY_VERIFY(!stage.field() && stage.shows(u"My location"_s));
     stage.answer({});
     QVERIFY(stage.shows(u"Weather is not available right now."_s) && stage.shows(u"−3°"_s));
+    QVERIFY(stage.shows(FigureAge::text(stage.core.clock.now(), stage.core.clock.now())));
     stage.key(Qt::Key_Escape);
     QVERIFY(!stage.core.model().expanded());
 }
@@ -119,6 +123,26 @@ void OnlinePanesTest::symbolsAreEdited()
     QVERIFY(stage.field() && !stage.shows(u"Apple"_s));
     stage.key(Qt::Key_Escape);
     QVERIFY(!stage.core.model().expanded());
+}
+
+void OnlinePanesTest::oldQuotesSayWhenTheyCame()
+{
+    Stage stage(NotchTool::stocks, {{u"notch.tickers"_s, QStringList{u"AAPL"_s}}});
+    stage.answer({});
+    stage.answer({});
+    QVERIFY(stage.shows(u"Quotes are not available right now."_s));
+    StocksModel &stocks = *stage.core.services.model<StocksModel>();
+    stocks.refresh(true);
+    stage.answer(R"({"chart": {"result": [{"meta": {"regularMarketPrice": 1, "shortName": "Apple"}}]}})");
+    QTRY_VERIFY(stage.shows(u"Apple"_s) && !stage.shows(u"Quotes are not available right now."_s));
+    const QDateTime then = stage.core.clock.now();
+    stocks.refresh(true);
+    stage.answer({});
+    stage.answer({});
+    QTRY_VERIFY(stage.shows(FigureAge::text(then, then)) && stage.shows(u"Apple"_s));
+    stage.core.wait(86'400'000); // and of which day
+    QTRY_VERIFY(stage.shows(FigureAge::text(then, stage.core.clock.now())));
+    QVERIFY(FigureAge::text(then, stage.core.clock.now()) != FigureAge::text(then, then));
 }
 
 REGISTER_TEST(OnlinePanesTest);

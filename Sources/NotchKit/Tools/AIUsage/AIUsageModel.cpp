@@ -75,14 +75,14 @@ AIUsageModel::~AIUsageModel() { m_sources->cancel(); }
 
 void AIUsageModel::refresh(bool force)
 {
-    if (!force && m_lastRefresh && m_clock.uptime() - *m_lastRefresh <= kUsagePause)
+    if (!force && m_lastRefresh && m_clock.uptimeWithSleep() - *m_lastRefresh <= kUsagePause)
         return;
     Found found;
     found.readCodex = m_settings.readCodexUsage();
     found.readClaude = m_settings.readClaudeUsage();
     if (loading() || (!found.readCodex && !found.readClaude))
         return;
-    m_lastRefresh = m_clock.uptime();
+    m_lastRefresh = m_clock.uptimeWithSleep();
     m_loading = true;
     m_reads.start(&AIUsageModel::read, this, found);
 }

@@ -64,6 +64,7 @@ public:
     Q_INVOKABLE void connectClaude();
 
     void visibleToolChanged(std::optional<NotchTool> visible) override;
+    void machineWoke() override { m_lastRefresh.reset(); }
     void tick(const ClockTick &tick) override;
 
 Q_SIGNALS:

@@ -59,6 +59,7 @@ CalendarModel::~CalendarModel() = default;
 
 void CalendarModel::refresh()
 {
+    m_hasSlept = false;
     m_eventReads.restart(&CalendarModel::readEvents, this);
     m_reminderReads.restart(&CalendarModel::readReminders, this);
 }
@@ -174,7 +175,7 @@ void CalendarModel::visibleToolChanged(std::optional<NotchTool> visible)
 
 void CalendarModel::tick(const ClockTick &tick)
 {
-    if (tick.anyExpanded && m_inUse && tick.seconds % kRefreshPause == 0)
+    if (tick.anyExpanded && m_inUse && (m_hasSlept || tick.seconds % kRefreshPause == 0))
         refresh();
 }
 

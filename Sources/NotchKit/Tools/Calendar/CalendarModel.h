@@ -112,6 +112,7 @@ public:
     Q_INVOKABLE void complete(const Kestrune::CalendarReminder &reminder);
 
     void visibleToolChanged(std::optional<NotchTool> visible) override;
+    void machineWoke() override { m_hasSlept = true; }
     void tick(const ClockTick &tick) override;
 
 Q_SIGNALS:
@@ -137,6 +138,7 @@ private:
     Clock &m_clock;
     CalendarStore &m_store;
     bool m_inUse = false;       ///< Has been on screen: nothing is read before.
+    bool m_hasSlept = false;    ///< Since the last refresh.
     QSet<QString> m_completing; ///< Reminders' ids.
     Scope m_eventReads;
     Scope m_reminderReads;

@@ -83,4 +83,17 @@ QString QuoteFormat::notFound(const QStringList &symbols)
     return notchStrings(QT_TRANSLATE_NOOP("notch", "Not found: %1")).arg(symbols.join(QStringLiteral(", ")));
 }
 
+QString QuoteFormat::gaps(const QStringList &notFound, const QStringList &unreached, const QString &age)
+{
+    QStringList parts;
+    if (!age.isEmpty())
+        parts.append(age);
+    if (!unreached.isEmpty())
+        //: The prices of shares, which a server on the web tells.
+        parts.append(notchStrings(QT_TRANSLATE_NOOP("notch", "Quotes are not available right now.")));
+    if (!notFound.isEmpty())
+        parts.append(QuoteFormat::notFound(notFound));
+    return parts.join(QStringLiteral(" · "));
+}
+
 } // namespace Kestrune

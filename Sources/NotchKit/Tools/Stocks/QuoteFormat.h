@@ -24,6 +24,10 @@ public:
 
     /// The symbols that were not found, in one sentence.
     Q_INVOKABLE static QString notFound(const QStringList &symbols);
+
+    /// What is missing and how old the rest is, in one line; empty where nothing is.
+    Q_INVOKABLE static QString gaps(const QStringList &notFound, const QStringList &unreached,
+                                    const QString &age);
 };
 
 } // namespace Kestrune

@@ -25,8 +25,7 @@ HomeBlock {
             visible: text !== ""
             text: block.empty ? qsTranslate("notch", "Type the symbols that you want to follow.")
                 : block.first.length > 0 ? ""
-                : block.stocks.failed.length > 0 ? QuoteFormat.notFound(block.stocks.failed)
-                : "–"
+                : QuoteFormat.gaps(block.stocks.failed, block.stocks.unreached, "") || "–"
             font.pixelSize: Theme.fontSize
             color: Theme.dim
             horizontalAlignment: Text.AlignLeft
@@ -84,6 +83,15 @@ HomeBlock {
                     horizontalAlignment: Text.AlignRight
                 }
             }
+        }
+        PlainText {
+            width: parent.width
+            visible: block.first.length > 0 && text !== ""
+            text: FigureAge.text(block.stocks.oldestTime, block.surroundings.now)
+            font.pixelSize: Theme.smallFontSize
+            color: Theme.warning
+            horizontalAlignment: Text.AlignLeft
+            elide: Text.ElideRight
         }
     }
 }

@@ -28,6 +28,13 @@ HttpRequest chartRequest(const char *host, const QString &symbol)
             kMostBytes};
 }
 
+/// Whether the service has said something about the symbol, rather than that it has no time for it.
+bool isWord(const HttpReply &reply)
+{
+    constexpr int kTooMany = 429;
+    return reply.status != 0 && reply.status < 500 && reply.status != kTooMany;
+}
+
 } // namespace
 
 StocksModel::StocksModel(NotchSettings &settings, Clock &clock, HttpClient &http, QObject *parent)
@@ -52,9 +59,9 @@ void StocksModel::refresh(bool force)
 {
     QStringList symbols = m_settings.tickers();
     symbols.removeDuplicates();
-    if (symbols.isEmpty() || (!force && m_lastFetch && m_clock.uptime() - *m_lastFetch <= kPause))
+    if (symbols.isEmpty() || (!force && m_lastFetch && m_clock.uptimeWithSleep() - *m_lastFetch <= kPause))
         return;
-    m_lastFetch = m_clock.uptime();
+    m_lastFetch = m_clock.uptimeWithSleep();
     m_fetches.end();
     m_round = {};
     m_round.symbols = symbols;
@@ -66,40 +73,73 @@ void StocksModel::refresh(bool force)
 
 QCoro::Task<> StocksModel::fetch(QString symbol)
 {
-    std::optional<Quote> quote;
+    Answer result;
     for (const char *host : WebServices::kCharts) {
         const QFuture<HttpReply> answer = m_http.get(chartRequest(host, symbol));
         const HttpReply reply = co_await until(answer);
+        result.reached = result.reached || isWord(reply);
         if (reply.isGood())
-            quote = parseQuote(symbol, reply.body);
-        if (quote)
+            result.quote = parseQuote(symbol, reply.body);
+        if (result.quote)
             break;
         qCInfo(stocksLog, "no quote in a reply of status %d", reply.status);
     }
-    take(symbol, quote);
+    take(symbol, result);
 }
 
-void StocksModel::take(const QString &symbol, const std::optional<Quote> &quote)
+void StocksModel::take(const QString &symbol, const Answer &answer)
 {
-    if (quote)
-        m_round.found.insert(symbol, *quote);
+    if (answer.quote)
+        m_round.found.insert(symbol, *answer.quote);
     else
-        m_round.failed.append(symbol);
+        (answer.reached ? m_round.failed : m_round.unreached).append(symbol);
     if (--m_round.waiting == 0)
         finish();
 }
 
-void StocksModel::finish()
+void StocksModel::remember()
 {
-    Quotes quotes;
+    const QDateTime now = m_clock.now();
+    QHash<QString, Dated> known;
     for (const QString &symbol : std::as_const(m_round.symbols)) {
         if (const auto found = m_round.found.constFind(symbol); found != m_round.found.cend())
-            quotes.append(*found);
+            known.insert(symbol, {*found, now});
+        else if (m_known.contains(symbol) && m_round.unreached.contains(symbol))
+            known.insert(symbol, m_known.value(symbol));
     }
+    m_known = known;
+}
+
+void StocksModel::finish()
+{
+    remember();
+    Quotes quotes;
+    QStringList unreached;
+    QDateTime oldest;
+    for (const QString &symbol : std::as_const(m_round.symbols)) {
+        const auto known = m_known.constFind(symbol);
+        const bool isUnreached = m_round.unreached.contains(symbol);
+        if (known != m_known.cend())
+            quotes.append(known->quote);
+        else if (isUnreached)
+            unreached.append(symbol);
+        if (known != m_known.cend() && isUnreached && (!oldest.isValid() || known->time < oldest))
+            oldest = known->time;
+    }
+    m_wasReached = m_round.unreached.isEmpty();
     m_quotes = quotes;
     m_failed = m_round.failed;
+    m_unreached = unreached;
+    m_oldestTime = oldest;
     m_loading = false;
     m_round = {};
+}
+
+/// What is still waiting went out when there was another network, or none.
+void StocksModel::networkReturned()
+{
+    if (m_loading || !m_wasReached)
+        m_lastFetch.reset();
 }
 
 bool StocksModel::showsFigures(std::optional<NotchTool> visible) const

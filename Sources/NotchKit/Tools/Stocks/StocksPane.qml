@@ -62,6 +62,13 @@ Pane {
         text: qsTranslate("notch", "Type the symbols that you want to follow.")
     }
 
+    PaneMessage {
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: footer.top }
+        visible: !pane.editorShown && grid.quotes === 0 && text !== ""
+        symbol: "chart.xyaxis.line"
+        text: QuoteFormat.gaps([], pane.stocks.unreached, "")
+    }
+
     GridView {
         id: grid
 
@@ -107,8 +114,9 @@ Pane {
 
         anchors { left: parent.left; right: parent.right; bottom: footer.top }
         height: 20
-        visible: !pane.empty && pane.stocks.failed.length > 0
-        text: QuoteFormat.notFound(pane.stocks.failed)
+        visible: !pane.empty && text !== ""
+        text: QuoteFormat.gaps(pane.stocks.failed, grid.quotes > 0 || pane.editorShown ? pane.stocks.unreached : [],
+                               FigureAge.text(pane.stocks.oldestTime, pane.surroundings.now))
         font.pixelSize: Theme.smallFontSize
         color: Theme.warning
         horizontalAlignment: Text.AlignLeft

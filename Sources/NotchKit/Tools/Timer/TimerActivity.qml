@@ -13,12 +13,13 @@ ActivityWings {
     leading: Symbol {
         anchors.centerIn: parent
         name: "timer"
+        color: activity.model.finished ? Theme.accent : Theme.text
         size: 14
     }
     trailing: TimerFace {
         id: time
 
-        readonly property string text: timer.format(remaining)
+        readonly property string text: timer.finished ? qsTranslate("notch", "Done") : timer.format(remaining)
 
         anchors.centerIn: parent
         timer: activity.model

@@ -12,11 +12,12 @@ Pane {
         anchors.centerIn: parent
         spacing: 16
 
-        TimerFace {
+        TimerLength {
             anchors.horizontalCenter: parent.horizontalCenter
+            focus: true
             timer: pane.timer
             surroundings: pane.surroundings
-            size: 64
+            screenModel: pane.screenModel
             shown: pane.visible
         }
 

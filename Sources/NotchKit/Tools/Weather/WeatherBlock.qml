@@ -78,8 +78,8 @@ HomeBlock {
         }
         PlainText {
             width: parent.width
-            visible: block.weather.hasPlace && block.weather.error !== ""
-            text: block.weather.error
+            visible: block.weather.hasPlace && text !== ""
+            text: figures.age || block.weather.error
             font.pixelSize: Theme.smallFontSize
             color: Theme.warning
             horizontalAlignment: Text.AlignLeft

@@ -1,5 +1,6 @@
 #include "WeatherFigures.h"
 
+#include "NotchKit/Kit/FigureAge.h"
 #include "NotchKit/NotchStrings.h"
 
 #include <QGuiApplication>
@@ -49,22 +50,32 @@ void WeatherFigures::follow(WeatherModel &model, NotchSurroundings &surroundings
     connect(&model, &WeatherModel::figuresChanged, this, &WeatherFigures::update);
     connect(&model, &WeatherModel::placeChanged, this, &WeatherFigures::update);
     connect(surroundings.settings(), &NotchSettings::weatherCityChanged, this, &WeatherFigures::update);
-    connect(&surroundings, &NotchSurroundings::nowChanged, this, &WeatherFigures::followDate);
-    followDate();
+    connect(&surroundings, &NotchSurroundings::nowChanged, this, &WeatherFigures::followTime);
+    followTime();
     update();
 }
 
-void WeatherFigures::followDate()
+void WeatherFigures::followTime()
 {
     const QDate today = m_surroundings->now().toLocalTime().date();
-    if (std::exchange(m_today, today) != today)
+    const bool isNewDay = std::exchange(m_today, today) != today;
+    const bool old = areOld();
+    if (isNewDay || m_old != old)
         update();
+}
+
+/// Twice the time after which they are fetched anew while they are shown.
+bool WeatherFigures::areOld() const
+{
+    constexpr qint64 kOld = 30 * 60; // s
+    return m_model->isStale() || m_model->figuresTime().secsTo(m_surroundings->now()) > kOld;
 }
 
 void WeatherFigures::update()
 {
     const WeatherModel &model = *m_model;
     Shown shown;
+    m_old = areOld();
     shown.city = m_surroundings->settings()->weatherCity();
     shown.symbol = weatherSymbol({});
     shown.temperature = dash();
@@ -74,6 +85,8 @@ void WeatherFigures::update()
             shown.temperature = degrees(*temperature);
         if (const auto wind = model.wind())
             shown.wind = windText(*wind, model.isFahrenheit());
+        if (m_old)
+            shown.age = FigureAge::text(model.figuresTime(), m_surroundings->now());
         for (const WeatherDay &day : model.days())
             shown.days.append(figures(day));
     }

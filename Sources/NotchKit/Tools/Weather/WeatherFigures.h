@@ -50,6 +50,8 @@ class WeatherFigures : public QObject, public QQmlParserStatus
     Q_PROPERTY(QString wind READ wind NOTIFY changed)
     /// The first day's highest and lowest temperature; empty while they are not known.
     Q_PROPERTY(QString range READ range NOTIFY changed)
+    /// When the figures came, where they are old; empty while they are not.
+    Q_PROPERTY(QString age READ age NOTIFY changed)
     Q_PROPERTY(QList<Kestrune::WeatherDayFigures> days READ days NOTIFY changed)
 
 public:
@@ -65,6 +67,7 @@ public:
     QString temperature() const { return m_shown.temperature; }
     QString wind() const { return m_shown.wind; }
     QString range() const { return m_shown.range; }
+    QString age() const { return m_shown.age; }
     QList<WeatherDayFigures> days() const { return m_shown.days; }
 
     /// A temperature as a whole number of degrees, halves away from zero.
@@ -81,18 +84,21 @@ private:
         QString temperature;
         QString wind;
         QString range;
+        QString age;
         QList<WeatherDayFigures> days;
 
         bool operator==(const Shown &) const = default;
     };
 
     void update();
-    void followDate();
+    void followTime();
+    bool areOld() const;
     WeatherDayFigures figures(const WeatherDay &day) const;
 
     WeatherModel *m_model = nullptr;
     NotchSurroundings *m_surroundings = nullptr;
     QDate m_today; ///< On the user's calendar.
+    bool m_old = false;
     Shown m_shown;
 };
 

@@ -18,6 +18,7 @@ namespace {
 Q_LOGGING_CATEGORY(weatherLog, "kestrune.weather", QtWarningMsg)
 
 constexpr auto kForecastPause = 15min;
+constexpr auto kRetryPause = 1min; // After no answer at all, where nobody tells of the network's return.
 constexpr std::chrono::milliseconds kForecastTimeout = 60s;
 constexpr qint64 kMostForecastBytes = qint64{64} * 1024; // twenty times what the services send
 
@@ -95,12 +96,28 @@ void WeatherModel::placeOrUnitChanged()
     Q_EMIT placeChanged();
 }
 
+bool WeatherModel::isTooEarly() const
+{
+    const auto pause = m_round == Round::unreached ? kRetryPause : kForecastPause;
+    return m_lastFetch && m_clock.uptimeWithSleep() - *m_lastFetch < pause;
+}
+
+void WeatherModel::machineWoke() { m_lastFetch.reset(); }
+
+/// A request that is still waiting went out when there was another network, or none.
+void WeatherModel::networkReturned()
+{
+    if (m_round == Round::waiting || m_round == Round::unreached)
+        m_lastFetch.reset();
+}
+
 void WeatherModel::refresh(bool force)
 {
     const auto wanted = place();
-    if (!wanted || (!force && m_lastFetch && m_clock.uptime() - *m_lastFetch < kForecastPause))
+    if (!wanted || (!force && isTooEarly()))
         return;
-    m_lastFetch = m_clock.uptime();
+    m_lastFetch = m_clock.uptimeWithSleep();
+    m_round = Round::waiting;
     if (!std::isfinite(wanted->latitude) || !std::isfinite(wanted->longitude)) {
         take({}, {});
         return;
@@ -117,12 +134,15 @@ QCoro::Task<> WeatherModel::fetch(Asked asked)
 
 void WeatherModel::take(const HttpReply &reply, const Asked &asked)
 {
+    m_round = reply.status == 0 ? Round::unreached : Round::answered;
     const auto forecast = reply.isGood() ? parseForecast(reply.body) : std::nullopt;
     if (!forecast) {
         qCInfo(weatherLog, "no forecast in a reply of status %d", reply.status);
         fail(QT_TRANSLATE_NOOP("notch", "Weather is not available right now."));
+        setStale(true);
         return;
     }
+    m_figuresTime = m_clock.now();
     const bool sameUnit = std::exchange(m_fahrenheit, asked.fahrenheit) == asked.fahrenheit;
     const bool samePlace = std::exchange(m_figuresPlace, asked.place) == asked.place;
     // A figure that is missing stays as it was, unless it was another place's.
@@ -135,7 +155,14 @@ void WeatherModel::take(const HttpReply &reply, const Asked &asked)
         m_wind = forecast->wind;
     m_days = forecast->days;
     m_error = QString();
+    setStale(false);
     if (!keeps)
+        Q_EMIT figuresChanged();
+}
+
+void WeatherModel::setStale(bool stale)
+{
+    if (std::exchange(m_stale, stale) != stale)
         Q_EMIT figuresChanged();
 }
 

@@ -15,7 +15,8 @@ class NotchSettings;
 
 /// The weather at one place, which the user names or lets the computer find. The place and the units are
 /// settings; here are only the last figures. Asks the forecast service while they are on screen, at most
-/// every quarter of an hour unless the place or the units change. Main thread only.
+/// every quarter of an hour unless the place or the units change; after a sleep, and where the service could
+/// not be reached, sooner. Main thread only.
 class WeatherModel : public ToolModel
 {
     Q_OBJECT
@@ -45,6 +46,12 @@ public:
     const QList<Day> &days() const { return m_days.value(); }
     QString symbol() const { return weatherSymbol(m_code); }
 
+    /// When they came, UTC; invalid while none did.
+    QDateTime figuresTime() const { return m_figuresTime; }
+
+    /// Whether newer ones were asked for and did not come.
+    bool isStale() const { return m_stale; }
+
     /// Whether they are in °F and miles per hour rather than in °C and kilometres per hour.
     bool isFahrenheit() const { return m_fahrenheit; }
 
@@ -62,6 +69,8 @@ public:
     Q_INVOKABLE void useCurrentLocation();
 
     void visibleToolChanged(std::optional<NotchTool> visible) override;
+    void machineWoke() override;
+    void networkReturned() override;
     void tick(const ClockTick &tick) override;
 
 Q_SIGNALS:
@@ -81,7 +90,12 @@ private:
         bool fahrenheit = false;
     };
 
+    /// How far the last request for a forecast has come.
+    enum class Round { answered, waiting, unreached };
+
     std::optional<Coordinate> place() const;
+    bool isTooEarly() const;
+    void setStale(bool stale);
     bool showsFigures(std::optional<NotchTool> visible) const;
     QCoro::Task<> fetch(Asked asked);
     QCoro::Task<> lookUp(QString city);
@@ -98,7 +112,10 @@ private:
     HttpClient &m_http;
     LocationService &m_location;
     std::optional<std::chrono::nanoseconds> m_lastFetch; ///< Nothing: the next refresh fetches.
+    Round m_round = Round::answered;
     std::optional<Coordinate> m_figuresPlace;
+    QDateTime m_figuresTime;
+    bool m_stale = false;
     bool m_fahrenheit = false;
     Scope m_forecasts;
     Scope m_places; ///< A city is looked up, or the computer's own place.

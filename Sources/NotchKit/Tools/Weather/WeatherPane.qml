@@ -133,7 +133,7 @@ Pane {
                 }
                 PlainText {
                     width: parent.width
-                    text: figures.wind
+                    text: [figures.wind, figures.age].filter(part => part !== "").join(" · ")
                     font.pixelSize: Theme.fontSize
                     color: Theme.dim
                     horizontalAlignment: Text.AlignLeft
