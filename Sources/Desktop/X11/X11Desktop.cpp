@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <chrono>
 #include <span>
 
 #include <xcb/damage.h>
@@ -56,10 +55,6 @@ X11Desktop::X11Desktop(QObject *parent)
         m_damaged = xcb_generate_id(X11::connection());
         xcb_xfixes_create_region(X11::connection(), m_damaged, 0, nullptr);
     }
-    constexpr auto kLate = std::chrono::milliseconds(150);
-    m_lateChange.setSingleShot(true);
-    m_lateChange.setInterval(kLate);
-    m_lateChange.callOnTimeout(this, &X11Desktop::stackingChanged);
     QCoreApplication::instance()->installNativeEventFilter(this);
     checkCompositor();
     qCInfo(windowsLog, "X11, %s a compositor, %s damage reports", m_hasCompositor ? "with" : "without",
@@ -100,10 +95,8 @@ bool X11Desktop::nativeEventFilter(const QByteArray &, void *message, qintptr *)
     const auto type = event->response_type;
     if (type == XCB_PROPERTY_NOTIFY) {
         const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(event);
-        if (change->window == X11::root() && isStackingProperty(change->atom)) {
-            m_lateChange.start();
+        if (change->window == X11::root() && isStackingProperty(change->atom))
             Q_EMIT stackingChanged();
-        }
     } else if (m_selectionEvent != 0 && type == m_selectionEvent) {
         const auto *change = reinterpret_cast<const xcb_xfixes_selection_notify_event_t *>(event);
         if (change->selection == m_compositorSelection)

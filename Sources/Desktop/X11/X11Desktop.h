@@ -4,7 +4,6 @@
 #include <QList>
 #include <QObject>
 #include <QRect>
-#include <QTimer>
 
 #include <optional>
 
@@ -45,8 +44,7 @@ public:
 Q_SIGNALS:
     void compositorChanged();
 
-    /// The window manager restacked its windows, changed the active one or the desktop. It comes once more a
-    /// moment later: some say so before they do it.
+    /// The window manager restacked its windows, changed the active one or the desktop.
     void stackingChanged();
 
 private:
@@ -54,7 +52,6 @@ private:
     void checkCompositor();
 
     xcb_atom_t m_compositorSelection;
-    QTimer m_lateChange;
     uint8_t m_selectionEvent = 0;
     bool m_hasCompositor = false;
     xcb_xfixes_region_t m_damaged = XCB_NONE; ///< For `reportDamage`; none where the X server cannot.
