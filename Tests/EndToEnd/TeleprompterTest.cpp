@@ -38,7 +38,7 @@ private Q_SLOTS:
             return session().status()["prompter"_L1][QLatin1String(value)];
         };
         const auto does = [&](const QStringList &words) {
-            return session().command(u"prompter"_s + words).status;
+            return session().command(QStringList(u"prompter"_s) + words).status;
         };
         QCOMPARE(does({u"play"_s}), 0);
         QTRY_VERIFY(prompter("playing").toBool() && prompter("secondsLeft").toInt(-1) > 60);

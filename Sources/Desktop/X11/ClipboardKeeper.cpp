@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kPatience = 900ms; // The end of the program waits for it.
+constexpr auto kHandOver = 900ms; // The end of the program waits for it.
 
 } // namespace
 
@@ -47,7 +47,7 @@ void ClipboardKeeper::keep(const std::vector<xcb_atom_t> &targets)
     using Clock = std::chrono::steady_clock;
     if (!ask(targets))
         return;
-    const auto end = Clock::now() + kPatience;
+    const auto end = Clock::now() + kHandOver;
     for (auto now = Clock::now(); m_x.isAlive() && now < end; now = Clock::now()) {
         xcb_flush(m_x.get());
         if (const auto event = m_x.nextEvent()) {

@@ -27,10 +27,10 @@ float luminance(const QColor &color)
 /// A day that is over: its name, or where that could be any week's, its date.
 QString pastDay(const QDate &day, const QDate &today)
 {
-    constexpr int kFarDays = 6;
+    constexpr int kNamedDays = 6;
     const QLocale locale;
-    return day.daysTo(today) <= kFarDays ? locale.dayName(day.dayOfWeek(), QLocale::ShortFormat)
-                                         : locale.toString(day, QLocale::ShortFormat);
+    return day.daysTo(today) <= kNamedDays ? locale.dayName(day.dayOfWeek(), QLocale::ShortFormat)
+                                           : locale.toString(day, QLocale::ShortFormat);
 }
 
 bool isWholeDay(const QDateTime &local) { return local.time() == QTime(0, 0); }

@@ -16,15 +16,16 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kLongestReading = 2s;
-constexpr qint64 kMostBytes = qint64{64} * 1024 * 1024; // Of a picture; a larger one is copied as a file.
+constexpr auto kLongestPictureReading = 2s;
+constexpr qint64 kMostPictureBytes =
+    qint64{64} * 1024 * 1024; // Of a picture; a larger one is copied as a file.
 
 QByteArray contentsOf(const QString &path)
 {
     QFile file(path);
-    if (!QFileInfo(path).isFile() || file.size() > kMostBytes || !file.open(QIODevice::ReadOnly))
+    if (!QFileInfo(path).isFile() || file.size() > kMostPictureBytes || !file.open(QIODevice::ReadOnly))
         return {};
-    return file.read(kMostBytes);
+    return file.read(kMostPictureBytes);
 }
 
 /// The newest of them, newest first.
@@ -237,7 +238,7 @@ QCoro::Task<> CapturesModel::copyFile(QUrl url)
 {
     const QString path = url.toLocalFile();
     const auto read = [path] { return contentsOf(path); };
-    const QFuture<QByteArray> reading = m_files.run(kLongestReading, read);
+    const QFuture<QByteArray> reading = m_files.run(kLongestPictureReading, read);
     const QByteArray bytes = co_await until(reading);
     PasteboardContent content(QList<QUrl>{url});
     if (!bytes.isEmpty())

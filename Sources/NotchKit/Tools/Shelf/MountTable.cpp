@@ -6,7 +6,7 @@ namespace Kestrune {
 
 namespace {
 
-constexpr qint64 kMostBytes = 1024 * 1024;
+constexpr qint64 kLongestTable = 1024 * 1024;
 constexpr int kMountPoint = 4; // The place among a line's fields.
 
 /// Blanks and backslashes stand as octal numbers.
@@ -46,7 +46,7 @@ MountTable::MountTable(const QByteArray &lines)
 MountTable MountTable::current()
 {
     QFile file(QStringLiteral("/proc/self/mountinfo"));
-    return file.open(QIODevice::ReadOnly) ? MountTable(file.read(kMostBytes)) : MountTable();
+    return file.open(QIODevice::ReadOnly) ? MountTable(file.read(kLongestTable)) : MountTable();
 }
 
 QString MountTable::rootOf(const QString &path) const

@@ -161,8 +161,8 @@ void ShelfModel::choose(const QUrl &url, int modifiers)
 /// All from the one that was chosen last; it stays the end to count from.
 void ShelfModel::chooseTo(const QUrl &url)
 {
-    const auto [first, last] = std::minmax(std::max(items().indexOf(m_lastChosen), qsizetype{0}),
-                                           std::max(items().indexOf(url), qsizetype{0}));
+    const auto [first, last] = std::minmax({std::max(items().indexOf(m_lastChosen), qsizetype{0}),
+                                            std::max(items().indexOf(url), qsizetype{0})});
     const Items range = items().mid(first, last - first + 1);
     m_chosen = QSet<QUrl>(range.cbegin(), range.cend());
 }
