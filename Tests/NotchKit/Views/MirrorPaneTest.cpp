@@ -65,9 +65,8 @@ private Q_SLOTS:
         QTRY_COMPARE(stage.message(), u"No camera found."_s);
         stage.core.camera.status = CameraAuthorization::denied;
         stage.core.services.model<MirrorModel>()->start();
-        QCOMPARE(stage.message(),
-                 u"Allow %1 to use the camera in\nSystem Settings › Privacy & Security › Camera."_s.arg(
-                     QCoreApplication::applicationName()));
+        QCOMPARE(stage.message(), u"Allow %1 to use the camera in\nthe desktop’s privacy settings."_s.arg(
+                                      QCoreApplication::applicationName()));
         QMetaObject::invokeMethod(stage.find(u"PaneMessage"_s), "action");
         QVERIFY(stage.core.workspace.opened.value(0).toString().endsWith(u"?Privacy_Camera"_s));
     }

@@ -5,7 +5,7 @@ import Kestrune.Views
 /// change, and which can be typed.
 ///
 ///   | −   25:00   + |
-FocusScope {
+Item {
     id: length
 
     required property TimerModel timer
@@ -32,6 +32,7 @@ FocusScope {
 
     implicitWidth: Math.max(face.width, 200) + 2 * (lower.width + 8)
     implicitHeight: face.height
+    activeFocusOnTab: true
     onEditingChanged: if (!editing) field.focus = false // Or the keys would go on to a field that is not shown.
     onIdleChanged: if (!idle && editing) finish()
     Accessible.role: Accessible.SpinBox
@@ -58,6 +59,10 @@ FocusScope {
             edit(event.text)
     }
 
+    FocusRing {
+        visible: length.activeFocus && length.idle && !length.editing
+        anchors { leftMargin: lower.width + 4; rightMargin: raise.width + 4 }
+    }
     TimerFace {
         id: face
 

@@ -8,13 +8,16 @@ Pane {
     required property TimerModel model
     readonly property TimerModel timer: model
 
+    first: length
+
     Column {
         anchors.centerIn: parent
         spacing: 16
 
         TimerLength {
+            id: length
+
             anchors.horizontalCenter: parent.horizontalCenter
-            focus: true
             timer: pane.timer
             surroundings: pane.surroundings
             screenModel: pane.screenModel
