@@ -1030,8 +1030,8 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <translation>تحديد الكل</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>تشغيل الملقن الآلي وإيقافه مؤقتًا بواسطة ⌃⌥⌘P</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>تشغيل الملقن الآلي وإيقافه مؤقتًا بواسطة Ctrl+Alt+Super+P</translation>
     </message>
     <message>
         <source>Move to Trash</source>

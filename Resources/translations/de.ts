@@ -1018,8 +1018,8 @@ Datenschutz-Einstellungen der Arbeitsumgebung.</translation>
         <translation>Alles auswählen</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>Teleprompter mit ⌃⌥⌘P abspielen und anhalten</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>Teleprompter mit Strg+Alt+Super+P abspielen und anhalten</translation>
     </message>
     <message>
         <source>Move to Trash</source>

@@ -1018,8 +1018,8 @@ los ajustes de privacidad del escritorio.</translation>
         <translation>Seleccionar todo</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>Reproducir y pausar el teleprompter con ⌃⌥⌘P</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>Reproducir y pausar el teleprompter con Ctrl+Alt+Super+P</translation>
     </message>
     <message>
         <source>Move to Trash</source>

@@ -1018,8 +1018,8 @@ les réglages de confidentialité du bureau.</translation>
         <translation>Tout sélectionner</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>Lire et mettre en pause le prompteur avec ⌃⌥⌘P</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>Lire et mettre en pause le prompteur avec Ctrl+Alt+Super+P</translation>
     </message>
     <message>
         <source>Move to Trash</source>

@@ -1018,8 +1018,8 @@ impostazioni di privacy del desktop.</translation>
         <translation>Seleziona tutto</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>Avvia e sospendi il teleprompter con ⌃⌥⌘P</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>Avvia e sospendi il teleprompter con Ctrl+Alt+Super+P</translation>
     </message>
     <message>
         <source>Move to Trash</source>

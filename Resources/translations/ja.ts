@@ -1015,8 +1015,8 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <translation>すべてを選択</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>⌃⌥⌘Pでテレプロンプターを再生・一時停止</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>Ctrl+Alt+Super+Pでテレプロンプターを再生・一時停止</translation>
     </message>
     <message>
         <source>Move to Trash</source>

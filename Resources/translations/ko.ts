@@ -1015,8 +1015,8 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <translation>전체 선택</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>⌃⌥⌘P로 텔레프롬프터 재생 및 일시 정지</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>Ctrl+Alt+Super+P로 텔레프롬프터 재생 및 일시 정지</translation>
     </message>
     <message>
         <source>Move to Trash</source>

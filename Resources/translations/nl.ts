@@ -1018,8 +1018,8 @@ de privacy-instellingen van het bureaublad.</translation>
         <translation>Selecteer alles</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>Teleprompter afspelen en pauzeren met ⌃⌥⌘P</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>Teleprompter afspelen en pauzeren met Ctrl+Alt+Super+P</translation>
     </message>
     <message>
         <source>Move to Trash</source>

@@ -1021,8 +1021,8 @@ ustawienia prywatności pulpitu.</translation>
         <translation>Zaznacz wszystko</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>Odtwarzaj i wstrzymuj teleprompter skrótem ⌃⌥⌘P</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>Odtwarzaj i wstrzymuj teleprompter skrótem Ctrl+Alt+Super+P</translation>
     </message>
     <message>
         <source>Move to Trash</source>

@@ -1018,8 +1018,8 @@ configurações de privacidade do ambiente.</translation>
         <translation>Selecionar tudo</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>Reproduzir e pausar o teleprompter com ⌃⌥⌘P</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>Reproduzir e pausar o teleprompter com Ctrl+Alt+Super+P</translation>
     </message>
     <message>
         <source>Move to Trash</source>

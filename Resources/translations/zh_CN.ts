@@ -1015,8 +1015,8 @@ System Settings › Privacy &amp; Security › Camera.</source>
         <translation>全选</translation>
     </message>
     <message>
-        <source>Play and pause the teleprompter with ⌃⌥⌘P</source>
-        <translation>使用 ⌃⌥⌘P 播放和暂停提词器</translation>
+        <source>Play and pause the teleprompter with Ctrl+Alt+Super+P</source>
+        <translation>使用 Ctrl+Alt+Super+P 播放和暂停提词器</translation>
     </message>
     <message>
         <source>Move to Trash</source>

@@ -38,7 +38,7 @@ private Q_SLOTS:
         input().tap(XK_space);
         QTRY_COMPARE(session().setting(u"shortcutEnabled"_s), u"false"_s);
 
-        constexpr int kToFirstColumn = 11; // The switches in between, and the column of Home's first block.
+        constexpr int kToFirstColumn = 12; // The switches in between, and the column of Home's first block.
         const QImage top = stage().x.grab(area());
         for (int i = 0; i < kToFirstColumn; ++i)
             input().tap(XK_Tab);
@@ -81,8 +81,8 @@ private Q_SLOTS:
         QCOMPARE(changedBy({XK_k}), QStringList(u"shortcut"_s));
         input().releaseKey(XK_Control_L);
         QCOMPARE(session().setting(u"shortcut"_s), u"Ctrl+K"_s);
-        QVERIFY(switches({u"liveActivities"_s, u"announceScreenshots"_s, u"allDisplays"_s,
-                          u"showWithoutNotch"_s, u"hideOverFullScreen"_s}));
+        QVERIFY(switches({u"prompterShortcutEnabled"_s, u"liveActivities"_s, u"announceScreenshots"_s,
+                          u"allDisplays"_s, u"showWithoutNotch"_s, u"hideOverFullScreen"_s}));
         QCOMPARE(changedBy({XK_Tab, XK_Down}), QStringList(u"placement"_s));
         QVERIFY(
             switches({u"clipboardHistory"_s, u"readCodexUsage"_s, u"readClaudeUsage"_s, u"useFahrenheit"_s}));

@@ -58,7 +58,7 @@ Column {
             }
         }
         SwitchRow {
-            title: qsTranslate("notch", "Play and pause the teleprompter with ⌃⌥⌘P")
+            title: qsTranslate("notch", "Play and pause the teleprompter with Ctrl+Alt+Super+P")
             on: view.settings.prompterShortcutEnabled
             onModified: on => view.settings.prompterShortcutEnabled = on
         }
