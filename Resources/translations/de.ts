@@ -982,7 +982,7 @@ Datenschutz-Einstellungen der Arbeitsumgebung.</translation>
     </message>
     <message>
         <source>Keys that open and close the notch: %1</source>
-        <translation>Tasten, die den Notch öffnen und schließen: %1</translation>
+        <translation>Tasten, die die Notch öffnen und schließen: %1</translation>
     </message>
     <message>
         <source>Keys</source>

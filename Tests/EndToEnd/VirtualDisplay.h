@@ -47,12 +47,16 @@ struct VirtualDisplay
     /// Each returns once the desktop's conventions say that the program is in charge.
     bool startWindowManager(const QString &program)
     {
-        const bool xfwm4 = program == "xfwm4"_L1;
+        const QStringList xfwm4{u"xfwm4"_s, u"--compositor=off"_s};
+        const QStringList kwin{u"env"_s, u"QT_QPA_PLATFORM=xcb"_s, u"kwin_x11"_s};
+        const QStringList command = program == xfwm4.constFirst() ? xfwm4
+                                    : program == kwin.constLast() ? kwin
+                                                                  : QStringList(program);
         // openbox can leave an event lying in its queue until the next one comes, which on a display as quiet
         // as this may be never.
         QObject::connect(&m_wake, &QTimer::timeout, [this] { m_x->wakeWindowManager(); });
         m_wake.start(20);
-        return launch(program, xfwm4 ? QStringList{u"--compositor=off"_s} : QStringList()) &&
+        return launch(command.constFirst(), command.mid(1)) &&
                waitUntil([&] { return m_x->hasWindowManager(); });
     }
     bool startCompositor()

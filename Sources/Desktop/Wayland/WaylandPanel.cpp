@@ -75,10 +75,13 @@ void WaylandPanel::place()
 
 void WaylandPanel::setBelowPanels(bool below)
 {
-    constexpr int outOfTheirWay = 0;
+    if (std::exchange(m_below, below) == below)
+        return;
+    constexpr int outOfTheirWay = 0; // As it is by itself.
     constexpr int wholeOutput = -1;
     m_surface->setExclusiveZone(below ? outOfTheirWay : wholeOutput);
-    m_window->requestUpdate();
+    if (m_window->isVisible())
+        remap(); // A frame in which nothing has changed is not sent.
 }
 
 void WaylandPanel::orderFront()

@@ -54,9 +54,10 @@ private:
     LayerShellQt::Window *m_surface; ///< Of the window, and owned by it.
     QRectF m_frame;
     QRectF m_hitArea;
-    bool m_key = false; ///< It was to have the keyboard, and has not lost it.
-    QTimer m_kept;      ///< Since the keyboard was given up, until the compositor should have taken it.
-    QTimer m_unseen;    ///< Since a lift was asked for, until a frame shows that the compositor took it.
+    bool m_below = true; ///< Below the desktop's panels.
+    bool m_key = false;  ///< It was to have the keyboard, and has not lost it.
+    QTimer m_kept;       ///< Since the keyboard was given up, until the compositor should have taken it.
+    QTimer m_unseen;     ///< Since a lift was asked for, until a frame shows that the compositor took it.
 };
 
 } // namespace Kestrune

@@ -32,7 +32,7 @@ Pane {
     Connections {
         target: pane.mirror
         function onChoicesChanged() {
-            if (menu.wanted && pane.mirror.choices.length > 0)
+            if (menu.wanted && menu.allowed && pane.mirror.choices.length > 0)
                 menu.open()
         }
     }
@@ -65,6 +65,7 @@ Pane {
 
         property bool wanted: false // From the press until the cameras are listed.
 
+        screenModel: pane.screenModel
         entries: pane.mirror.choices
         onOpened: wanted = false
         onChosen: index => pane.mirror.chooseCamera(index)

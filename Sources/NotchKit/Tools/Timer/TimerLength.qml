@@ -61,6 +61,7 @@ Item {
 
     FocusRing {
         visible: length.activeFocus && length.idle && !length.editing
+        radius: Theme.radius
         anchors { leftMargin: lower.width + 4; rightMargin: raise.width + 4 }
     }
     TimerFace {
