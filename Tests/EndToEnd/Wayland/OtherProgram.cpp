@@ -7,6 +7,10 @@
 #include <QPainter>
 #include <QRasterWindow>
 
+#ifdef KESTRUNE_WAYLAND
+#include <LayerShellQt/Window>
+#endif
+
 #include <cstdio>
 
 namespace {
@@ -68,10 +72,25 @@ private:
     bool m_dragging = false;
 };
 
+/// A desktop's panel along the top edge, which it keeps for itself.
+void showAsPanel(QWindow &window)
+{
+#ifdef KESTRUNE_WAYLAND
+    using LayerShellQt::Window;
+    constexpr int height = 30;
+    window.resize(1280, height);
+    Window *const surface = Window::get(&window);
+    surface->setAnchors({Window::AnchorTop, Window::AnchorLeft, Window::AnchorRight});
+    surface->setExclusiveZone(height);
+    surface->setLayer(Window::LayerTop);
+#endif
+    window.show();
+}
+
 } // namespace
 
-/// A window of another program, which says what happens to it: `OtherProgram maximized|full [FILE]`. FILE is
-/// what a drag from it carries.
+/// A window of another program, which says what happens to it: `OtherProgram maximized|full|panel [FILE]`.
+/// FILE is what a drag from it carries.
 int main(int argc, char *argv[])
 {
     QGuiApplication application(argc, argv);
@@ -79,6 +98,8 @@ int main(int argc, char *argv[])
     Window window(words.value(2));
     if (words.value(1) == QLatin1String("full"))
         window.showFullScreen();
+    else if (words.value(1) == QLatin1String("panel"))
+        showAsPanel(window);
     else
         window.showMaximized();
     return QGuiApplication::exec();

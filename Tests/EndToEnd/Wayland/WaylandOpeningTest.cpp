@@ -41,6 +41,32 @@ private Q_SLOTS:
         QCOMPARE(stage().other.count(u"press"_s), pressed);
     }
 
+    void hangsBelowOtherPanels_data() { compositors(); }
+    void hangsBelowOtherPanels()
+    {
+        constexpr QPoint onThePanel(640, 15);
+        constexpr QPoint belowIt(640, 50);
+        QVERIFY(stage().run({{"hoverDelay", "0"}}));
+        OtherProgram panel(session().environment(), u"wayland"_s, {u"panel"_s});
+        QTRY_COMPARE(panel.count(u"shown"_s), 1);
+        QVERIFY(waitUntil([&] {
+            input().move(Place::away);
+            input().click(onThePanel);
+            return waitUntil([&] { return panel.count(u"press"_s) > 0; }, 500);
+        }));
+        QVERIFY(!session().isOpen());
+        input().move(belowIt);
+        QVERIFY(stage().waitOpen() && leave());
+
+        QVERIFY(session().set(u"placement"_s, u"over"_s));
+        QVERIFY(waitUntil([&] {
+            input().move(Place::away);
+            input().move(onThePanel);
+            return waitUntil([&] { return session().isOpen(); }, 500);
+        }));
+        QVERIFY(leave());
+    }
+
     void calledByACommandItStaysUntilVisited_data() { compositors(); }
     void calledByACommandItStaysUntilVisited()
     {
