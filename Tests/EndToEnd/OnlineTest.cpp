@@ -1,6 +1,10 @@
 #include "EndToEnd/Stage.h"
 #include "Support/WebStandIn.h"
 
+#include <QDBusMessage>
+
+#include <atomic>
+
 /// Weather and stocks of the real program, whose web services are a server of the test's own.
 class OnlineTest : public StageTest
 {
@@ -9,6 +13,7 @@ class OnlineTest : public StageTest
 private Q_SLOTS:
     void init()
     {
+        m_isAway = false;
         m_server.forget();
         session().environment().insert(u"KESTRUNE_SERVICES"_s, m_server.url().toString());
     }
@@ -73,6 +78,36 @@ private Q_SLOTS:
         QTRY_COMPARE(m_server.targets(), QList{target("NEW")});
     }
 
+    void asksAnewAfterASleepAndWithTheNetwork()
+    {
+        session().environment().insert(u"DBUS_SYSTEM_BUS_ADDRESS"_s,
+                                       session().environment().value(u"DBUS_SESSION_BUS_ADDRESS"_s));
+        QDBusConnection system = session().bus();
+        QVERIFY(system.registerService(u"org.freedesktop.login1"_s) &&
+                system.registerService(u"org.freedesktop.NetworkManager"_s));
+        const auto tell = [&](const QString &path, const QString &interface, const QString &member,
+                              const QVariant &value) {
+            QDBusMessage signal = QDBusMessage::createSignal(path, interface, member);
+            signal << value;
+            return system.send(signal);
+        };
+        QVERIFY(stage().run({{"weatherLatitude", "1"}, {"weatherLongitude", "2"}, {"hoverDelay", "60"}}) &&
+                stage().choose(u"weather"_s) && stage().openByHotKey());
+        QTRY_COMPARE(m_server.log().size(), 1);
+        m_isAway = true;
+        QVERIFY(tell(u"/org/freedesktop/login1"_s, u"org.freedesktop.login1.Manager"_s, u"PrepareForSleep"_s,
+                     false));
+        QTRY_COMPARE(m_server.log().size(), 2); // A quarter of an hour too early, and in vain.
+        QTest::qWait(500);
+        m_isAway = false;
+        QVERIFY(tell(u"/org/freedesktop/NetworkManager"_s, u"org.freedesktop.NetworkManager"_s,
+                     u"StateChanged"_s, 70U));
+        QTRY_COMPARE(m_server.log().size(), 3);
+        QVERIFY(holdsFor([&] { return m_server.log().size() == 3; }, 2500));
+        system.unregisterService(u"org.freedesktop.login1"_s);
+        system.unregisterService(u"org.freedesktop.NetworkManager"_s);
+    }
+
     void onlyLoopbackStandsIn()
     {
         for (const QString &refused :
@@ -86,8 +121,10 @@ private Q_SLOTS:
     }
 
 private:
-    static WebStandIn::Answer serve(const WebStandIn::Request &request)
+    WebStandIn::Answer serve(const WebStandIn::Request &request) const
     {
+        if (m_isAway)
+            return {"HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n{", 0, {}, WebStandIn::Answer::End::reset};
         if (request.target.startsWith("/v1/search"))
             return WebStandIn::page(200, R"({"results": [{"name": "San Jos)"
                                          "\u00e9"
@@ -102,7 +139,8 @@ private:
                                 "Set-Cookie: tracked=yes; Path=/\r\n");
     }
 
-    WebStandIn m_server{&serve};
+    std::atomic_bool m_isAway = false;
+    WebStandIn m_server{[this](const WebStandIn::Request &request) { return serve(request); }};
 };
 
 REGISTER_TEST(OnlineTest);
