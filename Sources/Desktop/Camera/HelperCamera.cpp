@@ -24,8 +24,8 @@ namespace {
 constexpr auto kLongestProbe = 20s;   // The first one of a user lists all plugins.
 constexpr int kLongestProbeEnd = 500; // ms
 constexpr auto kLongestList = 5s;
-constexpr qint64 kMostListed = 16 * 1024; // Bytes.
-constexpr auto kSlack = 10s;              // A loop that needs longer to notice hangs.
+constexpr qint64 kMostListed = qint64{16} * 1024; // Bytes.
+constexpr auto kSlack = 10s;                      // A loop that needs longer to notice hangs.
 
 /// One look for a camera. Deletes itself once the pledge is given.
 class Probe : public QObject

@@ -15,7 +15,8 @@ namespace Kestrune {
 
 namespace {
 
-constexpr qint64 kMostEntryBytes = 256 * 1024; // Of a file; entries hold their texts in all languages.
+constexpr qint64 kMostEntryBytes =
+    qint64{256} * 1024; // Of a file; entries hold their texts in all languages.
 constexpr qsizetype kMostEntries = 4000;
 
 QString editedType() { return QStringLiteral("image/png"); }

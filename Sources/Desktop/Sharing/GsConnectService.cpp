@@ -43,6 +43,7 @@ bool isEnabled(const QDBusMessage &reply)
     bool enabled = false;
     answer.beginStructure();
     answer >> enabled;
+    answer.endStructure(); // Else what reads it is lost.
     return enabled;
 }
 

@@ -172,6 +172,7 @@ private Q_SLOTS:
         bool opens = true;
         file.beginStructure();
         file >> address >> opens;
+        file.endStructure();
         QCOMPARE(address, u"file:///tmp/%C3%BC"_s);
         QVERIFY(!opens);
     }

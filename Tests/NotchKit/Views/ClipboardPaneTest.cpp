@@ -36,6 +36,17 @@ struct Stage : WindowStage
             byPlace.insert(row->y(), row->property("text").toString());
         return byPlace.values();
     }
+    /// Whether no row is on its way to another place.
+    bool isAtRest() const
+    {
+        QList<qreal> places;
+        for (QQuickItem *row : all(u"ClipRow"_s))
+            places.append(row->y() / (row->height() + 2));
+        std::ranges::sort(places);
+        return std::ranges::all_of(places, [&](qreal place) {
+            return qFuzzyCompare(1 + place - places.constFirst(), 1 + double(places.indexOf(place)));
+        });
+    }
     QString message() const
     {
         const QQuickItem *shown = all(pane, u"PaneMessage"_s).value(0);
@@ -93,6 +104,7 @@ private Q_SLOTS:
 
         const auto written = stage.core.pasteboard.count;
         const auto choose = [&](const char *text, const QList<Qt::Key> &keys) {
+            QTRY_VERIFY(stage.isAtRest());
             stage.click(row(text), Qt::RightButton);
             QVERIFY(QTest::qWaitFor(
                 [&] { return stage.window->activeFocusItem()->inherits("QQuickAbstractButton"); }));

@@ -157,7 +157,9 @@ private Q_SLOTS:
                 std::ranges::find_if(rows, [](auto *row) { return row->property("current").toBool(); });
             return found == rows.end() ? nullptr : *found;
         };
-        QTRY_VERIFY(current() && current()->property("text") == "copy 12"_L1 && current()->y() == 0);
+        QTRY_VERIFY(current() && current()->property("text") == "copy 12"_L1 &&
+                    current()->y() + current()->parentItem()->y() ==
+                        0); // At the list's top, wherever its origin is.
         stage.core.pasteboard.offer(u"new"_s);
         stage.core.wait(1000);
         Fakes::finishWork();

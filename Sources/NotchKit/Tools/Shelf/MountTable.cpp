@@ -6,7 +6,7 @@ namespace Kestrune {
 
 namespace {
 
-constexpr qint64 kLongestTable = 1024 * 1024;
+constexpr qint64 kLongestTable = qint64{1024} * 1024;
 constexpr int kMountPoint = 4; // The place among a line's fields.
 
 /// Blanks and backslashes stand as octal numbers.

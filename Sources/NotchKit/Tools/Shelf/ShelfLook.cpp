@@ -102,8 +102,8 @@ QCoro::Task<ShelfFindings> ShelfLook::lookAt(QList<QUrl> files, QStringList moun
 
     ShelfFindings all;
     for (auto group = byRoot.cbegin(); group != byRoot.cend(); ++group) {
-        const QString root = group.key();
-        const QList<QUrl> own = group.value();
+        const QString &root = group.key();
+        const QList<QUrl> &own = group.value();
         if (m_hanging.contains(root) && m_hanging[root].use_count() > 1) {
             all.unite(awayAll(own, root));
             continue;

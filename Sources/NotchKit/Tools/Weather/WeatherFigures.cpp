@@ -67,7 +67,7 @@ void WeatherFigures::followTime()
 /// Twice the time after which they are fetched anew while they are shown.
 bool WeatherFigures::areOld() const
 {
-    constexpr qint64 kOld = 30 * 60; // s
+    constexpr qint64 kOld = qint64{30} * 60; // s
     return m_model->isStale() || m_model->figuresTime().secsTo(m_surroundings->now()) > kOld;
 }
 
