@@ -81,7 +81,9 @@ private Q_SLOTS:
         }));
         QVERIFY(stage().show(u"mirror"_s));
         QTRY_VERIFY(stage().x.pixel(settingsButton).blue() > 200);
-        QVERIFY(portal.called().first().endsWith(u"Registry.Register"_s));
+        // Before it, Qt 6.8 reads a property of the portal, which counts for nothing.
+        const QStringList called = portal.called().filter(QRegularExpression(u"(Registry|Camera)\\.\\w+$"_s));
+        QVERIFY(called.constFirst().endsWith(u"Registry.Register"_s));
         QVERIFY(portal.called().last().endsWith(u"Camera.AccessCamera"_s));
         QCOMPARE(server.state(), u"suspended"_s);
     }
