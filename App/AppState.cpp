@@ -8,6 +8,7 @@
 #include "NotchKit/Platform/WindowSystem.h"
 
 #include <QCoreApplication>
+#include <QPointer>
 
 #include <cstdio>
 
@@ -41,8 +42,11 @@ AppState::AppState(const Platform &platform, const AppWindows &windows, const La
     m_services.openSettings = windows.openSettings;
     followSettings();
     connect(&m_timerNotice, &TimerNotice::timerWanted, this, [this] { showNotch(NotchTool::timer, true); });
+    m_isTold = m_platform.applications.follow([self = QPointer(this)] {
+        if (self)
+            self->checkFennivar();
+    });
     checkFennivar();
-    m_watcher = m_platform.clock.every(kSuiteCheck, [this] { checkFennivar(); });
     schedule(request);
 }
 
@@ -68,8 +72,19 @@ void AppState::schedule(LaunchRequest request)
         m_launch = m_platform.clock.after(kLaunchDelay, [this, tool = request.tool] { showNotch(tool); });
 }
 
+/// Nobody tells when its setting changes.
+void AppState::watchSuite()
+{
+    const bool mayChange = !m_isTold || m_platform.applications.isRunning(NotchBranding::suiteIdentifier());
+    if (!mayChange)
+        m_watcher.reset();
+    else if (!m_watcher)
+        m_watcher = m_platform.clock.every(kSuiteCheck, [this] { checkFennivar(); });
+}
+
 void AppState::checkFennivar()
 {
+    watchSuite();
     const bool yield = m_platform.applications.isRunning(NotchBranding::suiteIdentifier()) &&
                        m_platform.suiteDefaults.value<bool>(QStringLiteral("notch.enabled")).value_or(false);
     if (yield != yieldingToFennivar())

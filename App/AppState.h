@@ -72,6 +72,7 @@ Q_SIGNALS:
 
 private:
     void checkFennivar();
+    void watchSuite();
     void schedule(LaunchRequest request);
     void showPausedAlert();
     void followSettings();
@@ -83,7 +84,8 @@ private:
     NotchController m_controller;
     PrompterRemote m_prompter;
     TimerNotice m_timerNotice;
-    std::unique_ptr<RunningTimer> m_watcher;
+    bool m_isTold = false;                   ///< When the suite comes and goes.
+    std::unique_ptr<RunningTimer> m_watcher; ///< None while nothing can have changed untold.
     std::unique_ptr<RunningTimer> m_launch;
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(AppState, bool, m_launchAtLogin, false,
                                          &AppState::launchAtLoginChanged)

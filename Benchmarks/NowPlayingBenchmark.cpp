@@ -6,14 +6,13 @@
 #include "Desktop/Media/MprisApplications.h"
 #include "Desktop/Media/MprisExecutor.h"
 #include "Desktop/Time/SystemClock.h"
-#include "NotchKit/NotchController.h"
+#include "LoopWatch.h"
 #include "NotchKit/Platform/WindowSystem.h"
 #include "NotchKit/Shell/NotchWindow.h"
 #include "NotchKit/Tools/NowPlaying/NowPlayingModel.h"
 #include "Surroundings.h"
 #include "Table.h"
 #include "Timing.h"
-#include "WatchedPointer.h"
 
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
@@ -89,20 +88,14 @@ void measureWings(Table &table, Player &player)
     Table::note("  hub, wings and player together", playing, "%");
 }
 
-void measureGaps(NotchServices &services, Clock &clock, Player &music, Player &spotify)
+void measureGaps(Clock &clock, Player &music, Player &spotify)
 {
-    WatchedPointer pointer;
-    Fakes::Platform around;
-    around.displays.displays = twoDisplays();
-    NotchController controller(services, around.ports({.clock = &clock, .pointer = &pointer}), around.panels);
-    controller.start();
-    pass(4s);
-    pointer.takeLongest();
+    LoopWatch watch(clock);
     pass(8s);
-    Table::note("Longest time between two polls, a song paused", pointer.takeLongest(), "ms");
+    Table::note("Longest gap of the main thread, a song paused", watch.takeLongest(), "ms");
     music.state = spotify.state = Player::State::hanging;
     pass(8s);
-    Table::note("  with two players that never answer", pointer.takeLongest(), "ms");
+    Table::note("  with two players that never answer", watch.takeLongest(), "ms");
 }
 
 } // namespace
@@ -131,6 +124,6 @@ int main(int argc, char *argv[])
     services.start();
     Table table;
     measureWings(table, music);
-    measureGaps(services, clock, music, spotify);
+    measureGaps(clock, music, spotify);
     return table.exitStatus();
 }

@@ -15,9 +15,7 @@
 #include <thread>
 
 #include <csignal>
-#include <poll.h>
 #include <spawn.h>
-#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <xcb/damage.h>
@@ -165,17 +163,17 @@ public:
         return std::chrono::nanoseconds(sum);
     }
 
-    /// A number of a /proc file that names each: "Pss:", "write_bytes:".
-    double figure(const char *file, const std::string &name) const
+    /// How often one of its threads went to sleep so far, and so will have woken.
+    double wakeUps() const
     {
-        std::ifstream lines(proc(file));
-        for (std::string word; lines >> word;) {
-            double value = 0;
-            if (word == name && lines >> value)
-                return value;
-        }
-        fail("the kernel does not tell the figures of a process");
+        double sum = 0;
+        for (const auto &task : std::filesystem::directory_iterator(proc("task")))
+            sum += named(task.path() / "status", "voluntary_ctxt_switches:");
+        return sum;
     }
+
+    /// A number of a /proc file that names each: "Pss:", "write_bytes:".
+    double figure(const char *file, const std::string &name) const { return named(proc(file), name); }
 
     /// How many other processes share the largest library, and so a part of what is counted.
     long sharers() const
@@ -190,6 +188,17 @@ public:
     }
 
 private:
+    static double named(const std::filesystem::path &file, const std::string &name)
+    {
+        std::ifstream lines(file);
+        for (std::string word; lines >> word;) {
+            double value = 0;
+            if (word == name && lines >> value)
+                return value;
+        }
+        fail("the kernel does not tell the figures of a process");
+    }
+
     std::filesystem::path proc(const char *file) const
     {
         return std::filesystem::path("/proc") / std::to_string(m_pid) / file;
@@ -227,56 +236,20 @@ void measureMemory(Table &table, const Program &program, const char *what, doubl
     Table::note("  were nothing shared (RSS)", program.figure("smaps_rollup", "Rss:") / 1000, "MB");
 }
 
-/// A process that does nothing but wake thirty times a second: what waking alone costs on this machine.
-class Sleeper
-{
-public:
-    Sleeper()
-        : m_pid(fork())
-    {
-        if (m_pid == 0) {
-            prctl(PR_SET_PDEATHSIG, SIGKILL);
-            for (;;)
-                poll(nullptr, 0, 33);
-        }
-    }
-
-    ~Sleeper()
-    {
-        kill(m_pid, SIGKILL);
-        waitpid(m_pid, nullptr, 0);
-    }
-
-    Sleeper(const Sleeper &) = delete;
-    Sleeper &operator=(const Sleeper &) = delete;
-
-    /// Milliseconds of processor time so far.
-    double processorTime() const
-    {
-        double nanoseconds = 0;
-        std::ifstream("/proc/" + std::to_string(m_pid) + "/schedstat") >> nanoseconds;
-        return nanoseconds / 1e6;
-    }
-
-private:
-    pid_t m_pid;
-};
-
 void measureIdle(Table &table, const Program &program, const Onlooker &onlooker, const std::string &when)
 {
     onlooker.redraws();
     const double written = program.figure("io", "write_bytes:");
-    const Sleeper sleeper;
     const auto busy = program.processorTime();
+    const double slept = program.wakeUps();
     const auto begin = Time::now();
     std::this_thread::sleep_for(kIdleTime);
     const auto used = program.processorTime() - busy;
     const double elapsed = milliseconds(Time::now() - begin);
     const double share = 100 * milliseconds(used) / elapsed;
-    table.add({"Closed and idle, " + when + ": processor", share, 0.25, "%",
-               "noisy: rises when the machine is busy"});
-    Table::note("  a process that only wakes thirty times a second", 100 * sleeper.processorTime() / elapsed,
-                "%");
+    table.add({"Closed and idle, " + when + ": processor", share, 0.02, "%", ""});
+    table.add(
+        {"  wake-ups a minute, all threads", (program.wakeUps() - slept) * 60'000 / elapsed, 0, "", ""});
     table.add({"  redraws in 30 s", static_cast<double>(onlooker.redraws()), 0, "", ""});
     table.add({"  bytes written to disk", program.figure("io", "write_bytes:") - written, 0, "", ""});
 }

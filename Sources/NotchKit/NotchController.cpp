@@ -55,13 +55,20 @@ void NotchController::start()
     m_isRunning = true;
     rebuildPanels();
     m_services.start();
-    m_screenObserver =
-        connect(&m_windows.displays(), &Displays::changed, this, &NotchController::rebuildPanels);
-    m_lockObserver = connect(&m_lock, &SessionLock::changed, this, &NotchController::followLock);
-    m_coverObserver = connect(&m_windows.fullScreenWindows(), &FullScreenWindows::changed, this,
-                              &NotchController::showOrHideAll);
-    if (!m_lock.isLocked())
-        watchPointer();
+    m_observers = {
+        connect(&m_windows.displays(), &Displays::changed, this, &NotchController::rebuildPanels),
+        connect(&m_lock, &SessionLock::changed, this, &NotchController::followLock),
+        connect(&m_windows.fullScreenWindows(), &FullScreenWindows::changed, this,
+                &NotchController::showOrHideAll),
+        connect(&m_windows.pointer(), &Pointer::stirred, this, &NotchController::watchPointer),
+        connect(m_services.settings(), &NotchSettings::openModeChanged, this, &NotchController::watchPointer),
+        connect(&m_services, &NotchServices::hasActivityChanged, this, &NotchController::updateHitAreas),
+        // Another program's window over an open notch hides from it where the pointer goes.
+        connect(m_services.surroundings(), &NotchSurroundings::nowChanged, this, [this] {
+            if (m_services.anyExpanded())
+                watchPointer();
+        })};
+    watchPointer();
     applyShortcut();
 }
 
@@ -70,10 +77,9 @@ void NotchController::stop()
     if (!isRunning())
         return;
     m_isRunning = false;
-    m_poller.reset();
-    disconnect(m_screenObserver);
-    disconnect(m_lockObserver);
-    disconnect(m_coverObserver);
+    rest();
+    for (const auto &observer : std::exchange(m_observers, {}))
+        disconnect(observer);
     m_hotkey.reset();
     setHotKeyBinding({});
     collapseAll();
@@ -87,7 +93,23 @@ void NotchController::stop()
 
 void NotchController::watchPointer()
 {
+    if (m_poller || !m_isRunning || m_lock.isLocked())
+        return;
+    m_firstPoll = m_clock.after(0ms, [this] { poll(); });
     m_poller = m_clock.every(kPollInterval, [this] { poll(); });
+}
+
+void NotchController::rest()
+{
+    m_firstPoll.reset();
+    m_poller.reset();
+}
+
+/// Nothing is being waited for, and the pointer does nothing that concerns a notch.
+bool NotchController::canRest() const
+{
+    return !m_hasChanged && m_hoverStart.isEmpty() && m_leaveStart.isEmpty() &&
+           (m_windows.pointer().isAtRest() || !(m_isOverNotch || m_services.anyExpanded()));
 }
 
 void NotchController::followLock()
@@ -95,7 +117,7 @@ void NotchController::followLock()
     if (!m_lock.isLocked()) {
         watchPointer();
     } else {
-        m_poller.reset();
+        rest();
         m_hoverStart.clear();
         m_leaveStart.clear();
         for (Notch &notch : m_notches) {
@@ -205,6 +227,7 @@ void NotchController::rebuildPanels()
         if (!gone(notch))
             continue;
         set(notch, false);
+        forgetDelays(notch);
         notch.panel->orderOut();
         notch.panel.reset(); // Where the others move up into its place, the model goes first.
     }
@@ -243,6 +266,8 @@ void NotchController::addNotch(const Display &screen)
         if (Notch *notch = find(name))
             notch->typed = m_clock.uptime();
     });
+    connect(model.get(), &NotchScreenModel::pinnedChanged, this, &NotchController::watchPointer);
+    connect(model.get(), &NotchScreenModel::dropTargetedChanged, this, &NotchController::watchPointer);
     m_notches.push_back({screen, std::move(model), std::move(panel), {}});
     updateHitArea(m_notches.back());
     showOrHide(m_notches.back());
@@ -355,7 +380,10 @@ void NotchController::set(Notch &notch, bool expanded)
         model.setSelected(firstTool());
     model.setExpanded(expanded);
     model.setPointerEntered(false);
+    forgetDelays(notch);
     updateHitArea(notch);
+    m_hasChanged = true;
+    watchPointer();
     if (expanded)
         opened(notch);
     else
@@ -407,6 +435,20 @@ void NotchController::updateHitArea(Notch &notch)
         return;
     notch.hitArea = area;
     notch.panel->setHitArea(area);
+    m_hasChanged = true;
+}
+
+void NotchController::updateHitAreas()
+{
+    for (Notch &notch : m_notches)
+        updateHitArea(notch);
+    watchPointer();
+}
+
+void NotchController::forgetDelays(const Notch &notch)
+{
+    m_hoverStart.remove(notch.screen.name);
+    m_leaveStart.remove(notch.screen.name);
 }
 
 void NotchController::poll()
@@ -415,14 +457,17 @@ void NotchController::poll()
     const bool pressed = pointer.primaryDown;
     const bool freshPress = pressed && !m_wasPressed;
     m_wasPressed = pressed;
+    m_isOverNotch = m_hasChanged = false;
     for (Notch &notch : m_notches) {
-        updateHitArea(notch);
         const bool inside = holds(notch.hitArea, pointer.location);
+        m_isOverNotch = m_isOverNotch || inside;
         if (notch.model->expanded())
             pollOpen(notch, inside, pressed, freshPress);
         else
             pollClosed(notch, inside, pressed, freshPress);
     }
+    if (canRest())
+        rest();
 }
 
 bool NotchController::isTyping(const Notch &notch, Moment now)
@@ -436,8 +481,10 @@ void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool fre
     const QString &key = notch.screen.name;
     if (inside)
         model.setPointerEntered(true);
-    if (model.pinned())
+    if (model.pinned()) {
+        m_leaveStart.remove(key);
         return;
+    }
     if (!model.pointerEntered()) {
         if (freshPress)
             set(notch, false);

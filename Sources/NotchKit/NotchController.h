@@ -21,7 +21,8 @@ class NotchPanels;
 class WindowSystem;
 
 /// Keeps one panel and one screen model per wanted display, and opens and closes them: it polls the
-/// pointer thirty times a second and owns the hot key. On a display without a housing that a full-screen
+/// pointer thirty times a second from when it stirs until nothing can come of it, and owns the hot key. On a
+/// display without a housing that a full-screen
 /// window covers, the closed notch is not on screen and does not open by pointer. A notch that the pointer
 /// left stays open while the user types in it, so that no keystroke goes elsewhere. While the session is
 /// locked no panel is on screen, nothing opens, and what a pinned notch shows counts as hidden. Main thread
@@ -92,6 +93,9 @@ private:
     void showOrHide(Notch &notch);
     void showOrHideAll();
     void watchPointer();
+    void rest();
+    bool canRest() const;
+    void forgetDelays(const Notch &notch);
     void rebuildPanels();
     void addNotch(const Display &screen);
     void updateNotch(Notch &notch, const Display &screen);
@@ -111,6 +115,7 @@ private:
     void hasClosed(QString name);
     void tellWhatShows();
     void updateHitArea(Notch &notch);
+    void updateHitAreas();
     void poll();
     static bool isTyping(const Notch &notch, Moment now);
     void pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress);
@@ -124,16 +129,19 @@ private:
     Notches m_notches;
     SessionLock &m_lock;
     bool m_isRunning = false;
-    std::unique_ptr<RunningTimer> m_poller; ///< None while the screen is locked.
-    QHash<QString, Moment> m_hoverStart;    ///< When the pointer began to rest over a closed notch.
-    QHash<QString, Moment> m_leaveStart;    ///< When the pointer left an open notch.
+    std::unique_ptr<RunningTimer> m_firstPoll; ///< Comes at once.
+    std::unique_ptr<RunningTimer>
+        m_poller;               ///< None while nothing can come of the pointer, or the screen is locked.
+    bool m_isOverNotch = false; ///< The pointer, at the last poll.
+    bool m_hasChanged =
+        false; ///< A notch, or where it is, since the last poll began: the next one has to see.
+    QHash<QString, Moment> m_hoverStart; ///< When the pointer began to rest over a closed notch.
+    QHash<QString, Moment> m_leaveStart; ///< When the pointer left an open notch.
     bool m_wasPressed = false;
     QString m_shownOnce; ///< A display without a notch of its own that shows one until it closes.
     std::unique_ptr<GlobalHotkey> m_hotkey;
     HotKeyBinding m_hotKeyBinding;
-    QMetaObject::Connection m_screenObserver;
-    QMetaObject::Connection m_lockObserver;
-    QMetaObject::Connection m_coverObserver;
+    std::vector<QMetaObject::Connection> m_observers;
 };
 
 } // namespace Kestrune

@@ -28,6 +28,13 @@ NotchServices::NotchServices(NotchSettings &settings, const NotchBranding &brand
         m_wings.push_back(model(tool));
     m_activityTool.setBinding([this] { return computeActivityTool(); });
     m_hasActivity.setBinding([this] { return m_activityTool.value().has_value(); });
+    m_wantsSeconds.setBinding([this] {
+        const bool wanted = anyWants(ToolModel::Pace::seconds);
+        return m_anyExpanded || wanted;
+    });
+    m_wantsFast.setBinding([this] { return anyWants(ToolModel::Pace::fast); });
+    m_wishes.push_back(m_wantsSeconds.addNotifier([this] { followSeconds(); }));
+    m_wishes.push_back(m_wantsFast.addNotifier([this] { followFast(); }));
     // What is timed from now on would otherwise show a second too many until the next tick.
     for (const auto &model : m_models) {
         connect(model.get(), &ToolModel::timeWanted, m_surroundings.get(), &NotchSurroundings::refreshNow);
@@ -46,23 +53,53 @@ NotchServices::~NotchServices() { stop(); }
 
 void NotchServices::start()
 {
-    if (m_clockTimer)
+    if (m_isRunning)
         return;
+    m_isRunning = true;
     m_surroundings->refreshNow();
-    m_clockTimer = m_clock.every(1s, [this] { tick(); });
-    m_fastTimer = m_clock.every(50ms, [this] { fastTick(); });
+    followSeconds();
+    followFast();
     for (const auto &model : m_models)
         model->hubStarted();
 }
 
 void NotchServices::stop()
 {
-    if (!m_clockTimer)
+    if (!m_isRunning)
         return;
+    m_isRunning = false;
     m_clockTimer.reset();
     m_fastTimer.reset();
     for (const auto &model : m_models)
         model->hubStopped();
+}
+
+/// Asks them all, for the reason that `computeActivityTool` gives.
+bool NotchServices::anyWants(ToolModel::Pace pace) const
+{
+    bool any = false;
+    for (const auto &model : m_models)
+        any = (model->pace() == pace) || any;
+    return any;
+}
+
+void NotchServices::followSeconds()
+{
+    if (!m_isRunning || m_wantsSeconds == (m_clockTimer != nullptr))
+        return;
+    if (m_clockTimer) {
+        m_clockTimer.reset();
+        return;
+    }
+    m_surroundings->refreshNow(); // It has stood still.
+    m_clockTimer = m_clock.every(1s, [this] { tick(); });
+}
+
+void NotchServices::followFast()
+{
+    if (!m_isRunning || m_wantsFast == (m_fastTimer != nullptr))
+        return;
+    m_fastTimer = m_wantsFast ? m_clock.every(50ms, [this] { fastTick(); }) : nullptr;
 }
 
 void NotchServices::show(std::optional<NotchTool> tool)
@@ -109,7 +146,7 @@ void NotchServices::fastTick()
 {
     ++m_ticks;
     for (const auto &model : m_models)
-        model->fastTick(m_ticks);
+        model->fastTick();
 }
 
 } // namespace Kestrune

@@ -17,8 +17,9 @@ namespace Kestrune {
 
 class AirDrop;
 
-/// The hub: owns every tool model and the two clocks that drive them, and knows which pane is on screen.
-/// The catalogue makes the models; the hub knows none of them by name.
+/// The hub: owns every tool model and the two clocks that drive them, and knows which pane is on screen. Each
+/// clock runs only while something needs it: with every notch closed and nothing going on, neither does. The
+/// catalogue makes the models; the hub knows none of them by name.
 /// Main thread only.
 class NotchServices : public QObject
 {
@@ -66,7 +67,7 @@ public:
     std::optional<NotchTool> visibleTool() const { return m_visibleTool; }
     qint64 ticks() const { return m_ticks; }
 
-    /// Starts both clocks and the tools; nothing happens while they run.
+    /// Starts the tools and the clocks that they need; nothing happens while they run.
     void start();
     void stop();
 
@@ -82,6 +83,9 @@ Q_SIGNALS:
 
 private:
     std::optional<NotchTool> computeActivityTool() const;
+    bool anyWants(ToolModel::Pace pace) const;
+    void followSeconds();
+    void followFast();
     void tick();
     void fastTick();
 
@@ -96,12 +100,16 @@ private:
     std::unique_ptr<RunningTimer> m_clockTimer;
     std::unique_ptr<RunningTimer> m_fastTimer;
     qint64 m_ticks = 0;
+    bool m_isRunning = false;
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(NotchServices, bool, m_anyExpanded, false,
                                          &NotchServices::anyExpandedChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(NotchServices, bool, m_hasActivity, false,
                                          &NotchServices::hasActivityChanged)
     Q_OBJECT_BINDABLE_PROPERTY(NotchServices, std::optional<NotchTool>, m_activityTool,
                                &NotchServices::activityToolChanged)
+    QProperty<bool> m_wantsSeconds;
+    QProperty<bool> m_wantsFast;
+    std::vector<QPropertyNotifier> m_wishes;
 };
 
 } // namespace Kestrune

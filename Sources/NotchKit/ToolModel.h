@@ -33,12 +33,22 @@ public:
         announcement, ///< Opens the wings while announcements are on.
     };
 
+    /// Which of the hub's clocks the tool needs just now.
+    enum class Pace {
+        rest,    ///< None: it hears of what changes, or nothing does.
+        seconds, ///< `tick`, although every notch may be closed.
+        fast,    ///< `fastTick`.
+    };
+
     explicit ToolModel(NotchTool tool, QObject *parent = nullptr);
 
     NotchTool tool() const { return m_tool; }
 
     /// Read inside a binding: what it depends on must be bindable, and read each time in the same order.
     virtual Activity activity() const { return Activity::none; }
+
+    /// Read inside a binding, as `activity`.
+    virtual Pace pace() const { return Pace::rest; }
 
     virtual void hubStarted() {}
     virtual void hubStopped() {}
@@ -52,11 +62,11 @@ public:
     /// What could not be fetched for want of a network is worth another try.
     virtual void networkReturned() {}
 
-    /// Every second.
+    /// Every second while a notch is open or some tool's pace wants it.
     virtual void tick(const ClockTick & /*tick*/) {}
 
-    /// Twenty times a second, `count` ticks after the hub was made.
-    virtual void fastTick(qint64 /*count*/) {}
+    /// Twenty times a second while some tool's pace wants it.
+    virtual void fastTick() {}
 
 Q_SIGNALS:
     /// The time should be read anew at once, not at the next tick.

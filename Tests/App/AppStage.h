@@ -32,6 +32,8 @@ struct AppStage : Fakes::Platform
     {
         applications.running = running ? QSet<QString>{NotchBranding::suiteIdentifier()} : QSet<QString>();
         suiteDefaults.setObject(u"notch.enabled"_s, notch);
+        if (applications.tells && applications.changed)
+            applications.changed();
     }
 
     const NotchScreenModel &model() const { return *app->controller().notches().at(0).model; }

@@ -80,11 +80,15 @@ private Q_SLOTS:
         QVERIFY2(stage.hotKeys.registered.empty(), "a paused notch holds keys");
     }
 
+    void suitePausesTheNotch_data() { noAndYes("asked", "told"); }
     void suitePausesTheNotch()
     {
+        const auto [tells] = fetched<bool>();
         AppStage stage;
+        stage.applications.tells = tells;
         stage.setSuite(true, true);
         stage.launch();
+        stage.app->settings().setEnabled(NotchTool::nowPlaying, false); // Its players have to be asked.
         QVERIFY(!stage.app->controller().isRunning() && stage.app->yieldingToFennivar());
         stage.setSuite(true, false);
         stage.clock.advance(3s);
@@ -98,6 +102,8 @@ private Q_SLOTS:
         stage.setSuite(false, true);
         stage.clock.advance(3s);
         QCOMPARE(stage.panels.alive.size(), 1U);
+        if (tells)
+            QCOMPARE(stage.clock.running(), 0U);
     }
 
     void anEndedTimerIsToldWhereTheNotchIsNotSeen_data()

@@ -26,6 +26,7 @@ struct Stage : Fakes::Core
     void settle()
     {
         wait(500);
+        Q_EMIT pasteboard.changed();
         Fakes::finishWork();
     }
     template <typename Copied>
@@ -205,6 +206,38 @@ private Q_SLOTS:
         stage.userCopies("text");
         QCOMPARE(stage.clipboard.items().size(), recorded);
         QCOMPARE(stage.pasteboard.asked.contains(u"string"_s), recorded == 1);
+    }
+
+    /// Each copy of a burst is kept; what is stored comes after at most a tenth of a second, and at the end.
+    void burstsAreStoredTogether_data() { noAndYes("later", "at the end"); }
+    void burstsAreStoredTogether()
+    {
+        const auto [ends] = fetched<bool>();
+        Stage stage;
+        const auto copies = [&](const char *text) {
+            stage.pasteboard.offer(QString::fromUtf8(text));
+            Q_EMIT stage.pasteboard.changed();
+            Fakes::finishWork();
+        };
+        copies("1");
+        const QByteArray first = stage.stored();
+        QVERIFY(!first.isEmpty());
+        copies("2");
+        stage.pasteboard.held = true;
+        copies("3");
+        stage.pasteboard.release();
+        Fakes::finishWork();
+        QCOMPARE(stage.texts(), (QStringList{u"3"_s, u"2"_s, u"1"_s}));
+        stage.wait(99);
+        QCOMPARE(stage.stored(), first);
+        if (ends)
+            stage.services.stop();
+        else
+            stage.wait(1);
+        QCOMPARE(decodeClipboardItems(stage.stored(), false)->size(), 3);
+        stage.wait(100);
+        copies("4");
+        QCOMPARE(decodeClipboardItems(stage.stored(), false)->size(), ends ? 3 : 4);
     }
 
     /// What was copied last is offered on when the program that it is of ends, unless it is not to be kept.

@@ -33,8 +33,8 @@ struct Core : Platform
     void wait(int milliseconds) { clock.advance(std::chrono::milliseconds(milliseconds)); }
 
     /// Moves the pointer, the button as it is.
-    void moveTo(const QPointF &place) { pointer.now.location = place; }
-    void press(bool down) { pointer.now.primaryDown = down; }
+    void moveTo(const QPointF &place) { pointer.set({place, pointer.now.primaryDown}); }
+    void press(bool down) { pointer.set({pointer.now.location, down}); }
     /// The same, and that many milliseconds after it.
     void moveTo(const QPointF &place, int milliseconds)
     {

@@ -39,9 +39,23 @@ struct FakeDisplays : Displays
 struct FakePointer : Pointer
 {
     QPointF location() override { return now.location; }
-    PointerSample sample() override { return now; }
+    PointerSample sample() override
+    {
+        moves = std::exchange(sampled, now) != now;
+        return now;
+    }
+    bool isAtRest() const override { return !moves && !now.primaryDown; }
+
+    void set(const PointerSample &sample)
+    {
+        now = sample;
+        moves = true;
+        Q_EMIT stirred();
+    }
 
     PointerSample now;
+    PointerSample sampled;
+    bool moves = false;
 };
 
 struct FakePanels : NotchPanels

@@ -52,6 +52,9 @@ void PasteboardLoop::contentReplaced(Change change)
     m_link.orphaned = change == Change::orphaned;
     if (change == Change::copied)
         ++m_link.changeCount;
+    const bool isNews = change == Change::copied || change == Change::orphaned;
+    if (isNews && !m_link.isTelling.exchange(true))
+        m_link.tell();
 }
 
 bool PasteboardLoop::runCommand()

@@ -20,6 +20,8 @@ struct PasteboardLink
     std::atomic<qint64> changeCount = 0; ///< Raised by the loop with every copy by another program.
     std::atomic<bool> orphaned = false;  ///< See Pasteboard::isOrphaned.
     Mailbox<PasteboardCommand> commands;
+    std::function<void()> tell;          ///< That the first two have changed; the main thread, a while later.
+    std::atomic<bool> isTelling = false; ///< It has not come there yet.
 };
 
 /// The pasteboard's own thread: it sleeps until another program or the main thread has something for it. How

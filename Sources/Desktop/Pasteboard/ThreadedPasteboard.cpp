@@ -12,7 +12,7 @@ namespace {
 
 /// Leaves signals to the main thread. A server or a reader that goes away must be an error of the connection,
 /// not the end of the program.
-void blockSignals()
+void leaveSignals()
 {
     sigset_t all;
     sigfillset(&all);
@@ -24,8 +24,14 @@ void blockSignals()
 ThreadedPasteboard::ThreadedPasteboard(const MakeLoop &makeLoop)
     : m_link(std::make_shared<PasteboardLink>())
 {
+    m_link->tell = [this, back = m_back.handle()] {
+        back.post([this] {
+            m_link->isTelling = false;
+            Q_EMIT changed();
+        });
+    };
     const bool started = Threads::start("pasteboard", [link = m_link, makeLoop] {
-        blockSignals();
+        leaveSignals();
         makeLoop(*link)->run();
         link->commands.close();
     });

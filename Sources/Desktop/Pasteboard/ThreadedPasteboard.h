@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Async/PostBack.h"
 #include "NotchKit/Platform/Pasteboard.h"
 
 #include <functional>
@@ -20,6 +21,8 @@ struct PasteboardLink;
 /// on the clipboard when the object was made is no change.
 class ThreadedPasteboard : public Pasteboard
 {
+    Q_OBJECT
+
 public:
     ~ThreadedPasteboard() override;
     Q_DISABLE_COPY_MOVE(ThreadedPasteboard)
@@ -45,6 +48,7 @@ private:
     QFuture<Answer> ask(Question question);
 
     std::shared_ptr<PasteboardLink> m_link; ///< With the thread.
+    PostBack m_back;
 };
 
 } // namespace Kestrune

@@ -18,6 +18,9 @@ public:
             m_press = place;
     }
 
+    /// No sample has told yet.
+    bool isPending() const { return m_press.has_value(); }
+
     /// What a sample has to say, where the pointer is as in `now`. A press since the last sample is a new one
     /// even if the button was down then: one sample says that it was let go, the next that it was pressed.
     PointerSample sample(PointerSample now)

@@ -15,12 +15,12 @@ BusApplications::BusApplications(const QDBusConnection &bus, const QStringList &
     QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, &m_watcher,
                      [this](const QString &name) {
                          qCInfo(sessionLog, "%s came", qUtf8Printable(name));
-                         m_running.insert(name);
+                         set(name, true);
                      });
     QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, &m_watcher,
                      [this](const QString &name) {
                          qCInfo(sessionLog, "%s went", qUtf8Printable(name));
-                         m_running.remove(name);
+                         set(name, false);
                      });
     for (const QString &name : bundleIdentifiers) {
         m_watcher.addWatchedService(name);
@@ -32,6 +32,24 @@ BusApplications::BusApplications(const QDBusConnection &bus, const QStringList &
 bool BusApplications::isRunning(const QString &bundleIdentifier) const
 {
     return m_running.contains(bundleIdentifier);
+}
+
+bool BusApplications::follow(const std::function<void()> &changed)
+{
+    m_changed = changed;
+    return true;
+}
+
+void BusApplications::set(const QString &name, bool runs)
+{
+    if (runs == m_running.contains(name))
+        return;
+    if (runs)
+        m_running.insert(name);
+    else
+        m_running.remove(name);
+    if (m_changed)
+        m_changed();
 }
 
 void BusApplications::whenReady(std::function<void()> ready)
@@ -51,7 +69,7 @@ void BusApplications::ask(const QString &name)
 void BusApplications::answered(const QString &name, bool runs)
 {
     if (runs)
-        m_running.insert(name);
+        set(name, true);
     m_unanswered.remove(name);
     if (m_unanswered.isEmpty() && m_ready)
         std::exchange(m_ready, nullptr)();

@@ -20,11 +20,15 @@ public:
 
     bool isRunning(const QString &bundleIdentifier) const override;
 
+    /// Tells when one comes or goes. Without a bus none ever does.
+    bool follow(const std::function<void()> &changed) override;
+
     /// Calls `ready` once the bus has told which of the applications run already, or did not answer.
     void whenReady(std::function<void()> ready);
 
 private:
     void ask(const QString &name);
+    void set(const QString &name, bool runs);
     void answered(const QString &name, bool runs);
 
     QDBusConnection m_bus;
@@ -32,6 +36,7 @@ private:
     QSet<QString> m_running;
     QSet<QString> m_unanswered;
     std::function<void()> m_ready;
+    std::function<void()> m_changed;
 };
 
 } // namespace Kestrune

@@ -9,9 +9,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto kFast = 100ms;
-constexpr auto kTogether = 17ms;
-
 class SingleShot : public RunningTimer
 {
 public:
@@ -103,8 +100,7 @@ void SystemClock::runDue()
     const auto now = uptimeWithSleep();
     const auto running = m_repetitions; // A handler may add and end repetitions.
     for (const auto &repetition : running) {
-        const auto early = repetition->interval <= kFast ? kTogether : 0ms;
-        if (repetition->interval == 0ns || repetition->due > now + early)
+        if (repetition->interval == 0ns || repetition->due > now)
             continue;
         repetition->due += repetition->interval;
         if (repetition->due <= now) // After a sleep the missed ones are not made up for.

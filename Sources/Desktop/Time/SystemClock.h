@@ -8,11 +8,8 @@
 
 namespace Kestrune {
 
-/// The machine's clocks, with timers on the thread that made the object, which outlives them.
-///
-/// Waking up is most of what an idle program costs. Fast repeating timers (of a tenth of a second and less)
-/// are therefore run together when they fall due within a sixtieth of a second of one another: single ticks
-/// come that much early, but none is lost and none drifts. Slower ones keep their moment.
+/// The machine's clocks, with timers on the thread that made the object, which outlives them. One alarm is
+/// set for all that repeats, and none where nothing does.
 class SystemClock : public Clock
 {
 public:

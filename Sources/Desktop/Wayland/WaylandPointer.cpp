@@ -30,7 +30,11 @@ void WaylandPointer::forget(QWindow &window)
     left(&window);
 }
 
-void WaylandPointer::pressOutside() { m_presses.press(kOutside); }
+void WaylandPointer::pressOutside()
+{
+    m_presses.press(kOutside);
+    Q_EMIT stirred();
+}
 
 PointerSample WaylandPointer::sample()
 {
@@ -41,6 +45,13 @@ PointerSample WaylandPointer::sample()
         left(m_over);
     const bool comesPressed = std::exchange(m_comesPressed, false);
     return m_presses.sample({m_over && !comesPressed ? m_seen : kOutside, m_down});
+}
+
+/// A drag that began in a panel ends without a word, and so may the rest after a drop.
+bool WaylandPointer::isAtRest() const
+{
+    return !m_down && !m_dragging && !m_comesPressed && !m_presses.isPending() &&
+           m_restsAfterDrop.isForever();
 }
 
 bool WaylandPointer::eventFilter(QObject *watched, QEvent *event)
@@ -71,8 +82,9 @@ bool WaylandPointer::eventFilter(QObject *watched, QEvent *event)
             left(watched);
         break;
     default:
-        break;
+        return false;
     }
+    Q_EMIT stirred();
     return false;
 }
 
@@ -106,6 +118,7 @@ void WaylandPointer::left(const QObject *window)
     m_down = m_dragging;
     m_over = nullptr;
     m_restsAfterDrop = QDeadlineTimer(QDeadlineTimer::Forever);
+    Q_EMIT stirred();
 }
 
 } // namespace Kestrune

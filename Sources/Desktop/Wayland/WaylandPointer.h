@@ -4,7 +4,6 @@
 
 #include <QDeadlineTimer>
 #include <QHash>
-#include <QObject>
 #include <QRectF>
 
 class QSinglePointEvent;
@@ -15,7 +14,7 @@ namespace Kestrune {
 /// The pointer as a Wayland client knows it: while it is over one of the panels, or was pressed there and is
 /// still held. Anywhere else it counts as outside them all; a press there is noticed where it takes the
 /// keyboard from a panel.
-class WaylandPointer : public QObject, public Pointer
+class WaylandPointer : public Pointer
 {
     Q_OBJECT
 
@@ -23,6 +22,7 @@ public:
     /// Where the pointer was seen last.
     QPointF location() override { return m_seen; }
     PointerSample sample() override;
+    bool isAtRest() const override;
 
     /// Follows the pointer over `window`, a panel in that frame (points, y growing upwards).
     void watch(QWindow &window, const QRectF &frame);

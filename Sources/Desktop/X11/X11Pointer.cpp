@@ -6,6 +6,10 @@
 #include <QCoreApplication>
 #include <QLoggingCategory>
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
 #include <xcb/xinput.h>
 
 namespace Kestrune {
@@ -16,9 +20,8 @@ Q_LOGGING_CATEGORY(pointerLog, "kestrune.pointer", QtWarningMsg)
 
 constexpr uint32_t kPrimaryButton = 1;
 constexpr QPointF kOutside(-1e6, -1e6); // No display is there.
-constexpr int kMostCached = 8;          // Samples, thirty a second.
 
-/// Asks the server for raw button presses from every device.
+/// Asks the server for raw presses, by buttons and fingers, from every device.
 void selectRawPresses()
 {
     struct
@@ -28,7 +31,7 @@ void selectRawPresses()
     } selection{};
     selection.head.deviceid = XCB_INPUT_DEVICE_ALL_MASTER;
     selection.head.mask_len = 1;
-    selection.mask = XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS;
+    selection.mask = XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_TOUCH_BEGIN;
     xcb_input_xi_select_events(X11::connection(), X11::root(), 1, &selection.head);
     xcb_flush(X11::connection());
 }
@@ -55,21 +58,24 @@ X11Pointer::~X11Pointer() = default;
 bool X11Pointer::nativeEventFilter(const QByteArray &, void *message, qintptr *)
 {
     const auto &event = *static_cast<const xcb_generic_event_t *>(message);
-    if (isRawPress(event)) {
-        m_watching = true;
+    const bool crosses = isCrossing(event);
+    const bool isOver = m_isGuest && isOverWindow(event);
+    const bool drags = isDrag(event);
+    const bool presses = isRawPress(event);
+    if (presses)
         m_presses.press(query().location);
-    }
-    if (isCrossing(event)) {
-        m_watching = true;
+    if (crosses)
         cross(event);
-    }
-    if (m_isGuest && isOverWindow(event)) {
-        m_watching = true;
+    if (isOver) {
         m_away = m_dropped = false;
         m_drag.reset(); // It is over, told or not.
     }
-    if (m_isGuest && (event.response_type & 0x7f) == XCB_CLIENT_MESSAGE)
+    if (m_isGuest && drags)
         drag(reinterpret_cast<const xcb_client_message_event_t &>(event));
+    if (crosses || isOver || drags || presses || isTouch(event)) {
+        m_moves = true;
+        Q_EMIT stirred();
+    }
     return false;
 }
 
@@ -108,6 +114,15 @@ void X11Pointer::cross(const xcb_generic_event_t &event)
         m_away = true;
 }
 
+bool X11Pointer::isDrag(const xcb_generic_event_t &event)
+{
+    static const std::array messages{X11::atom("XdndPosition"), X11::atom("XdndLeave"), X11::atom("XdndDrop"),
+                                     X11::atom("XdndFinished")};
+    const auto &message = reinterpret_cast<const xcb_client_message_event_t &>(event);
+    return (event.response_type & 0x7f) == XCB_CLIENT_MESSAGE &&
+           std::ranges::find(messages, message.type) != messages.end();
+}
+
 /// A drag that another program began has the pointer for itself, and says where it is. One that began here
 /// ends over another program's window, and the server may not hear of the button.
 void X11Pointer::drag(const xcb_client_message_event_t &message)
@@ -120,7 +135,11 @@ void X11Pointer::drag(const xcb_client_message_event_t &message)
     } else if (message.type == X11::atom("XdndFinished")) {
         m_away = m_dropped = true;
     }
-    m_watching = true;
+}
+
+bool X11Pointer::isTouch(const xcb_generic_event_t &event) const
+{
+    return isInput(event, XCB_INPUT_RAW_TOUCH_BEGIN) || isInput(event, XCB_INPUT_TOUCH_BEGIN);
 }
 
 bool X11Pointer::isRawPress(const xcb_generic_event_t &event) const
@@ -139,30 +158,27 @@ PointerSample X11Pointer::query() const
     return {X11::toPoints(reply->root_x, reply->root_y), (reply->mask & XCB_BUTTON_MASK_1) != 0};
 }
 
-QPointF X11Pointer::location()
-{
-    m_watching = true; // Whoever asks acts on it, and the next sample must not be older.
-    return query().location;
-}
+QPointF X11Pointer::location() { return query().location; }
 
-void X11Pointer::observe()
+PointerSample X11Pointer::observe() const
 {
-    if (!m_watching && ++m_cached < kMostCached)
-        return;
-    PointerSample now = query();
+    const PointerSample now = query();
     if (m_drag) // Its press began elsewhere, which the first sample has to say.
-        now = {m_last.primaryDown ? *m_drag : kOutside, true};
-    else if (m_away)
-        now = {kOutside, now.primaryDown && !m_dropped};
-    m_watching = now != m_last || now.primaryDown;
-    m_last = now;
-    m_cached = 0;
+        return {m_last.primaryDown ? *m_drag : kOutside, true};
+    return m_away ? PointerSample{kOutside, now.primaryDown && !m_dropped} : now;
 }
 
 PointerSample X11Pointer::sample()
 {
-    observe();
-    return m_presses.sample(m_last);
+    const PointerSample now = observe();
+    m_moves = std::exchange(m_last, now) != now;
+    return m_presses.sample(now);
+}
+
+bool X11Pointer::isAtRest() const
+{
+    const bool mayLeaveUntold = m_isGuest && !m_away;
+    return !m_moves && !m_last.primaryDown && !m_presses.isPending() && !mayLeaveUntold;
 }
 
 } // namespace Kestrune

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QFuture>
 #include <QList>
+#include <QObject>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
@@ -59,8 +60,10 @@ struct PasteboardContent
 /// Called on the main thread; nothing here blocks. A question is answered by a future that always finishes
 /// with a result: an owner that does not answer in time, dies, offers more than the limit or loses the
 /// pasteboard meanwhile gives the empty answer. Ask from one reader at a time.
-class Pasteboard
+class Pasteboard : public QObject
 {
+    Q_OBJECT
+
 public:
     static constexpr auto kFileUrls = "text/uri-list";
     static constexpr auto kPng = "image/png";
@@ -68,8 +71,6 @@ public:
     static constexpr auto kString = "text/plain";
     static constexpr auto kHtml = "text/html";
     static constexpr auto kConcealed = "org.nspasteboard.ConcealedType";
-
-    virtual ~Pasteboard() = default;
 
     /// Moves with every new copy, whoever made it; never otherwise. Costs nothing to ask.
     virtual qint64 changeCount() const = 0;
@@ -97,6 +98,11 @@ public:
     /// Replaces the content and returns the change count that this write gave. Files are also offered in
     /// the form that file managers paste.
     virtual qint64 write(const PasteboardContent &content) = 0;
+
+Q_SIGNALS:
+    /// Another program has copied something, or what was copied has become an orphan. Once for several that
+    /// come close together.
+    void changed();
 };
 
 } // namespace Kestrune

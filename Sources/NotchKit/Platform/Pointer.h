@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QObject>
 #include <QPointF>
 
 namespace Kestrune {
@@ -13,11 +14,14 @@ struct PointerSample
 };
 
 /// The pointer's position and primary button, wherever it is on the desktop. Main thread only.
-class Pointer
+///
+/// Nobody has to ask while it does nothing that matters: it tells when it stirs, and samples are taken from
+/// then on until it is at rest.
+class Pointer : public QObject
 {
-public:
-    virtual ~Pointer() = default;
+    Q_OBJECT
 
+public:
     /// Where the pointer is now.
     virtual QPointF location() = 0;
 
@@ -26,6 +30,15 @@ public:
     /// the previous sample is reported once as a pressed sample at the place of the press, so that no press
     /// is ever missed.
     virtual PointerSample sample() = 0;
+
+    /// Until `stirred` comes, a further sample says the same as the last one, or of another place outside
+    /// every panel's hit area.
+    virtual bool isAtRest() const = 0;
+
+Q_SIGNALS:
+    /// The pointer came over a panel's hit area or left it, moved while something is dragged over one, or a
+    /// button went down anywhere that this program hears of.
+    void stirred();
 };
 
 } // namespace Kestrune

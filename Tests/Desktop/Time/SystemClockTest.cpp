@@ -6,50 +6,14 @@ class SystemClockTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void fastTimersKeepTheirRateTogether()
-    {
-        SystemClock clock;
-        int polls = 0;
-        int ticks = 0;
-        int alone = 0;
-        auto lastPoll = 0ns;
-        const auto poll = clock.every(33ms, [&] {
-            ++polls;
-            lastPoll = clock.uptime();
-        });
-        const auto tick = clock.every(50ms, [&] {
-            ++ticks;
-            alone += clock.uptime() - lastPoll > 2ms ? 1 : 0;
-        });
-        const auto start = clock.uptime();
-        // A timer of its own sees when the machine holds the whole thread up; ticks may be lost only then.
-        auto awake = start;
-        double stalled = 0;
-        QTimer witness;
-        witness.callOnTimeout([&] {
-            const auto gap = clock.uptime() - std::exchange(awake, clock.uptime());
-            stalled += gap > 20ms ? std::chrono::duration<double>(gap).count() : 0;
-        });
-        witness.start(5ms);
-        QTest::qWait(1500);
-        const double seconds = std::chrono::duration<double>(clock.uptime() - start).count();
-        QVERIFY2(polls >= (seconds - stalled) / 0.033 - 2, qPrintable(QString::number(polls)));
-        QVERIFY2(ticks >= (seconds - stalled) / 0.050 - 2, qPrintable(QString::number(ticks)));
-        QVERIFY2(polls <= seconds / 0.033 + 1 && ticks <= seconds / 0.050 + 1,
-                 qPrintable(QString::number(ticks)));
-        if (stalled > seconds / 10)
-            QSKIP("the machine is too busy to see how they keep together");
-        QVERIFY2(std::abs(polls * 33.0 / (ticks * 50.0) - 1) < 0.15, qPrintable(QString::number(polls)));
-        QVERIFY2(alone < ticks / 2, qPrintable(QString::number(alone)));
-    }
-
-    void slowTimersAreNeverEarly()
+    void repetitionsAreNeverEarlyAndDoNotDrift()
     {
         SystemClock clock;
         const auto start = clock.uptime();
         int rings = 0;
+        int polls = 0;
         bool early = false;
-        const auto noise = clock.every(20ms, [] {});
+        const auto poll = clock.every(33ms, [&] { early |= clock.uptime() < start + ++polls * 33ms; });
         const auto slow = clock.every(200ms, [&] { early |= clock.uptime() < start + ++rings * 200ms; });
         QTRY_COMPARE(rings, 4);
         QVERIFY(!early);

@@ -139,6 +139,8 @@ ToolModel::Activity CapturesModel::activity() const
     return m_fresh.value() ? Activity::announcement : Activity::none;
 }
 
+ToolModel::Pace CapturesModel::pace() const { return m_fresh.value() ? Pace::seconds : Pace::rest; }
+
 void CapturesModel::tick(const ClockTick &tick)
 {
     if (fresh() && tick.now > m_freshUntil)

@@ -99,6 +99,7 @@ public:
     Q_INVOKABLE void trash(const QString &id);  ///< It leaves the list when it is in the trash.
 
     Activity activity() const override;
+    Pace pace() const override;
     void hubStarted() override;
     void hubStopped() override;
     void visibleToolChanged(std::optional<NotchTool> visible) override;

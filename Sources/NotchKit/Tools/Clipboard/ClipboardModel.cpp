@@ -8,6 +8,8 @@
 
 namespace Kestrune {
 
+using namespace std::chrono_literals;
+
 namespace {
 
 struct FilterEntry
@@ -27,7 +29,7 @@ constexpr std::array kFilters{
     FilterEntry{"pdfs", QT_TRANSLATE_NOOP("notch", "PDFs"), ClipboardItem::Kind::pdf},
 };
 
-constexpr int kTicksPerPoll = 10; // Fast ticks: twice a second.
+constexpr auto kBetweenWrites = 100ms; // Of copies in a burst.
 const QString kStoreKey = QStringLiteral("notch.clipboardItems");
 const QString kPinnedKey = QStringLiteral("notch.clipboardPinned");
 
@@ -114,7 +116,11 @@ ClipboardModel::ClipboardModel(NotchSettings &settings, UserDefaults &defaults, 
 {
     load();
     m_visible.setBinding([this] { return computeVisible(); });
+    connect(&pasteboard, &Pasteboard::changed, this, &ClipboardModel::look);
+    connect(&settings, &NotchSettings::toolsChanged, this, &ClipboardModel::look);
 }
+
+ClipboardModel::~ClipboardModel() { hubStopped(); }
 
 QString ClipboardModel::rawValue(Filter filter) { return QString::fromLatin1(entry(filter).rawValue); }
 
@@ -149,8 +155,23 @@ ClipboardItems ClipboardModel::stored(const QString &key, bool pinned) const
     return data ? decodeClipboardItems(*data, pinned).value_or(Items()) : Items();
 }
 
+/// The first copy at once; what follows in a burst, together.
+void ClipboardModel::persistSoon()
+{
+    if (m_later)
+        return;
+    const auto since = m_persisted ? m_clock.uptime() - *m_persisted : kBetweenWrites;
+    if (since >= kBetweenWrites)
+        persist();
+    else
+        m_later = m_clock.after(std::chrono::ceil<std::chrono::milliseconds>(kBetweenWrites - since),
+                                [this] { persist(); });
+}
+
 void ClipboardModel::persist()
 {
+    m_later.reset();
+    m_persisted = m_clock.uptime();
     Items history;
     Items pinned;
     for (const Item &item : items()) {
@@ -183,9 +204,22 @@ ClipboardItems ClipboardModel::computeVisible() const
     return visible;
 }
 
-void ClipboardModel::fastTick(qint64 count)
+void ClipboardModel::hubStarted()
 {
-    if (count % kTicksPerPoll == 0 && m_settings.isEnabled(NotchTool::clipboard))
+    m_isWatching = true;
+    look();
+}
+
+void ClipboardModel::hubStopped()
+{
+    m_isWatching = false;
+    if (m_later)
+        persist();
+}
+
+void ClipboardModel::look()
+{
+    if (m_isWatching && m_settings.isEnabled(NotchTool::clipboard))
         poll();
 }
 
@@ -214,10 +248,11 @@ QCoro::Task<> ClipboardModel::read(QDateTime date)
 {
     std::optional<Item> item =
         co_await readPasteboard(m_pasteboard, m_workers, m_settings.ignoredClipboardPrograms());
-    if (!item || !isWanted())
-        co_return;
-    item->date = date;
-    record(*item);
+    if (item && isWanted()) {
+        item->date = date;
+        record(*item);
+    }
+    look();
 }
 
 void ClipboardModel::record(Item item)
@@ -235,7 +270,7 @@ void ClipboardModel::record(Item item)
     m_items = recorded;
     m_current = recorded.isEmpty() ? QUuid() : recorded.first().id;
     if (!isSame)
-        persist();
+        persistSoon();
 }
 
 void ClipboardModel::offerOrphan()

@@ -39,6 +39,7 @@ public:
 
     ClipboardModel(NotchSettings &settings, UserDefaults &defaults, Clock &clock, Pasteboard &pasteboard,
                    std::shared_ptr<PictureReader> pictures, QObject *parent = nullptr);
+    ~ClipboardModel() override;
 
     const Items &items() const { return m_items.value(); }
     const Items &visible() const { return m_visible.value(); }
@@ -53,7 +54,8 @@ public:
     static QStringList filterTitles();
 
     /// One look at the pasteboard: what was copied since the last one is read and, when that is done,
-    /// recorded. One content is read at a time; a copy made meanwhile is found by a later look.
+    /// recorded. One content is read at a time; another look follows, for a copy made meanwhile. While the
+    /// hub runs with this tool, each change of the pasteboard leads to one.
     void poll();
 
     /// Puts the item back on the pasteboard, in every form that it came in, and moves it to the top.
@@ -72,7 +74,8 @@ public:
     /// Deletes all but the pinned items.
     Q_INVOKABLE void clear();
 
-    void fastTick(qint64 count) override;
+    void hubStarted() override;
+    void hubStopped() override;
 
 Q_SIGNALS:
     void itemsChanged();
@@ -84,8 +87,10 @@ private:
     bool isWanted() const;
     void load();
     Items stored(const QString &key, bool pinned) const;
+    void look();
     void offerOrphan();
     void persist();
+    void persistSoon();
     QCoro::Task<> read(QDateTime date);
     void record(Item item);
     Items computeVisible() const;
@@ -95,13 +100,16 @@ private:
     UserDefaults &m_defaults;
     Clock &m_clock;
     Pasteboard &m_pasteboard;
+    bool m_isWatching = false; ///< The hub runs.
     qint64 m_lastChange;
     QUuid m_current; ///< The item of what is on the pasteboard, as far as it was read.
     ClipboardWorkers m_workers;
     ClipboardEncoder m_encoder;
     ClipboardEncoder m_pinnedEncoder;
-    QByteArray m_pinnedStored; ///< As last written or read.
-    Scope m_reads;             ///< One at a time.
+    QByteArray m_pinnedStored;                           ///< As last written or read.
+    std::optional<std::chrono::nanoseconds> m_persisted; ///< When that was.
+    std::unique_ptr<RunningTimer> m_later;               ///< Until what a burst of copies left is written.
+    Scope m_reads;                                       ///< One at a time.
     Q_OBJECT_BINDABLE_PROPERTY(ClipboardModel, Items, m_items, &ClipboardModel::itemsChanged)
     Q_OBJECT_BINDABLE_PROPERTY_WITH_ARGS(ClipboardModel, Filter, m_filter, Filter::all,
                                          &ClipboardModel::filterChanged)

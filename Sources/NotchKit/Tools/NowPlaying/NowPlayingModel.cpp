@@ -104,6 +104,12 @@ ToolModel::Activity NowPlayingModel::activity() const
     return m_track.value() ? Activity::live : Activity::none;
 }
 
+/// Players that tell nothing have to be asked.
+ToolModel::Pace NowPlayingModel::pace() const
+{
+    return isEnabled() && !m_follows ? Pace::seconds : Pace::rest;
+}
+
 void NowPlayingModel::visibleToolChanged(std::optional<NotchTool> visible)
 {
     if (visible && isShown(*visible) && isEnabled())

@@ -62,6 +62,7 @@ public:
     void clear();
 
     Activity activity() const override;
+    Pace pace() const override;
     void visibleToolChanged(std::optional<NotchTool> visible) override;
     void tick(const ClockTick &tick) override;
 

@@ -86,7 +86,7 @@ void TeleprompterModel::visibleToolChanged(std::optional<NotchTool> visible)
         setPlaying(false);
 }
 
-void TeleprompterModel::fastTick(qint64 /*count*/)
+void TeleprompterModel::fastTick()
 {
     if (!m_playing)
         return;

@@ -54,7 +54,8 @@ public:
 
     void hubStopped() override { setPlaying(false); }
     void visibleToolChanged(std::optional<NotchTool> visible) override;
-    void fastTick(qint64 count) override;
+    Pace pace() const override { return m_playing ? Pace::fast : Pace::rest; }
+    void fastTick() override;
 
 Q_SIGNALS:
     void playingChanged();

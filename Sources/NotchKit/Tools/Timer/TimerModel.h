@@ -73,6 +73,7 @@ public:
     void markSeen() { m_unseen = false; }
 
     Activity activity() const override;
+    Pace pace() const override { return isRunning() ? Pace::seconds : Pace::rest; }
     void visibleToolChanged(std::optional<NotchTool> visible) override;
     void tick(const ClockTick &tick) override;
 
