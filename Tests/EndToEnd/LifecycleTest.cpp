@@ -31,6 +31,27 @@ private Q_SLOTS:
         QVERIFY(holdsFor([&] { return stage().looksClosed(); }, 2500));
     }
 
+    /// Who sleeps and never wakes does not go to sleep again.
+    void nothingWakesWhileClosed()
+    {
+        QVERIFY(stage().run() && stage().openByHotKey());
+        for (const char *tool : {"clipboard", "nowPlaying", "system", "calendar", "home"})
+            QCOMPARE(session().command({u"open"_s, QString::fromLatin1(tool)}).status, 0);
+        QCOMPARE(session().command({u"close"_s}).status, 0);
+        QVERIFY(stage().waitClosed());
+        const auto sleeps = [&] {
+            qint64 sum = 0;
+            const QString tasks = u"/proc/%1/task"_s.arg(session().program().processId());
+            for (const QString &task : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+                sum += processFigure("status", "voluntary_ctxt_switches:", task.toLongLong());
+            return sum;
+        };
+        QTest::qWait(15'000); // What idles is given back by then.
+        const qint64 before = sleeps();
+        QTest::qWait(10'000);
+        QVERIFY2(sleeps() <= before + 2, qPrintable(QString::number(sleeps() - before)));
+    }
+
     void openArgument()
     {
         QVERIFY(stage().run({}, {u"--open"_s, u"timer"_s}));

@@ -259,6 +259,19 @@ private Q_SLOTS:
         QCOMPARE(core.model().selected(), opens ? NotchTool::shelf : NotchTool::note);
     }
 
+    /// Some desktops tell of a drag only when it is over the notch: its press first, then its place.
+    void aDragThatComesFromNowhereOpensTheShelf()
+    {
+        Fakes::StartedCore core;
+        core.drags.files = {QUrl(u"file:///a"_s)};
+        core.moveTo(kOutside, 500);
+        core.press(true, 0);
+        core.pointer.now.location = kNotch;
+        core.wait(66);
+        QVERIFY(core.model().expanded());
+        QCOMPARE(core.model().selected(), NotchTool::shelf);
+    }
+
     void whatHoldsTheNotchOpen_data() { noAndYes("pinned", "drag over it"); }
 
     void whatHoldsTheNotchOpen()
