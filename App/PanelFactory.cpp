@@ -17,6 +17,9 @@ std::unique_ptr<NotchPanel> PanelFactory::create(const QRectF &frame, NotchScree
     auto *view = window.get();
     if (m_windows.pacesFrames())
         view->paceAnimations();
+    view->paceAnimations([view, windows = &m_windows](std::function<void()> then) {
+        return windows->awaitFrame(*view, std::move(then));
+    });
     auto panel = m_windows.makePanel(std::move(window), frame);
     // The window goes with its panel.
     QObject::connect(view, &NotchWindow::outlineChanged, view,

@@ -177,6 +177,7 @@ struct FakeWindowSystem : WindowSystem
     Pasteboard &pasteboard() override { return *now.pasteboard; }
     FullScreenWindows &fullScreenWindows() override { return *now.fullScreenWindows; }
     bool pacesFrames() const override { return false; }
+    bool awaitFrame(QWindow &, std::function<void()>) override { return false; }
     std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> /*window*/,
                                           const QRectF & /*frame*/) override
     {

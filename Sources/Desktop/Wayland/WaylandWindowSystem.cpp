@@ -29,6 +29,7 @@ public:
     Pasteboard &pasteboard() override { return m_pasteboard; }
     FullScreenWindows &fullScreenWindows() override { return m_fullScreenWindows; }
     bool pacesFrames() const override { return true; }
+    bool awaitFrame(QWindow &, std::function<void()>) override { return false; }
     std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> window, const QRectF &frame) override
     {
         m_drags.watch(*window);

@@ -71,6 +71,20 @@ xcb_window_t createHitWindow()
     return window;
 }
 
+/// Qt draws a window 5 ms after it was asked to, which is most of a frame of a quick display. It reads
+/// another wait from the environment, once, as the first window asks; programs that are started do not
+/// inherit it.
+void drawAtOnce(QWindow &window)
+{
+    constexpr auto kWait = "QT_QPA_UPDATE_IDLE_TIME";
+    static bool read = qEnvironmentVariableIsSet(kWait);
+    if (std::exchange(read, true))
+        return;
+    qputenv(kWait, "0");
+    window.requestUpdate();
+    qunsetenv(kWait);
+}
+
 void stack(xcb_window_t window, xcb_window_t sibling, xcb_stack_mode_t mode)
 {
     const std::array<uint32_t, 2> values{sibling, static_cast<uint32_t>(mode)};
@@ -92,6 +106,7 @@ X11Panel::X11Panel(std::unique_ptr<QWindow> window, const X11Desktop &desktop, c
                        Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
     setFrame(frame);
     m_window->create();
+    drawAtOnce(*m_window);
     announceType();
     keepMiddle();
     connect(&m_desktop, &X11Desktop::compositorChanged, this, [this] {

@@ -8,6 +8,7 @@
 #include "X11Connection.h"
 #include "X11Desktop.h"
 #include "X11DragPasteboard.h"
+#include "X11Frames.h"
 #include "X11FullScreenWindows.h"
 #include "X11HotKeys.h"
 #include "X11Monitors.h"
@@ -57,6 +58,10 @@ public:
     Pasteboard &pasteboard() override { return *m_pasteboard; }
     FullScreenWindows &fullScreenWindows() override { return m_fullScreenWindows; }
     bool pacesFrames() const override { return false; }
+    bool awaitFrame(QWindow &window, std::function<void()> then) override
+    {
+        return m_frames.await(window, std::move(then));
+    }
     std::unique_ptr<NotchPanel> makePanel(std::unique_ptr<QWindow> window, const QRectF &frame) override
     {
         return std::make_unique<X11Panel>(std::move(window), m_desktop, frame);
@@ -64,6 +69,7 @@ public:
 
 private:
     X11Desktop m_desktop;
+    X11Frames m_frames;
     X11Monitors m_monitors;
     X11TopPanels m_topPanels;
     ScreenDisplays m_displays;

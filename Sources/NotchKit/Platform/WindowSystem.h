@@ -2,6 +2,7 @@
 
 #include "NotchPanel.h"
 
+#include <functional>
 #include <memory>
 
 class QWindow;
@@ -31,6 +32,11 @@ public:
 
     /// Whether a window is asked to draw once its display is ready for the next frame, and not before.
     virtual bool pacesFrames() const = 0;
+
+    /// Calls `then` once, with the next frame of the display that shows `window`, one at a time for each
+    /// window: asking again forgets what was asked. False where the window system does not tell; it may stay
+    /// away for a window that nobody sees.
+    virtual bool awaitFrame(QWindow &window, std::function<void()> then) = 0;
 
     /// A hidden panel at `frame` (screen coordinates in points, y growing upwards) that hosts `window`, which
     /// has not been shown yet.

@@ -1,45 +1,29 @@
 #include "NotchShapeItem.h"
 
 #include "NotchKit/NotchShape.h"
+#include "OutlineNode.h"
 
-#include <QPainter>
+#include <algorithm>
 
 namespace Kestrune {
 
 NotchShapeItem::NotchShapeItem(QQuickItem *parent)
-    : QQuickPaintedItem(parent)
+    : QQuickItem(parent)
 {
-    setAntialiasing(true);
-    connect(this, &NotchShapeItem::shapeChanged, this, &NotchShapeItem::change);
+    setFlag(ItemHasContents);
 }
 
-void NotchShapeItem::setTopRadius(double radius)
+void NotchShapeItem::set(double &length, double now)
 {
-    if (std::exchange(m_topRadius, radius) != radius)
-        Q_EMIT shapeChanged();
-}
-
-void NotchShapeItem::setBottomRadius(double radius)
-{
-    if (std::exchange(m_bottomRadius, radius) != radius)
-        Q_EMIT shapeChanged();
-}
-
-QPainterPath NotchShapeItem::outline() const
-{
-    return NotchShape{m_topRadius, m_bottomRadius}.path(boundingRect());
-}
-
-void NotchShapeItem::paint(QPainter *painter)
-{
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(Qt::black);
-    painter->drawPath(outline());
+    if (std::exchange(length, now) == now)
+        return;
+    change();
+    Q_EMIT shapeChanged();
 }
 
 void NotchShapeItem::geometryChange(const QRectF &now, const QRectF &before)
 {
-    QQuickPaintedItem::geometryChange(now, before);
+    QQuickItem::geometryChange(now, before);
     change();
 }
 
@@ -49,6 +33,19 @@ void NotchShapeItem::change()
     polish();
 }
 
-void NotchShapeItem::updatePolish() { Q_EMIT outlineChanged(outline().translated(mapToScene({}))); }
+void NotchShapeItem::updatePolish()
+{
+    const QRectF place((width() - m_width) / 2, 0, m_width, m_height);
+    m_outline = NotchShape{m_topRadius, m_bottomRadius}.path(place);
+    Q_EMIT outlineChanged(m_outline.translated(mapToScene({})));
+}
+
+QSGNode *NotchShapeItem::updatePaintNode(QSGNode *node, UpdatePaintNodeData *)
+{
+    auto *const shape = node ? static_cast<OutlineNode *>(node) : new OutlineNode(*window());
+    const double bottom = std::min({m_width / 4, m_height / 2, m_bottomRadius});
+    shape->setOutline(m_outline, std::min(m_width / 4, m_topRadius), bottom);
+    return shape;
+}
 
 } // namespace Kestrune

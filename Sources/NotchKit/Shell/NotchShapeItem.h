@@ -1,27 +1,29 @@
 #pragma once
 
 #include <QPainterPath>
-#include <QQuickPaintedItem>
+#include <QQuickItem>
 
 namespace Kestrune {
 
-/// The notch's outline filled black, at the item's size.
-class NotchShapeItem : public QQuickPaintedItem
+/// The notch's outline filled black, in the middle of the item's upper edge. The item itself does not move
+/// with the outline: it has room for all that the notch grows to, and whole points for a place.
+class NotchShapeItem : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(NotchShape)
-    Q_PROPERTY(double topRadius READ topRadius WRITE setTopRadius NOTIFY shapeChanged)
-    Q_PROPERTY(double bottomRadius READ bottomRadius WRITE setBottomRadius NOTIFY shapeChanged)
+    /// Of the outline, in points.
+    Q_PROPERTY(double notchWidth MEMBER m_width WRITE setNotchWidth NOTIFY shapeChanged)
+    Q_PROPERTY(double notchHeight MEMBER m_height WRITE setNotchHeight NOTIFY shapeChanged)
+    Q_PROPERTY(double topRadius MEMBER m_topRadius WRITE setTopRadius NOTIFY shapeChanged)
+    Q_PROPERTY(double bottomRadius MEMBER m_bottomRadius WRITE setBottomRadius NOTIFY shapeChanged)
 
 public:
     explicit NotchShapeItem(QQuickItem *parent = nullptr);
 
-    double topRadius() const { return m_topRadius; }
-    void setTopRadius(double radius);
-    double bottomRadius() const { return m_bottomRadius; }
-    void setBottomRadius(double radius);
-
-    void paint(QPainter *painter) override;
+    void setNotchWidth(double width) { set(m_width, width); }
+    void setNotchHeight(double height) { set(m_height, height); }
+    void setTopRadius(double radius) { set(m_topRadius, radius); }
+    void setBottomRadius(double radius) { set(m_bottomRadius, radius); }
 
 Q_SIGNALS:
     void shapeChanged();
@@ -32,13 +34,17 @@ Q_SIGNALS:
 protected:
     void geometryChange(const QRectF &now, const QRectF &before) override;
     void updatePolish() override;
+    QSGNode *updatePaintNode(QSGNode *node, UpdatePaintNodeData *data) override;
 
 private:
-    QPainterPath outline() const;
+    void set(double &length, double now);
     void change();
 
+    double m_width = 0;
+    double m_height = 0;
     double m_topRadius = 0;
     double m_bottomRadius = 0;
+    QPainterPath m_outline; ///< As last polished.
 };
 
 } // namespace Kestrune

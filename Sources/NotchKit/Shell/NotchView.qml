@@ -18,6 +18,9 @@ FocusScope {
     readonly property bool housing: screenModel.geometry.hasHardwareNotch
     readonly property real response: expanded ? 0.42 : 0.34
     readonly property real damping: expanded ? 0.8 : 0.92
+    // Between the flares.
+    readonly property real bodyWidth: shapeWidth.value - 2 * topRadius.value
+    readonly property real bodyLeft: (width - bodyWidth) / 2
 
     focus: true
     LayoutMirroring.enabled: Theme.mirrored
@@ -40,10 +43,10 @@ FocusScope {
     BorderImage {
         readonly property int blur: 40
 
-        x: shape.x + shape.topRadius - blur
-        y: shape.height - height + blur + 4
-        width: shape.width - 2 * shape.topRadius + 2 * blur
-        height: shape.height + 2 * blur
+        x: view.bodyLeft - blur
+        y: shape.notchHeight - height + blur + 4
+        width: view.bodyWidth + 2 * blur
+        height: shape.notchHeight + 2 * blur
         border { left: 70; right: 70; top: 70; bottom: 70 }
         source: "shadow.png"
         visible: opacity > 0.01
@@ -53,16 +56,16 @@ FocusScope {
     NotchShape {
         id: shape
 
-        x: (view.width - width) / 2
-        width: shapeWidth.value
-        height: shapeHeight.value
+        anchors.fill: parent
+        notchWidth: shapeWidth.value
+        notchHeight: shapeHeight.value
         topRadius: topRadius.value
         bottomRadius: bottomRadius.value
     }
 
     ClosedActivity {
         anchors.horizontalCenter: parent.horizontalCenter
-        width: Math.min(shape.width - 2 * shape.topRadius, view.wingedSize.width)
+        width: Math.min(view.bodyWidth, view.wingedSize.width)
         height: view.closedSize.height
         wing: Math.max(0, (width - view.closedSize.width) / 2)
         opacity: Math.max(0, 1 - openness.value * 4)
@@ -82,12 +85,13 @@ FocusScope {
         }
     }
 
+    // No larger than the open notch, past which it springs: the content is drawn anew with each change of its clip.
     Item {
         id: window
 
-        x: shape.x + shape.topRadius
-        width: Math.max(0, shape.width - 2 * shape.topRadius)
-        height: shape.height
+        x: (view.width - width) / 2
+        width: Math.max(0, Math.min(view.bodyWidth, view.openSize.width - 2 * Theme.flare))
+        height: Math.min(shape.notchHeight, view.openSize.height)
         clip: true
         visible: openness.value > 0.02
         opacity: Math.max(0, Math.min(1, (openness.value - 0.3) / 0.5))

@@ -88,6 +88,11 @@ bool NotchWindow::eventFilter(QObject *item, QEvent *event)
     return QQuickWindow::eventFilter(item, event);
 }
 
-void NotchWindow::paceAnimations() { frames().follow(*this); }
+void NotchWindow::paceAnimations() { frames().followDrawing(*this); }
+
+void NotchWindow::paceAnimations(std::function<bool(std::function<void()>)> awaitFrame)
+{
+    frames().follow(*this, std::move(awaitFrame));
+}
 
 } // namespace Kestrune

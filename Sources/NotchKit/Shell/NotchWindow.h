@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QQuickWindow>
 
+#include <functional>
+
 class QQmlComponent;
 class QQmlEngine;
 
@@ -23,6 +25,10 @@ public:
 
     /// From now on all animations step with this window's frames, where it draws any.
     void paceAnimations();
+
+    /// From now on they keep the pace of this window's display while the window is shown, and step with its
+    /// frames where `awaitFrame` can tell of the next one: it calls back then, once, or returns false.
+    void paceAnimations(std::function<bool(std::function<void()> then)> awaitFrame);
 
     /// Tells the model of what is typed in a text field; Shift+F10 is the menu key. Of items of this window.
     bool eventFilter(QObject *item, QEvent *event) override;

@@ -82,6 +82,42 @@ private Q_SLOTS:
         QCOMPARE(steps, paced ? 4 : 0);
     }
 
+    void animationsStepWithTheDisplaysFrames()
+    {
+        Stage stage;
+        QList<std::function<void()>> asked;
+        bool tells = true;
+        stage.window->paceAnimations([&](std::function<void()> then) {
+            asked.append(std::move(then));
+            return tells;
+        });
+        QVariantAnimation animation;
+        animation.setDuration(60000);
+        animation.start();
+        while (asked.isEmpty()) // The first step comes by time.
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        for (int frame = 0; frame < 4; ++frame) { // No timer runs out meanwhile.
+            const int before = animation.currentTime();
+            QTest::qSleep(5);
+            asked[frame]();
+            QVERIFY(animation.currentTime() > before);
+            QCOMPARE(asked.size(), frame + 2);
+            asked[frame](); // One that is late, or lies.
+            QCOMPARE(asked.size(), frame + 2);
+        }
+        const int before = animation.currentTime();
+        QTRY_VERIFY2(animation.currentTime() > before + 100, "a display that falls silent stops nothing");
+        QCOMPARE(asked.size(), 5);
+        animation.stop();
+        asked.last()();
+        QCOMPARE(asked.size(), 5);
+        QTest::qWait(50); // The pace itself comes to rest.
+
+        tells = false;
+        animation.start();
+        QTRY_VERIFY2(asked.size() > 7, "nor does one that says nothing");
+    }
+
     void viewsReachNoServer_data() { noAndYes("an engine that may", "the views' engine"); }
     void viewsReachNoServer()
     {
