@@ -9,6 +9,8 @@ FocusScope {
     required property NotchScreenModel screenModel
     required property NotchServices services
     required property NotchPresentation presentation
+    /// What the open notch shows is made although it is closed, a little at a time.
+    property bool prepared: false
 
     readonly property bool expanded: screenModel.expanded
     readonly property size notchSize: screenModel.geometry.shapeSize(expanded, services.hasActivity)
@@ -94,6 +96,7 @@ FocusScope {
 
         Loader {
             active: false
+            asynchronous: !view.expanded
             x: (parent.width - width) / 2
             width: Theme.contentWidth
             height: view.openSize.height
@@ -105,9 +108,10 @@ FocusScope {
                 presentation: view.presentation
             }
 
-            // Made when the notch opens first, and kept.
-            readonly property bool wanted: view.expanded
+            // Made when the notch opens first or before, and kept.
+            readonly property bool wanted: view.expanded || view.prepared
             onWantedChanged: if (wanted) active = true
+            onLoaded: if (!view.expanded) closing.forceActiveFocus()
             Component.onCompleted: if (wanted) active = true
         }
 
