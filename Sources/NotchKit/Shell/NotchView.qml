@@ -47,7 +47,9 @@ FocusScope {
         width: shape.width - 2 * shape.topRadius + 2 * blur
         height: shape.height + 2 * blur
         border { left: 70; right: 70; top: 70; bottom: 70 }
-        source: "shadow.png"
+        // Not at the start: to read a picture, the plugins of all formats are loaded first.
+        source: view.prepared || view.expanded || openness.value > 0.01 ? "shadow.png" : ""
+        asynchronous: true
         visible: opacity > 0.01
         opacity: Math.max(0, Math.min(1, openness.value))
     }
