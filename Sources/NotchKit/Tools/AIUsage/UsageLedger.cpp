@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <bit>
-#include <ranges>
+#include <utility>
 
 namespace Kestrune {
 
@@ -77,10 +77,11 @@ void UsageLedger::take(std::span<const LogEntries *const> logs, qint64 weekAgo)
     Keys seen(count);
     m_sorted.clear();
     m_sorted.reserve(count);
-    for (const LogEntries *log : std::views::reverse(logs)) {
-        for (const UsageEntry &entry : std::views::reverse(log->all())) {
-            if (entry.date > weekAgo && seen.isFirst(entry.key))
-                m_sorted.push_back({entry.date, entry.tokens});
+    for (auto log = logs.rbegin(); log != logs.rend(); ++log) {
+        const std::span<const UsageEntry> entries = (*log)->all();
+        for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
+            if (entry->date > weekAgo && seen.isFirst(entry->key))
+                m_sorted.push_back({entry->date, entry->tokens});
         }
     }
     std::ranges::sort(m_sorted, {}, &Dated::date);
