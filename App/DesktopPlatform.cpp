@@ -5,6 +5,7 @@
 #include "StandardSettings.h"
 
 #include <QCoreApplication>
+#include <QStandardPaths>
 
 namespace Kestrune {
 
@@ -66,7 +67,9 @@ Platform DesktopPlatform::makePlatform()
             .host = m_host,
             .camera = m_camera,
             .calendars = m_calendars,
-            .claudeConfig = qEnvironmentVariable("CLAUDE_CONFIG_DIR")};
+            .claudeConfig = qEnvironmentVariable("CLAUDE_CONFIG_DIR"),
+            .cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
+                     QStringLiteral("/kestrune")};
 }
 
 } // namespace Kestrune

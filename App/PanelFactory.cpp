@@ -3,7 +3,17 @@
 #include "NotchKit/Platform/WindowSystem.h"
 #include "NotchKit/Shell/NotchWindow.h"
 
+#include <QTimer>
+
+#include <chrono>
+
 namespace Kestrune {
+
+namespace {
+
+constexpr auto kUntilPrepared = std::chrono::seconds(3);
+
+} // namespace
 
 PanelFactory::PanelFactory(QQmlEngine &engine, WindowSystem &windows)
     : m_engine(engine)
@@ -20,6 +30,8 @@ std::unique_ptr<NotchPanel> PanelFactory::create(const QRectF &frame, NotchScree
     view->paceAnimations([view, windows = &m_windows](std::function<void()> then) {
         return windows->awaitFrame(*view, std::move(then));
     });
+    // After the start, and after the rush of a login.
+    QTimer::singleShot(kUntilPrepared, view, &NotchWindow::prepare);
     auto panel = m_windows.makePanel(std::move(window), frame);
     // The window goes with its panel.
     QObject::connect(view, &NotchWindow::outlineChanged, view,

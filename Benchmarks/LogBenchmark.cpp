@@ -1,5 +1,6 @@
 // Measures how fast the logs of Claude Code are read, next to grep over the same files, and what memory it
-// takes. The logs are made up: 300 MB in 1,000 files, half of their lines with token figures.
+// takes. The logs are made up: 300 MB in 1,000 files, half of their lines with token figures, then 3 GB in as
+// many.
 
 #include "NotchKit/Tools/AIUsage/ClaudeLogReader.h"
 #include "Table.h"
@@ -7,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <chrono>
@@ -21,6 +23,7 @@ namespace {
 
 constexpr int kFiles = 1000;
 constexpr qint64 kFileSize = 300'000'000 / kFiles;
+constexpr int kLarger = 10; // The larger logs are so many times the others.
 constexpr int kRounds = 9;
 
 [[noreturn]] void fail(const char *what)
@@ -38,10 +41,10 @@ double since(std::chrono::steady_clock::time_point begin)
 class LogMaker
 {
 public:
-    QByteArray file(const QDateTime &now)
+    QByteArray file(const QDateTime &now, qint64 size = kFileSize)
     {
         QByteArray text;
-        while (text.size() < kFileSize)
+        while (text.size() < size)
             text += line(now.addMSecs(-qint64(random(600'000'000))));
         return text;
     }
@@ -92,7 +95,7 @@ private:
     quint64 m_count = 0;
 };
 
-void makeLogs(const QString &folder)
+void makeLogs(const QString &folder, qint64 size = kFileSize)
 {
     LogMaker maker;
     const QDateTime now = QDateTime::currentDateTimeUtc();
@@ -100,7 +103,7 @@ void makeLogs(const QString &folder)
         const QDir project(folder + QStringLiteral("/project-%1").arg(i % 20));
         QFile file(project.filePath(QStringLiteral("%1.jsonl").arg(i)));
         if (!project.mkpath(QStringLiteral(".")) || !file.open(QIODevice::WriteOnly) ||
-            file.write(maker.file(now)) < kFileSize)
+            file.write(maker.file(now, size)) < size)
             fail("the logs cannot be written");
     }
 }
@@ -122,6 +125,21 @@ double timeSummary(ClaudeLogReader &reader)
     if (!reader.summary(QDateTime::currentDateTimeUtc()))
         fail("the reader finds nothing");
     return since(begin);
+}
+
+/// What a start reads that remembers: the logs are as they were, nothing is known in memory.
+std::vector<double> timeRestarts(const QString &logs, const QString &memory)
+{
+    ClaudeLogReader first({logs}, memory);
+    Table::note("First read of 3 GB of logs", timeSummary(first), "ms");
+    if (!first.remember())
+        fail("nothing is remembered");
+    std::vector<double> times;
+    for (int i = 0; i < kRounds; ++i) {
+        ClaudeLogReader reader({logs}, memory);
+        times.push_back(timeSummary(reader));
+    }
+    return times;
 }
 
 /// Kilobytes of this process's memory: "VmRSS:", or at its peak "VmHWM:".
@@ -185,5 +203,11 @@ int main(int argc, char *argv[])
     table.add({"  of grep's time", median(first) / median(grep), 2, "×", "medians of rounds in turn"});
     table.add({"  memory at its peak over idle", measurePeak(folder.path()), 32, "MB", ""});
     table.add({"Next read, nothing appended, 1,000 files", median(next), 5, "ms", ""});
+    const QTemporaryDir larger;
+    makeLogs(larger.path(), kLarger * kFileSize);
+    const QString memory = larger.filePath(QStringLiteral("usage"));
+    table.add({"Read after a restart, 3 GB in 1,000 files", median(timeRestarts(larger.path(), memory)), 20,
+               "ms", ""});
+    Table::note("  what is remembered", static_cast<double>(QFileInfo(memory).size()) / 1e6, "MB");
     return table.exitStatus();
 }

@@ -1,5 +1,6 @@
 // A folder of Claude Code's logs that changes between looks: what the reader makes of what was appended, cut
-// and replaced is what a plain one makes of it, in zones and on days that change their clocks.
+// and replaced, and over restarts, is what a plain one makes of it, in zones and on days that change their
+// clocks.
 
 #include "NotchKit/Tools/AIUsage/ClaudeLogReader.h"
 #include "RandomLogs.h"
@@ -8,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include <cstdlib>
+#include <memory>
 
 using namespace Kestrune;
 
@@ -33,14 +35,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // Around the changes of the clock in both halves of the year.
     const QString start = logs.below(2) ? u"2026-03-29T01:30:00Z"_s : u"2026-10-04T15:00:00Z"_s;
     QDateTime now = QDateTime::fromString(start, Qt::ISODate);
-    ClaudeLogReader reader(QStringList(folder.path()));
+    const QString memory = folder.filePath(u"memory"_s);
+    auto reader = std::make_unique<ClaudeLogReader>(QStringList(folder.path()), memory);
     SlowLogReader slow(folder.path());
-    // Fewer than a week: after that a file that was away is read again.
     for (int step = 0; step < 30 && !logs.atEnd(); ++step) {
         for (unsigned changes = logs.below(6); changes > 0; --changes)
             logs.change(now);
-        if (reader.summary(now) != slow.summary(now))
+        if (reader->summary(now) != slow.summary(now))
             std::abort();
+        if (logs.below(8) == 0) {
+            reader->remember(0);
+            reader = std::make_unique<ClaudeLogReader>(QStringList(folder.path()), memory);
+        }
         now = now.addMSecs(logs.below(5 * 3'600'000));
     }
     return 0;

@@ -11,13 +11,12 @@
 #include <algorithm>
 #include <limits>
 
-#include <sys/stat.h>
-
 namespace Kestrune {
 
 using namespace Qt::StringLiterals;
 
-/// The log reader again, as plainly as it can be written: what the real one is compared with.
+/// The log reader again, as plainly as it can be written, which remembers nothing: what the real one is
+/// compared with.
 struct SlowLogReader
 {
     explicit SlowLogReader(const QString &root)
@@ -26,17 +25,17 @@ struct SlowLogReader
 
     std::optional<ClaudeUsage> summary(const QDateTime &now)
     {
-        const QDateTime weekAgo = now.addDays(-7);
+        m_weekAgo = now.addDays(-7);
+        m_entries.clear();
         QStringList paths;
         QDirIterator files(m_root, {u"*.jsonl"_s}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext())
             paths.append(files.next());
         paths.sort();
         for (const QString &path : paths) {
-            if (QFileInfo(path).lastModified() >= weekAgo)
+            if (QFileInfo(path).lastModified() >= m_weekAgo)
                 read(path);
         }
-        m_entries.removeIf([&](QMap<QString, Entry>::iterator entry) { return entry->date <= weekAgo; });
         return m_entries.isEmpty() ? std::nullopt : std::optional(addUp(now));
     }
 
@@ -52,18 +51,9 @@ private:
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly))
             return;
-        struct stat status = {};
-        fstat(file.handle(), &status);
         const QByteArray content = file.readAll();
-        if (m_inodes.value(path) != status.st_ino || m_offsets.value(path) > content.size())
-            m_offsets[path] = 0;
-        m_inodes[path] = status.st_ino;
-        const qsizetype end = content.lastIndexOf('\n') + 1;
-        if (end <= m_offsets.value(path))
-            return;
-        for (const QByteArray &line : content.mid(m_offsets[path], end - m_offsets[path]).split('\n'))
+        for (const QByteArray &line : content.left(content.lastIndexOf('\n') + 1).split('\n'))
             enter(line);
-        m_offsets[path] = end;
     }
 
     void enter(const QByteArray &line)
@@ -76,7 +66,7 @@ private:
         const QJsonValue message = object["message"_L1];
         const QJsonValue usage = message["usage"_L1];
         const QDateTime date = timestamp(object["timestamp"_L1].toString());
-        if (!usage.isObject() || !date.isValid())
+        if (!usage.isObject() || !date.isValid() || date <= m_weekAgo)
             return;
         const QString key = message["id"_L1].isString()
                                 ? u'k' + message["id"_L1].toString() + object["requestId"_L1].toString()
@@ -128,8 +118,7 @@ private:
     }
 
     QString m_root;
-    QMap<QString, qint64> m_offsets;
-    QMap<QString, ino_t> m_inodes;
+    QDateTime m_weekAgo;
     QMap<QString, Entry> m_entries;
     int m_unnamed = 0;
 };

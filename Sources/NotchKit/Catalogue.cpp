@@ -95,9 +95,10 @@ constexpr std::array kTools{
                    .view = "AIUsagePane",
                    .makeModel =
                        [](Context c) {
-                           return made<AIUsageModel>(
-                               c.settings, c.platform.clock,
-                               AIUsageHomes::below(c.platform.home, c.platform.claudeConfig));
+                           auto homes = AIUsageHomes::below(c.platform.home, c.platform.claudeConfig);
+                           if (!c.platform.cache.isEmpty())
+                               homes.memory = c.platform.cache + QLatin1String("/usage");
+                           return made<AIUsageModel>(c.settings, c.platform.clock, homes);
                        }},
     CatalogueEntry{.rawValue = "weather",
                    .title = QT_TRANSLATE_NOOP("notch", "Weather"),

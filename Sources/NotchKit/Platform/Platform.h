@@ -58,6 +58,7 @@ struct Platform
     CalendarStore &calendars;
     QString home = QDir::homePath(); ///< The user's home folder, where other programs keep their files.
     QString claudeConfig = {};       ///< Further folders of Claude Code's, parted by commas.
+    QString cache = {};              ///< The folder of what can be had again; empty for nowhere.
 };
 
 } // namespace Kestrune

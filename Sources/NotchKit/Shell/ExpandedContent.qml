@@ -79,22 +79,28 @@ FocusScope {
                 setSource(modelData.file, given)
             }
 
-            function follow() {
-                if (!live)
-                    return
-                if (!item)
+            function need() {
+                if (chosen && status === Loader.Null)
                     load()
-                item?.present() // Else this is not complete yet.
             }
 
             anchors { left: parent.left; right: parent.right; top: header.bottom; bottom: tools.top; bottomMargin: 8 }
             visible: chosen
-            onLiveChanged: follow()
+            // What a closed notch will show is made a little at a time, and at once when it opens meanwhile.
+            asynchronous: !content.screenModel.expanded
+            onLiveChanged: {
+                if (live && item)
+                    item.present()
+                else
+                    need()
+            }
+            onLoaded: if (live) item.present()
             onChosenChanged: {
                 if (!chosen && !item?.kept)
                     source = ""
+                need()
             }
-            Component.onCompleted: follow()
+            Component.onCompleted: need()
 
             Connections {
                 target: tools

@@ -9,6 +9,8 @@ FocusScope {
     required property NotchScreenModel screenModel
     required property NotchServices services
     required property NotchPresentation presentation
+    /// What the open notch shows is made although it is closed, a little at a time.
+    property bool prepared: false
 
     readonly property bool expanded: screenModel.expanded
     readonly property size notchSize: screenModel.geometry.shapeSize(expanded, services.hasActivity)
@@ -48,7 +50,9 @@ FocusScope {
         width: view.bodyWidth + 2 * blur
         height: shape.notchHeight + 2 * blur
         border { left: 70; right: 70; top: 70; bottom: 70 }
-        source: "shadow.png"
+        // Not at the start: to read a picture, the plugins of all formats are loaded first.
+        source: view.prepared || view.expanded || openness.value > 0.01 ? "shadow.png" : ""
+        asynchronous: true
         visible: opacity > 0.01
         opacity: Math.max(0, Math.min(1, openness.value))
     }
@@ -98,6 +102,7 @@ FocusScope {
 
         Loader {
             active: false
+            asynchronous: !view.expanded
             x: (parent.width - width) / 2
             width: Theme.contentWidth
             height: view.openSize.height
@@ -109,9 +114,10 @@ FocusScope {
                 presentation: view.presentation
             }
 
-            // Made when the notch opens first, and kept.
-            readonly property bool wanted: view.expanded
+            // Made when the notch opens first or before, and kept.
+            readonly property bool wanted: view.expanded || view.prepared
             onWantedChanged: if (wanted) active = true
+            onLoaded: if (!view.expanded) closing.forceActiveFocus()
             Component.onCompleted: if (wanted) active = true
         }
 

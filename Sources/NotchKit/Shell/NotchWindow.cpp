@@ -88,6 +88,8 @@ bool NotchWindow::eventFilter(QObject *item, QEvent *event)
     return QQuickWindow::eventFilter(item, event);
 }
 
+void NotchWindow::prepare() { m_root->setProperty("prepared", true); }
+
 void NotchWindow::paceAnimations() { frames().followDrawing(*this); }
 
 void NotchWindow::paceAnimations(std::function<bool(std::function<void()>)> awaitFrame)

@@ -23,6 +23,10 @@ public:
     NotchWindow(QQmlEngine &engine, NotchScreenModel &model, NotchServices &services);
     ~NotchWindow() override;
 
+    /// Makes what the open notch shows before it opens first, a little at a time; does nothing once it is
+    /// made.
+    void prepare();
+
     /// From now on all animations step with this window's frames, where it draws any.
     void paceAnimations();
 

@@ -34,6 +34,9 @@ ViewEngine::ViewEngine()
 {
     static Refusals refusals; // It outlives every engine.
     setNetworkAccessManagerFactory(&refusals);
+    setIncubationController(&m_incubation);
 }
+
+ViewEngine::~ViewEngine() { setIncubationController(nullptr); }
 
 } // namespace Kestrune

@@ -60,6 +60,50 @@ private Q_SLOTS:
         QVERIFY2(!value.running(), "a spring at rest stays there");
     }
 
+    /// How long the notch stays closed meanwhile, in ms; and the first opening finds it as one without it
+    /// does.
+    void whatOpensFirstIsMadeAhead_data()
+    {
+        const auto row = columns<NotchTool, int>();
+        row("Home", NotchTool::home, 500);
+        row("a pane with a field", NotchTool::note, 500);
+        row("opened while it is made", NotchTool::note, 30);
+        row("opened at once", NotchTool::note, 0);
+    }
+
+    void whatOpensFirstIsMadeAhead()
+    {
+        const auto [tool, closed] = fetched<NotchTool, int>();
+        Stage stage;
+        stage.core.model().setSelected(tool);
+        const auto paneOf = [&]() -> QQuickItem * {
+            for (QQuickItem *item : Stage::items(stage.window->contentItem())) {
+                const QByteArray name = item->metaObject()->className();
+                if (name.startsWith("HomePane_QML") || name.startsWith("NotePane_QML"))
+                    return item;
+            }
+            return nullptr;
+        };
+        QTest::qWait(50);
+        QVERIFY(!paneOf());
+        stage.window->prepare();
+        if (closed > 100)
+            QTRY_VERIFY(paneOf());
+        else
+            QTest::qWait(closed);
+        const QQuickItem *made = paneOf();
+        QVERIFY(!made || (!made->isVisible() && !made->hasActiveFocus()));
+        QCOMPARE(made != nullptr, closed > 100);
+        stage.open(tool);
+        QVERIFY(paneOf() && (!made || paneOf() == made));
+        QVERIFY(paneOf()->isVisible());
+        QTRY_VERIFY(paneOf()->hasActiveFocus());
+        if (tool == NotchTool::note) {
+            stage.key(Qt::Key_A);
+            QCOMPARE(stage.core.settings.note(), u"a"_s);
+        }
+    }
+
     void animationsStepWithTheFramesOfPacedWindows_data() { noAndYes("by time alone", "paced"); }
     void animationsStepWithTheFramesOfPacedWindows()
     {

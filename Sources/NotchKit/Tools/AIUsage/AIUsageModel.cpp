@@ -14,6 +14,7 @@ namespace {
 
 constexpr auto kUsagePause = 60s;
 constexpr auto kLongestRead = 10min; // Of logs of many gigabytes on a slow disk.
+constexpr auto kLongestWrite = 1min;
 
 } // namespace
 
@@ -22,7 +23,7 @@ struct AIUsageModel::Sources
 {
     explicit Sources(const AIUsageHomes &homes)
         : codexHome(homes.codex)
-        , claude(homes.claude)
+        , claude(homes.claude, homes.memory)
     {}
 
     /// What still runs ends soon; the program need not wait for it.
@@ -50,7 +51,8 @@ AIUsageHomes AIUsageHomes::below(const QString &home, const QString &claudeConfi
 {
     AIUsageHomes homes{
         home + QLatin1String("/.codex"),
-        {home + QLatin1String("/.claude/projects"), home + QLatin1String("/.config/claude/projects")}};
+        {home + QLatin1String("/.claude/projects"), home + QLatin1String("/.config/claude/projects")},
+        {}};
     for (const QString &folder : claudeConfig.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
         if (QDir::isAbsolutePath(folder.trimmed()))
             homes.claude.append(folder.trimmed() + QLatin1String("/projects"));
@@ -69,6 +71,7 @@ AIUsageModel::AIUsageModel(NotchSettings &settings, Clock &clock, const AIUsageH
             [this] { sourceSwitched(m_settings.readCodexUsage()); });
     connect(&settings, &NotchSettings::readClaudeUsageChanged, this,
             [this] { sourceSwitched(m_settings.readClaudeUsage()); });
+    connect(&settings, &NotchSettings::readClaudeUsageChanged, this, &AIUsageModel::forgetClaude);
 }
 
 AIUsageModel::~AIUsageModel() { m_sources->cancel(); }
@@ -104,6 +107,16 @@ QCoro::Task<> AIUsageModel::read(Found wanted)
         m_sources = std::make_shared<Sources>(m_homes);
     }
     take(found);
+    // After the figures: nobody waits for it.
+    if (found.readClaude)
+        m_reader.run(kLongestWrite, [sources = m_sources] { return sources->claude.remember(); });
+}
+
+/// Nothing of a source that was switched off stays on the disk.
+void AIUsageModel::forgetClaude()
+{
+    if (!m_settings.readClaudeUsage())
+        m_reader.run(kLongestWrite, [sources = m_sources] { return sources->claude.forget(); });
 }
 
 void AIUsageModel::take(const Found &found)

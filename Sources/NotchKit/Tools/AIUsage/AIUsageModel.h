@@ -15,11 +15,12 @@ namespace Kestrune {
 
 class NotchSettings;
 
-/// Where the two assistants keep their files.
+/// Where the two assistants keep their files, and where is kept what was read of them.
 struct AIUsageHomes
 {
     QString codex;      ///< Codex CLI's own folder.
     QStringList claude; ///< The folders of Claude Code's session logs; one may be there twice.
+    QString memory;     ///< The file of what was read of those; empty for none.
 
     /// Their places below a user's home folder, and in the folders of `claudeConfig`, which are parted by
     /// commas (as CLAUDE_CONFIG_DIR has them).
@@ -78,6 +79,7 @@ private:
 
     bool showsFigures(std::optional<NotchTool> visible) const;
     void sourceSwitched(bool on);
+    void forgetClaude();
     QCoro::Task<> read(Found wanted);
     void take(const Found &found);
 

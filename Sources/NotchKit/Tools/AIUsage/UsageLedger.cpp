@@ -3,51 +3,92 @@
 #include "NotchKit/Platform/Utc.h"
 
 #include <algorithm>
+#include <bit>
+#include <utility>
 
 namespace Kestrune {
 
 namespace {
 
-constexpr qint64 kWeek = 604'800'000; // ms
 constexpr qint64 kBlock = ClaudeUsage::kBlockSeconds * 1000;
+
+/// The keys that were met, in memory that is taken once.
+class Keys
+{
+public:
+    explicit Keys(std::size_t most)
+        : m_slots(std::bit_ceil(2 * most + 1))
+    {}
+
+    /// Whether a response with that key was not met before.
+    bool isFirst(const ResponseKey &key)
+    {
+        if (key == UsageEntry::kUnnamed)
+            return true;
+        const std::size_t mask = m_slots.size() - 1;
+        std::size_t place = key.low & mask;
+        while (m_slots[place] != ResponseKey() && m_slots[place] != key)
+            place = (place + 1) & mask;
+        return std::exchange(m_slots[place], key) != key;
+    }
+
+private:
+    std::vector<ResponseKey> m_slots;
+};
 
 QDateTime utc(qint64 date) { return QDateTime::fromMSecsSinceEpoch(date, kUtc); }
 
 } // namespace
 
-void UsageLedger::enter(const LoggedResponse &response, quint32 rank)
+void LogEntries::enter(const LoggedResponse &response)
 {
-    const std::scoped_lock locked(m_mutex);
-    m_changed = true;
-    const Entry entry{response.date, response.tokens, rank};
-    if (!response.key) {
-        m_entries.insert({~quint64(0), ++m_unnamed}, entry);
-        return;
+    const UsageEntry entry{response.key.value_or(UsageEntry::kUnnamed), response.date, response.tokens};
+    // Most updates of a response follow it at once.
+    if (response.key && !m_entries.empty() && m_entries.back().key == entry.key)
+        m_entries.back() = entry;
+    else
+        m_entries.push_back(entry);
+    if (m_entries.size() > m_most)
+        dropReplaced();
+}
+
+void LogEntries::dropReplaced()
+{
+    Keys seen(m_entries.size());
+    auto kept = m_entries.end();
+    for (auto entry = m_entries.end(); entry != m_entries.begin();) {
+        if (seen.isFirst((--entry)->key))
+            *--kept = *entry;
     }
-    const auto found = m_entries.find(*response.key);
-    if (found == m_entries.end())
-        m_entries.insert(*response.key, entry);
-    else if (found->rank <= rank)
-        *found = entry;
+    m_entries.erase(m_entries.begin(), kept);
+    m_most = std::max(m_most, 2 * m_entries.size());
 }
 
-void UsageLedger::prune(qint64 weekAgo)
+void LogEntries::forgetUntil(qint64 date)
 {
-    const auto isOld = [weekAgo](const auto &entry) { return entry.date <= weekAgo; };
-    if (!m_changed && (m_sorted.empty() || !isOld(m_sorted.front())))
-        return;
-    m_entries.removeIf([&](QHash<ResponseKey, Entry>::iterator entry) { return isOld(*entry); });
+    std::erase_if(m_entries, [date](const UsageEntry &entry) { return entry.date <= date; });
+}
+
+void UsageLedger::take(std::span<const LogEntries *const> logs, qint64 weekAgo)
+{
+    std::size_t count = 0;
+    for (const LogEntries *log : logs)
+        count += log->all().size();
+    Keys seen(count);
     m_sorted.clear();
-    m_sorted.reserve(static_cast<std::size_t>(m_entries.size()));
-    for (const Entry &entry : std::as_const(m_entries))
-        m_sorted.push_back({entry.date, entry.tokens});
-    std::sort(m_sorted.begin(), m_sorted.end());
-    m_changed = false;
+    m_sorted.reserve(count);
+    for (auto log = logs.rbegin(); log != logs.rend(); ++log) {
+        const std::span<const UsageEntry> entries = (*log)->all();
+        for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
+            if (entry->date > weekAgo && seen.isFirst(entry->key))
+                m_sorted.push_back({entry->date, entry->tokens});
+        }
+    }
+    std::ranges::sort(m_sorted, {}, &Dated::date);
 }
 
-std::optional<ClaudeUsage> UsageLedger::summary(const QDateTime &now)
+std::optional<ClaudeUsage> UsageLedger::summary(const QDateTime &now) const
 {
-    prune(now.toMSecsSinceEpoch() - kWeek);
     if (m_sorted.empty())
         return std::nullopt;
     ClaudeUsage usage;

@@ -3,51 +3,73 @@
 #include "ClaudeLogLine.h"
 #include "UsageFigures.h"
 
-#include <QHash>
-
-#include <mutex>
+#include <span>
 #include <vector>
 
 namespace Kestrune {
 
-/// The responses of the last week, each once, and what they add up to.
+/// One logged response, as small as it can be kept.
+struct UsageEntry
+{
+    /// The key of a response without an id: each of them is another one.
+    static constexpr ResponseKey kUnnamed{~quint64(0), ~quint64(0)};
+
+    ResponseKey key;
+    qint64 date = 0; ///< Milliseconds since 1970.
+    qint64 tokens = 0;
+
+    bool operator==(const UsageEntry &) const = default;
+};
+
+/// The responses of one log in the order of its lines; of those with one key at least the last.
+class LogEntries
+{
+public:
+    LogEntries() = default;
+    explicit LogEntries(std::span<const UsageEntry> entries)
+        : m_entries(entries.begin(), entries.end())
+    {}
+
+    /// Adds a response. Takes memory in proportion to the number of keys, and constant time on average.
+    void enter(const LoggedResponse &response);
+
+    /// Drops what was logged at `date` or before, in ms since 1970.
+    void forgetUntil(qint64 date);
+
+    std::span<const UsageEntry> all() const { return m_entries; }
+
+private:
+    void dropReplaced();
+
+    std::vector<UsageEntry> m_entries;
+    std::size_t m_most = 4096; ///< With more than these it is time to look for replaced ones.
+};
+
+/// What the responses of all logs add up to, each counted once.
 class UsageLedger
 {
 public:
-    /// Enters a response. It replaces the one with its key unless that came with a greater `rank`: so the
-    /// outcome does not depend on which of several threads comes first. Any thread, also at once.
-    void enter(const LoggedResponse &response, quint32 rank);
+    /// Takes what counts from now on in place of what did before: of each log's entries those after
+    /// `weekAgo`, in ms since 1970; of several with one key the last one of the last log.
+    void take(std::span<const LogEntries *const> logs, qint64 weekAgo);
 
-    /// Forgets what is a week old at `now` or older, and adds up the rest; nothing when none is left. Days
-    /// are those of the user's time zone. Not while responses are entered.
-    std::optional<ClaudeUsage> summary(const QDateTime &now);
+    /// Whether something of it was logged at `date` or before, in ms since 1970.
+    bool reachesBackTo(qint64 date) const { return !m_sorted.empty() && m_sorted.front().date <= date; }
+
+    /// The sums; nothing when there are no entries. Days are those of the user's time zone.
+    std::optional<ClaudeUsage> summary(const QDateTime &now) const;
 
 private:
-    struct Entry
-    {
-        qint64 date;
-        qint64 tokens;
-        quint32 rank;
-    };
     struct Dated
     {
         qint64 date;
         qint64 tokens;
-        bool operator<(const Dated &other) const
-        {
-            return date != other.date ? date < other.date : tokens < other.tokens;
-        }
     };
 
-    void prune(qint64 weekAgo);
     void addBlocks(ClaudeUsage &usage, qint64 now) const;
     void addDays(ClaudeUsage &usage, const QDateTime &now) const;
 
-    std::mutex m_mutex;
-    QHash<ResponseKey, Entry> m_entries;
-    std::vector<Dated> m_sorted; ///< The entries by date; out of date while `m_changed`.
-    quint64 m_unnamed = 0;
-    bool m_changed = false;
+    std::vector<Dated> m_sorted; ///< By date.
 };
 
 } // namespace Kestrune
