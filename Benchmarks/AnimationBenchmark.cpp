@@ -25,7 +25,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int kWarmUp = 3;
-constexpr int kOpenings = 25;
+constexpr int kOpenings = 10;
 constexpr auto kMotion = 450ms; // the springs still move
 constexpr auto kRest = 900ms;   // they have come to rest
 

@@ -28,8 +28,8 @@ namespace {
 
 using Time = std::chrono::steady_clock;
 
-constexpr int kStarts = 21;
-constexpr auto kIdleTime = 30s;
+constexpr int kStarts = 15;
+constexpr auto kIdleTime = 20s;
 constexpr auto kSettle = 12s;   // what is given back while nothing is open is given back by then
 constexpr auto kShown = 1500ms; // an opening and a pane's own animations are over by then
 constexpr auto kLongestWait = 10s;
@@ -250,7 +250,7 @@ void measureIdle(Table &table, const Program &program, const Onlooker &onlooker,
     table.add({"Closed and idle, " + when + ": processor", share, 0.02, "%", ""});
     table.add(
         {"  wake-ups a minute, all threads", (program.wakeUps() - slept) * 60'000 / elapsed, 0, "", ""});
-    table.add({"  redraws in 30 s", static_cast<double>(onlooker.redraws()), 0, "", ""});
+    table.add({"  redraws", static_cast<double>(onlooker.redraws()), 0, "", ""});
     table.add({"  bytes written to disk", program.figure("io", "write_bytes:") - written, 0, "", ""});
 }
 
