@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QCryptographicHash>
 #include <QImageReader>
+#include <QtEndian>
 
 #include <algorithm>
 #include <array>
@@ -38,6 +39,26 @@ const char *formatOf(QIODevice &device, PictureWish::Formats formats)
                bytes.mid(encoding.at).startsWith(encoding.begins);
     });
     return found == kEncodings.end() ? nullptr : found->format;
+}
+
+/// libpng sets a chunk's memory aside, and clears it, before it has read any of the chunk: of one that says
+/// it is longer than the rest of the picture, 2 GB at worst. The device is left at its beginning. Format:
+/// https://www.w3.org/TR/png-3/#5Chunk-layout
+bool areChunksWithin(QIODevice &device)
+{
+    constexpr qint64 kSignature = 8;
+    constexpr qint64 kHead = 8; // The length of its data, then its type.
+    constexpr qint64 kCheck = 4;
+    bool within = true;
+    qint64 next = kSignature;
+    while (within && device.seek(next)) {
+        const QByteArray head = device.read(kHead);
+        if (head.size() < kHead)
+            break;
+        next += kHead + qFromBigEndian<quint32>(head.constData()) + kCheck;
+        within = next <= device.size();
+    }
+    return device.seek(0) && within;
 }
 
 /// Never larger than the picture.
@@ -76,7 +97,7 @@ void PictureDecoder::prepare()
 ReadPicture PictureDecoder::decode(QIODevice &device, const PictureWish &wish)
 {
     const char *const format = formatOf(device, wish.formats);
-    if (!format)
+    if (!format || (qstrcmp(format, "png") == 0 && !areChunksWithin(device)))
         return {};
     QImageReader reader(&device, format);
     reader.setAutoDetectImageFormat(false);

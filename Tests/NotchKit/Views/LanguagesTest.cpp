@@ -140,6 +140,7 @@ struct Stage : WindowStage
             return;
         core.captures.found = {{u"/shots/2.png"_s, core.clock.now(), core.clock.now()}};
         core.pasteboard.offer(u"copied"_s);
+        Q_EMIT core.pasteboard.changed();
         core.services.model<TimerModel>()->start(1);
         core.wait(2000);
     }

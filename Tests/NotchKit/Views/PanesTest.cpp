@@ -161,6 +161,7 @@ private Q_SLOTS:
                     current()->y() + current()->parentItem()->y() ==
                         0); // At the list's top, wherever its origin is.
         stage.core.pasteboard.offer(u"new"_s);
+        Q_EMIT stage.core.pasteboard.changed();
         stage.core.wait(1000);
         Fakes::finishWork();
         QTRY_VERIFY(current() && current()->property("text") == "new"_L1);
