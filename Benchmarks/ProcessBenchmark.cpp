@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <memory>
 #include <numeric>
 #include <regex>
@@ -33,6 +34,8 @@ constexpr auto kIdleTime = 20s;
 constexpr auto kSettle = 12s;   // what is given back while nothing is open is given back by then
 constexpr auto kShown = 1500ms; // an opening and a pane's own animations are over by then
 constexpr auto kLongestWait = 10s;
+constexpr auto kPeerSettles = 5s;
+constexpr auto kPeerIdles = 10s;
 
 [[noreturn]] void fail(const char *what)
 {
@@ -119,57 +122,44 @@ private:
     xcb_damage_damage_t m_damage;
 };
 
-/// The running program; ends with the object, as at the end of a session.
-class Program
+/// A running process; ends with the object.
+class Process
 {
 public:
-    explicit Program(const std::string &path)
-        : m_path(path)
+    /// `command` is a shell's.
+    explicit Process(const std::string &command)
     {
-        const char *arguments[] = {path.c_str(), nullptr};
-        if (posix_spawn(&m_pid, path.c_str(), nullptr, nullptr, const_cast<char **>(arguments), environ) != 0)
+        const std::string line = "exec " + command + " >/dev/null 2>&1";
+        const char *arguments[] = {"sh", "-c", line.c_str(), nullptr};
+        if (posix_spawn(&m_pid, "/bin/sh", nullptr, nullptr, const_cast<char **>(arguments), environ) != 0)
             fail("the program does not start");
     }
-    ~Program()
+    ~Process()
     {
-        command("quit");
         kill(m_pid, SIGTERM);
         waitpid(m_pid, nullptr, 0);
     }
-    Program(const Program &) = delete;
-    Program &operator=(const Program &) = delete;
+    Process(const Process &) = delete;
+    Process &operator=(const Process &) = delete;
 
-    /// What the program answers to a command.
-    std::string command(const std::string &words) const
-    {
-        FILE *pipe = popen(("'" + m_path + "' " + words).c_str(), "r");
-        std::string answer;
-        for (int c = 0; pipe && (c = std::fgetc(pipe)) != EOF;)
-            answer += static_cast<char>(c);
-        if (pipe)
-            pclose(pipe);
-        return answer;
-    }
+    bool isRunning() const { return waitpid(m_pid, nullptr, WNOHANG) == 0; }
 
-    /// Processor time of all threads so far.
-    std::chrono::nanoseconds processorTime() const
+    /// What its threads have done so far, by their numbers.
+    struct Thread
     {
-        int64_t sum = 0;
+        double busy;   ///< Milliseconds of processor time.
+        double sleeps; ///< How often it went to sleep, and so will have woken.
+    };
+    std::map<std::string, Thread> threads() const
+    {
+        std::map<std::string, Thread> all;
         for (const auto &task : std::filesystem::directory_iterator(proc("task"))) {
-            int64_t time = 0;
-            std::ifstream(task.path() / "schedstat") >> time;
-            sum += time;
+            double nanoseconds = 0;
+            std::ifstream(task.path() / "schedstat") >> nanoseconds;
+            all[task.path().filename()] = {nanoseconds / 1e6,
+                                           named(task.path() / "status", "voluntary_ctxt_switches:")};
         }
-        return std::chrono::nanoseconds(sum);
-    }
-
-    /// How often one of its threads went to sleep so far, and so will have woken.
-    double wakeUps() const
-    {
-        double sum = 0;
-        for (const auto &task : std::filesystem::directory_iterator(proc("task")))
-            sum += named(task.path() / "status", "voluntary_ctxt_switches:");
-        return sum;
+        return all;
     }
 
     /// A number of a /proc file that names each: "Pss:", "write_bytes:".
@@ -204,8 +194,35 @@ private:
         return std::filesystem::path("/proc") / std::to_string(m_pid) / file;
     }
 
-    std::string m_path;
     pid_t m_pid = 0;
+};
+
+/// The running program; ends as at the end of a session.
+class Program : public Process
+{
+public:
+    explicit Program(const std::string &path)
+        : Process("'" + path + "'")
+        , m_path(path)
+    {}
+    ~Program() { command("quit"); }
+    Program(const Program &) = delete;
+    Program &operator=(const Program &) = delete;
+
+    /// What the program answers to a command.
+    std::string command(const std::string &words) const
+    {
+        FILE *pipe = popen(("'" + m_path + "' " + words).c_str(), "r");
+        std::string answer;
+        for (int c = 0; pipe && (c = std::fgetc(pipe)) != EOF;)
+            answer += static_cast<char>(c);
+        if (pipe)
+            pclose(pipe);
+        return answer;
+    }
+
+private:
+    std::string m_path;
 };
 
 void measureStart(Table &table, const std::string &path, const Onlooker &onlooker)
@@ -236,22 +253,51 @@ void measureMemory(Table &table, const Program &program, const char *what, doubl
     Table::note("  were nothing shared (RSS)", program.figure("smaps_rollup", "Rss:") / 1000, "MB");
 }
 
+/// What a process does in a while in which nothing happens.
+struct Idling
+{
+    double share = 0;   ///< Of a processor, in %.
+    double wakeUps = 0; ///< A minute.
+};
+
+Idling idling(const Process &process, Time::duration time)
+{
+    const auto before = process.threads();
+    const auto begin = Time::now();
+    std::this_thread::sleep_for(time);
+    const double elapsed = milliseconds(Time::now() - begin);
+    double busy = 0;
+    double sleeps = 0;
+    for (const auto &[number, now] : process.threads()) {
+        const auto was = before.find(number); // Of a new one counts all that it did.
+        busy += now.busy - (was == before.end() ? 0 : was->second.busy);
+        sleeps += now.sleeps - (was == before.end() ? 0 : was->second.sleeps);
+    }
+    return {100 * busy / elapsed, sleeps * 60'000 / elapsed};
+}
+
 void measureIdle(Table &table, const Program &program, const Onlooker &onlooker, const std::string &when)
 {
     onlooker.redraws();
     const double written = program.figure("io", "write_bytes:");
-    const auto busy = program.processorTime();
-    const double slept = program.wakeUps();
-    const auto begin = Time::now();
-    std::this_thread::sleep_for(kIdleTime);
-    const auto used = program.processorTime() - busy;
-    const double elapsed = milliseconds(Time::now() - begin);
-    const double share = 100 * milliseconds(used) / elapsed;
-    table.add({"Closed and idle, " + when + ": processor", share, 0.02, "%", ""});
-    table.add(
-        {"  wake-ups a minute, all threads", (program.wakeUps() - slept) * 60'000 / elapsed, 0, "", ""});
+    const Idling idle = idling(program, kIdleTime);
+    table.add({"Closed and idle, " + when + ": processor", idle.share, 0.02, "%", ""});
+    table.add({"  wake-ups a minute, all threads", idle.wakeUps, 12, "", ""});
     table.add({"  redraws", static_cast<double>(onlooker.redraws()), 0, "", ""});
     table.add({"  bytes written to disk", program.figure("io", "write_bytes:") - written, 0, "", ""});
+}
+
+/// What others cost that are there all day as well, for comparison.
+void measurePeer(const std::string &command)
+{
+    const Process peer(command);
+    std::this_thread::sleep_for(kPeerSettles);
+    if (!peer.isRunning())
+        return;
+    const Idling idle = idling(peer, kPeerIdles);
+    Table::note("Idle, " + command + ": processor", idle.share, "%");
+    Table::note("  wake-ups a minute, all threads", idle.wakeUps, "");
+    Table::note("  memory (PSS)", peer.figure("smaps_rollup", "Pss:") / 1000, "MB");
 }
 
 void showEveryPane(const Program &program)
@@ -278,14 +324,9 @@ void startForTheFirstTime(const std::string &path, const Onlooker &onlooker)
     std::this_thread::sleep_for(kSettle);
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+/// The program and what depends on it alone.
+int measure(const std::string &path, const Onlooker &onlooker)
 {
-    if (argc != 2)
-        fail("usage: ProcessBenchmark PROGRAM");
-    const std::string path = argv[1];
-    const Onlooker onlooker;
     startForTheFirstTime(path, onlooker);
     Table table;
     measureStart(table, path, onlooker);
@@ -296,4 +337,17 @@ int main(int argc, char *argv[])
     measureMemory(table, program, "Memory (PSS), closed after every pane", 50);
     measureIdle(table, program, onlooker, "after every pane");
     return table.exitStatus();
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (argc < 2)
+        fail("usage: ProcessBenchmark PROGRAM [PEER...]");
+    const Onlooker onlooker;
+    const int status = measure(argv[1], onlooker);
+    for (int i = 2; i < argc; ++i)
+        measurePeer(argv[i]);
+    return status;
 }

@@ -35,8 +35,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     // Around the changes of the clock in both halves of the year.
     const QString start = logs.below(2) ? u"2026-03-29T01:30:00Z"_s : u"2026-10-04T15:00:00Z"_s;
     QDateTime now = QDateTime::fromString(start, Qt::ISODate);
-    const QString memory = folder.filePath(u"memory"_s);
-    auto reader = std::make_unique<ClaudeLogReader>(QStringList(folder.path()), memory);
+    const QString known = folder.filePath(u"memory"_s);
+    auto reader = std::make_unique<ClaudeLogReader>(QStringList(folder.path()), known);
     SlowLogReader slow(folder.path());
     for (int step = 0; step < 30 && !logs.atEnd(); ++step) {
         for (unsigned changes = logs.below(6); changes > 0; --changes)
@@ -45,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
             std::abort();
         if (logs.below(8) == 0) {
             reader->remember(0);
-            reader = std::make_unique<ClaudeLogReader>(QStringList(folder.path()), memory);
+            reader = std::make_unique<ClaudeLogReader>(QStringList(folder.path()), known);
         }
         now = now.addMSecs(logs.below(5 * 3'600'000));
     }

@@ -43,14 +43,14 @@ X11Pointer::X11Pointer()
     , m_isGuest(X11::isGuest())
     , m_away(m_isGuest)
 {
+    QCoreApplication::instance()->installNativeEventFilter(this);
     const auto *extension = xcb_get_extension_data(X11::connection(), &xcb_input_id);
     if (!extension || !extension->present) {
-        qCInfo(pointerLog, "the server has no XInput: presses between two samples are missed");
+        qCInfo(pointerLog, "the server has no XInput: presses elsewhere are missed");
         return;
     }
     m_inputOpcode = extension->major_opcode;
     selectRawPresses();
-    QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
 X11Pointer::~X11Pointer() = default;

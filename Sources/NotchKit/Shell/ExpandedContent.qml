@@ -76,6 +76,7 @@ FocusScope {
                 }
                 if (modelData.model)
                     given.model = modelData.model
+                asynchronous = !live
                 setSource(modelData.file, given)
             }
 
@@ -86,9 +87,10 @@ FocusScope {
 
             anchors { left: parent.left; right: parent.right; top: header.bottom; bottom: tools.top; bottomMargin: 8 }
             visible: chosen
-            // What a closed notch will show is made a little at a time, and at once when it opens meanwhile.
-            asynchronous: !content.screenModel.expanded
+            // What a closed notch will show is made a little at a time; what is half made when it opens, anew at once.
             onLiveChanged: {
+                if (live && status === Loader.Loading)
+                    source = ""
                 if (live && item)
                     item.present()
                 else

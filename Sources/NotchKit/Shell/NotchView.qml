@@ -102,7 +102,6 @@ FocusScope {
 
         Loader {
             active: false
-            asynchronous: !view.expanded
             x: (parent.width - width) / 2
             width: Theme.contentWidth
             height: view.openSize.height
@@ -114,11 +113,24 @@ FocusScope {
                 presentation: view.presentation
             }
 
-            // Made when the notch opens first or before, and kept.
-            readonly property bool wanted: view.expanded || view.prepared
-            onWantedChanged: if (wanted) active = true
-            onLoaded: if (!view.expanded) closing.forceActiveFocus()
-            Component.onCompleted: if (wanted) active = true
+            // Made when the notch opens first, or a little at a time before, and kept. What is half made when it opens
+            // is made anew at once.
+            readonly property bool opens: view.expanded
+            readonly property bool wanted: opens || view.prepared
+
+            function make() {
+                if (opens && status === Loader.Loading)
+                    active = false
+                if (active || !wanted)
+                    return
+                asynchronous = !opens
+                active = true
+            }
+
+            onOpensChanged: make()
+            onWantedChanged: make()
+            onLoaded: if (!opens) closing.forceActiveFocus()
+            Component.onCompleted: make()
         }
 
         // What closes looks as it did, and takes neither clicks nor keys any more.

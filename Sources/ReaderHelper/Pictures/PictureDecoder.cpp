@@ -53,8 +53,8 @@ bool areChunksWithin(QIODevice &device)
     qint64 next = kSignature;
     while (within && device.seek(next)) {
         const QByteArray head = device.read(kHead);
-        if (head.size() < kHead)
-            break;
+        if (head.size() < kHead || head.endsWith("IEND"))
+            break; // What follows the end is not read.
         next += kHead + qFromBigEndian<quint32>(head.constData()) + kCheck;
         within = next <= device.size();
     }

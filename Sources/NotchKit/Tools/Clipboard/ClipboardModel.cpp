@@ -120,7 +120,11 @@ ClipboardModel::ClipboardModel(NotchSettings &settings, UserDefaults &defaults, 
     connect(&settings, &NotchSettings::toolsChanged, this, &ClipboardModel::look);
 }
 
-ClipboardModel::~ClipboardModel() { hubStopped(); }
+ClipboardModel::~ClipboardModel()
+{
+    if (m_later)
+        persist();
+}
 
 QString ClipboardModel::rawValue(Filter filter) { return QString::fromLatin1(entry(filter).rawValue); }
 
