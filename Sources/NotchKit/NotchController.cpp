@@ -458,8 +458,8 @@ void NotchController::poll()
     const bool freshPress = pressed && !m_wasPressed;
     m_wasPressed = pressed;
     m_isOverNotch = false;
-    m_hasChanged =
-        freshPress; // Of a drag, the first sample tells the press, and only the next one the place.
+    // Of a drag, the first sample tells the press, and only the next one the place.
+    m_hasChanged = freshPress;
     for (Notch &notch : m_notches) {
         const bool inside = holds(notch.hitArea, pointer.location);
         m_isOverNotch = m_isOverNotch || inside;

@@ -96,6 +96,7 @@ private Q_SLOTS:
             QTest::qWait(closed);
         const QQuickItem *made = paneOf();
         QVERIFY(!made || (!made->isVisible() && !made->hasActiveFocus()));
+        QVERIFY(closed > 0 || !made);
         stage.open(tool);
         QVERIFY(paneOf());
         if (closed > 100)
