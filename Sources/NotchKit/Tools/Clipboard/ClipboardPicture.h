@@ -48,7 +48,7 @@ private:
     struct Data
     {
         QByteArray bytes;
-        bool compressed = false;
+        qsizetype step = 0; ///< Of packed bytes: how many a pixel has. Zero for those as they came.
         QString type;
         QSize size;
         QImage thumbnail;
