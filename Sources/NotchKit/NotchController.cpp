@@ -17,9 +17,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr auto kPollInterval = 33ms; // 1/30 s
-constexpr auto kLeaveDelay = 250ms;
-constexpr auto kTypingRest = 1s; // Who pauses longer has typed the last key.
-constexpr auto kClosing = 1s;    // Its motion is over by then.
+constexpr auto kClosing = 1s;        // Its motion is over by then.
 
 /// Unlike QRectF::contains, the upper edges do not count, so that neighbouring displays never both match.
 bool holds(const QRectF &rect, const QPointF &point)
@@ -87,8 +85,6 @@ void NotchController::stop()
     for (Notch &notch : m_notches)
         notch.panel->orderOut();
     m_notches.clear();
-    m_hoverStart.clear();
-    m_leaveStart.clear();
 }
 
 void NotchController::watchPointer()
@@ -108,7 +104,8 @@ void NotchController::rest()
 /// Nothing is being waited for, and the pointer does nothing that concerns a notch.
 bool NotchController::canRest() const
 {
-    return !m_hasChanged && m_hoverStart.isEmpty() && m_leaveStart.isEmpty() &&
+    const auto waits = [](const Notch &notch) { return notch.rules.isWaiting(); };
+    return !m_hasChanged && std::ranges::none_of(m_notches, waits) &&
            (m_windows.pointer().isAtRest() || !(m_isOverNotch || m_services.anyExpanded()));
 }
 
@@ -118,9 +115,8 @@ void NotchController::followLock()
         watchPointer();
     } else {
         rest();
-        m_hoverStart.clear();
-        m_leaveStart.clear();
         for (Notch &notch : m_notches) {
+            notch.rules.forgetDelays();
             if (!notch.model->pinned())
                 set(notch, false);
         }
@@ -227,7 +223,6 @@ void NotchController::rebuildPanels()
         if (!gone(notch))
             continue;
         set(notch, false);
-        forgetDelays(notch);
         notch.panel->orderOut();
         notch.panel.reset(); // Where the others move up into its place, the model goes first.
     }
@@ -264,7 +259,7 @@ void NotchController::addNotch(const Display &screen)
     });
     connect(model.get(), &NotchScreenModel::typed, this, [this, name = screen.name] {
         if (Notch *notch = find(name))
-            notch->typed = m_clock.uptime();
+            notch->rules.userTyped(m_clock.uptime());
     });
     connect(model.get(), &NotchScreenModel::pinnedChanged, this, &NotchController::watchPointer);
     connect(model.get(), &NotchScreenModel::dropTargetedChanged, this, &NotchController::watchPointer);
@@ -380,7 +375,7 @@ void NotchController::set(Notch &notch, bool expanded)
         model.setSelected(firstTool());
     model.setExpanded(expanded);
     model.setPointerEntered(false);
-    forgetDelays(notch);
+    notch.rules.forgetDelays();
     updateHitArea(notch);
     m_hasChanged = true;
     watchPointer();
@@ -445,96 +440,39 @@ void NotchController::updateHitAreas()
     watchPointer();
 }
 
-void NotchController::forgetDelays(const Notch &notch)
-{
-    m_hoverStart.remove(notch.screen.name);
-    m_leaveStart.remove(notch.screen.name);
-}
-
 void NotchController::poll()
 {
     const PointerSample pointer = m_windows.pointer().sample();
-    const bool pressed = pointer.primaryDown;
-    const bool freshPress = pressed && !m_wasPressed;
-    m_wasPressed = pressed;
+    const bool freshPress = pointer.primaryDown && !m_wasPressed;
+    m_wasPressed = pointer.primaryDown;
     m_isOverNotch = false;
     // Of a drag, the first sample tells the press, and only the next one the place.
     m_hasChanged = freshPress;
     for (Notch &notch : m_notches) {
         const bool inside = holds(notch.hitArea, pointer.location);
         m_isOverNotch = m_isOverNotch || inside;
-        if (notch.model->expanded())
-            pollOpen(notch, inside, pressed, freshPress);
-        else
-            pollClosed(notch, inside, pressed, freshPress);
+        follow(notch, {inside, pointer.primaryDown, freshPress, m_clock.uptime()});
     }
     if (canRest())
         rest();
 }
 
-bool NotchController::isTyping(const Notch &notch, Moment now)
+void NotchController::follow(Notch &notch, const PointerRules::Look &look)
 {
-    return notch.typed && now - *notch.typed < kTypingRest;
-}
-
-void NotchController::pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress)
-{
-    NotchScreenModel &model = *notch.model;
-    const QString &key = notch.screen.name;
-    if (inside)
-        model.setPointerEntered(true);
-    if (model.pinned()) {
-        m_leaveStart.remove(key);
-        return;
-    }
-    if (!model.pointerEntered()) {
-        if (freshPress)
+    const NotchSettings &settings = *m_services.settings();
+    if (notch.model->expanded()) {
+        if (notch.rules.closes(look, *notch.model))
             set(notch, false);
         return;
     }
-    if (pressed || inside || model.dropTargeted()) {
-        m_leaveStart.remove(key);
-        return;
-    }
-    const Moment now = m_clock.uptime();
-    const auto left = m_leaveStart.constFind(key);
-    if (left == m_leaveStart.cend()) {
-        m_leaveStart.insert(key, now);
-    } else if (now - *left > kLeaveDelay && !isTyping(notch, now)) {
-        m_leaveStart.remove(key);
-        set(notch, false);
-    }
-}
-
-void NotchController::pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress)
-{
-    inside = inside && notch.isOnScreen;
-    if (inside && pressed && !freshPress && m_services.settings()->tools().contains(NotchTool::shelf) &&
-        m_windows.drags().holdsFileUrls()) {
+    PointerRules::Look shown = look;
+    shown.isInside = look.isInside && notch.isOnScreen;
+    const bool isDragged = shown.isInside && look.isPressed && !look.isFreshPress;
+    if (isDragged && settings.tools().contains(NotchTool::shelf) && m_windows.drags().holdsFileUrls()) {
         notch.model->setSelected(NotchTool::shelf);
         set(notch, true);
-        return;
-    }
-    if (m_services.settings()->openMode() == NotchOpenMode::hover)
-        pollResting(notch, inside && !pressed);
-    else if (inside && freshPress)
-        set(notch, true);
-}
-
-void NotchController::pollResting(Notch &notch, bool resting)
-{
-    const QString &key = notch.screen.name;
-    if (!resting) {
-        m_hoverStart.remove(key);
-        return;
-    }
-    const Moment now = m_clock.uptime();
-    const auto rested = m_hoverStart.constFind(key);
-    const Moment since = rested == m_hoverStart.cend() ? now : *rested;
-    if (rested == m_hoverStart.cend())
-        m_hoverStart.insert(key, now);
-    if (now - since >= std::chrono::duration<double>(m_services.settings()->hoverDelay())) {
-        m_hoverStart.remove(key);
+    } else if (notch.rules.opens(shown, settings.openMode(),
+                                 std::chrono::duration<double>(settings.hoverDelay()))) {
         set(notch, true);
     }
 }

@@ -6,10 +6,8 @@
 #include "NotchKit/Platform/NotchPanel.h"
 #include "NotchScreenModel.h"
 #include "NotchServices.h"
+#include "PointerRules.h"
 
-#include <QHash>
-
-#include <chrono>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -22,11 +20,9 @@ class WindowSystem;
 
 /// Keeps one panel and one screen model per wanted display, and opens and closes them: it polls the
 /// pointer thirty times a second from when it stirs until nothing can come of it, and owns the hot key. On a
-/// display without a housing that a full-screen
-/// window covers, the closed notch is not on screen and does not open by pointer. A notch that the pointer
-/// left stays open while the user types in it, so that no keystroke goes elsewhere. While the session is
-/// locked no panel is on screen, nothing opens, and what a pinned notch shows counts as hidden. Main thread
-/// only.
+/// display without a housing that a full-screen window covers, the closed notch is not on screen and does not
+/// open by pointer. While the session is locked no panel is on screen, nothing opens, and what a pinned notch
+/// shows counts as hidden. Main thread only.
 class NotchController : public QObject
 {
     Q_OBJECT
@@ -41,8 +37,8 @@ public:
         std::unique_ptr<NotchPanel> panel;
         QRectF hitArea; ///< What the panel was told last.
         bool isOnScreen = false;
-        std::unique_ptr<RunningTimer> closing{};         ///< Until it may go from the screen, closed.
-        std::optional<std::chrono::nanoseconds> typed{}; ///< When the user last typed in it.
+        std::unique_ptr<RunningTimer> closing{}; ///< Until it may go from the screen, closed.
+        PointerRules rules{};
     };
     using Notches = std::vector<Notch>;
 
@@ -85,8 +81,6 @@ Q_SIGNALS:
     void hotKeyBindingChanged();
 
 private:
-    using Moment = std::chrono::nanoseconds;
-
     QList<Display> wantedScreens() const;
     void followLock();
     bool isCovered(const Notch &notch) const;
@@ -95,7 +89,6 @@ private:
     void watchPointer();
     void rest();
     bool canRest() const;
-    void forgetDelays(const Notch &notch);
     void rebuildPanels();
     void addNotch(const Display &screen);
     void updateNotch(Notch &notch, const Display &screen);
@@ -117,10 +110,7 @@ private:
     void updateHitArea(Notch &notch);
     void updateHitAreas();
     void poll();
-    static bool isTyping(const Notch &notch, Moment now);
-    void pollOpen(Notch &notch, bool inside, bool pressed, bool freshPress);
-    void pollClosed(Notch &notch, bool inside, bool pressed, bool freshPress);
-    void pollResting(Notch &notch, bool resting);
+    void follow(Notch &notch, const PointerRules::Look &look);
 
     NotchServices &m_services;
     WindowSystem &m_windows;
@@ -135,8 +125,6 @@ private:
     bool m_isOverNotch = false; ///< The pointer, at the last poll.
     bool m_hasChanged =
         false; ///< A notch, or where it is, since the last poll began: the next one has to see.
-    QHash<QString, Moment> m_hoverStart; ///< When the pointer began to rest over a closed notch.
-    QHash<QString, Moment> m_leaveStart; ///< When the pointer left an open notch.
     bool m_wasPressed = false;
     QString m_shownOnce; ///< A display without a notch of its own that shows one until it closes.
     std::unique_ptr<GlobalHotkey> m_hotkey;
