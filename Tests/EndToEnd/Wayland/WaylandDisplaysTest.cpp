@@ -1,6 +1,11 @@
 #include "EndToEnd/Wayland/WaylandStage.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 #include <linux/input-event-codes.h>
+
+#include <algorithm>
 
 /// Displays of every scale and turned, which change while the program runs.
 class WaylandDisplaysTest : public WaylandStageTest
@@ -69,15 +74,33 @@ private:
         return (layout.turned ? mode().transposed() : mode()) / layout.scale;
     }
 
+    /// Whether KWin says so itself.
+    bool isLaid(const QString &output, const Layout &layout)
+    {
+        const QJsonValue told =
+            QJsonDocument::fromJson(stage().compositor.run(u"kscreen-doctor"_s, {u"-j"_s}))["outputs"_L1];
+        const QJsonArray outputs = told.toArray();
+        constexpr int none = 1, left = 2; // Of its rotations.
+        return std::ranges::any_of(outputs, [&](const QJsonValue &one) {
+            return one["name"_L1].toString() == output && one["scale"_L1].toDouble() == layout.scale &&
+                   one["rotation"_L1].toInt() == (layout.turned ? left : none);
+        });
+    }
+
     void lay(int index, const Layout &layout, QPoint place = {})
     {
         const Compositor &compositor = stage().compositor;
         const QString output = compositor.outputs().value(index), scale = QString::number(layout.scale);
         if (isKWin()) {
-            compositor.run(u"kscreen-doctor"_s,
-                           {u"output.%1.scale.%2"_s.arg(output, scale),
-                            u"output.%1.rotation.%2"_s.arg(output, layout.turned ? u"left"_s : u"none"_s),
-                            u"output.%1.position.%2,%3"_s.arg(output).arg(place.x()).arg(place.y())});
+            const QStringList wanted{
+                u"output.%1.scale.%2"_s.arg(output, scale),
+                u"output.%1.rotation.%2"_s.arg(output, layout.turned ? u"left"_s : u"none"_s),
+                u"output.%1.position.%2,%3"_s.arg(output).arg(place.x()).arg(place.y())};
+            // On a busy machine it says that all went well where KWin has done nothing.
+            QVERIFY(waitUntil([&] {
+                compositor.run(u"kscreen-doctor"_s, wanted);
+                return isLaid(output, layout);
+            }));
             return;
         }
         compositor.run(u"wlr-randr"_s,
